@@ -1,0 +1,33 @@
+# One folder is one target. A target names every source and header that it owns, and the targets that it may use.
+
+# vantrel_library(<folder name> SOURCES ... HEADERS ... USES <targets whose headers ours include> PRIVATE_USES ...)
+# HEADERS are verified to compile alone (target all_verify_interface_header_sets).
+function(vantrel_library name)
+    cmake_parse_arguments(ARG "" "BASE_DIR" "SOURCES;HEADERS;USES;PRIVATE_USES" ${ARGN})
+    if(NOT ARG_BASE_DIR)
+        set(ARG_BASE_DIR ${PROJECT_SOURCE_DIR}/src)
+    endif()
+    add_library(${name} STATIC ${ARG_SOURCES})
+    add_library(vantrel::${name} ALIAS ${name})
+    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${ARG_BASE_DIR} FILES ${ARG_HEADERS})
+    target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE vantrel_options ${ARG_PRIVATE_USES})
+endfunction()
+
+# vantrel_program(<name> SOURCES ... USES ...): a program in build/bin.
+function(vantrel_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE vantrel_options ${ARG_USES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${VANTREL_BIN_DIR})
+endfunction()
+
+# vantrel_test(<folder name> SOURCES ... USES ...): the program <folder>_tests, each of its tests known to ctest.
+function(vantrel_test folder)
+    cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+    add_executable(${folder}_tests ${ARG_SOURCES})
+    target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${folder}_tests PRIVATE vantrel_options ${ARG_USES} GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}: " DISCOVERY_MODE PRE_TEST
+                         PROPERTIES TIMEOUT 120)
+endfunction()
