@@ -1,0 +1,62 @@
+#pragma once
+
+#include "wire/Text.h"
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+namespace console {
+
+class Container;
+class ControlVisitor;
+class Form;
+
+// What of a control has changed, so that a host need mirror only that.
+enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visible, focus, limits, columns };
+
+// What every control of a form has: a label, whether it is enabled and visible, and the form that it stands on.
+// A control is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own
+// code and tell the host; the functions whose names begin with "user" are for hosts and tests, tell the form, and do
+// nothing while the control is disabled or hidden.
+class Control {
+public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    // Calls the visitor's function for this kind of control.
+    virtual void accept(ControlVisitor& visitor) = 0;
+
+    const wire::WideString& label() const { return label_; }
+    void setLabel(wire::WideString label);
+    bool enabled() const { return enabled_; }
+    void setEnabled(bool enabled);
+    bool visible() const { return visible_; }
+    void setVisible(bool visible);
+    void setFocus();
+    // The control and all that it stands on are visible (its page is the one shown), and it is enabled.
+    bool reachable() const;
+
+    Form& form() const;
+    Container& container() const { return container_; }
+
+    // The keyboard has left the control.
+    std::function<void()> onLeave;
+    void userLeft();
+
+protected:
+    Control(Container& container, std::u16string_view label);
+
+    void changed(Aspect aspect);
+    // Runs a handler of the form inside the form's guard: nothing that it throws gets out.
+    void run(const std::function<void()>& handler);
+
+private:
+    Container& container_;
+    wire::WideString label_;
+    bool enabled_ = true;
+    bool visible_ = true;
+};
+
+} // namespace console

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "console/Container.h"
+#include "console/Control.h"
+
+namespace console {
+
+// A frame with a caption around controls that belong together.
+class Group final : public Control, public Container {
+public:
+    Group(Container& container, std::u16string_view label);
+    void accept(ControlVisitor& visitor) override;
+    Form& form() override;
+    bool shown() const override;
+};
+
+} // namespace console

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "console/CSnapInItem.h"
+#include "console/Guid.h"
+#include "console/IImageList.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace console {
+
+// The class id of the snap-in (CLSID_Print), the same for every node.
+inline constexpr Guid snapInClassId = guid("6F257AE4-F4E0-49EC-AE9D-61078938E7CE");
+inline constexpr Guid rootNodeType = guid("813A64F9-EC5E-4A73-9072-CC3667D1C40F");
+inline constexpr Guid folderNodeType = guid("13CBA1B8-C9A1-4a0b-858C-AE981C158B7D");
+
+// What is the same for all nodes of a class.
+struct NodeIdentity {
+    std::u16string_view displayName{}; // of a new node, and for ever that of the class
+    Guid nodeType{};                   // all zero for classes that the console need not tell apart
+    std::int32_t image = 0;
+    std::int32_t openImage = image;
+    std::int32_t children = 0; // 0 for a leaf
+    ImageStrip strip = commonStrip;
+    std::int32_t viewOptions = excludeScopeItemsFromList; // 0 lets the console list the scope children itself
+};
+
+// A column of a result pane; the title is a literal.
+struct Column {
+    const char16_t* title = u"";
+    double widthFactor = 0; // times the automatic width, cut to whole pixels; 0 leaves it automatic
+};
+
+// An entry of a context menu; the texts are literals. Id 0 is a separator.
+struct MenuEntry {
+    const char16_t* text = nullptr;
+    const char16_t* statusBarText = nullptr;
+    std::int32_t id = 0;
+};
+
+inline constexpr MenuEntry separator{};
+
+} // namespace console

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "client/ClientHooks.h"
+#include "console/SettingsStore.h"
+#include "console/UserInterface.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace console {
+
+// Everything that a host lends to the console's nodes and forms. It outlives them all.
+struct Platform {
+    UserInterface& ui;
+    SettingsStore& settings;
+    client::ClientHooks hooks{}; // who watches commands and shows the server's refusals
+    std::optional<std::array<std::uint16_t, 4>> productVersion{}; // of the module; empty when it can't be read
+};
+
+} // namespace console

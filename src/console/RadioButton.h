@@ -1,0 +1,26 @@
+#pragma once
+
+#include "console/Control.h"
+
+namespace console {
+
+class RadioGroup;
+
+// One choice of a radio group; choosing it lets go of the others.
+class RadioButton final : public Control {
+public:
+    RadioButton(Container& container, RadioGroup& group, std::u16string_view label);
+    void accept(ControlVisitor& visitor) override;
+
+    RadioGroup& group() const { return group_; }
+    bool chosen() const;
+    void choose();
+
+    std::function<void()> onChoose;
+    bool userChose();
+
+private:
+    RadioGroup& group_;
+};
+
+} // namespace console
