@@ -14,12 +14,16 @@ function(vantrel_library name)
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE vantrel_options ${ARG_PRIVATE_USES})
 endfunction()
 
+# All programs that people run.
+add_custom_target(programs)
+
 # vantrel_program(<name> SOURCES ... USES ...): a program in build/bin.
 function(vantrel_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE vantrel_options ${ARG_USES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${VANTREL_BIN_DIR})
+    add_dependencies(programs ${name})
 endfunction()
 
 # vantrel_test(<folder name> SOURCES ... USES ...): the program <folder>_tests, each of its tests known to ctest.

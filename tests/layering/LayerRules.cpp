@@ -1,0 +1,253 @@
+#include "tests/layering/LayerRules.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <regex>
+#include <set>
+#include <string_view>
+
+namespace layering {
+namespace {
+
+constexpr std::size_t longestSource = 500;
+constexpr std::size_t longestMedian = 150;
+
+// Each folder with those that it builds on directly; what these build on comes with them.
+const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
+    static const std::map<std::string, std::vector<std::string>, std::less<>> folders{
+        {"src/wire", {}},
+        {"src/protocol", {"src/wire"}},
+        {"src/diagnostics", {}},
+        {"src/client", {"src/protocol"}},
+        {"src/console", {"src/client", "src/diagnostics"}},
+        {"src/rules", {"src/console"}},
+        {"src/alarms", {"src/console"}},
+        {"src/drivers", {"src/console"}},
+        {"src/regions", {"src/rules"}},
+        {"src/queues", {"src/regions", "src/drivers"}},
+        {"src/migration", {"src/regions"}},
+        {"src/printers", {"src/queues", "src/migration", "src/alarms"}},
+        {"src/localprinters", {"src/printers"}},
+        {"src/inventory", {"src/printers", "src/migration"}},
+        {"src/snapin", {"src/localprinters", "src/inventory"}},
+        {"src/shell", {"src/console"}},
+        {"hosts/desktop", {"src/snapin", "src/shell"}},
+        {"hosts/ctl", {"src/snapin", "src/shell"}},
+        {"hosts/mmc", {"src/snapin"}},
+        {"server", {"src/protocol"}},
+    };
+    return folders;
+}
+
+bool startsWithAny(std::string_view text, std::initializer_list<std::string_view> beginnings) {
+    return std::ranges::any_of(beginnings, [&](std::string_view start) { return text.starts_with(start); });
+}
+
+bool isSource(const SourceFile& file) {
+    return file.path.ends_with(".cpp") || file.path.ends_with(".h");
+}
+
+// Tests, benchmarks and fuzzers look at everything.
+bool isProgramSource(const SourceFile& file) {
+    return isSource(file) && startsWithAny(file.path, {"src/", "hosts/", "server/"});
+}
+
+std::string folderOf(std::string_view path) {
+    if (!startsWithAny(path, {"src/", "hosts/"})) {
+        return std::string(path.substr(0, path.find('/')));
+    }
+    return std::string(path.substr(0, path.find('/', path.find('/') + 1)));
+}
+
+std::string folderOfInclude(const std::string& include) {
+    return startsWithAny(include, {"hosts/", "server/", "tests/", "bench/", "fuzz/"}) ? folderOf(include)
+                                                                                      : folderOf("src/" + include);
+}
+
+struct Include {
+    std::string name;
+    bool quoted = false;
+};
+
+std::vector<Include> includesOf(const std::string& text) {
+    static const std::regex line(R"re((?:^|\n)[ \t]*#[ \t]*include[ \t]*(?:"([^"\n]*)"|<([^>\n]*)>))re");
+    std::vector<Include> includes;
+    for (std::sregex_iterator match(text.begin(), text.end(), line), end; match != end; ++match) {
+        const bool quoted = (*match)[1].matched;
+        includes.push_back({(*match)[quoted ? 1 : 2], quoted});
+    }
+    return includes;
+}
+
+void addWithBelow(const std::string& folder, std::set<std::string>& below) {
+    if (below.insert(folder).second) {
+        for (const auto& next : house().at(folder)) {
+            addWithBelow(next, below);
+        }
+    }
+}
+
+std::size_t lineCount(const SourceFile& file) {
+    return static_cast<std::size_t>(std::ranges::count(file.text, '\n'));
+}
+
+bool isQtHeader(const std::string& name) {
+    static const std::regex qt(R"re((Qt[A-Z]\w*/.*|Q[A-Z]\w*|Qt|q[a-z]+\.h))re");
+    return std::regex_match(name, qt);
+}
+
+bool isWin32Header(std::string name) {
+    static const std::set<std::string, std::less<>> headers{
+        "windows.h", "winsock.h",  "winsock2.h", "ws2tcpip.h", "mswsock.h",  "rpc.h",
+        "rpcdce.h",  "objbase.h",  "unknwn.h",   "ole2.h",     "oleauto.h",  "olectl.h",
+        "mmc.h",     "commctrl.h", "commdlg.h",  "shellapi.h", "shlobj.h",   "shlwapi.h",
+        "dbghelp.h", "winnls.h",   "winreg.h",   "winuser.h",  "windowsx.h", "tlhelp32.h",
+        "psapi.h",   "tchar.h",    "atlbase.h",  "atlwin.h",   "atlcom.h",   "wincrypt.h",
+        "bcrypt.h",  "winver.h",   "winbase.h",  "windef.h",   "winerror.h", "processthreadsapi.h",
+    };
+    std::ranges::transform(name, name.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? char(c + ('a' - 'A')) : c; });
+    return headers.contains(name);
+}
+
+bool isSqliteHeader(const std::string& name) {
+    return name.starts_with("SQLiteCpp/") || name.starts_with("sqlite3");
+}
+
+bool mayIncludeWin32(const SourceFile& file) {
+    return file.path.starts_with("hosts/mmc/") ||
+           (file.path.ends_with(".cpp") && startsWithAny(file.path, {"src/wire/", "src/diagnostics/"}));
+}
+
+// The path from which a file's folder lists it, and the text of that list; nothing when no folder above has one.
+std::optional<std::pair<std::string, const SourceFile*>> listOf(const SourceFile& file, const SourceTree& tree) {
+    for (auto slash = file.path.rfind('/'); slash != std::string::npos && slash > 0;
+         slash = file.path.rfind('/', slash - 1)) {
+        const auto list = std::ranges::find(tree, file.path.substr(0, slash) + "/CMakeLists.txt", &SourceFile::path);
+        if (list != tree.end()) {
+            return std::pair{file.path.substr(slash + 1), &*list};
+        }
+    }
+    return std::nullopt;
+}
+
+bool isWordIn(const std::string& word, std::string_view text) {
+    static constexpr std::string_view separators = " \t\r\n()\";";
+    for (auto at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
+        const bool begins = at == 0 || separators.find(text[at - 1]) != std::string_view::npos;
+        const auto behind = at + word.size();
+        if (begins && (behind == text.size() || separators.find(text[behind]) != std::string_view::npos)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+Complaints includesAcrossLayers(const SourceTree& tree) {
+    Complaints complaints;
+    for (const auto& file : tree) {
+        if (!isProgramSource(file)) {
+            continue;
+        }
+        const auto folder = folderOf(file.path);
+        if (!house().contains(folder)) {
+            complaints.push_back(file.path + ": the folder " + folder + " has no place in the house");
+            continue;
+        }
+        std::set<std::string> allowed;
+        addWithBelow(folder, allowed);
+        for (const auto& include : includesOf(file.text)) {
+            if (include.quoted && include.name.find("..") == std::string::npos &&
+                !allowed.contains(folderOfInclude(include.name))) {
+                complaints.push_back(file.path + ": may not include " + include.name);
+            }
+        }
+    }
+    return complaints;
+}
+
+Complaints platformHeadersOutside(const SourceTree& tree) {
+    Complaints complaints;
+    for (const auto& file : tree) {
+        for (const auto& [name, quoted] : includesOf(file.text)) {
+            const bool qt = isQtHeader(name) && !startsWithAny(file.path, {"hosts/desktop/", "tests/hosts/"});
+            const bool win32 = isWin32Header(name) && !mayIncludeWin32(file);
+            const bool sqlite =
+                isSqliteHeader(name) && !startsWithAny(file.path, {"server/", "tests/server/", "bench/"});
+            if (qt || win32 || sqlite) {
+                complaints.push_back(file.path + ": " + name + " belongs to other folders");
+            }
+        }
+    }
+    return complaints;
+}
+
+Complaints relativeIncludes(const SourceTree& tree) {
+    Complaints complaints;
+    for (const auto& file : tree) {
+        for (const auto& [name, quoted] : includesOf(file.text)) {
+            if (name.starts_with("../") || name.find("/../") != std::string::npos || name.starts_with("./") ||
+                (quoted && name.find('/') == std::string::npos)) {
+                complaints.push_back(file.path + ": includes " + name + " without its folder");
+            }
+        }
+    }
+    return complaints;
+}
+
+Complaints longSources(const SourceTree& tree) {
+    Complaints complaints;
+    std::vector<std::size_t> lengths;
+    for (const auto& file : tree) {
+        if (!isSource(file)) {
+            continue;
+        }
+        const auto lines = lineCount(file);
+        if (lines > longestSource) {
+            complaints.push_back(file.path + ": " + std::to_string(lines) + " lines");
+        }
+        if (isProgramSource(file)) {
+            lengths.push_back(lines);
+        }
+    }
+    if (!lengths.empty()) {
+        const auto middle = lengths.begin() + static_cast<std::ptrdiff_t>(lengths.size() / 2);
+        std::ranges::nth_element(lengths, middle);
+        if (*middle >= longestMedian) {
+            complaints.push_back("The median source has " + std::to_string(*middle) + " lines");
+        }
+    }
+    return complaints;
+}
+
+Complaints globbedSources(const SourceTree& tree) {
+    static const std::regex glob(R"re((^|\n)[^#\n]*(\bGLOB(_RECURSE)?\b|\baux_source_directory\b))re");
+    Complaints complaints;
+    for (const auto& file : tree) {
+        if (!isSource(file) && std::regex_search(file.text, glob)) {
+            complaints.push_back(file.path + ": names its sources by a pattern");
+        }
+    }
+    return complaints;
+}
+
+Complaints unlistedSources(const SourceTree& tree) {
+    Complaints complaints;
+    for (const auto& file : tree) {
+        if (!isSource(file)) {
+            continue;
+        }
+        const auto list = listOf(file, tree);
+        if (!list) {
+            complaints.push_back(file.path + ": no CMakeLists.txt above it");
+        } else if (!isWordIn(list->first, list->second->text)) {
+            complaints.push_back(file.path + ": not named in " + list->second->path);
+        }
+    }
+    return complaints;
+}
+
+} // namespace layering
