@@ -1,0 +1,21 @@
+#pragma once
+
+#include <chrono>
+
+namespace wire {
+
+// The time that a connection waits by.
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    // Never runs backwards; the starting point means nothing.
+    [[nodiscard]] virtual std::chrono::nanoseconds now() = 0;
+
+    virtual void sleep(std::chrono::milliseconds duration) = 0;
+};
+
+// The machine's monotonic clock.
+[[nodiscard]] Clock& steadyClock();
+
+} // namespace wire

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+namespace wire {
+
+// What a connection moved so far.
+struct TransferCounts {
+    std::uint64_t bytesSent = 0;
+    std::uint64_t bytesReceived = 0; // read ahead included
+    std::uint64_t sendCalls = 0;
+    std::uint64_t receiveCalls = 0;
+};
+
+} // namespace wire

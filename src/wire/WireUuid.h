@@ -1,0 +1,27 @@
+#pragma once
+
+#include <boost/uuid/uuid.hpp>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace wire {
+
+using Uuid = boost::uuids::uuid;
+
+// A time-based id in lower-case text, 36 characters; throws std::runtime_error "Failed to create uuid".
+[[nodiscard]] std::string createUuid();
+
+// A random (version 4) id, for records that are made here.
+[[nodiscard]] Uuid randomUuid();
+
+// The 36 lower-case characters of an id.
+[[nodiscard]] std::string toText(const Uuid& uuid);
+[[nodiscard]] std::array<char, 36> uuidCharacters(const Uuid& uuid);
+
+// Takes upper and lower case, dashes at their places or nowhere, and braces around; throws std::runtime_error
+// "invalid uuid string" for anything else, an empty text included.
+[[nodiscard]] Uuid parseUuid(std::string_view text);
+
+} // namespace wire
