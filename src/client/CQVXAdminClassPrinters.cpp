@@ -1,0 +1,122 @@
+#include "client/CQVXAdminClass.h"
+
+#include "client/ServerCalls.h"
+#include "protocol/CreateRecordRequest.h"
+#include "protocol/DeleteRecordRequest.h"
+#include "protocol/GetStatusOctetOrderReply.h"
+#include "protocol/GetStatusOctetOrderRequest.h"
+#include "protocol/MovePrinterRequest.h"
+#include "protocol/SetStatusOctetOrderRequest.h"
+#include "protocol/UpdateRecordRequest.h"
+
+namespace client {
+namespace {
+
+namespace mode = protocol::printerListMode;
+using protocol::ListPrinterRecordsRequest;
+
+constexpr std::uint8_t deletesPrinter = 1;
+constexpr std::uint8_t deletesQueue = 2;
+
+std::string regionText(std::int32_t id) {
+    return "region " + std::to_string(id);
+}
+
+} // namespace
+
+bool CQVXAdminClass::listPrinterRecords(const ListPrinterRecordsRequest& request, std::string summary,
+                                        std::int16_t& count) {
+    std::vector<protocol::PrinterRecord> records;
+    printers_.fill({});
+    count = 0;
+    const bool listed = listRecords(*this, request, records, std::move(summary));
+    count = static_cast<std::int16_t>(records.size());
+    printers_.fill(std::move(records));
+    return listed;
+}
+
+bool CQVXAdminClass::getPrintersInRegion(std::int32_t regionId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::printersInRegion},
+                              regionText(regionId), count);
+}
+
+bool CQVXAdminClass::getQueuesOfPrinter(const std::string& printerId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = printerId, .mode = mode::queues}, printerId, count);
+}
+
+bool CQVXAdminClass::getQueuesInRegion(std::int32_t regionId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::queues}, regionText(regionId),
+                              count);
+}
+
+bool CQVXAdminClass::getFollowQueuesInRegion(std::int32_t regionId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::followQueuesInRegion},
+                              regionText(regionId), count);
+}
+
+bool CQVXAdminClass::getLocalPrintersInRegion(std::int32_t regionId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::localPrintersInRegion},
+                              regionText(regionId), count);
+}
+
+bool CQVXAdminClass::getQueueById(const std::string& queueId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = queueId, .mode = mode::queueById}, queueId, count);
+}
+
+bool CQVXAdminClass::getPrinterById(const std::string& printerId, std::int16_t& count) {
+    return listPrinterRecords({.printerId = printerId, .mode = mode::printerById}, printerId, count);
+}
+
+bool CQVXAdminClass::getRecordById(const std::string& id, std::uint16_t listMode, std::int16_t& count) {
+    return listPrinterRecords({.printerId = id, .mode = listMode}, id, count);
+}
+
+bool CQVXAdminClass::nextPrinterRecord(protocol::PrinterRecord& record) {
+    auto next = printers_.next();
+    if (!next)
+        return false;
+    record = std::move(*next);
+    return true;
+}
+
+protocol::CreateRecordReply CQVXAdminClass::createRecord(const std::string& physicalPrinterId,
+                                                         const protocol::PrinterRecord& record) {
+    auto reply = askServer<protocol::CreateRecordReply>(
+        *this, protocol::CreateRecordRequest{.physicalPrinterId = physicalPrinterId, .record = record},
+        wire::toUtf8(record.name));
+    return std::move(reply).value();
+}
+
+protocol::StatusReply CQVXAdminClass::updateRecord(const protocol::PrinterRecord& record) {
+    auto reply = askServer<protocol::StatusReply>(*this, protocol::UpdateRecordRequest{.record = record},
+                                                  wire::toUtf8(record.name));
+    return std::move(reply).value();
+}
+
+bool CQVXAdminClass::movePrinter(const std::string& printerId, std::int32_t regionId) {
+    return sendCommand(*this, protocol::MovePrinterRequest{.printerId = printerId, .regionId = regionId}, printerId);
+}
+
+bool CQVXAdminClass::deletePrinter(const std::string& id) {
+    return deleteRecord(deletesPrinter, id);
+}
+
+bool CQVXAdminClass::deleteQueue(const std::string& id) {
+    return deleteRecord(deletesQueue, id);
+}
+
+bool CQVXAdminClass::deleteRecord(std::uint8_t type, const std::string& id) {
+    return sendCommand(*this, protocol::DeleteRecordRequest{.type = type, .id = id}, id);
+}
+
+bool CQVXAdminClass::setStatusOctetOrder(const std::string& printerId, std::uint32_t order) {
+    return sendCommand(*this, protocol::SetStatusOctetOrderRequest{.order = order, .printerId = printerId}, printerId);
+}
+
+std::optional<std::uint32_t> CQVXAdminClass::getStatusOctetOrder(const std::string& printerId) {
+    const auto reply = askServer<protocol::GetStatusOctetOrderReply>(
+        *this, protocol::GetStatusOctetOrderRequest{.printerId = printerId}, printerId);
+    return reply ? std::optional(reply->order) : std::nullopt;
+}
+
+} // namespace client

@@ -1,0 +1,72 @@
+#include "client/CQVXAdminClass.h"
+
+#include "client/ConnectFailed.h"
+#include "client/Exchange.h"
+#include "protocol/ListRegionsRequest.h"
+#include "protocol/LoginRequest.h"
+
+#include <stdexcept>
+
+namespace client {
+namespace {
+
+const protocol::Command& callable(std::uint16_t opcode) {
+    const protocol::Command* const command = protocol::findCommand(opcode);
+    if (command == nullptr)
+        throw std::invalid_argument("No command has the opcode " + std::to_string(opcode));
+    if (opcode == protocol::LoginRequest::opcode)
+        throw std::invalid_argument("A login is more than one command");
+    return *command;
+}
+
+void take(RawReply& reply, std::unique_ptr<wire::Message> message) {
+    if (reply.command->replyRecord != nullptr)
+        reply.records.push_back(protocol::readFields(*message, *reply.command->replyRecord));
+    else
+        reply.undescribed.push_back(std::move(message));
+}
+
+void readList(Exchange& exchange, RawReply& reply) {
+    const auto first = exchange.receive();
+    if (!first) {
+        reply.complete = false;
+        return;
+    }
+    const bool onlyCount = first->remaining() == sizeof(std::uint16_t);
+    const std::uint16_t count = exchange.run([&] { return Exchange::readCount(*first); });
+    const bool allInOne = reply.command->opcode == protocol::ListRegionsRequest::opcode && !onlyCount;
+    for (std::uint16_t index = 0; index < count && reply.complete; ++index) {
+        if (allInOne) {
+            exchange.run([&] { reply.records.push_back(protocol::readFields(*first, *reply.command->replyRecord)); });
+        } else if (auto message = exchange.receive()) {
+            exchange.run([&] { take(reply, std::move(message)); });
+        } else {
+            reply.complete = false;
+            break;
+        }
+        exchange.noteRecords(index + 1U);
+    }
+}
+
+} // namespace
+
+RawReply CQVXAdminClass::rawCall(std::uint16_t opcode, std::span<const protocol::FieldValue> fields) {
+    RawReply reply;
+    reply.command = &callable(opcode);
+    auto data = protocol::makeDataMessage(fields);
+    Exchange exchange(*this, *reply.command);
+    if (!exchange.connect())
+        throw ConnectFailed();
+    exchange.send(std::move(data));
+    if (reply.command->reply == protocol::ReplyShape::list) {
+        readList(exchange, reply);
+    } else if (reply.command->reply != protocol::ReplyShape::none) {
+        if (auto message = exchange.receive())
+            exchange.run([&] { take(reply, std::move(message)); });
+        else
+            reply.complete = false;
+    }
+    return reply;
+}
+
+} // namespace client

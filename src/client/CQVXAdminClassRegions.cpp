@@ -1,0 +1,83 @@
+#include "client/CQVXAdminClass.h"
+
+#include "client/ServerCalls.h"
+#include "protocol/CreateRegionRequest.h"
+#include "protocol/DeleteRegionRequest.h"
+#include "protocol/ListRegionsRequest.h"
+#include "protocol/MoveRegionRequest.h"
+#include "protocol/RenameRegionRequest.h"
+
+namespace client {
+namespace {
+
+constexpr std::uint8_t byteOf(protocol::RegionKind kind) {
+    return static_cast<std::uint8_t>(kind);
+}
+
+std::string regionText(std::int32_t id) {
+    return "region " + std::to_string(id);
+}
+
+// All regions usually come in the one message. A server with more of them than a frame takes sends a count alone, which
+// leaves no room for a record, and then each region in a frame of its own.
+void readRegions(Exchange& exchange, wire::Message& first, std::vector<protocol::RegionRecord>& regions) {
+    const bool onlyCount = first.remaining() == sizeof(std::uint16_t);
+    const std::uint16_t count = exchange.run([&] { return Exchange::readCount(first); });
+    if (onlyCount)
+        return readRecords(exchange, count, regions);
+    exchange.run([&] {
+        for (std::uint16_t index = 0; index < count; ++index)
+            regions.push_back(protocol::read<protocol::RegionRecord>(first));
+    });
+    exchange.noteRecords(count);
+}
+
+} // namespace
+
+bool CQVXAdminClass::listRegions(protocol::RegionKind kind, std::int32_t parentId) {
+    const protocol::ListRegionsRequest request{.kind = byteOf(kind), .parentId = parentId};
+    std::vector<protocol::RegionRecord> regions;
+    regions_.fill({});
+    Exchange exchange(*this, protocol::commandOf<protocol::ListRegionsRequest>(), regionText(parentId));
+    if (!exchange.connect())
+        return false;
+    exchange.send(dataMessageOf(request));
+    const auto first = exchange.receive();
+    readRegions(exchange, *first, regions);
+    regions_.fill(std::move(regions));
+    return true;
+}
+
+bool CQVXAdminClass::nextRegion(std::int32_t& id, std::int32_t& parentId, wire::WideString& name) {
+    auto region = regions_.next();
+    if (!region)
+        return false;
+    id = region->id;
+    parentId = region->parentId;
+    name = std::move(region->name);
+    return true;
+}
+
+bool CQVXAdminClass::createRegion(protocol::RegionKind kind, std::int32_t parentId, const wire::WideString& name) {
+    return sendCommand(*this, protocol::CreateRegionRequest{.kind = byteOf(kind), .parentId = parentId, .name = name},
+                       wire::toUtf8(name));
+}
+
+bool CQVXAdminClass::renameRegion(protocol::RegionKind kind, std::int32_t regionId, const wire::WideString& newName) {
+    return sendCommand(*this,
+                       protocol::RenameRegionRequest{.kind = byteOf(kind), .regionId = regionId, .name = newName},
+                       wire::toUtf8(newName));
+}
+
+bool CQVXAdminClass::moveRegion(protocol::RegionKind kind, std::int32_t regionId, std::int32_t newParentId) {
+    return sendCommand(*this,
+                       protocol::MoveRegionRequest{.kind = byteOf(kind), .regionId = regionId, .parentId = newParentId},
+                       regionText(regionId));
+}
+
+bool CQVXAdminClass::deleteRegion(protocol::RegionKind kind, std::int32_t regionId) {
+    return sendCommand(*this, protocol::DeleteRegionRequest{.regionId = regionId, .kind = byteOf(kind)},
+                       regionText(regionId));
+}
+
+} // namespace client

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "client/CQVXAdminClass2.h"
+#include "client/CommandObserver.h"
+#include "protocol/Catalogue.h"
+#include "wire/ITransport.h"
+#include "wire/Message.h"
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace client {
+
+// One command on a connection of its own, in the ways that its row of the catalogue tells. Ends the connection and
+// reports to the command observer when it goes out of scope, exactly once.
+class Exchange {
+public:
+    // The summary says in UTF-8 what the command is about.
+    Exchange(CQVXAdminClass2& client, const protocol::Command& command, std::string summary = {});
+    ~Exchange();
+
+    Exchange(const Exchange&) = delete;
+    Exchange& operator=(const Exchange&) = delete;
+
+    // False when a member connection cannot be had; an open one throws ConnectFailed instead.
+    [[nodiscard]] bool connect();
+
+    // Takes a connection that was made elsewhere, its own settings included.
+    [[nodiscard]] bool connect(std::unique_ptr<wire::ITransport> own, std::uint32_t timeoutSeconds);
+
+    // Sends the command with its fields; null data means a command without fields. Throws std::runtime_error "failed to
+    // send messages" for a guarded send without a connection.
+    void send(std::unique_ptr<wire::Message> data);
+
+    // The next message of the reply. Null when it does not come and the row's reader form lets the reply end there;
+    // else throws std::runtime_error with the text of that form.
+    [[nodiscard]] std::unique_ptr<wire::Message> receive();
+
+    // The number of records that a count message announces; 0 from 32,768 on, since a count is a signed 16-bit number.
+    [[nodiscard]] static std::uint16_t readCount(wire::Message& message);
+
+    void noteRecords(std::uint32_t records);
+
+    // The command ended badly without an exception.
+    void fail(std::string text);
+
+    // Runs a part of the command and keeps the text of what it throws for the report.
+    template <class Body>
+    auto run(Body&& body) {
+        try {
+            return std::forward<Body>(body)();
+        } catch (...) {
+            noteException();
+            throw;
+        }
+    }
+
+    [[nodiscard]] wire::ITransport& transport() { return *transport_; }
+
+private:
+    void noteException();
+    void report(void (CommandObserver::*event)(const CommandReport&)) noexcept;
+
+    CQVXAdminClass2& client_;
+    const protocol::Command& command_;
+    std::unique_ptr<wire::ITransport> owned_;
+    wire::ITransport* transport_ = nullptr; // owned_ or the client's
+    CommandReport report_;
+    std::chrono::steady_clock::time_point start_;
+};
+
+} // namespace client

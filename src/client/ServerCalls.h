@@ -1,0 +1,87 @@
+#pragma once
+
+#include "client/Exchange.h"
+#include "protocol/WireOrder.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+// The shapes of a command as one call each. What the catalogue's row tells decides about connection, version, reader
+// form and failure; the summary is for the command observer.
+namespace client {
+
+// The message of a request's fields; null for a request without fields, which sends none.
+template <class Request>
+[[nodiscard]] std::unique_ptr<wire::Message> dataMessageOf(const Request& request) {
+    if constexpr (protocol::layoutOf<Request>.fields.empty())
+        return nullptr;
+    else
+        return protocol::makeDataMessage(request);
+}
+
+// A command without a reply; false when there is no connection.
+template <class Request>
+bool sendCommand(CQVXAdminClass2& client, const Request& request, std::string summary = {}) {
+    Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
+    if (!exchange.connect())
+        return false;
+    exchange.send(dataMessageOf(request));
+    return true;
+}
+
+// A command with a single reply; none when there is no connection, or no reply and the row lets that pass.
+template <class Reply, class Request>
+[[nodiscard]] std::optional<Reply> askServer(CQVXAdminClass2& client, const Request& request,
+                                             std::string summary = {}) {
+    Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
+    if (!exchange.connect())
+        return std::nullopt;
+    exchange.send(dataMessageOf(request));
+    const auto message = exchange.receive();
+    if (!message)
+        return std::nullopt;
+    return exchange.run([&] { return std::optional(protocol::read<Reply>(*message)); });
+}
+
+// Reads count frames of one record each onto the end of records. Ends early where the row's reader form lets it.
+template <class R>
+void readRecords(Exchange& exchange, std::uint16_t count, std::vector<R>& records) {
+    records.reserve(records.size() + count);
+    for (std::uint16_t index = 0; index < count; ++index) {
+        const auto message = exchange.receive();
+        if (!message)
+            return;
+        exchange.run([&] {
+            records.emplace_back();
+            try {
+                protocol::read(*message, records.back());
+            } catch (...) {
+                records.pop_back();
+                throw;
+            }
+        });
+        exchange.noteRecords(index + 1U);
+    }
+}
+
+// A command with a list for a reply, which replaces what records held, in the order of the wire. False when there is no
+// connection or no count came and the row lets that pass.
+template <class R, class Request>
+[[nodiscard]] bool listRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records,
+                               std::string summary = {}) {
+    records.clear();
+    Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
+    if (!exchange.connect())
+        return false;
+    exchange.send(dataMessageOf(request));
+    const auto message = exchange.receive();
+    if (!message)
+        return false;
+    readRecords(exchange, exchange.run([&] { return Exchange::readCount(*message); }), records);
+    return true;
+}
+
+} // namespace client
