@@ -1,0 +1,63 @@
+#pragma once
+
+#include "console/EditBox.h"
+#include "console/Form.h"
+#include "console/Group.h"
+#include "console/Label.h"
+#include "console/PasswordBox.h"
+
+#include <cstdint>
+
+namespace snapin {
+
+// How a login dialog ended. The numbers are not those of the server's answer.
+enum class AuthenticationStatus : std::int32_t {
+    none = 0, // no attempt, no Cancel
+    connected = 1,
+    badCredentials = 2,
+    serverUnavailable = 3,
+    wrongVersion = 4,
+    cancelled = 5
+};
+
+// Asks for server, user and password, logs in, and makes the settings that all commands go by.
+class AuthenticationDlg final : public console::Form {
+public:
+    // A host or a port of more bytes than this is refused.
+    static constexpr std::size_t maximumBytes = 124;
+
+    explicit AuthenticationDlg(console::Platform& platform);
+
+    AuthenticationStatus status() const { return status_; }
+    // The words that go with the status.
+    const wire::WideString& statusText() const { return statusText_; }
+
+    // The blanks behind the labels are part of them.
+    console::Group userAuthentication{*this, u"User Authentication"};
+    console::EditBox serverName{userAuthentication, u"Server Name       "};
+    console::EditBox port{userAuthentication, u"Port                     "};
+    console::EditBox userName{userAuthentication, u"User Name          "};
+    console::PasswordBox password{userAuthentication, u"Password            "};
+    console::EditBox domain{userAuthentication, u"Domain                "};
+    console::Label version{*this, u"", u"VERSION"};
+
+protected:
+    void onInitDialog() override;
+    void onOk() override;
+    void onCancel() override;
+
+private:
+    void readSettings();
+    void storeSettings();
+    void checkPort();
+    // False, with a message, when the text is too long to be sent to the system.
+    bool fits(const console::EditBox& box);
+    void showStatus(std::uint16_t loginStatus);
+    void fail(AuthenticationStatus status, const wire::WideString& text, const wire::WideString& caption,
+              std::uint32_t icon);
+
+    AuthenticationStatus status_ = AuthenticationStatus::none;
+    wire::WideString statusText_;
+};
+
+} // namespace snapin

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+#include "snapin/PrintServer.h"
+
+#include <memory>
+
+namespace snapin {
+
+// The static root of the tree.
+class PrintData final : public console::CBaseNodeItem<PrintData> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Vantrel Manager",
+                                                    .nodeType = console::rootNodeType,
+                                                    .image = 6,
+                                                    .children = 3,
+                                                    .viewOptions = 0};
+
+    explicit PrintData(console::Platform& platform);
+
+    // Adds no page: logs in there and then, and answers whether the snap-in may be added.
+    console::Result CreatePropertyPages(console::DataObjectType type) override;
+    console::Result QueryPagesFor(console::DataObjectType type) override;
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+
+    PrintServer& printServer() const { return *printServer_; }
+
+private:
+    std::shared_ptr<PrintServer> printServer_;
+};
+
+} // namespace snapin

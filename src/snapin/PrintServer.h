@@ -1,0 +1,28 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+
+#include <array>
+#include <memory>
+#include <span>
+
+namespace snapin {
+
+// The print server: owns the top of every branch, all made before any login.
+class PrintServer final : public console::CBaseNodeItem<PrintServer> {
+public:
+    static constexpr console::NodeIdentity identity{
+        .displayName = u"Vantrel Print Server", .image = 6, .children = 1, .viewOptions = 0};
+
+    explicit PrintServer(console::Platform& platform);
+
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+
+    // In the order in which they stand in the tree.
+    std::span<const std::shared_ptr<console::NodeBase>> branches() const { return branches_; }
+
+private:
+    std::array<std::shared_ptr<console::NodeBase>, 8> branches_;
+};
+
+} // namespace snapin
