@@ -1,0 +1,15 @@
+#pragma once
+
+#include "protocol/PrinterRecord.h"
+
+#include <string>
+
+namespace bench {
+
+// A printer as an estate has thousands of them: every field set, texts of ordinary length.
+protocol::PrinterRecord samplePrinter();
+
+// The same printer in protobuf's own form.
+std::string sampleInProtobuf();
+
+} // namespace bench

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace bench {
+
+// A vantreld of its own process on a free port, asking for no login; it ends with this object.
+class ServerProcess {
+public:
+    // Returns when the server listens. The command before it, with its arguments, runs the server (strace, for
+    // instance). Throws std::runtime_error when the server does not come up.
+    explicit ServerProcess(const std::filesystem::path& database, const std::vector<std::string>& options = {},
+                           const std::vector<std::string>& before = {});
+    ~ServerProcess();
+    ServerProcess(const ServerProcess&) = delete;
+    ServerProcess& operator=(const ServerProcess&) = delete;
+
+    [[nodiscard]] std::uint16_t port() const { return port_; }
+
+    // Bytes of memory that are resident now.
+    [[nodiscard]] std::uint64_t residentMemory() const;
+
+    // Ends the server and waits for its end.
+    void stop();
+
+private:
+    void waitUntilListening(const std::filesystem::path& portFile);
+
+    pid_t process_ = 0;
+    std::uint16_t port_ = 0;
+};
+
+} // namespace bench
