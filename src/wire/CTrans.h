@@ -70,15 +70,13 @@ public:
     [[nodiscard]] std::uint32_t lastChecksum() const { return lastChecksum_; }
 
 private:
-    class ReadTiming;
-
     bool finishConnect(std::chrono::milliseconds limit, const wire::TransLogger& logger);
     bool failConnect(const std::string& what, std::int32_t code, const wire::TransLogger& logger);
     [[nodiscard]] wire::ConnectState waitConnected(std::chrono::milliseconds limit);
     [[nodiscard]] std::uint32_t takeReadAhead(std::uint8_t* buffer, std::uint32_t length);
     wire::SocketResult fillReadAhead();
-    void startObserving();
-    void observe();
+    void askObserver(std::chrono::nanoseconds now);
+    void packMessages();
     std::intptr_t sendBytes(const std::uint8_t* bytes, std::size_t count);
     bool reject();
     void unpackMessages(std::uint8_t count);

@@ -1,0 +1,211 @@
+#include "wire/CTrans.h"
+
+#include "wire/Cancelled.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace trans {
+
+using namespace std::chrono_literals;
+using wire::ConnectState;
+using wire::Message;
+using wire::ResolveResult;
+using wire::Socket;
+using wire::SocketFault;
+using wire::SocketResult;
+using wire::TransLogger;
+
+namespace {
+
+constexpr std::int32_t failureLevel = 2;
+constexpr std::int32_t misuseLevel = 3;
+constexpr std::chrono::seconds defaultConnectTimeout = 8s;
+constexpr std::chrono::milliseconds longestWait = 50ms; // then the observer is asked
+constexpr std::size_t maximumQueueLength = 357913940;
+constexpr int maximumCloseFailures = 11;
+
+void log(const TransLogger& logger, const std::string& text, std::int32_t code, std::int32_t level) {
+    if (logger) {
+        logger(text, code, level);
+    }
+}
+
+} // namespace
+
+CTrans::CTrans() : CTrans(wire::platformSocket(), wire::steadyClock()) {}
+
+CTrans::CTrans(Socket& socketCalls, wire::Clock& clock) : calls_(socketCalls), clock_(clock) {}
+
+CTrans::~CTrans() {
+    closeSocket();
+}
+
+bool CTrans::connect(std::uint32_t timeoutSeconds, const TransLogger& logger) {
+    return iSocketConnect(timeoutSeconds, logger);
+}
+
+bool CTrans::disconnect(int) {
+    return closeSocket();
+}
+
+void CTrans::addMessage(std::unique_ptr<Message> message) {
+    if (!message || !message->rewound()) {
+        throw "Attempting to store a non rewinded message";
+    }
+    if (messages_.size() >= maximumQueueLength) {
+        throw std::length_error("list<T> too long");
+    }
+    messages_.push_back(std::move(message));
+}
+
+std::unique_ptr<Message> CTrans::getMessage(wire::MessageKind kind) {
+    const auto found = std::find_if(messages_.rbegin(), messages_.rend(),
+                                    [&](const auto& message) { return message->kind() == kind; });
+    if (found == messages_.rend()) {
+        return nullptr;
+    }
+    std::unique_ptr<Message> message = std::move(*found);
+    messages_.erase(std::next(found).base());
+    return message;
+}
+
+bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& logger) {
+    const std::chrono::milliseconds limit =
+        timeoutSeconds == 0 ? defaultConnectTimeout : std::chrono::seconds{timeoutSeconds};
+    observedFrom_ = lastObserved_ = clock_.now();
+    if (!wsaStarted_ && !calls_.start()) {
+        throw "WSAStartup failed";
+    }
+    wsaStarted_ = true;
+
+    const SocketResult opened = calls_.open();
+    if (opened.value < 1) {
+        log(logger, "CTrans::iSocketConnect socket()", opened.error, misuseLevel);
+        socket_ = 0;
+        return false;
+    }
+    socket_ = opened.value;
+    if (!localAddress_.empty()) {
+        calls_.bind(socket_, localAddress_);
+    }
+
+    // A failure up to the attempt itself leaves the socket open; the destructor closes it.
+    std::uint32_t address = calls_.parseAddress(host_);
+    if (address == Socket::noAddress) {
+        address = resolveDNSl(host_, logger);
+        if (address == 0) {
+            log(logger, "CTrans::iSocketConnect resolveDNSl failed (" + host_ + ")", 0, failureLevel);
+            return false;
+        }
+    }
+    const SocketResult unblocked = calls_.setBlocking(socket_, false);
+    if (unblocked.value != 0) {
+        log(logger, "CTrans::iSocketConnect ioctlsocket connect failed (" + host_ + ")", unblocked.error, failureLevel);
+        return false;
+    }
+    calls_.setDebug(socket_);
+
+    const SocketResult attempt = calls_.connect(socket_, address, port_);
+    if (attempt.value != -1) {
+        // A connection that stands at once counts as failed: only a pending attempt can succeed, and that stays so.
+        return false;
+    }
+    if (attempt.fault != SocketFault::wouldBlock) {
+        return failConnect("connect failed", attempt.error, logger);
+    }
+    return finishConnect(limit, logger);
+}
+
+bool CTrans::finishConnect(std::chrono::milliseconds limit, const TransLogger& logger) {
+    const ConnectState state = waitConnected(limit);
+    if (state.value == -1) {
+        return failConnect("select failed", state.error, logger);
+    }
+    if (state.value == 0) {
+        return failConnect("select timeout", state.error, logger);
+    }
+    if (!state.writable) {
+        return failConnect("FD_ISSET writefds failed", state.error, logger);
+    }
+    if (state.exception) {
+        return failConnect("FD_ISSET Err", state.error, logger);
+    }
+    const SocketResult blocked = calls_.setBlocking(socket_, true);
+    if (blocked.value != 0) {
+        return failConnect("ioctlsocket FIONBIO failed", blocked.error, logger);
+    }
+    calls_.setNoDelay(socket_);
+    return true;
+}
+
+bool CTrans::failConnect(const std::string& what, std::int32_t code, const TransLogger& logger) {
+    log(logger, "CTrans::iSocketConnect " + what + " (" + host_ + ")", code, failureLevel);
+    calls_.shutdown(socket_, 2);
+    calls_.close(socket_);
+    socket_ = 0;
+    return false;
+}
+
+ConnectState CTrans::waitConnected(std::chrono::milliseconds limit) {
+    const std::chrono::nanoseconds deadline = clock_.now() + limit;
+    std::chrono::milliseconds wait = std::min(limit, longestWait);
+    while (true) {
+        const ConnectState state = calls_.waitConnected(socket_, wait);
+        if (state.value != 0) {
+            return state;
+        }
+        askObserver(clock_.now());
+        const std::chrono::nanoseconds now = clock_.now();
+        if (now >= deadline) {
+            return state;
+        }
+        wait = std::min(std::chrono::ceil<std::chrono::milliseconds>(deadline - now), longestWait);
+    }
+}
+
+std::uint32_t CTrans::resolveDNSl(const std::string& host, const TransLogger& logger) {
+    if (host.empty()) {
+        log(logger, "resolveDNSl unable to resolve empty string", 0, misuseLevel);
+        return 0;
+    }
+    const ResolveResult resolved = calls_.resolve(host);
+    if (resolved.result != 0) {
+        log(logger, "resolveDNSl getaddrinfo failed (" + host + ")", resolved.result, failureLevel);
+        return 0;
+    }
+    return resolved.address;
+}
+
+bool CTrans::closeSocket() {
+    if (socket_ == 0) {
+        return true;
+    }
+    calls_.setBlocking(socket_, true);
+    int failures = 0;
+    const auto retry = [&](const auto& call) {
+        while (call().value != 0) {
+            clock_.sleep(50ms);
+            if (++failures >= maximumCloseFailures) {
+                return;
+            }
+        }
+    };
+    retry([&] { return calls_.shutdown(socket_, 0); });
+    retry([&] { return calls_.close(socket_); });
+    socket_ = 0;
+    return true;
+}
+
+void CTrans::askObserver(std::chrono::nanoseconds now) {
+    lastObserved_ = now;
+    if (observer_ != nullptr) {
+        const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - observedFrom_);
+        if (!observer_->keepWaiting(elapsed, records_)) {
+            throw wire::Cancelled();
+        }
+    }
+}
+
+} // namespace trans

@@ -1,0 +1,76 @@
+#include "wire/LocaleDate.h"
+
+#include <array>
+#include <chrono>
+#include <clocale>
+#include <ctime>
+
+#include <locale.h>
+
+namespace wire {
+
+namespace {
+
+// The locale of the user's environment for times, where LC_ALL goes before LC_TIME and LC_TIME before LANG; the plain
+// one when the environment names a locale that isn't there.
+class UserLocale {
+public:
+    UserLocale() : locale_(newlocale(LC_TIME_MASK | LC_CTYPE_MASK, "", nullptr)) {
+        if (locale_ == nullptr) {
+            locale_ = newlocale(LC_ALL_MASK, "C", nullptr);
+        }
+    }
+    ~UserLocale() {
+        if (locale_ != nullptr) {
+            freelocale(locale_);
+        }
+    }
+    UserLocale(const UserLocale&) = delete;
+    UserLocale& operator=(const UserLocale&) = delete;
+
+    [[nodiscard]] std::string format(const char* pattern, const std::tm& time) const {
+        std::array<char, 256> text{};
+        if (locale_ == nullptr) {
+            return {};
+        }
+        return {text.data(), strftime_l(text.data(), text.size(), pattern, &time, locale_)};
+    }
+
+private:
+    locale_t locale_;
+};
+
+} // namespace
+
+std::string shortDate(const DateNumbers& numbers) {
+    using namespace std::chrono;
+    // The years that the Windows service takes, so that both platforms show the same texts as they came.
+    constexpr unsigned firstYear = 1601;
+    constexpr unsigned lastYear = 30827;
+    if (numbers.year < firstYear || numbers.year > lastYear || numbers.month > 12 || numbers.day > 31) {
+        return {};
+    }
+    const year_month_day date{year{numbers.year}, month{numbers.month}, day{numbers.day}};
+    if (!date.ok()) {
+        return {};
+    }
+    std::tm time{};
+    time.tm_year = numbers.year - 1900;
+    time.tm_mon = numbers.month - 1;
+    time.tm_mday = numbers.day;
+    time.tm_wday = static_cast<int>(weekday{sys_days{date}}.c_encoding());
+    return UserLocale().format("%x", time);
+}
+
+std::string timeOfDay(const DateNumbers& numbers) {
+    if (numbers.hour > 23 || numbers.minute > 59 || numbers.second > 59) {
+        return {};
+    }
+    std::tm time{};
+    time.tm_hour = numbers.hour;
+    time.tm_min = numbers.minute;
+    time.tm_sec = numbers.second;
+    return UserLocale().format("%X", time);
+}
+
+} // namespace wire
