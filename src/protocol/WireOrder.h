@@ -1,5 +1,6 @@
 #pragma once
 
+#include "protocol/PlainWriter.h"
 #include "protocol/RecordLayout.h"
 #include "wire/Fields.h"
 #include "wire/Message.h"
@@ -232,6 +233,53 @@ std::uint32_t sizeOfValue(const T& value) {
     }
 }
 
+// The bytes that the value takes on the wire as long as no text of it is changed by the wire's conversion.
+template <class T>
+std::size_t plainSize(const T& value) {
+    if constexpr (isOptional<T>) {
+        return 1U + (value ? plainSize(*value) : 0U);
+    } else if constexpr (isList<T>) {
+        std::size_t size = 2;
+        for (const auto& element : value)
+            size += plainSize(element);
+        return size;
+    } else if constexpr (Record<T>) {
+        std::size_t size = 0;
+        eachField<T>([&](const auto& one) { size += plainSize(value.*(one.member)); });
+        return size;
+    } else if constexpr (std::same_as<T, wire::Uuid>) {
+        return 2U + 36U;
+    } else {
+        return wire::encodedSize(value);
+    }
+}
+
+template <class T>
+void writePlain(PlainWriter& writer, const T& value) {
+    if constexpr (isOptional<T>) {
+        writer.number(static_cast<std::uint8_t>(value.has_value()));
+        if (value)
+            writePlain(writer, *value);
+    } else if constexpr (isList<T>) {
+        writer.number(static_cast<std::uint16_t>(value.size()));
+        for (const auto& element : value)
+            writePlain(writer, element);
+    } else if constexpr (Record<T>) {
+        eachField<T>([&](const auto& one) { writePlain(writer, value.*(one.member)); });
+    } else if constexpr (std::same_as<T, wire::Uuid>) {
+        const auto characters = wire::uuidCharacters(value);
+        writer.text(std::string_view(characters.data(), characters.size()));
+    } else if constexpr (std::same_as<T, bool>) {
+        writer.number(static_cast<std::uint8_t>(value));
+    } else if constexpr (std::same_as<T, std::int64_t>) {
+        writer.number(static_cast<std::uint32_t>(value));
+    } else if constexpr (std::is_arithmetic_v<T>) {
+        writer.number(value);
+    } else {
+        writer.text(value);
+    }
+}
+
 } // namespace detail
 
 // Takes the record's fields off the message, into the strings and lists that the record has. Throws what wire::Message
@@ -264,8 +312,14 @@ template <Record R>
 template <Record R>
 [[nodiscard]] std::unique_ptr<wire::Message> makeDataMessage(const R& record) {
     auto message = std::make_unique<wire::Message>();
-    message->beginMessage(encodedSize(record));
-    write(*message, record);
+    const auto size = static_cast<std::uint32_t>(detail::plainSize(record));
+    message->beginMessage(size);
+    PlainWriter writer(message->extend(size));
+    detail::writePlain(writer, record);
+    if (!writer.plain()) {
+        message->beginMessage(size);
+        write(*message, record);
+    }
     message->setKind(wire::MessageKind::Data);
     message->rewind();
     return message;

@@ -61,6 +61,9 @@ public:
     // Bytes that are still to be read.
     [[nodiscard]] std::uint32_t remaining() const { return size() > cursor_ ? size() - cursor_ : 0; }
 
+    // Room for so many bytes more at the end of a message under construction, for the caller to fill at once.
+    [[nodiscard]] std::uint8_t* extend(std::uint32_t count) { return buffer_.extend(count); }
+
     void putByte(std::uint8_t value) { putValue(value); }
     void putUInt16(std::uint16_t value) { putValue(value); }
     void putUInt32(std::uint32_t value) { putValue(value); }
