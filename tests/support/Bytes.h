@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Bytes of the wire for tests, put together without any code of the programs under test.
+namespace support {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// "01 05 00" as bytes. Blanks and line breaks mean nothing; throws std::invalid_argument for anything else.
+[[nodiscard]] Bytes hex(std::string_view text);
+
+// The reverse, for readable failures: "01 05 00".
+[[nodiscard]] std::string toHex(const Bytes& bytes);
+
+[[nodiscard]] Bytes operator+(Bytes left, const Bytes& right);
+
+// A message of the kind 1 around the bytes of its fields.
+[[nodiscard]] Bytes dataMessage(const Bytes& fields);
+
+[[nodiscard]] Bytes commandMessage(std::uint16_t opcode, std::uint16_t version);
+
+// A frame around messages; its checksum and size are right unless they are given.
+[[nodiscard]] Bytes frame(const std::vector<Bytes>& messages, std::optional<std::uint32_t> checksum = {},
+                          std::optional<std::uint32_t> size = {});
+
+// One frame for each record and one before them with their count in a u16, as most lists come.
+[[nodiscard]] Bytes countedList(const std::vector<Bytes>& records);
+
+} // namespace support
