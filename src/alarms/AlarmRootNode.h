@@ -1,0 +1,15 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+
+namespace alarms {
+
+// The top of the branch that holds the alarm programs and who gets their mails.
+class AlarmRootNode final : public console::CBaseNodeItem<AlarmRootNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Alarms", .image = 16, .children = 2};
+
+    explicit AlarmRootNode(console::Platform& platform);
+};
+
+} // namespace alarms

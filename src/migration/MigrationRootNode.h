@@ -1,0 +1,15 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+
+namespace migration {
+
+// The top of the branch that brings old printers over: inventory, plans and address ranges.
+class MigrationRootNode final : public console::CBaseNodeItem<MigrationRootNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Migration", .image = 21, .children = 2};
+
+    explicit MigrationRootNode(console::Platform& platform);
+};
+
+} // namespace migration

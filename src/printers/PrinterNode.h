@@ -1,0 +1,48 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+#include "protocol/PrinterRecord.h"
+#include "queues/QueueNode.h"
+
+#include <cstdint>
+#include <string>
+
+namespace printers {
+
+// A printer in its region, with its queues below it.
+class PrinterNode final : public console::CBaseNodeItem<PrinterNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Printer", .image = 2, .children = 2};
+
+    PrinterNode(console::Platform& platform, protocol::PrinterRecord record);
+
+    const std::string& id() const { return id_; }
+    std::string refreshKey() const override { return id_; }
+    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+
+protected:
+    std::span<const console::Column> columns() const override;
+    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::VerbChoice> verbs() const override;
+    std::vector<console::NodeBase*> rows() const override;
+    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
+    int refreshesAfterCommand() const override { return 2; }
+    console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
+    console::Result OnCutOrMove(console::CSnapInItem& source) override;
+
+private:
+    console::Result deletePrinter(console::CommandOrigin origin);
+    void leaveConsole(console::CommandOrigin origin);
+
+    std::string id_;
+    std::string queryId_; // the id of the last expansion, which a refresh asks for again
+    wire::WideString modelName_;
+    wire::WideString location_;
+    wire::WideString jobs_; // as shown
+    std::uint8_t snmpStatus_;
+    std::uint8_t printingStatus_;
+    console::NodeArray<queues::QueueNode> queues_;
+};
+
+} // namespace printers

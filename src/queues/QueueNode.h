@@ -1,0 +1,39 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+#include "protocol/PrinterRecord.h"
+
+#include <cstdint>
+#include <string>
+
+namespace queues {
+
+// Whose queues a node is about. Other values have no commands.
+enum class QueueMode : std::int32_t { queue = 1, followPrint = 3 };
+
+// A print queue, of a printer or in a region, or a follow-print queue.
+class QueueNode final : public console::CBaseNodeItem<QueueNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Queue", .image = 3};
+
+    QueueNode(console::Platform& platform, protocol::PrinterRecord record, QueueMode mode);
+
+    const std::string& id() const { return id_; }
+    std::string refreshKey() const override { return id_; }
+    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+
+protected:
+    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::VerbChoice> verbs() const override;
+    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
+
+private:
+    console::Result deleteQueue();
+
+    QueueMode mode_;
+    std::string id_;
+    wire::WideString jobs_; // as shown
+    std::uint8_t printingStatus_;
+};
+
+} // namespace queues

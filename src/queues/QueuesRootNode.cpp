@@ -1,0 +1,27 @@
+#include "queues/QueuesRootNode.h"
+
+namespace queues {
+
+QueuesRootNode* QueuesRootNode::instance_ = nullptr;
+
+QueuesRootNode::QueuesRootNode(console::Platform& platform) : CBaseNodeItem(platform) {
+    instance_ = this;
+}
+
+QueuesRootNode::~QueuesRootNode() {
+    if (instance_ == this) {
+        instance_ = nullptr;
+    }
+}
+
+QueuesRootNode* QueuesRootNode::instance() {
+    return instance_;
+}
+
+void QueuesRootNode::refreshInstance(console::IConsole& console) {
+    if (instance_ != nullptr && instance_->scopeId() != 0) {
+        instance_->RefreshNode(console, instance_->scopeId(), console);
+    }
+}
+
+} // namespace queues

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+
+namespace queues {
+
+// The top of the regions with their queues. There is one in a process: printers and queues change together, so whoever
+// changes printers refreshes this node too.
+class QueuesRootNode final : public console::CBaseNodeItem<QueuesRootNode> {
+public:
+    static constexpr console::NodeIdentity identity{
+        .displayName = u"Queues", .nodeType = console::folderNodeType, .image = 8, .children = 2};
+
+    explicit QueuesRootNode(console::Platform& platform);
+    ~QueuesRootNode() override;
+
+    // Null while no tree stands.
+    static QueuesRootNode* instance();
+    // Refreshes the one that stands; nothing while it has no row in the console's tree.
+    static void refreshInstance(console::IConsole& console);
+
+    console::ScopeId scopeId() const { return row(); }
+
+private:
+    static QueuesRootNode* instance_;
+};
+
+} // namespace queues

@@ -1,0 +1,18 @@
+#include "regions/RegionDeletion.h"
+
+#include "regions/RegionNodes.h"
+
+namespace regions {
+
+RegionContents readRegionContents(client::CQVXAdminClass& client, std::int32_t regionId) {
+    std::int16_t printers = 0;
+    std::int16_t followQueues = 0;
+    std::vector<protocol::RegionRecord> subRegions;
+    if (!client.getPrintersInRegion(regionId, printers) || !client.getFollowQueuesInRegion(regionId, followQueues) ||
+        !readRegionsBelow(client, protocol::RegionKind::printersAndQueues, regionId, subRegions)) {
+        return RegionContents::unknown;
+    }
+    return printers == 0 && followQueues == 0 && subRegions.empty() ? RegionContents::empty : RegionContents::something;
+}
+
+} // namespace regions

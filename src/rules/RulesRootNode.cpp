@@ -1,0 +1,7 @@
+#include "rules/RulesRootNode.h"
+
+namespace rules {
+
+RulesRootNode::RulesRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+
+} // namespace rules
