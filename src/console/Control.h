@@ -17,8 +17,8 @@ enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visib
 
 // What every control of a form has: a label, whether it is enabled and visible, and the form that it stands on.
 // A control is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own
-// code and tell the host; the functions whose names begin with "user" are for hosts and tests, tell the form, and do
-// nothing while the control is disabled or hidden.
+// code and tell the host; the functions whose names begin with "user" are for hosts and tests and tell the form. Those
+// do nothing and answer false while the control can't be reached; else the handler runs, even when nothing has changed.
 class Control {
 public:
     Control(const Control&) = delete;
@@ -51,6 +51,8 @@ protected:
     void changed(Aspect aspect);
     // Runs a handler of the form inside the form's guard: nothing that it throws gets out.
     void run(const std::function<void()>& handler);
+    // Whether a person can act on the control now; not once its form has ended.
+    bool takesInput() const;
 
 private:
     Container& container_;

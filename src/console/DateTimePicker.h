@@ -19,7 +19,7 @@ struct DateTime {
     friend constexpr auto operator<=>(const DateTime&, const DateTime&) = default;
 };
 
-// Whether the numbers name a real day and time.
+// Whether the numbers name a real day and time, in the years 1 to 9999.
 bool isValid(const DateTime& value);
 
 struct DateTimeOptions {
@@ -36,6 +36,7 @@ public:
 
     const DateTimeOptions& options() const { return options_; }
     const std::optional<DateTime>& value() const { return value_; }
+    // A value that is not a real day and time counts as none.
     void setValue(std::optional<DateTime> value);
 
     std::function<void()> onChange;

@@ -14,6 +14,7 @@ namespace console {
 constexpr int idOk = 1;
 constexpr int idCancel = 2;
 
+// The texts of the two standard buttons; one without a text is not shown.
 struct FormOptions {
     std::u16string_view okLabel = u"OK"; // the default button
     std::u16string_view cancelLabel = u"Cancel";
@@ -38,7 +39,8 @@ public:
     void open();
     // For hosts: Escape and the closing cross do the same as the Cancel button.
     void userCancelled();
-    // For hosts: Enter, where the focused control does not take it.
+    // For hosts: Enter, where the focused control does not take it. Presses the first default button that can be
+    // pressed, of the form's own ones before the standard one.
     void userPressedDefault();
 
     bool ended() const { return ended_; }
@@ -53,6 +55,7 @@ protected:
     virtual void onOk() { EndDialog(idOk); }
     virtual void onCancel() { EndDialog(idCancel); }
 
+    // Ends the form with this result. Once: a second call changes nothing.
     void EndDialog(int result);
     void setTitle(wire::WideString title);
     // The window of this form is the owner of both.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace console {
@@ -39,5 +40,8 @@ consteval Guid guid(std::string_view text) {
     }
     return result;
 }
+
+// "813A64F9-EC5E-4A73-9072-CC3667D1C40F": upper case, no braces.
+std::u16string toText(const Guid& value);
 
 } // namespace console

@@ -33,6 +33,7 @@ public:
     // Replaces all rows; the selection goes.
     void setRows(std::vector<ListRow> rows);
     void addRow(ListRow row);
+    // These two throw std::out_of_range for a row that is not there. The selection stays with its row.
     void removeRow(std::size_t row);
     void setCell(std::size_t row, std::size_t column, wire::WideString text);
 
@@ -44,6 +45,7 @@ public:
     std::function<void()> onSelect;
     std::function<void()> onDoubleClick;
     bool userSelected(std::optional<std::size_t> row);
+    // Selects the row first.
     bool userDoubleClicked(std::size_t row);
 
 private:

@@ -49,6 +49,7 @@ public:
     Result FillData(ClipboardFormat format, std::vector<std::uint8_t>& stream) final;
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
     Result OnContextHelp() override;
+    // Throws what reading the server throws: the guard of the node that asked for it stops that.
     Result RefreshNode(IConsole& console, ScopeId scopeId, IConsole& consoleForShow) final;
 
     const wire::WideString& displayName() const final { return m_bstrDisplayName; }
@@ -58,13 +59,19 @@ public:
     void setDisplayName(wire::WideString name) { m_bstrDisplayName = std::move(name); }
     // The row of the parent under which the console is to insert this node.
     void setParentRow(ScopeId parent) { scope_.relativeID = parent; }
+    // Places this node under its parent, which passes on its row and the console that it stands in. A node that stands
+    // only as a row of a list gets to know its console in no other way.
+    void setParent(const NodeBase& parent) {
+        setParentRow(parent.scope_.ID);
+        console_ = parent.console_;
+    }
     ScopeItemFields& scopeFields() { return scope_; }
     ResultItemFields& resultFields() { return result_; }
 
     // Fills the children. The default is Result::ok and nothing.
     virtual Result OnExpand(ExpandCode code, IConsole& console, ScopeId scopeId);
-    // Fills the result pane: columns() when shown for the first time, rows() always. `again` is 1 when the columns
-    // already stand. A node without columns shows nothing.
+    // Fills the result pane: with `show` columns() and rows(), with `again` 1 rows() alone, since the columns stand
+    // already. A node without columns shows nothing.
     virtual Result OnShow(IConsole& console, bool show, int again);
 
 protected:
@@ -89,8 +96,11 @@ protected:
     virtual Result OnCutOrMove(CSnapInItem& source);
 
     Platform& platform() const { return platform_; }
-    // The console last seen by Notify with component data; null before.
+    // The component data and its console as Notify saw them last, the console also as OnExpand did; null before.
+    IComponentData* componentData() const { return componentData_; }
     IConsole* console() const { return console_; }
+    // Whether the result pane shows this node.
+    bool visible() const { return visible_; }
     ScopeId parentRow() const { return scope_.relativeID; }
     ScopeId row() const { return scope_.ID; }
 
@@ -134,10 +144,10 @@ protected:
 
 private:
     void takeOver(const NodeBase& old, CarryOver what);
+    IConsole* consoleOf(const Notification& notification);
     Result dispatch(const Notification& notification, IConsole& console);
+    Result paste(const Notification& notification, IConsole& console);
     Result refresh(const Notification& notification, IConsole& console);
-    void offerVerbsForPaste(IConsole& console) const;
-    void reportFailure(std::string_view where, const std::string& what) const;
 
     Platform& platform_;
     wire::WideString m_bstrDisplayName;
@@ -145,6 +155,7 @@ private:
     ResultItemFields result_;
     IComponentData* componentData_ = nullptr;
     IConsole* console_ = nullptr;
+    bool visible_ = false;
 };
 
 } // namespace console

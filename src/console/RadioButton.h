@@ -20,6 +20,9 @@ public:
     bool userChose();
 
 private:
+    // Makes this button the chosen one and tells the host of the one that was.
+    void letGoOfOther();
+
     RadioGroup& group_;
 };
 

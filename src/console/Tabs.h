@@ -18,6 +18,7 @@ public:
     const std::vector<Page*>& pages() const { return pages_; }
     // The page shown; 0 at first.
     std::size_t current() const { return current_; }
+    // Throws std::out_of_range for a page that is not there.
     void show(std::size_t page);
 
     std::function<void()> onShow;

@@ -27,7 +27,7 @@ public:
 
     std::function<void()> onChange;
     // The person has changed the text. False when it breaks the box's rules (too long, not digits, read only,
-    // disabled); the text then stays.
+    // disabled); the text then stays. A text that breaks the rules, as setText may leave it, can still be made shorter.
     bool userTyped(wire::WideString text);
 
 protected:

@@ -22,10 +22,12 @@ public:
     void accept(ControlVisitor& visitor) override;
 
     const std::vector<TreeItem>& items() const { return items_; }
+    // Answers the number of the item. Throws std::out_of_range when the parent is not there yet.
     std::size_t addItem(TreeItem item);
     void clear();
 
     std::optional<std::size_t> selection() const { return selection_; }
+    // Does not fire onSelect. An item that is not there takes the selection away.
     void select(std::optional<std::size_t> item);
 
     std::function<void()> onSelect;

@@ -1,0 +1,22 @@
+#include "console/Button.h"
+
+#include "console/ControlVisitor.h"
+
+namespace console {
+
+Button::Button(Container& container, std::u16string_view label, bool isDefault)
+    : Control(container, label), isDefault_(isDefault) {}
+
+void Button::accept(ControlVisitor& visitor) {
+    visitor.visit(*this);
+}
+
+bool Button::userPressed() {
+    if (!takesInput()) {
+        return false;
+    }
+    run(onPress);
+    return true;
+}
+
+} // namespace console

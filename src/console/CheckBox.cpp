@@ -1,0 +1,29 @@
+#include "console/CheckBox.h"
+
+#include "console/ControlVisitor.h"
+
+namespace console {
+
+CheckBox::CheckBox(Container& container, std::u16string_view label) : Control(container, label) {}
+
+void CheckBox::accept(ControlVisitor& visitor) {
+    visitor.visit(*this);
+}
+
+void CheckBox::setChecked(bool checked) {
+    if (checked_ != checked) {
+        checked_ = checked;
+        changed(Aspect::selection);
+    }
+}
+
+bool CheckBox::userChecked(bool checked) {
+    if (!takesInput()) {
+        return false;
+    }
+    checked_ = checked;
+    run(onChange);
+    return true;
+}
+
+} // namespace console

@@ -1,0 +1,21 @@
+#include "console/Group.h"
+
+#include "console/ControlVisitor.h"
+
+namespace console {
+
+Group::Group(Container& container, std::u16string_view label) : Control(container, label) {}
+
+void Group::accept(ControlVisitor& visitor) {
+    visitor.visit(*this);
+}
+
+Form& Group::form() {
+    return container().form();
+}
+
+bool Group::shown() const {
+    return visible() && container().shown();
+}
+
+} // namespace console

@@ -1,0 +1,19 @@
+#include "console/Page.h"
+
+#include "console/Tabs.h"
+
+namespace console {
+
+Page::Page(Tabs& tabs, std::u16string_view title) : tabs_(tabs), title_(title) {
+    tabs.pages_.push_back(this);
+}
+
+Form& Page::form() {
+    return tabs_.form();
+}
+
+bool Page::shown() const {
+    return tabs_.visible() && tabs_.container().shown() && tabs_.pages()[tabs_.current()] == this;
+}
+
+} // namespace console

@@ -1,0 +1,93 @@
+#include "tests/support/FormChecks.h"
+
+#include "console/Button.h"
+#include "console/CheckBox.h"
+#include "console/ControlVisitor.h"
+#include "console/DateTimePicker.h"
+#include "console/DropList.h"
+#include "console/EditBox.h"
+#include "console/FormWalk.h"
+#include "console/Group.h"
+#include "console/Label.h"
+#include "console/ListView.h"
+#include "console/MultiLineEdit.h"
+#include "console/Page.h"
+#include "console/PasswordBox.h"
+#include "console/RadioButton.h"
+#include "console/RadioGroup.h"
+#include "console/Tabs.h"
+#include "console/TreeView.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace support {
+using namespace console;
+
+namespace {
+
+// Tests one control, and whether a person needs a name for it.
+class Check final : public ControlVisitor {
+public:
+    bool needsName = true;
+
+    void visit(Button& control) override { EXPECT_FALSE(control.visible() && control.label().empty()); }
+    void visit(CheckBox& /*control*/) override {}
+    void visit(DateTimePicker& control) override { EXPECT_TRUE(control.options().date || control.options().time); }
+    void visit(DropList& control) override {
+        const RadioButton* const owner = control.options().belongsTo;
+        if (owner != nullptr) {
+            EXPECT_EQ(&owner->form(), &control.form());
+            needsName = !control.label().empty();
+        }
+    }
+    void visit(EditBox& /*control*/) override {}
+    void visit(Group& /*control*/) override {}
+    void visit(Label& control) override { needsName = !control.label().empty(); }
+    void visit(ListView& control) override {
+        for (const ListRow& row : control.rows()) {
+            EXPECT_LE(row.cells.size(), control.columns().size());
+        }
+    }
+    void visit(MultiLineEdit& /*control*/) override {}
+    void visit(PasswordBox& /*control*/) override {}
+    void visit(RadioButton& control) override {
+        EXPECT_GT(control.group().buttons().size(), 1U) << "a choice without another";
+    }
+    void visit(Tabs& control) override {
+        needsName = false;
+        EXPECT_FALSE(control.pages().empty());
+        for (const Page* page : control.pages()) {
+            EXPECT_FALSE(readableLabel(page->title()).empty());
+        }
+    }
+    void visit(TreeView& /*control*/) override {}
+};
+
+} // namespace
+
+void expectSound(Form& form) {
+    SCOPED_TRACE("form \"" + wire::toUtf8(form.title()) + "\"");
+    EXPECT_FALSE(readableLabel(form.title()).empty());
+    std::set<std::pair<const Container*, wire::WideString>> names;
+    for (Control* control : controlsOf(form)) {
+        const wire::WideString name = readableLabel(control->label());
+        SCOPED_TRACE("control \"" + wire::toUtf8(name) + "\"");
+        EXPECT_EQ(&control->form(), &form);
+        Check check;
+        control->accept(check);
+        const bool leftOut = control->label().empty() && !control->visible();
+        if (!check.needsName || leftOut) {
+            continue;
+        }
+        EXPECT_FALSE(name.empty()) << "a control without a label";
+        EXPECT_TRUE(names.emplace(&control->container(), name).second) << "two with this label";
+        const auto found = findControls(form, fullName(*control));
+        EXPECT_NE(std::ranges::find(found, control), found.end()) << "not found by its name";
+    }
+}
+
+} // namespace support

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "client/CommandObserver.h"
+#include "console/Platform.h"
+#include "tests/support/FakeUserInterface.h"
+#include "tests/support/MemorySettingsStore.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace support {
+
+// A whole host for nodes and forms under test. Declare it before the nodes: it outlives them.
+class TestPlatform {
+public:
+    FakeUserInterface ui;
+    MemorySettingsStore settings;
+
+    TestPlatform() { platform_.hooks.commands = &observer_; }
+    TestPlatform(const TestPlatform&) = delete;
+    TestPlatform& operator=(const TestPlatform&) = delete;
+
+    operator console::Platform&() { return platform_; } // NOLINT(google-explicit-constructor): stands in for one
+    console::Platform& platform() { return platform_; }
+
+    // What the guards of nodes and forms have stopped, as "where: what".
+    const std::vector<std::string>& failures() const { return observer_.failures; }
+    // The names of the commands that were sent, in order.
+    const std::vector<std::string>& commands() const { return observer_.commands; }
+
+private:
+    class Observer final : public client::CommandObserver {
+    public:
+        void commandStarted(const client::CommandReport& report) override { commands.emplace_back(report.name); }
+        void commandEnded(const client::CommandReport& /*report*/) override {}
+        void handlerStopped(std::string_view where, std::string_view what) override {
+            failures.push_back(std::string(where) + ": " + std::string(what));
+        }
+
+        std::vector<std::string> failures;
+        std::vector<std::string> commands;
+    };
+
+    Observer observer_;
+    console::Platform platform_{.ui = ui, .settings = settings};
+};
+
+} // namespace support
