@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For sourcing by the commands at the root: say, and buildPreset.
 
 say() { echo "==> $*"; }
