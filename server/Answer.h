@@ -1,0 +1,30 @@
+#pragma once
+
+#include "server/Estate.h"
+#include "server/ReplyBuffer.h"
+#include "server/RequestReader.h"
+
+#include <memory>
+
+namespace server {
+
+// The answer to a request that reads, made piece by piece straight from the database.
+class Answer {
+public:
+    virtual ~Answer() = default;
+
+    // Appends the next frames until the buffer holds the wanted number of bytes or more; false once all are there.
+    // Throws StoreError.
+    virtual bool append(ReplyBuffer& buffer, std::size_t wanted) = 0;
+};
+
+// A console takes the count of a list as a signed number, and more than this as none at all.
+constexpr std::int64_t longestList = 32767;
+
+// The answer to a request, nothing when the opcode does not read; it uses the estate until it goes. Throws BadRequest
+// and StoreError.
+[[nodiscard]] std::unique_ptr<Answer> makeAnswer(std::uint16_t opcode, std::span<const std::uint8_t> fields,
+                                                 Estate& estate);
+[[nodiscard]] bool isAnswered(std::uint16_t opcode);
+
+} // namespace server

@@ -1,0 +1,30 @@
+#include "server/Estate.h"
+
+#include "server/StoreError.h"
+
+#include <sqlite3.h>
+
+#include <utility>
+
+namespace server {
+
+Estate::Estate(SQLite::Database database)
+    : database_(std::move(database)),
+      regions_(database_.getHandle()),
+      records_(database_.getHandle()),
+      begin_(database_.getHandle(), "BEGIN IMMEDIATE"),
+      beginRead_(database_.getHandle(), "BEGIN"),
+      commit_(database_.getHandle(), "COMMIT"),
+      rollback_(database_.getHandle(), "ROLLBACK") {}
+
+void Estate::rollback() noexcept {
+    if (sqlite3_get_autocommit(database_.getHandle()) != 0)
+        return; // SQLite has ended the transaction itself
+    try {
+        rollback_.execute();
+    } catch (const StoreError&) {
+        // The connection stays in a transaction, and its next begin tells so.
+    }
+}
+
+} // namespace server

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "protocol/CreateRecordReply.h"
+#include "protocol/CreateRecordRequest.h"
+#include "protocol/DeleteRecordRequest.h"
+#include "protocol/MovePrinterRequest.h"
+#include "protocol/SetStatusOctetOrderRequest.h"
+#include "protocol/UpdateRecordRequest.h"
+#include "server/Estate.h"
+
+namespace server {
+
+// What may be done to printers, queues, follow-print queues and local printers, and doing it. Each change runs inside
+// of the caller's transaction; a refused one has changed nothing. Throws StoreError.
+class RecordRules {
+public:
+    explicit RecordRules(Estate& estate) : estate_(estate) {}
+
+    // The new record gets an id of its own; the one in the request is not looked at.
+    protocol::CreateRecordReply create(const protocol::CreateRecordRequest& request);
+    protocol::StatusReply update(const protocol::UpdateRecordRequest& request);
+    // A printer takes its queues along.
+    protocol::StatusReply move(const protocol::MovePrinterRequest& request);
+    protocol::StatusReply remove(const protocol::DeleteRecordRequest& request);
+    protocol::StatusReply setOctetOrder(const protocol::SetStatusOctetOrderRequest& request);
+
+private:
+    [[nodiscard]] std::optional<protocol::StatusReply> refuse(const protocol::PrinterRecord& record);
+
+    Estate& estate_;
+};
+
+} // namespace server

@@ -1,0 +1,172 @@
+#include "server/Server.h"
+
+#include <spdlog/spdlog.h>
+
+#include <algorithm>
+
+namespace server {
+
+namespace {
+
+using boost::system::error_code;
+using Clock = PeerStream::Clock;
+
+constexpr std::chrono::milliseconds pauseWithoutDescriptors{100};
+constexpr std::chrono::seconds stalled{5};
+
+asio::ip::tcp::acceptor listenOn(asio::io_context& context, const std::string& listen, std::uint16_t port) {
+    error_code error;
+    const auto address = asio::ip::make_address(listen, error);
+    if (error)
+        throw std::runtime_error("\"" + listen + "\" is not an address to listen on");
+    const asio::ip::tcp::endpoint endpoint(address, port);
+    try {
+        return asio::ip::tcp::acceptor(context, endpoint);
+    } catch (const boost::system::system_error& failure) {
+        throw std::runtime_error("cannot listen on " + listen + " port " + std::to_string(port) + ": " +
+                                 failure.code().message());
+    }
+}
+
+// As often as the shortest of the limits needs.
+Clock::duration watchInterval(const Limits& limits) {
+    const auto shortest = std::min({limits.headerTime, limits.bodyTime, limits.sendTime, limits.stopTime});
+    return std::clamp(shortest / 4, std::chrono::milliseconds(10), std::chrono::milliseconds(1000));
+}
+
+bool isIdle(Connection& connection) {
+    return connection.isArriving() && !connection.peer().isDropped() && !connection.peer().hasUnread();
+}
+
+// An error that no peer can cause ends the server.
+void passOn(const std::exception_ptr& error) {
+    if (error)
+        std::rethrow_exception(error);
+}
+
+} // namespace
+
+Server::Server(const Store& store, Accounts& accounts, const ServerSettings& settings)
+    : acceptor_(listenOn(context_, settings.listen, settings.port)),
+      services_(context_, store, accounts, settings.limits, settings.loginRequired),
+      watch_(context_),
+      room_(context_) {}
+
+Server::~Server() {
+    services_.writer.join();
+    services_.logins.join();
+}
+
+std::uint16_t Server::port() const {
+    return acceptor_.local_endpoint().port();
+}
+
+void Server::run() {
+    asio::co_spawn(context_, acceptAll(), passOn);
+    asio::co_spawn(context_, watchTimes(), passOn);
+    context_.run();
+}
+
+void Server::stop() {
+    asio::post(context_, [this] { beginStopping(); });
+}
+
+asio::awaitable<void> Server::acceptAll() {
+    while (acceptor_.is_open()) {
+        co_await waitForRoom();
+        error_code error;
+        auto socket = co_await acceptor_.async_accept(asio::redirect_error(asio::use_awaitable, error));
+        if (!error) {
+            welcome(std::move(socket));
+        } else if (acceptor_.is_open()) {
+            spdlog::error("a connection could not be accepted: {}", error.message());
+            asio::steady_timer pause(context_, pauseWithoutDescriptors);
+            co_await pause.async_wait(asio::use_awaitable);
+        }
+    }
+}
+
+// Room is made at the cost of those that sent nothing or do not take their answer, never of a command that has come:
+// when all are at work, new ones wait outside.
+asio::awaitable<void> Server::waitForRoom() {
+    while (acceptor_.is_open() && connections_.size() >= services_.limits.connections) {
+        dropOldestIdle();
+        error_code woken;
+        room_.expires_after(stalled);
+        co_await room_.async_wait(asio::redirect_error(asio::use_awaitable, woken));
+    }
+}
+
+void Server::welcome(asio::ip::tcp::socket socket) {
+    error_code error;
+    const auto address = socket.remote_endpoint(error).address();
+    if (error)
+        return; // it is gone already
+    dropOldestArriving(address);
+    auto connection = std::make_shared<Connection>(std::move(socket), address, services_);
+    const auto position = connections_.insert(connections_.end(), connection);
+    asio::co_spawn(context_, connection->serve(), [this, position, connection](const std::exception_ptr& failure) {
+        connections_.erase(position);
+        room_.cancel();
+        if (stopping_ && connections_.empty())
+            watch_.cancel();
+        passOn(failure);
+    });
+}
+
+void Server::dropOldestArriving(const asio::ip::address& address) {
+    if (services_.order.arrivingFrom(address) < services_.limits.arrivingFromOneAddress)
+        return;
+    const auto found = std::ranges::find_if(
+        connections_, [&](const auto& connection) { return connection->address() == address && isIdle(*connection); });
+    if (found != connections_.end())
+        (*found)->peer().drop("too many connections of its address sent no command");
+}
+
+void Server::dropOldestIdle() {
+    auto found = std::ranges::find_if(connections_, [](const auto& connection) { return isIdle(*connection); });
+    if (found == connections_.end())
+        found = std::ranges::find_if(connections_, [limit = Clock::now() - stalled](const auto& connection) {
+            return connection->peer().isSendingSince(limit);
+        });
+    if (found != connections_.end())
+        (*found)->peer().drop("room was needed for others");
+}
+
+asio::awaitable<void> Server::watchTimes() {
+    const auto interval = watchInterval(services_.limits);
+    while (!stopping_ || !connections_.empty()) {
+        error_code woken;
+        watch_.expires_after(interval);
+        co_await watch_.async_wait(asio::redirect_error(asio::use_awaitable, woken));
+        const auto now = Clock::now();
+        for (const auto& connection : connections_)
+            connection->peer().dropIfLate(now);
+    }
+}
+
+void Server::beginStopping() {
+    if (stopping_)
+        return;
+    stopping_ = true;
+    error_code error;
+    acceptor_.non_blocking(true, error);
+    for (;;) {
+        asio::ip::tcp::socket waiting(context_);
+        acceptor_.accept(waiting, error);
+        if (error)
+            break;
+        welcome(std::move(waiting));
+    }
+    acceptor_.close(error);
+    const auto latest = Clock::now() + services_.limits.stopTime;
+    for (const auto& connection : connections_) {
+        connection->peer().endBy(latest);
+        if (isIdle(*connection))
+            connection->peer().drop("the server ends");
+    }
+    watch_.cancel();
+    room_.cancel();
+}
+
+} // namespace server

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "server/Estate.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace server {
+
+// The database file of a server, held against every other server for as long as this object lives. Throws StoreError
+// with one line for the person who started the server.
+class Store {
+public:
+    // Makes the file when there is none, readable by its owner only, and takes an older one forward.
+    explicit Store(std::filesystem::path file);
+    ~Store();
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+
+    // A connection of its own for a thread.
+    [[nodiscard]] SQLite::Database connect() const;
+    [[nodiscard]] std::unique_ptr<Estate> openEstate() const;
+
+    [[nodiscard]] const std::filesystem::path& file() const { return file_; }
+
+private:
+    void lockFile();
+
+    std::filesystem::path file_;
+    int lock_ = -1;
+};
+
+} // namespace server

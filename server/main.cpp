@@ -1,0 +1,104 @@
+#include "server/Accounts.h"
+#include "server/Options.h"
+#include "server/PortFile.h"
+#include "server/SampleEstate.h"
+#include "server/Server.h"
+#include "wire/Text.h"
+
+#include <boost/asio/signal_set.hpp>
+#include <spdlog/sinks/stdout_sinks.h>
+#include <spdlog/spdlog.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <iostream>
+#include <thread>
+
+namespace {
+
+using namespace server;
+
+constexpr int failureStatus = 1;
+constexpr rlim_t wantedDescriptors = 4096; // for sockets and for the connections of readers
+
+void prepareProcess() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error of the write
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < wantedDescriptors) {
+        limit.rlim_cur = std::min(limit.rlim_max, wantedDescriptors);
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+    }
+    spdlog::set_default_logger(
+        std::make_shared<spdlog::logger>("vantreld", std::make_shared<spdlog::sinks::stderr_sink_mt>()));
+    spdlog::set_pattern("%Y-%m-%d %H:%M:%S.%e %l: %v");
+}
+
+void fillSample(const Store& store, const Sample& sample) {
+    const auto estate = store.openEstate();
+    estate->change([&] {
+        if (!estate->regions().isEmpty() || !estate->records().isEmpty())
+            throw std::runtime_error(store.file().string() + ": --sample needs an empty database");
+        SampleEstate filler(*estate);
+        if (sample.printers == 0)
+            filler.fillSmall();
+        else
+            filler.fill(sample.printers);
+        return true;
+    });
+}
+
+void serve(const Options& options) {
+    const auto password = options.user ? readPassword(options.passwordFile) : std::u16string();
+    const Store store(options.database);
+    if (options.sample)
+        fillSample(store, *options.sample);
+    Accounts accounts(store);
+    if (options.user)
+        accounts.save(wire::toWide(*options.user), password);
+
+    ServerSettings settings;
+    settings.listen = options.listen;
+    settings.port = options.port;
+    settings.loginRequired = options.loginRequired;
+    Server server(store, accounts, settings);
+
+    // Signals have a thread of their own, so that they are heard whatever the server does.
+    boost::asio::io_context signalContext;
+    boost::asio::signal_set signals(signalContext, SIGTERM, SIGINT);
+    signals.async_wait([&](const boost::system::error_code& error, int) {
+        if (!error)
+            server.stop();
+    });
+    const std::jthread waiting([&] { signalContext.run(); });
+
+    try {
+        if (options.portFile)
+            writePortFile(*options.portFile, server.port());
+        spdlog::info("listening on {} port {}", options.listen, server.port());
+        server.run();
+    } catch (...) {
+        signalContext.stop();
+        throw;
+    }
+    signalContext.stop();
+    spdlog::info("ended");
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    const auto [options, text, exitStatus] = Options::parse(count, arguments);
+    if (!options) {
+        (exitStatus == 0 ? std::cout : std::cerr) << text << (text.ends_with('\n') ? "" : "\n");
+        return exitStatus;
+    }
+    try {
+        prepareProcess();
+        serve(*options);
+    } catch (const std::exception& error) {
+        std::cerr << "vantreld: " << error.what() << "\n";
+        return failureStatus;
+    }
+    return 0;
+}
