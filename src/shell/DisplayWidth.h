@@ -1,0 +1,13 @@
+#pragma once
+
+#include "wire/Text.h"
+
+#include <cstddef>
+
+namespace shell {
+
+// How many cells of a terminal a text takes: two for the wide letters of East Asia and for pictures, none for marks
+// that stand above or below another letter.
+std::size_t displayWidth(wire::WideStringView text);
+
+} // namespace shell

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "console/IImageList.h"
+#include "shell/Observers.h"
+#include "shell/ScopeItem.h"
+#include "shell/SnapIn.h"
+
+#include <memory>
+
+namespace shell {
+
+// Sends the console's notifications to nodes, the node being kept alive for as long as it handles one. Whatever a node
+// throws ends here: it is told to the observers and answered with Result::failed.
+class Notifier {
+public:
+    using Node = std::shared_ptr<console::CSnapInItem>;
+
+    // Both outlive it.
+    Notifier(SnapIn& snapIn, const Observers& observers) : snapIn_(snapIn), observers_(observers) {}
+
+    console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
+    console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
+    console::Result show(const Node& node, console::ScopeId id, bool show) const;
+    // The shown node is to show its columns and rows anew.
+    console::Result viewChange(const Node& node, console::ScopeId id) const;
+    console::Result select(const Node& node, console::DataObjectType type, bool selected) const;
+    console::Result refresh(const Node& node, console::DataObjectType type, console::ScopeId scopeId) const;
+    console::Result doubleClick(const Node& node, console::DataObjectType type) const;
+    console::Result columnClick(const Node& node, std::int32_t column) const;
+    console::Result rename(const Node& node, console::DataObjectType type, const wire::WideString& newName) const;
+    console::Result queryPaste(const Node& node, console::DataObjectType type, const Node& source) const;
+    console::Result paste(const Node& node, console::DataObjectType type, const Node& source) const;
+    console::Result deleteItem(const Node& node, console::DataObjectType type) const;
+
+    // Whether the console is to list the scope children of the node itself.
+    bool listsScopeChildren(const Node& node) const;
+
+    // Runs work that may throw; false when it did.
+    template <class Work>
+    bool guard(std::string_view where, Work&& work) const {
+        try {
+            work();
+            return true;
+        } catch (const char* text) {
+            stopped(where, text);
+        } catch (const std::exception& exception) {
+            stopped(where, exception.what());
+        } catch (...) {
+            stopped(where, "an unknown exception");
+        }
+        return false;
+    }
+
+private:
+    enum class Side : std::uint8_t { scope, view };
+    console::Result send(Side side, Node node, const console::Notification& notification) const;
+    void stopped(std::string_view where, std::string_view what) const;
+
+    SnapIn& snapIn_;
+    const Observers& observers_;
+};
+
+} // namespace shell

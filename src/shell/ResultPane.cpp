@@ -1,0 +1,193 @@
+#include "shell/ResultPane.h"
+
+#include "shell/ListDiff.h"
+#include "shell/RowOrder.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace shell {
+namespace {
+
+using console::Result;
+using console::ResultId;
+
+std::vector<std::intptr_t> idsOf(const std::vector<const Row*>& rows) {
+    std::vector<std::intptr_t> ids(rows.size());
+    std::ranges::transform(rows, ids.begin(), &Row::id);
+    return ids;
+}
+
+} // namespace
+
+Result ResultPane::InsertItem(console::ResultItemFields& row) {
+    auto node = row.lParam != nullptr ? row.lParam->weak_from_this().lock() : nullptr;
+    if (!node) {
+        return Result::failed;
+    }
+    beginChange();
+    if (row.itemID <= 0 || row.itemID > last_ || places_.contains(row.itemID)) {
+        row.itemID = ++last_;
+    }
+    places_.emplace(row.itemID, working_->size());
+    working_->push_back({std::move(node), row.itemID, row.nImage});
+    return Result::ok;
+}
+
+Result ResultPane::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
+    const auto place = places_.find(itemId);
+    if (place == places_.end()) {
+        return Result::failed;
+    }
+    beginChange();
+    (*working_)[place->second].node.reset();
+    places_.erase(place);
+    return Result::ok;
+}
+
+Result ResultPane::DeleteAllRsltItems() {
+    working_.emplace();
+    places_.clear();
+    replaced_ = true;
+    return Result::ok;
+}
+
+void ResultPane::beginChange() {
+    if (!working_) {
+        working_ = rows_;
+    }
+}
+
+std::optional<std::size_t> ResultPane::indexOf(ResultId id) const {
+    const auto found = std::ranges::find(shown_, id, &Row::id);
+    return found != shown_.end() ? std::optional(static_cast<std::size_t>(found - shown_.begin())) : std::nullopt;
+}
+
+const Row* ResultPane::find(ResultId id) const {
+    if (id < 0) {
+        const auto& scopeRows = nextScope_ ? *nextScope_ : scopeRows_;
+        const auto found = std::ranges::find(scopeRows, id, &Row::id);
+        return found != scopeRows.end() ? &*found : nullptr;
+    }
+    const auto place = places_.find(id);
+    return place != places_.end() ? &(working_ ? *working_ : rows_)[place->second] : nullptr;
+}
+
+const Row* ResultPane::findLike(const console::CSnapInItem& node) const {
+    const auto& rows = working_ ? *working_ : rows_;
+    const auto key = node.refreshKey();
+    const auto found = std::ranges::find_if(rows, [&](const Row& row) {
+        return row.node && row.node->className() == node.className() && row.node->refreshKey() == key;
+    });
+    return found != rows.end() ? &*found : nullptr;
+}
+
+void ResultPane::restart(std::optional<SortOrder> order) {
+    DeleteAllRsltItems();
+    replaced_ = false;
+    setScopeRows({});
+    order_ = order;
+    filterText_.clear();
+    filter_ = RowFilter();
+}
+
+void ResultPane::setScopeRows(std::vector<Row> rows) {
+    const auto same = [](const Row& a, const Row& b) { return a.id == b.id && a.node == b.node; };
+    if (nextScope_ || !std::ranges::equal(rows, scopeRows_, same)) {
+        nextScope_ = std::move(rows);
+    }
+}
+
+bool ResultPane::takeReplaced() {
+    return std::exchange(replaced_, false);
+}
+
+void ResultPane::sort(std::optional<SortOrder> order) {
+    if (order_ != order) {
+        order_ = order;
+        reset(arranged());
+    }
+}
+
+void ResultPane::filter(wire::WideStringView text, std::int32_t columns) {
+    filterText_ = text;
+    filterColumns_ = columns;
+    filter_ = RowFilter(text);
+    reset(arranged());
+}
+
+std::vector<const Row*> ResultPane::arranged() const {
+    const auto passes = [this](const Row& row) {
+        for (std::int32_t column = 0; column < filterColumns_; ++column) {
+            if (filter_.matches(cellOf(row, column))) {
+                return true;
+            }
+        }
+        return filter_.empty();
+    };
+    std::vector<const Row*> rows;
+    rows.reserve(unfilteredCount());
+    for (const auto* const source : {&scopeRows_, &rows_}) {
+        for (const Row& row : *source) {
+            if (passes(row)) {
+                rows.push_back(&row);
+            }
+        }
+    }
+    sortRows(rows, order_);
+    return rows;
+}
+
+void ResultPane::commit() {
+    if (!working_ && !nextScope_) {
+        return;
+    }
+    const auto oldScope = std::move(scopeRows_); // what is shown points here until the end
+    const auto oldRows = std::move(rows_);
+    scopeRows_ = nextScope_ ? std::move(*nextScope_) : oldScope;
+    rows_ = working_ ? std::move(*working_) : oldRows;
+    nextScope_.reset();
+    working_.reset();
+    if (std::erase_if(rows_, [](const Row& row) { return !row.node; }) != 0) {
+        for (std::size_t place = 0; place < rows_.size(); ++place) {
+            places_[rows_[place].id] = place;
+        }
+    }
+    show(arranged());
+}
+
+void ResultPane::show(const std::vector<const Row*>& next) {
+    const auto steps = listSteps(idsOf(shown_), idsOf(next));
+    if (!steps) {
+        reset(next);
+        return;
+    }
+    for (const auto& [kind, first, count] : *steps) {
+        if (count == 0) {
+            continue;
+        }
+        const auto at = static_cast<std::ptrdiff_t>(first);
+        const auto end = static_cast<std::ptrdiff_t>(first + count);
+        if (kind == ListStep::Kind::remove) {
+            observers_.tell([&](auto& observer) { observer.rowsAboutToBeRemoved(first, count); });
+            shown_.erase(shown_.begin() + at, shown_.begin() + end);
+            observers_.tell([&](auto& observer) { observer.rowsRemoved(first, count); });
+        } else {
+            observers_.tell([&](auto& observer) { observer.rowsAboutToBeInserted(first, count); });
+            shown_.insert(shown_.begin() + at, next.begin() + at, next.begin() + end);
+            observers_.tell([&](auto& observer) { observer.rowsInserted(first, count); });
+        }
+    }
+    shown_ = next;
+    if (!shown_.empty()) {
+        observers_.tell([&](auto& observer) { observer.rowsChanged(0, shown_.size()); });
+    }
+}
+
+void ResultPane::reset(std::vector<const Row*> next) {
+    observers_.tell([](auto& observer) { observer.rowsAboutToBeReset(); });
+    shown_ = std::move(next);
+    observers_.tell([](auto& observer) { observer.rowsReset(); });
+}
+
+} // namespace shell

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "console/IResultData.h"
+#include "shell/Observers.h"
+#include "shell/Row.h"
+#include "shell/RowFilter.h"
+#include "shell/SortOrder.h"
+
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace shell {
+
+// The list. Handlers fill it through the platform's operations; people see the change, sorted and filtered, when it is
+// committed, and until then the rows that were there before. A row keeps its id for as long as its node hands it on.
+class ResultPane final : public console::IResultData {
+public:
+    // Tells the observers, which outlive it.
+    explicit ResultPane(const Observers& observers) : observers_(observers) {}
+
+    console::Result InsertItem(console::ResultItemFields& row) override;
+    console::Result DeleteItem(console::ResultId itemId, std::int32_t column) override;
+    console::Result DeleteAllRsltItems() override;
+
+    // What people see. A row is named by where it stands now.
+    std::size_t rowCount() const { return shown_.size(); }
+    const Row& row(std::size_t index) const { return *shown_[index]; }
+    std::optional<std::size_t> indexOf(console::ResultId id) const;
+    // See cellOf.
+    wire::WideStringView cell(std::size_t index, std::int32_t column) const { return cellOf(row(index), column); }
+    std::size_t unfilteredCount() const { return scopeRows_.size() + rows_.size(); }
+
+    // Rows equal in the column stay as they were. Without an order, neighbours of one class stand in the natural order
+    // of their first column.
+    void sort(std::optional<SortOrder> order);
+    const std::optional<SortOrder>& sortOrder() const { return order_; }
+    // Compares the first `columns` columns.
+    void filter(wire::WideStringView text, std::int32_t columns);
+    const wire::WideString& filterText() const { return filterText_; }
+
+    // For the shell. Another node is going to be shown, in its own order and unfiltered: no rows.
+    void restart(std::optional<SortOrder> order);
+    // The row with that id as handlers know it; null when it is not there.
+    const Row* find(console::ResultId id) const;
+    // The row that is the same one to people, by class and refresh key; null when there is none.
+    const Row* findLike(const console::CSnapInItem& node) const;
+    // Rows for scope items, in front of all others.
+    void setScopeRows(std::vector<Row> rows);
+    // True when all rows were removed since the last call.
+    bool takeReplaced();
+    // Shows people the changes.
+    void commit();
+
+private:
+    void beginChange();
+    std::vector<const Row*> arranged() const;
+    void show(const std::vector<const Row*>& next);
+    void reset(std::vector<const Row*> next);
+
+    const Observers& observers_;
+    std::vector<Row> scopeRows_;
+    std::vector<Row> rows_;                     // in order of insertion
+    std::optional<std::vector<Row>> working_;   // the same as handlers have it, while it differs; removed: no node
+    std::optional<std::vector<Row>> nextScope_; // scope rows that are not committed yet
+    std::unordered_map<console::ResultId, std::size_t> places_; // in working_ while that is there, else in rows_
+    std::vector<const Row*> shown_;                             // scopeRows_ and rows_, sorted and filtered
+    std::optional<SortOrder> order_;
+    RowFilter filter_;
+    wire::WideString filterText_;
+    std::int32_t filterColumns_ = 0;
+    console::ResultId last_ = 0;
+    bool replaced_ = false;
+};
+
+} // namespace shell

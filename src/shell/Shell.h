@@ -1,0 +1,134 @@
+#pragma once
+
+#include "console/IConsole.h"
+#include "shell/MenuItem.h"
+#include "shell/Notifier.h"
+#include "shell/ScopeTree.h"
+#include "shell/Table.h"
+#include "shell/Target.h"
+#include "shell/TaskQueue.h"
+#include "shell/View.h"
+#include "shell/ViewHistory.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace shell {
+
+// A console for a snap-in to live in, without a screen: scope tree, list, verbs, clipboard and history. A host shows
+// what stands here and calls the operations when the person does something.
+//
+// An operation runs the node's handler, then what the handler asked to be done afterwards (key presses, selections),
+// then tells the observers what has changed. It answers false when there was nothing to do it with, or while another
+// operation is running; nothing is thrown out of any. Everything runs on one thread.
+class Shell final : public console::IConsole {
+public:
+    // All three outlive the shell.
+    Shell(SnapIn& snapIn, TaskQueue& tasks, const Observers& observers);
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+    ~Shell() override;
+
+    // Once: gives the snap-in its console, shows its root, and runs what that started, such as the login.
+    bool start();
+
+    // What people see.
+    const ScopeTree& tree() const { return tree_; }
+    const ResultPane& pane() const { return view_.pane; }
+    const ColumnHeader& header() const { return view_.header; }
+    const VerbStates& verbs() const { return view_.verbs; }
+    const ImageStrips& scopeImages() const { return scopeImages_; }
+    const ImageStrips& listImages() const { return view_.images; }
+    Target selection() const { return {view_.scope(), view_.row()}; }
+    bool busy() const { return running_; }
+
+    bool select(console::ScopeId id);
+    bool expand(console::ScopeId id);
+    bool collapse(console::ScopeId id);
+    // Opens everything above an item.
+    bool reveal(console::ScopeId id);
+    // 0 goes back to the scope item.
+    bool selectRow(console::ResultId id);
+    bool doubleClick(console::ResultId id);
+    // The person clicked a title: the list is sorted by that column, the other way round if it was already.
+    bool clickColumn(std::int32_t column);
+    // Of the selected row, else of the selected scope item.
+    bool refresh();
+    bool back();
+    bool forward();
+    bool canGoBack() const;
+    bool canGoForward() const;
+
+    std::vector<MenuItem> menu(const Target& target);
+    bool invoke(std::int32_t commandId, const Target& target);
+
+    // The verbs, for what is selected. Each is done only where it is offered.
+    bool canRename() const { return offers(console::Verb::rename); }
+    bool rename(const wire::WideString& newName);
+    bool canCut() const { return offers(console::Verb::cut); }
+    bool cut();
+    // Asks the node, so that it is not for use while one handles something.
+    bool canPaste();
+    bool paste();
+    bool canDelete() const { return offers(console::Verb::deleteItem); }
+    bool deleteItem();
+    // Dragging is cut and paste at once.
+    bool canDrop(const Target& source, console::ScopeId target);
+    bool drop(const Target& source, console::ScopeId target);
+
+    void sort(std::optional<SortOrder> order);
+    void filter(wire::WideStringView text);
+    // The list as it stands, sorted and filtered. Valid until the list changes.
+    Table table() const;
+    // The next item that holds the text, below the selected one; 0 when there is none. With `load` items that were
+    // never opened are looked into as well.
+    console::ScopeId find(wire::WideStringView text, bool load);
+
+    // Does what is queued; for hosts that queue something themselves.
+    bool drain();
+
+    // The owner of the snap-in's dialogs.
+    void setMainWindow(console::WindowHandle window) { mainWindow_ = window; }
+    // For automatic column widths; see ColumnHeader.
+    void setMeasure(std::function<std::int32_t(wire::WideStringView)> measure) {
+        view_.header.measure = std::move(measure);
+    }
+
+    // What nodes see.
+    console::IConsoleNameSpace& nameSpace() override { return tree_; }
+    console::IResultData& resultData() override { return view_.pane; }
+    console::IHeaderCtrl& headerCtrl() override { return view_.header; }
+    console::Result QueryConsoleVerb(console::IConsoleVerb*& verb) override;
+    console::Result QueryScopeImageList(console::IImageList*& images) override;
+    // Done when the running handler has returned.
+    console::Result SelectScopeItem(console::ScopeId scopeId) override;
+    console::Result GetMainWindow(console::WindowHandle& window) override;
+
+private:
+    bool operate(const std::function<bool()>& work);
+    void settle();
+    void run(const Task& task);
+    void commit();
+    bool show(console::ScopeId id);
+    bool step(console::ScopeId (ViewHistory::*direction)(const ViewHistory::Exists&));
+    bool offers(console::Verb verb) const { return view_.active() && verbs().offers(verb); }
+    bool accepts(const std::shared_ptr<console::CSnapInItem>& source);
+    std::shared_ptr<console::CSnapInItem> nodeOf(const Target& target);
+    ViewHistory::Exists exists() const;
+
+    SnapIn& snapIn_;
+    TaskQueue& tasks_;
+    const Observers& observers_;
+    Notifier notifier_;
+    ScopeTree tree_;
+    View view_;
+    ImageStrips scopeImages_;
+    ViewHistory history_;
+    std::shared_ptr<console::CSnapInItem> clipboard_;
+    console::WindowHandle mainWindow_ = 1;
+    bool running_ = false;
+    bool started_ = false;
+};
+
+} // namespace shell

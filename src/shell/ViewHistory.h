@@ -1,0 +1,35 @@
+#pragma once
+
+#include "console/ItemFields.h"
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace shell {
+
+// The scope items that were shown one after the other, to go back and forward among.
+class ViewHistory {
+public:
+    using Exists = std::function<bool(console::ScopeId)>;
+
+    // What was ahead is forgotten.
+    void visit(console::ScopeId id);
+    // The nearest other item that still exists; 0 when there is none. Items that are gone are skipped.
+    console::ScopeId back(const Exists& exists);
+    console::ScopeId forward(const Exists& exists);
+    bool canGoBack(const Exists& exists) const;
+    bool canGoForward(const Exists& exists) const;
+
+private:
+    static constexpr std::size_t longest = 200;
+
+    // The place in visited_ where a step ends, or visited_.size().
+    std::size_t before(const Exists& exists) const;
+    std::size_t after(const Exists& exists) const;
+
+    std::vector<console::ScopeId> visited_;
+    std::size_t current_ = 0;
+};
+
+} // namespace shell
