@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <new>
 #include <utility>
 
@@ -143,7 +144,9 @@ bool CTrans::getMessages(const TransLogger& logger, const char* logPrefix) {
                        std::to_string(received),
                    socketError_);
     }
-    if (wire::frameChecksum(rawBuffer_) != checksum) {
+    // What is longer than a read can count has been received over itself, even where the sum happens to be right.
+    const bool overrun = rawLength_ > std::numeric_limits<std::uint16_t>::max();
+    if (overrun || wire::frameChecksum(rawBuffer_) != checksum) {
         log.report("checksum error", 0);
         return false;
     }

@@ -17,6 +17,7 @@ using Bytes = std::vector<std::uint8_t>;
 // The reverse, for readable failures: "01 05 00".
 [[nodiscard]] std::string toHex(const Bytes& bytes);
 
+// To be named with a using declaration: the type itself lives elsewhere.
 [[nodiscard]] Bytes operator+(Bytes left, const Bytes& right);
 
 // A message of the kind 1 around the bytes of its fields.

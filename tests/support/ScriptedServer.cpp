@@ -200,6 +200,10 @@ void ScriptedServer::Connection::close() {
     }
 }
 
+void ScriptedServer::Connection::endSending() {
+    ::shutdown(socket_, SHUT_WR);
+}
+
 void ScriptedServer::Connection::reset() {
     const linger atOnce{.l_onoff = 1, .l_linger = 0};
     ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);

@@ -39,6 +39,9 @@ public:
 
         void close();
 
+        // Ends the server's side: the peer reads to an end, but may still send.
+        void endSending();
+
         // Ends the connection so that the peer sees a reset.
         void reset();
 
@@ -83,8 +86,8 @@ private:
     void record(std::size_t connection, const std::uint8_t* bytes, std::size_t count);
 
     std::vector<Script> scripts_;
+    std::uint16_t port_ = 0; // before the listener, which sets it
     int listener_;
-    std::uint16_t port_ = 0;
     std::atomic<bool> stopping_ = false;
     mutable std::mutex mutex_; // guards received_ and failure_
     std::vector<Bytes> received_;
