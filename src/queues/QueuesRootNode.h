@@ -20,6 +20,7 @@ public:
     static void refreshInstance(console::IConsole& console);
 
     console::ScopeId scopeId() const { return row(); }
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 
 private:
     static QueuesRootNode* instance_;

@@ -1,0 +1,222 @@
+#include "printers/PrinterNode.h"
+
+#include "queues/QueueNode.h"
+#include "tests/printers/PrinterTree.h"
+
+namespace {
+
+using console::Answer;
+using console::DataObjectType;
+using console::Key;
+using console::Result;
+using support::nodeOf;
+using support::rowOf;
+using support::shownNode;
+
+class Printer : public PrinterTree {
+protected:
+    Printer() {
+        auto lobby = support::printer("q1", 1, u"Lobby");
+        lobby.jobs = 3;
+        lobby.printingStatus = 1;
+        estate_.queuesOfPrinter["p1"] = {lobby, support::printer("q2", 1, u"Office")};
+    }
+
+    const Presses refreshes(int count) { return Presses(static_cast<std::size_t>(count), {Key::f5}); }
+};
+
+constexpr const char16_t* question = u"Are you sure you want to delete the selected printer?";
+
+TEST_F(Printer, holdsItsQueuesLastOfTheListFirst) {
+    openNorth();
+
+    expandNode(u"Copier");
+
+    EXPECT_EQ(console_.childNames(rowOf(console_, u"Copier")), (Names{u"Office", u"Lobby"}));
+    EXPECT_EQ(estate_.requests(4).back(), "6: 02 00 70 31 00 00 00 00 01 00");
+}
+
+TEST_F(Printer, showsItsQueuesInThreeColumns) {
+    openNorth();
+    expandNode(u"Copier");
+
+    show(console_, *nodeOf(console_, u"Copier"));
+
+    EXPECT_EQ(console_.titles(), (Names{u"Queue", u"Jobs", u"Status"}));
+    EXPECT_EQ(console_.columns.at(0).width, 250);
+    EXPECT_EQ(console_.columns.at(1).width, 250);
+    EXPECT_EQ(console_.columns.at(2).width, 400);
+    EXPECT_EQ(console_.table(), (Table{{u"Office", u"0", u""}, {u"Lobby", u"3", u"Dispatcher"}}));
+}
+
+TEST_F(Printer, showsItsQueuesFromMemory) {
+    openNorth();
+    expandNode(u"Copier");
+    const auto commands = platform_.commands().size();
+
+    show(console_, *nodeOf(console_, u"Copier"));
+
+    EXPECT_EQ(platform_.commands().size(), commands);
+}
+
+TEST_F(Printer, asksForTheSameQueuesAgainOnARefresh) {
+    openNorth();
+    expandNode(u"Copier");
+
+    support::expand(console_, *nodeOf(console_, u"Copier"), rowOf(console_, u"Copier"), 2);
+
+    EXPECT_EQ(estate_.requests(5).back(), "6: 02 00 70 31 00 00 00 00 01 00");
+    EXPECT_EQ(console_.childNames(rowOf(console_, u"Copier")), (Names{u"Office", u"Lobby"}));
+}
+
+TEST_F(Printer, keepsTheRowsOfItsQueuesAcrossARefresh) {
+    openNorth();
+    expandNode(u"Copier");
+    show(console_, *nodeOf(console_, u"Copier"));
+    estate_.queuesOfPrinter["p1"].front().name = u"Foyer";
+
+    refresh(console_, *nodeOf(console_, u"Copier"), rowOf(console_, u"Copier"));
+
+    console::ResultItemFields* fields = nullptr;
+    nodeOf(console_, u"Foyer")->GetResultData(&fields);
+    EXPECT_EQ(fields->itemID, console_.resultRows.at(1).id);
+}
+
+TEST_F(Printer, keepsItsQueuesForTheListWhenTheServerDoesNotAnswer) {
+    openNorth();
+    expandNode(u"Copier");
+    estate_.goOffline();
+
+    EXPECT_EQ(expandNode(u"Copier"), Result::notDone);
+    show(console_, *nodeOf(console_, u"Copier"));
+
+    EXPECT_EQ(console_.resultRows.size(), 2U);
+}
+
+TEST_F(Printer, withAStatusByteOf0x34ShowsSnmpStatusInTheTree) {
+    estate_.printers[0].snmpStatus = 0x34;
+    openNorth();
+
+    EXPECT_EQ(wire::WideString(nodeOf(console_, u"Copier")->GetResultPaneColInfo(3)), u"SNMP status");
+}
+
+TEST_F(Printer, hasNoTextBeyondItsSixColumns) {
+    openNorth();
+
+    EXPECT_EQ(wire::WideString(nodeOf(console_, u"Copier")->GetResultPaneColInfo(6)), u"");
+    EXPECT_EQ(wire::WideString(nodeOf(console_, u"Copier")->GetResultPaneColInfo(-1)), u"");
+}
+
+TEST_F(Printer, offersToBeDeleted) {
+    openNorth();
+
+    EXPECT_EQ(menuOf(console_, *nodeOf(console_, u"Copier")),
+              (Menu{{u"Delete Printer", u"To delete printer", 293, 0}}));
+}
+
+TEST_F(Printer, setsItsVerbsInOrderAndDoesNotTouchRefresh) {
+    openNorth();
+
+    EXPECT_EQ(verbsOf(console_, *nodeOf(console_, u"Copier")),
+              (Strings{"rename off", "delete off", "cut on", "copy off", "paste on"}));
+}
+
+TEST_F(Printer, isDeletedAfterTheQuestion) {
+    openNorth();
+    watchQueues();
+    const auto row = idOf(u"Copier");
+    platform_.ui.expectBox(Answer::ok, question);
+
+    EXPECT_EQ(nodeOf(console_, u"Copier")->Command(293, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"36: 01 02 00 70 31"});
+    EXPECT_EQ(console_.calls,
+              (Strings{"DeleteItem " + row + " itself", queuesRefreshed(), "SelectScopeItem " + idOf(u"North")}));
+    EXPECT_EQ(platform_.ui.presses(), refreshes(3)); // one of the handler, two of the command
+}
+
+TEST_F(Printer, leavesTheListWhenItIsDeletedFromThere) {
+    openNorth();
+    show(console_, *nodeOf(console_, u"North"));
+    platform_.ui.expectBox(Answer::ok, question);
+
+    shownNode(console_, u"Copier")->Command(293, DataObjectType::result);
+
+    EXPECT_EQ(console_.table().size(), 2U);
+    EXPECT_EQ(console_.childNames(rowOf(console_, u"North")), (Names{u"Harbour", u"Plotter"}));
+    EXPECT_EQ(console_.calls.back(), "SelectScopeItem " + idOf(u"North"));
+}
+
+TEST_F(Printer, leavesTheListAloneWhenItIsDeletedInTheTree) {
+    openNorth();
+    show(console_, *nodeOf(console_, u"North"));
+    platform_.ui.expectBox(Answer::ok, question);
+
+    shownNode(console_, u"Copier")->Command(293, DataObjectType::scope);
+
+    EXPECT_EQ(console_.resultRows.size(), 3U);
+}
+
+TEST_F(Printer, staysWhenTheQuestionIsAnsweredWithCancelAndIsRefreshedTwice) {
+    openNorth();
+    const auto commands = platform_.commands().size();
+    platform_.ui.expectBox(Answer::cancel, question);
+
+    EXPECT_EQ(nodeOf(console_, u"Copier")->Command(293, DataObjectType::scope), Result::notDone);
+
+    EXPECT_EQ(platform_.commands().size(), commands);
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_EQ(platform_.ui.presses(), refreshes(2));
+}
+
+TEST_F(Printer, staysWhenTheDeleteCannotBeSent) {
+    openNorth();
+    const auto copier = nodeOf(console_, u"Copier");
+    estate_.goOffline();
+    platform_.ui.expectBox(Answer::ok, question);
+
+    EXPECT_EQ(copier->Command(293, DataObjectType::scope), Result::notDone);
+
+    EXPECT_TRUE(console_.calls.empty());
+}
+
+TEST_F(Printer, isRefreshedTwiceAfterACommandThatIsNotItsOwn) {
+    openNorth();
+
+    EXPECT_EQ(nodeOf(console_, u"Copier")->Command(999, DataObjectType::scope), Result::notDone);
+
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_EQ(platform_.ui.presses(), refreshes(2));
+}
+
+TEST_F(Printer, isRenamedOnTheServerAndItsParentReadAgain) {
+    openNorth();
+
+    EXPECT_EQ(rename(console_, *nodeOf(console_, u"Copier"), u"B"), Result::ok);
+
+    const auto update = estate_.changes(1).front();
+    EXPECT_TRUE(update.starts_with("10: 00 00 00 00 02 00 70 31 02 00 42 00 ")) << update;
+    EXPECT_EQ(console_.calls, Strings{"SelectScopeItem " + idOf(u"North")});
+    EXPECT_EQ(platform_.ui.presses(), refreshes(1));
+}
+
+TEST_F(Printer, keepsItsNameWhenTheServerRefusesTheNewOne) {
+    estate_.updateReply = {.caption = u"Rename", .text = u"That name is taken.", .style = 0x30};
+    openNorth();
+
+    EXPECT_EQ(rename(console_, *nodeOf(console_, u"Copier"), u"Plotter"), Result::notDone);
+
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_TRUE(platform_.ui.presses().empty());
+}
+
+TEST_F(Printer, isDeletedByAConsoleThatTakesAMoveForACopy) {
+    openNorth();
+    const auto copier = nodeOf(console_, u"Copier");
+
+    EXPECT_EQ(notify(console_, *copier, {.event = console::Event::cutOrMove, .source = copier.get()}), Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"36: 01 02 00 70 31"});
+}
+
+} // namespace

@@ -1,0 +1,120 @@
+#include "snapin/Print.h"
+
+#include "printers/PrinterNode.h"
+#include "printers/PrinterRegionNode.h"
+#include "queues/QueueNode.h"
+#include "tests/support/FakeEstate.h"
+#include "tests/support/NodeDriver.h"
+#include "tests/support/TestPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace {
+
+using console::Result;
+using Node = std::shared_ptr<console::CSnapInItem>;
+
+constexpr std::int32_t imagesInCommonStrip = 22;
+
+// One node of every class of the tree.
+class AllNodes : public ::testing::Test {
+protected:
+    AllNodes() {
+        const auto& root = print_.root();
+        add(print_.root().shared_from_this());
+        add(root.printServer().shared_from_this());
+        for (const auto& branch : root.printServer().branches()) {
+            add(branch);
+        }
+        add(std::make_shared<printers::PrinterRegionNode>(platform_, support::region(1, 0, u"North")));
+        add(std::make_shared<printers::PrinterNode>(platform_, support::printer("p1", 1, u"Copier")));
+        add(std::make_shared<queues::QueueNode>(platform_, support::printer("q1", 1, u"Lobby"),
+                                                queues::QueueMode::queue));
+        add(std::make_shared<queues::QueueNode>(platform_, support::printer("q2", 1, u"Anywhere"),
+                                                queues::QueueMode::followPrint));
+    }
+
+    void add(Node node) { nodes_.push_back(std::move(node)); }
+
+    support::TestPlatform platform_;
+    support::RecordingConsole console_;
+    snapin::Print print_{platform_};
+    std::vector<Node> nodes_;
+};
+
+TEST_F(AllNodes, haveNames) {
+    for (const Node& node : nodes_) {
+        EXPECT_FALSE(node->displayName().empty()) << node->className();
+        EXPECT_FALSE(node->nodeIdentity().displayName.empty()) << node->className();
+        EXPECT_FALSE(node->refreshKey().empty()) << node->className();
+        EXPECT_TRUE(node->className().starts_with("class ")) << node->className();
+    }
+}
+
+TEST_F(AllNodes, pointIntoTheirStripOfImages) {
+    for (const Node& node : nodes_) {
+        const auto& identity = node->nodeIdentity();
+        EXPECT_EQ(identity.strip, console::commonStrip) << node->className();
+        EXPECT_GE(identity.image, 0) << node->className();
+        EXPECT_LT(identity.image, imagesInCommonStrip) << node->className();
+        EXPECT_GE(identity.openImage, 0) << node->className();
+        EXPECT_LT(identity.openImage, imagesInCommonStrip) << node->className();
+    }
+}
+
+TEST_F(AllNodes, haveMenusWithTextsAndUniqueIds) {
+    for (const Node& node : nodes_) {
+        std::set<std::int32_t> ids;
+        for (const auto& entry : menuOf(console_, *node)) {
+            if (entry.flags == console::menuSeparator) {
+                EXPECT_EQ(entry.id, 0) << node->className();
+                continue;
+            }
+            EXPECT_FALSE(entry.text.empty()) << node->className();
+            EXPECT_FALSE(entry.statusBarText.empty()) << node->className();
+            EXPECT_NE(entry.id, 0) << node->className();
+            EXPECT_TRUE(ids.insert(entry.id).second) << node->className() << " has " << entry.id << " twice";
+        }
+    }
+}
+
+TEST_F(AllNodes, haveSeparatorsOnlyBetweenEntries) {
+    for (const Node& node : nodes_) {
+        bool betweenEntries = false;
+        for (const auto& entry : menuOf(console_, *node)) {
+            const bool isSeparator = entry.flags == console::menuSeparator;
+            EXPECT_TRUE(!isSeparator || betweenEntries) << node->className();
+            betweenEntries = !isSeparator;
+        }
+        EXPECT_TRUE(betweenEntries || console_.menu.empty()) << node->className();
+    }
+}
+
+TEST_F(AllNodes, addNothingToAMenuThatDoesNotAllowIt) {
+    for (const Node& node : nodes_) {
+        EXPECT_EQ(node->AddMenuItems(console_, 0, console::DataObjectType::scope), Result::notDone);
+    }
+    EXPECT_TRUE(console_.menu.empty());
+}
+
+TEST_F(AllNodes, leaveTheTreeUntouchedForACommandThatIsNotTheirs) {
+    for (const Node& node : nodes_) {
+        EXPECT_EQ(node->Command(1, console::DataObjectType::scope), Result::notDone) << node->className();
+    }
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_TRUE(platform_.commands().empty());
+}
+
+TEST_F(AllNodes, answerTheirClassNameForTheClipboardAndNotTheirOwn) {
+    const auto region = nodes_.at(10);
+    std::vector<std::uint8_t> stream;
+
+    EXPECT_EQ(region->FillData(console::ClipboardFormat::displayName, stream), Result::ok);
+
+    EXPECT_EQ(support::toHex({stream.begin(), stream.end()}), "52 00 65 00 67 00 69 00 6F 00 6E 00 00 00");
+    EXPECT_EQ(region->displayName(), u"North");
+}
+
+} // namespace

@@ -1,0 +1,73 @@
+#include "tests/snapin/LoginSteps.h"
+
+namespace {
+
+using console::Answer;
+using console::Key;
+using Presses = std::vector<std::vector<Key>>;
+using Windows = std::vector<console::WindowHandle>;
+
+constexpr console::WindowHandle mainWindow = 11;
+constexpr const char16_t* connected = u"Connected to Vantrel Print Management Server";
+
+class LoginThread : public LoginSteps {};
+
+TEST_F(LoginThread, bringsTheWindowToTheFrontSaysSoAndPressesF5) {
+    support::FakeLoginServer server({1});
+    expectLogin(server);
+    platform_.ui.expectBox(Answer::ok, connected);
+
+    snapin::runLoginThread(platform_, mainWindow);
+
+    EXPECT_EQ(platform_.ui.formOwners, Windows{mainWindow});
+    EXPECT_EQ(platform_.ui.foreground, Windows{mainWindow});
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::up}, {Key::f5}}));
+    EXPECT_EQ(platform_.ui.boxes().front().owner, mainWindow);
+    EXPECT_EQ(platform_.ui.boxes().front().caption, u"Success!");
+    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconInformation);
+    EXPECT_EQ(snapin::loginDone, 1U);
+}
+
+TEST_F(LoginThread, closesTheConsoleWhenTheLoginIsCancelled) {
+    expectCancel();
+
+    snapin::runLoginThread(platform_, mainWindow);
+
+    EXPECT_EQ(platform_.ui.closed, Windows{mainWindow});
+    EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
+    EXPECT_TRUE(platform_.ui.foreground.empty());
+    EXPECT_EQ(snapin::loginDone, 1U);
+}
+
+TEST_F(LoginThread, onlyPressesF5OnceTheLoginIsDone) {
+    snapin::loginDone = 1;
+
+    snapin::runLoginThread(platform_, mainWindow);
+
+    EXPECT_TRUE(platform_.ui.forms().empty());
+    EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
+}
+
+TEST_F(LoginThread, letsNoExceptionOut) {
+    class Broken final : public console::UserInterface {
+    public:
+        Answer messageBox(console::WindowHandle, const wire::WideString&, const wire::WideString&,
+                          std::uint32_t) override {
+            return Answer::ok;
+        }
+        int runModal(console::Form&, console::WindowHandle) override { throw std::runtime_error("no screen"); }
+        void press(std::span<const Key>) override {}
+        void startThread(std::function<void()>) override {}
+        console::WindowHandle activeWindow() override { return 0; }
+        void setForeground(console::WindowHandle) override {}
+        void close(console::WindowHandle) override {}
+    };
+    Broken ui;
+    console::Platform broken{.ui = ui, .settings = platform_.settings, .hooks = platform_.platform().hooks};
+
+    EXPECT_NO_THROW(snapin::runLoginThread(broken, mainWindow));
+
+    EXPECT_EQ(platform_.failures(), std::vector<std::string>{"login: no screen"});
+}
+
+} // namespace

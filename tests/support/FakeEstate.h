@@ -1,0 +1,56 @@
+#pragma once
+
+#include "client/ClientHooks.h"
+#include "protocol/PrinterRecord.h"
+#include "protocol/RegionRecord.h"
+#include "protocol/StatusReply.h"
+#include "tests/support/ScriptedServer.h"
+
+#include <condition_variable>
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace support {
+
+// A server on a real loopback socket that lists what the test puts into it and notes down what it is asked. It changes
+// nothing by itself. While it lives, the console's settings name it.
+class FakeEstate {
+public:
+    explicit FakeEstate(client::ClientHooks hooks = {});
+    ~FakeEstate();
+    FakeEstate(const FakeEstate&) = delete;
+    FakeEstate& operator=(const FakeEstate&) = delete;
+
+    // Set these between commands only. Lists go out in the order in which they stand here.
+    std::vector<protocol::RegionRecord> regions;
+    std::vector<protocol::PrinterRecord> printers;
+    std::vector<protocol::PrinterRecord> followQueues;
+    std::map<std::string, std::vector<protocol::PrinterRecord>> queuesOfPrinter;
+    protocol::StatusReply updateReply;
+
+    // From now on there is nobody to connect to.
+    void goOffline();
+
+    // All commands so far, once so many have come, as "45: 05 00 00 00 00" with the bytes of the fields in hex.
+    std::vector<std::string> requests(std::size_t count);
+    // The same without those that only list.
+    std::vector<std::string> changes(std::size_t count);
+
+private:
+    void answer(ScriptedServer::Connection& connection);
+    std::vector<Bytes> listPrinterRecords(const Bytes& message) const;
+
+    std::mutex mutex_;
+    std::condition_variable noted_;
+    std::vector<std::string> requests_;
+    ScriptedServer server_;
+};
+
+// Records with the fields that tests mostly care for.
+protocol::RegionRecord region(std::int32_t id, std::int32_t parentId, wire::WideString name);
+protocol::PrinterRecord printer(std::string id, std::int32_t regionId, wire::WideString name);
+
+} // namespace support
