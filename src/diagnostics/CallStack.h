@@ -1,11 +1,25 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace QvxDiagnostics {
 
-// The stack of the calling thread as text, one line for each frame: "module: symbol + 12 bytes". Throws nothing: a dump
-// that fails reads "Failed to get stack dump!" and why.
-[[nodiscard]] std::string stackDump();
+// Where one function on the stack stands; an empty module or symbol isn't known.
+struct StackFrame {
+    std::string module;
+    std::string symbol;
+    std::uint64_t offset = 0; // into the symbol, in bytes
+};
+
+using StackSource = std::vector<StackFrame> (*)();
+
+// The stack of the calling thread, innermost frame first; throws a std::exception when the platform gives none.
+[[nodiscard]] std::vector<StackFrame> captureStack();
+
+// The stack as text, one line for each frame: "module: symbol + 12 bytes". Throws nothing: a dump that fails reads
+// "Failed to get stack dump!" and why.
+[[nodiscard]] std::string stackDump(StackSource source = captureStack);
 
 } // namespace QvxDiagnostics

@@ -2,6 +2,11 @@
 
 #include "diagnostics/LoggerI.h"
 
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace QvxDiagnostics {
 
 // Writes log lines to a text file, which it opens anew for each line, so that the file holds the latest one. A file
@@ -19,8 +24,5 @@ private:
 
 // Adds a file logger with the console's own log file.
 void installFileLogger();
-
-// Where that file is: "C:\tmp\mmc_log.txt" on Windows, mmc_log.txt in the folder for temporary files elsewhere.
-[[nodiscard]] std::string logFilePath();
 
 } // namespace QvxDiagnostics

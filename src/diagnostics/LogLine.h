@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace QvxDiagnostics {
+
+// A log line with its end, and the stack dump below it if that is asked for. Items are parted by "|".
+[[nodiscard]] std::string logLine(std::uint32_t flags, std::string_view file, std::uint32_t line,
+                                  std::string_view function, std::string_view level, std::string_view message,
+                                  const std::vector<std::string>& tags);
+
+} // namespace QvxDiagnostics
