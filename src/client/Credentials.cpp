@@ -9,6 +9,7 @@ namespace client {
 namespace {
 
 constexpr unsigned long modulusBits = 2048;
+constexpr std::size_t longestKey = 4096; // bytes; a key of that modulus has some 300
 using CipherBuffer = std::array<unsigned char, 4096>;
 
 const unsigned char* bytesOf(const std::string& text) {
@@ -24,7 +25,9 @@ void traceEncoding() {
 class ImportedKey {
 public:
     explicit ImportedKey(const std::string& der)
-        : valid_(rsa_import(bytesOf(der), static_cast<unsigned long>(der.size()), &key_) == CRYPT_OK) {}
+        // The library ends the program over an empty key, and a huge one would keep it busy for hours.
+        : valid_(!der.empty() && der.size() <= longestKey &&
+                 rsa_import(bytesOf(der), static_cast<unsigned long>(der.size()), &key_) == CRYPT_OK) {}
     ~ImportedKey() {
         if (valid_)
             rsa_free(&key_);

@@ -1,5 +1,6 @@
 #include "client/PrinterRecordEdit.h"
 
+#include "client/ConnectFailed.h"
 #include "protocol/PrinterListMode.h"
 #include "protocol/RecordType.h"
 
@@ -60,7 +61,8 @@ PrinterRecordEdit::PrinterRecordEdit(const std::string& id, std::uint16_t record
     if (id.empty())
         throw std::runtime_error("No printer ID");
     std::int16_t count = 0;
-    server_.getRecordById(id, loadMode(recordType), count);
+    if (!server_.getRecordById(id, loadMode(recordType), count))
+        throw ConnectFailed();
     if (!server_.nextPrinterRecord(record_))
         throw std::runtime_error("No such printer");
     record_.recordType = storedType(recordType);

@@ -13,14 +13,18 @@ template <class Record>
 class RecordCursor {
 public:
     void fill(std::vector<Record> records) {
-        records_ = std::move(records);
-        remaining_ = records_.size();
+        const std::size_t remaining = records.size();
+        fill(std::move(records), remaining);
     }
 
-    // The list that a command reads into; restart() makes its records those to hand out.
-    std::vector<Record>& records() { return records_; }
+    // With the number of records that are to be handed out.
+    void fill(std::vector<Record> records, std::size_t remaining) {
+        records_ = std::move(records);
+        remaining_ = remaining;
+    }
+
+    // Those that have not been handed out, in the order in which they came.
     const std::vector<Record>& records() const { return records_; }
-    void restart(std::size_t remaining) { remaining_ = remaining; }
 
     // Hands the next record over; none when all have been. Throws std::out_of_range "invalid vector<T> subscript" when
     // fewer records are there than remain.
