@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace QvxDiagnostics;
@@ -27,8 +28,8 @@ TEST(CallStack, aDumpThatFailsInAnUnknownWaySaysSo) {
               "Failed to get stack dump, unknown exception occurred");
 }
 
-TEST(CallStack, thePlatformGivesAtLeastTheFrameThatAsked) {
+TEST(CallStack, thePlatformNamesTheProgramThatAsked) {
     const std::vector<StackFrame> frames = captureStack();
-    ASSERT_FALSE(frames.empty());
-    EXPECT_EQ(frames.front().module, "diagnostics_tests");
+    EXPECT_TRUE(std::any_of(frames.begin(), frames.end(),
+                            [](const StackFrame& frame) { return frame.module == "diagnostics_tests"; }));
 }

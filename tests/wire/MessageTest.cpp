@@ -352,8 +352,8 @@ TEST(Message, theShortWayForPlainWideTextGivesWhatTheConverterGives) {
                 written.putWideString(text);
                 written.rewind();
                 const auto units = converter.toUTF16(false, 3);
-                Bytes expected(converter.byteLength(false));
-                std::memcpy(expected.data(), units.get(), expected.size());
+                const auto* const encoded = reinterpret_cast<const std::uint8_t*>(units.get());
+                const Bytes expected(encoded, encoded + converter.byteLength(false));
                 EXPECT_EQ(toHex({written.bytes().begin() + 7, written.bytes().end()}), toHex(expected));
 
                 Bytes raw(2 * length);
