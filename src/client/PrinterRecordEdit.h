@@ -21,7 +21,7 @@ public:
 
     // The record with that id, by a type of protocol::recordType; 9 and 10 make a new printer and a new queue of it
     // when it is saved. Throws std::runtime_error "No printer ID" for an empty id and "No such printer" when the server
-    // has none, and what loading throws.
+    // has none, ConnectFailed when it does not answer, and what loading throws.
     PrinterRecordEdit(const std::string& id, std::uint16_t recordType,
                       std::shared_ptr<CQVXAdminClassProperties> settings = theProperties);
 
