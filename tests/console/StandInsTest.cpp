@@ -1,0 +1,124 @@
+#include "tests/console/SampleForm.h"
+#include "tests/console/ShelfNode.h"
+#include "tests/support/FormChecks.h"
+#include "tests/support/RecordingConsole.h"
+#include "tests/support/TestPlatform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+
+namespace console {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(FakeUserInterface, failsOnAnUnexpectedBox) {
+    support::TestPlatform platform;
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel),
+                            "unexpected box \"Sure?\" (Warning)");
+}
+
+TEST(FakeUserInterface, failsOnAnUnexpectedFormAndCancelsIt) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    EXPECT_NONFATAL_FAILURE(platform.ui.runModal(form, 0), "unexpected form \"Sample\"");
+    EXPECT_TRUE(form.ended());
+}
+
+TEST(FakeUserInterface, failsOnAnAnswerLeftOver) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            support::FakeUserInterface ui;
+            ui.expectBox(Answer::ok, u"Sure?");
+        },
+        "never came: a box \"Sure?\"");
+}
+
+TEST(FakeUserInterface, failsOnAButtonThatTheBoxDoesNotHave) {
+    support::TestPlatform platform;
+    platform.ui.expectBox(Answer::yes);
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel), "no such button");
+}
+
+TEST(FakeUserInterface, failsOnAnotherQuestionThanTheOneAnnounced) {
+    support::TestPlatform platform;
+    platform.ui.expectBox(Answer::ok, u"Delete?");
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel), "Delete?");
+}
+
+TEST(FakeUserInterface, failsOnAFormThatTheScriptLeavesOpen) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    platform.ui.expectForm([](Form&) {});
+    EXPECT_NONFATAL_FAILURE(platform.ui.runModal(form, 0), "left \"Sample\" open");
+}
+
+TEST(FakeUserInterface, aScriptGetsTheFormAsItsOwnClass) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    platform.ui.expect<SampleForm>([](SampleForm& sample) {
+        sample.name.userTyped(u"North");
+        sample.okButton().userPressed();
+    });
+    EXPECT_EQ(platform.ui.runModal(form, 0), idOk);
+    EXPECT_EQ(form.name.text(), u"North");
+}
+
+TEST(FakeUserInterface, keepsThreadsForLaterWhenTold) {
+    support::TestPlatform platform;
+    std::vector<int> ran;
+    platform.ui.startThread([&] { ran.push_back(1); });
+    platform.ui.runThreadsAtOnce = false;
+    platform.ui.startThread([&] { ran.push_back(2); });
+    EXPECT_THAT(ran, ElementsAre(1));
+    EXPECT_EQ(platform.ui.waitingThreads(), 1U);
+    platform.ui.runThreads();
+    EXPECT_THAT(ran, ElementsAre(1, 2));
+}
+
+TEST(RecordingConsole, takingARowAwayTakesAllBelowIt) {
+    support::TestPlatform platform;
+    support::RecordingConsole host;
+    const auto top = host.addScopeRow(std::make_shared<ShelfNode>(platform));
+    const auto middle = host.addScopeRow(std::make_shared<ShelfNode>(platform), top);
+    host.addScopeRow(std::make_shared<ShelfNode>(platform), middle);
+    static_cast<IConsoleNameSpace&>(host).DeleteItem(top, false);
+    EXPECT_EQ(host.scopeRows.size(), 1U);
+}
+
+TEST(RecordingConsole, failsOnANodeThatNobodyOwns) {
+    support::TestPlatform platform;
+    support::RecordingConsole host;
+    ShelfNode shelf(platform);
+    EXPECT_NONFATAL_FAILURE(static_cast<IConsoleNameSpace&>(host).InsertItem(shelf.scopeFields()), "can be kept");
+}
+
+TEST(FormChecks, findAControlWithoutALabel) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    EditBox nameless(form, u"");
+    EXPECT_NONFATAL_FAILURE(support::expectSound(form), "a control without a label");
+}
+
+TEST(FormChecks, findTwoControlsWithOneLabel) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    EditBox second(form, u" Pass&WORD ");
+    EXPECT_NONFATAL_FAILURE(support::expectSound(form), "two with this label");
+}
+
+TEST(MemorySettingsStore, answersAsItIsToldTo) {
+    support::MemorySettingsStore settings;
+    settings.opens = false;
+    EXPECT_FALSE(settings.exists());
+    EXPECT_TRUE(settings.write("UserName", u"eva"));
+    EXPECT_TRUE(settings.exists());
+    EXPECT_EQ(settings.read("UserName"), u"eva");
+    settings.stores = false;
+    EXPECT_FALSE(settings.write("UserName", u"adam"));
+    EXPECT_EQ(settings.read("UserName"), u"eva");
+}
+
+} // namespace
+} // namespace console
