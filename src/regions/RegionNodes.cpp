@@ -9,8 +9,7 @@ bool readRegionsBelow(client::CQVXAdminClass& client, protocol::RegionKind kind,
         return false;
     }
     std::vector<protocol::RegionRecord> found;
-    protocol::RegionRecord region;
-    while (client.nextRegion(region.id, region.parentId, region.name)) {
+    for (protocol::RegionRecord region; client.nextRegion(region.id, region.parentId, region.name); region = {}) {
         if (region.parentId == parentId) {
             found.push_back(std::move(region));
         }

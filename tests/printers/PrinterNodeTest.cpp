@@ -22,7 +22,7 @@ protected:
         estate_.queuesOfPrinter["p1"] = {lobby, support::printer("q2", 1, u"Office")};
     }
 
-    const Presses refreshes(int count) { return Presses(static_cast<std::size_t>(count), {Key::f5}); }
+    static Presses refreshes(int count) { return Presses(static_cast<std::size_t>(count), {Key::f5}); }
 };
 
 constexpr const char16_t* question = u"Are you sure you want to delete the selected printer?";

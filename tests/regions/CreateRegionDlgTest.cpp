@@ -2,7 +2,6 @@
 
 #include "client/CQVXAdminClassProperties.h"
 #include "tests/support/FakeEstate.h"
-#include "tests/support/FormChecks.h"
 #include "tests/support/TestPlatform.h"
 
 #include <gtest/gtest.h>
@@ -96,12 +95,6 @@ TEST_F(CreateRegionDialog, endsWithoutAWordWhenTheServerCannotBeReached) {
     EXPECT_EQ(dialog.result(), 1);
     EXPECT_TRUE(platform_.ui.boxes().empty());
     EXPECT_TRUE(platform_.failures().empty());
-}
-
-TEST_F(CreateRegionDialog, canBeDrawnByEveryHost) {
-    CreateRegionDlg dialog(platform_, 0, CreateRegionDlg::Mode::printerTree);
-
-    support::expectSound(dialog);
 }
 
 } // namespace

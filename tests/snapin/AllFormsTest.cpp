@@ -1,0 +1,28 @@
+#include "regions/CreateRegionDlg.h"
+#include "snapin/AuthenticationDlg.h"
+#include "tests/support/FormChecks.h"
+#include "tests/support/TestPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+TEST(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
+    support::TestPlatform platform;
+    std::vector<std::unique_ptr<console::Form>> forms;
+    forms.push_back(std::make_unique<snapin::AuthenticationDlg>(platform));
+    forms.push_back(
+        std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree));
+
+    for (const auto& form : forms) {
+        SCOPED_TRACE(wire::toUtf8(form->title()));
+        support::expectSound(*form);
+    }
+
+    EXPECT_FALSE(forms.empty());
+}
+
+} // namespace
