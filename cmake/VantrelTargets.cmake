@@ -12,6 +12,7 @@ function(vantrel_library name)
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
     target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${ARG_BASE_DIR} FILES ${ARG_HEADERS})
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE vantrel_options ${ARG_PRIVATE_USES})
+    target_compile_features(${name} PUBLIC cxx_std_20) # also where a header is verified alone
 endfunction()
 
 # All programs that people run.
