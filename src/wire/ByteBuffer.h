@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -45,6 +46,9 @@ public:
         size_ = static_cast<std::uint32_t>(wanted);
         return end;
     }
+
+    // Takes off what stands behind the first so many bytes.
+    void cut(std::uint32_t size) { size_ = std::min(size, size_); }
 
     void append(const void* bytes, std::size_t count) {
         if (count != 0) {

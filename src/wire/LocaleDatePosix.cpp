@@ -3,7 +3,10 @@
 #include <array>
 #include <chrono>
 #include <clocale>
+#include <cstdlib>
 #include <ctime>
+#include <memory>
+#include <utility>
 
 #include <locale.h>
 
@@ -40,6 +43,23 @@ private:
     locale_t locale_;
 };
 
+// Loading a locale reads files, so that it is kept until the environment asks for another one.
+const UserLocale& userLocale() {
+    thread_local std::string loadedFor;
+    thread_local std::unique_ptr<UserLocale> locale;
+    std::string wanted;
+    for (const char* const name : {"LC_ALL", "LC_TIME", "LC_CTYPE", "LANG"}) {
+        const char* const value = std::getenv(name);
+        wanted += value == nullptr ? "" : value;
+        wanted += '\n';
+    }
+    if (!locale || wanted != loadedFor) {
+        locale = std::make_unique<UserLocale>();
+        loadedFor = std::move(wanted);
+    }
+    return *locale;
+}
+
 } // namespace
 
 std::string shortDate(const DateNumbers& numbers) {
@@ -59,7 +79,7 @@ std::string shortDate(const DateNumbers& numbers) {
     time.tm_mon = numbers.month - 1;
     time.tm_mday = numbers.day;
     time.tm_wday = static_cast<int>(weekday{sys_days{date}}.c_encoding());
-    return UserLocale().format("%x", time);
+    return userLocale().format("%x", time);
 }
 
 std::string timeOfDay(const DateNumbers& numbers) {
@@ -70,7 +90,7 @@ std::string timeOfDay(const DateNumbers& numbers) {
     time.tm_hour = numbers.hour;
     time.tm_min = numbers.minute;
     time.tm_sec = numbers.second;
-    return UserLocale().format("%X", time);
+    return userLocale().format("%X", time);
 }
 
 } // namespace wire

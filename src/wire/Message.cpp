@@ -3,49 +3,75 @@
 #include "wire/UTFConverter.h"
 
 #include <array>
+#include <functional>
+#include <numeric>
 
 namespace wire {
 
 namespace {
 
-constexpr std::uint64_t lanes = 0x0001000100010001;
-
-constexpr std::uint64_t zeroLanes(std::uint64_t units) {
-    return (units - lanes) & ~units & (lanes << 15);
-}
-
-// True for four units (or fewer, filled up with blanks) of which none is 0 or a surrogate.
-constexpr bool isPlain(std::uint64_t units) {
-    return (zeroLanes(units) | zeroLanes((units & (lanes * 0xF800)) ^ (lanes * 0xD800))) == 0;
-}
+using Units = std::uint16_t __attribute__((vector_size(16)));
+using FewUnits = std::uint16_t __attribute__((vector_size(8)));
 
 constexpr bool isMark(char16_t unit) {
     return unit == 0xFFFE || unit == 0xFEFF;
 }
+constexpr bool isPlain(char16_t unit) {
+    return unit != 0 && (unit & 0xF800) != 0xD800;
+}
 
-// True for text that the converter would give back unit by unit: no zero, no surrogate, no leading mark.
-bool isPlain(const std::uint8_t* bytes, std::size_t unitCount) {
-    if (unitCount == 0) {
+// Copies as many units as the vector holds; not zero where a unit is a zero or a surrogate.
+template <typename Vector>
+Vector copyVector(std::uint8_t* to, const std::uint8_t* from) {
+    Vector units;
+    std::memcpy(&units, from, sizeof units);
+    std::memcpy(to, &units, sizeof units);
+    return reinterpret_cast<Vector>(units == Vector{}) |
+           reinterpret_cast<Vector>((units & 0xF800) == (Vector{} + std::uint16_t{0xD800}));
+}
+
+template <typename Vector>
+bool isZero(const Vector& vector) {
+    std::array<std::uint64_t, sizeof vector / sizeof(std::uint64_t)> words;
+    std::memcpy(words.data(), &vector, sizeof vector);
+    return std::accumulate(words.begin(), words.end(), std::uint64_t{0}, std::bit_or<>()) == 0;
+}
+
+// Copies with the last vector laid over the one before it, so that no single units are left over.
+template <typename Vector>
+bool copyVectors(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
+    constexpr std::size_t step = sizeof(Vector);
+    Vector strange{};
+    for (std::size_t offset = 0; offset + step < length; offset += step) {
+        strange |= copyVector<Vector>(to + offset, from + offset);
+    }
+    return isZero(strange | copyVector<Vector>(to + length - step, from + length - step));
+}
+
+// Copies UTF-16 text of so many bytes. True when the converter would give it back unit by unit, which holds for nearly
+// all text: no zero, no surrogate, no leading mark. Else the copy is of no use.
+bool copyPlain(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
+    if (length == 0) {
         return true;
     }
-    char16_t first = 0;
-    std::memcpy(&first, bytes, sizeof first);
-    if (isMark(first)) {
+    char16_t unit = 0;
+    std::memcpy(&unit, from, sizeof unit);
+    if (isMark(unit)) {
         return false;
     }
-    constexpr std::size_t step = sizeof(std::uint64_t);
-    const std::size_t length = unitCount * sizeof(char16_t);
-    std::size_t offset = 0;
-    for (; offset + step <= length; offset += step) {
-        std::uint64_t units = 0;
-        std::memcpy(&units, bytes + offset, step);
-        if (!isPlain(units)) {
-            return false;
-        }
+    if (length >= sizeof(Units)) {
+        return copyVectors<Units>(to, from, length);
     }
-    std::uint64_t rest = lanes * u' ';
-    std::memcpy(&rest, bytes + offset, length - offset);
-    return isPlain(rest);
+    if (length >= sizeof(FewUnits)) {
+        return copyVectors<FewUnits>(to, from, length);
+    }
+    bool plain = true;
+    for (std::size_t offset = 0; offset < length; offset += sizeof unit) {
+        std::memcpy(&unit, from + offset, sizeof unit);
+        std::memcpy(to + offset, &unit, sizeof unit);
+        plain = plain && isPlain(unit);
+    }
+    return plain;
 }
 
 } // namespace
@@ -96,12 +122,14 @@ void Message::putWideString(WideStringView value) {
     }
     // Of no use in a message under construction, but the cursor has always been moved here and stays so.
     cursor_ = buffer_.size();
-    if (isPlain(reinterpret_cast<const std::uint8_t*>(value.data()), value.size())) {
-        const std::size_t length = value.size() * sizeof(char16_t);
-        buffer_.appendValue(static_cast<std::uint16_t>(length));
-        buffer_.append(value.data(), length);
+    const std::size_t plainLength = value.size() * sizeof(char16_t);
+    const auto plainCount = static_cast<std::uint16_t>(plainLength);
+    std::uint8_t* const start = buffer_.extend(sizeof plainCount + plainLength);
+    std::memcpy(start, &plainCount, sizeof plainCount);
+    if (copyPlain(start + sizeof plainCount, reinterpret_cast<const std::uint8_t*>(value.data()), plainLength)) {
         return;
     }
+    buffer_.cut(cursor_);
     const unicode::UTFConverter converter(value);
     const auto units = converter.toUTF16(false, unicode::littleEndian);
     const std::uint32_t length = converter.byteLength(false);
@@ -113,9 +141,8 @@ void Message::getWideString(WideString& value) {
     const std::span<const std::uint8_t> text = takeCounted();
     // The last byte of an odd count is passed over.
     const std::size_t unitCount = text.size() / sizeof(char16_t);
-    if (isPlain(text.data(), unitCount)) {
-        value.resize(unitCount);
-        std::memcpy(value.data(), text.data(), unitCount * sizeof(char16_t));
+    value.resize(unitCount);
+    if (copyPlain(reinterpret_cast<std::uint8_t*>(value.data()), text.data(), unitCount * sizeof(char16_t))) {
         return;
     }
     const auto units = std::make_unique<char16_t[]>(unitCount + 1);

@@ -72,8 +72,10 @@ public:
     // The count is the low 16 bits of the length, but all bytes are written: 65,536 bytes make the message unreadable.
     void putString(std::string_view value) {
         if (!rewound_) {
-            buffer_.appendValue(static_cast<std::uint16_t>(value.size()));
-            buffer_.append(value.data(), value.size());
+            const auto count = static_cast<std::uint16_t>(value.size());
+            std::uint8_t* const start = buffer_.extend(sizeof count + value.size());
+            std::memcpy(start, &count, sizeof count);
+            value.copy(reinterpret_cast<char*>(start) + sizeof count, value.size());
         }
     }
 
