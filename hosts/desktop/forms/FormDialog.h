@@ -1,0 +1,49 @@
+#pragma once
+
+#include "console/FormObserver.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace desktop {
+
+class FormWidgets;
+
+// A form of the console as a dialog, drawn from its controls alone. Attaches itself as the form's observer, opens the
+// form, and closes once the form has ended. The form outlives it.
+class FormDialog final : public QDialog, private console::FormObserver {
+    Q_OBJECT
+
+public:
+    explicit FormDialog(console::Form& form, QWidget* owner = nullptr);
+    FormDialog(const FormDialog&) = delete;
+    FormDialog& operator=(const FormDialog&) = delete;
+    ~FormDialog() override;
+
+    // The widget that stands for a control: the box, list or button itself, not its label; null for a control that is
+    // not shown by one.
+    QWidget* widgetOf(const console::Control& control) const;
+
+    // Escape and the closing cross: up to the form, as its Cancel button is.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void controlChanged(console::Control& control, console::Aspect aspect) override;
+    void titleChanged(console::Form& form) override;
+    void formEnded(console::Form& form) override;
+
+    console::Form& form_;
+    std::unique_ptr<FormWidgets> widgets_;
+};
+
+// Shows the form over its owner until it ends, by the person or by its own code, and answers its result. Forms nest: a
+// null owner means the front-most dialog. A program that quits meanwhile ends it as cancelled.
+int runForm(console::Form& form, QWidget* owner = nullptr);
+
+} // namespace desktop
