@@ -54,7 +54,7 @@ void Control::changed(Aspect aspect) {
     form().controlChanged(*this, aspect);
 }
 
-void Control::run(const std::function<void()>& handler) {
+void Control::run(const std::function<void()>& handler) const {
     if (handler) {
         const auto copy = handler; // the handler may give the control another one
         form().guarded(copy);

@@ -50,7 +50,7 @@ protected:
 
     void changed(Aspect aspect);
     // Runs a handler of the form inside the form's guard: nothing that it throws gets out.
-    void run(const std::function<void()>& handler);
+    void run(const std::function<void()>& handler) const;
     // Whether a person can act on the control now; not once its form has ended.
     bool takesInput() const;
 
