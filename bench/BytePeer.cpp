@@ -6,6 +6,7 @@
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -46,6 +47,7 @@ BytePeer::BytePeer() {
     port_ = ntohs(address.sin_port);
     process_ = fork();
     if (process_ == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
         serve(listener);
     }
     close(listener);

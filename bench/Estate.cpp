@@ -17,7 +17,7 @@ void Estate::gatherPrinters() {
     region_ = database.execAndGet("SELECT min(id) FROM region WHERE kind = 0").getInt();
     // Names are unique in a region, which names of many regions are not when they meet.
     database.exec("UPDATE record SET regionId = " + std::to_string(region_) +
-                  ", nameKey = nameKey || CAST(number AS BLOB) WHERE recordType IN (0, 1)");
+                  ", nameKey = CAST(nameKey || number AS BLOB) WHERE recordType IN (0, 1)");
     printer_ = database
                    .execAndGet("SELECT id FROM record WHERE recordType = 0 ORDER BY number LIMIT 1 OFFSET "
                                "(SELECT count(*) / 2 FROM record WHERE recordType = 0)")

@@ -6,17 +6,18 @@
 #include "bench/SampleRecord.h"
 #include "bench/ServerProcess.h"
 #include "bench/WalTable.h"
+#include "client/Exchange.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 // What a real vantreld and the client take for their work, beside bare sockets and bare SQLite.
 namespace bench {
@@ -57,8 +58,7 @@ bool createQueue(client::CQVXAdminClass& client, const Estate& estate) {
 
 // The benchmarks that take their time by repetition.
 void registerBenchmarks(const Estate& hundred, const Estate& many, const Estate& most, const ServerProcess& ofHundred,
-                        const ServerProcess& ofMany, const ServerProcess& ofMost, const BytePeer& peer,
-                        WalTable& table) {
+                        const ServerProcess& ofMany, const ServerProcess& ofMost, const BytePeer& peer) {
     benchmark::RegisterBenchmark("listTenThousand", [&](benchmark::State& state) {
         client::CQVXAdminClass client(consoleOf(ofMany.port()));
         for (auto _ : state) {
@@ -87,20 +87,51 @@ void registerBenchmarks(const Estate& hundred, const Estate& many, const Estate&
             }
         }
     })->UseRealTime();
-    benchmark::RegisterBenchmark("create", [&](benchmark::State& state) {
-        client::CQVXAdminClass client(consoleOf(ofHundred.port()));
-        for (auto _ : state) {
-            if (!createQueue(client, hundred)) {
-                state.SkipWithError("the queue is refused");
-            }
+}
+
+// The lower quartile: a machine that has other things to do only ever makes a time longer.
+double undisturbed(std::vector<double>& values) {
+    std::ranges::sort(values);
+    return values[values.size() / 4];
+}
+
+// The time of a create as a part of that of a bare insert. What a disk takes to sync changes from one moment to the
+// next, so the two take turns.
+double createBesideInsert(const Estate& estate, const ServerProcess& server, WalTable& table) {
+    constexpr int rounds = 100;
+    client::CQVXAdminClass client(consoleOf(server.port()));
+    const auto text = sampleInProtobuf();
+    std::vector<double> creates;
+    std::vector<double> inserts;
+    for (int round = 0; round < rounds; ++round) {
+        auto begin = Clock::now();
+        table.insert(text);
+        inserts.push_back(secondsSince(begin));
+        begin = Clock::now();
+        if (!createQueue(client, estate)) {
+            throw std::runtime_error("A queue is refused");
         }
-    })->UseRealTime();
-    benchmark::RegisterBenchmark("insert", [&](benchmark::State& state) {
-        const auto text = sampleInProtobuf();
-        for (auto _ : state) {
-            table.insert(text);
+        creates.push_back(secondsSince(begin));
+    }
+    return undisturbed(creates) / undisturbed(inserts);
+}
+
+// The client's calls that receive, for each record of one list.
+double receiveCallsForRecord(const Estate& estate, const ServerProcess& server) {
+    client::CQVXAdminClass client(consoleOf(server.port()));
+    client::Exchange exchange(client, protocol::commandOf<protocol::ListPrinterRecordsRequest>());
+    if (!exchange.connect()) {
+        throw std::runtime_error("No connection");
+    }
+    exchange.send(protocol::makeDataMessage(protocol::ListPrinterRecordsRequest{
+        .printerId = {}, .regionId = estate.region(), .mode = protocol::printerListMode::printersInRegion}));
+    const auto count = client::Exchange::readCount(*exchange.receive());
+    for (int record = 0; record < count; ++record) {
+        if (!exchange.receive()) {
+            throw std::runtime_error("The list broke off");
         }
-    })->UseRealTime();
+    }
+    return double(exchange.transport().counts().receiveCalls) / count;
 }
 
 // Calls of the system that send on a socket, for each record of one list.
@@ -124,18 +155,17 @@ double sendCallsForRecord(const Estate& estate, const std::filesystem::path& fol
 }
 
 double secondsToFirstAnswer(const Estate& estate) {
-    std::array<double, 5> seconds{};
-    for (auto& one : seconds) {
+    std::vector<double> seconds;
+    for (int start = 0; start < 5; ++start) {
         const auto begin = Clock::now();
         const ServerProcess server(estate.database());
         client::CQVXAdminClass client(consoleOf(server.port()));
         if (!findPrinter(client, estate)) {
             throw std::runtime_error("The first answer does not come");
         }
-        one = secondsSince(begin);
+        seconds.push_back(secondsSince(begin));
     }
-    std::ranges::sort(seconds);
-    return seconds[seconds.size() / 2];
+    return undisturbed(seconds);
 }
 
 // The time of a list while another console changes the estate without pause, as a part of its time in peace.
@@ -169,19 +199,17 @@ int run(int argc, char** argv) {
         const ServerProcess ofMost(most.database());
         const BytePeer peer;
         WalTable table(folder.path() / "anchor.db");
-        registerBenchmarks(hundred, many, most, ofHundred, ofMany, ofMost, peer, table);
+        registerBenchmarks(hundred, many, most, ofHundred, ofMany, ofMost, peer);
         goals.runBenchmarks(argc, argv);
 
         if (goals.time("listTenThousand") > 0) {
             goals.atLeast(400000, "List 10,000 printers", manyPrinters * 1e9 / goals.time("listTenThousand"),
                           "records a second");
         }
-        client::CQVXAdminClass client(consoleOf(ofMany.port()));
-        listPrinters(client, many, manyPrinters);
-        goals.atMost(0.05, "Receive calls of the client",
-                     double(client.transport->counts().receiveCalls) / manyPrinters, "a record");
+        goals.atMost(0.05, "Receive calls of the client", receiveCallsForRecord(many, ofMany), "a record");
         goals.ratioAtMost(2, "A command with one record, beside one byte there and back", "oneOfHundred", "oneByte");
-        goals.ratioAtMost(2, "A durable create, beside a bare insert", "create", "insert");
+        goals.atMost(2, "A durable create, beside a bare insert", createBesideInsert(hundred, ofHundred, table),
+                     "times");
         goals.ratioAtMost(1.2, "One record of 100,000, beside one of 100", "oneOfHundredThousand", "oneOfHundred");
         goals.atLeast(
             2000, "Commands with one record from 8 consoles at once",

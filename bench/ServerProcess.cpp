@@ -42,7 +42,9 @@ ServerProcess::ServerProcess(const std::filesystem::path& database, const std::v
                              const std::vector<std::string>& before) {
     const auto portFile = database.string() + ".port";
     std::filesystem::remove(portFile);
-    std::vector<std::string> words(before);
+    // A benchmark that is broken off leaves no server behind.
+    std::vector<std::string> words{"setpriv", "--pdeathsig", "TERM"};
+    words.insert(words.end(), before.begin(), before.end());
     words.insert(words.end(), {VANTREL_SERVER, "--database", database.string(), "--port", "0", "--port-file", portFile,
                                "--login-required", "0"});
     words.insert(words.end(), options.begin(), options.end());
