@@ -1,0 +1,170 @@
+#include "hosts/ctl/CommandLine.h"
+
+#include "hosts/ctl/Failure.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+namespace ctl {
+namespace {
+
+constexpr auto generalHelp = R"(
+PATH is the display names from "Printers", "Queues", ... down, joined by "/"; a slash in a name is "\/".
+The password comes from --password-file, else from the environment variable VANTREL_PASSWORD, else it is asked for.
+Server, port, user and domain that are not given are those of the last login.
+
+Ends with 0 done, 1 refused or failed, 2 usage, 3 no connection or no login.)";
+
+// Builds the options of the command line and takes their values.
+class Parser {
+public:
+    Parser() { addAll(); }
+
+    std::variant<Options, Information> parse(int count, const char* const* arguments) {
+        try {
+            app_.parse(count, arguments);
+        } catch (const CLI::Success& success) {
+            std::ostringstream text;
+            app_.exit(success, text, text);
+            return Information{text.str()};
+        } catch (const CLI::ParseError& error) {
+            throw Failure(ExitStatus::usage, oneLine(error.what()) + " (see vantrelctl --help)");
+        }
+        options_.steps = stepsInOrder();
+        return options_;
+    }
+
+private:
+    static std::string oneLine(std::string text) {
+        text.erase(std::find_if_not(text.rbegin(), text.rend(), [](char c) { return c == '\n'; }).base(), text.end());
+        std::ranges::replace(text, '\n', ' ');
+        return text;
+    }
+
+    void addAll() {
+        app_.description("Administers the printers of a Vantrel print server from a shell or a script.");
+        app_.footer(generalHelp);
+        app_.set_version_flag("--version", "vantrelctl " VANTREL_VERSION);
+        app_.require_subcommand(1);
+        app_.fallthrough();
+        addGlobal();
+        addTreeCommands();
+        addChanges();
+        addRaw();
+    }
+
+    void addGlobal() {
+        const auto connection = "Connection";
+        app_.add_option("--server", options_.server, "Name or address of the server")->group(connection);
+        app_.add_option("--port", options_.port, "Port of the server")->check(CLI::Range(1, 65535))->group(connection);
+        app_.add_option("--user", options_.user, "Name of the account")->group(connection);
+        app_.add_option("--domain", options_.domain, "Domain of the account")->group(connection);
+        app_.add_option("--password-file", options_.passwordFile, "File whose first line is the password")
+            ->group(connection);
+        app_.add_option("--settings", options_.settings, "File of the settings, instead of your own")
+            ->group(connection);
+        const std::map<std::string, Format> formats{
+            {"table", Format::table}, {"json", Format::json}, {"csv", Format::csv}};
+        app_.add_option("--format", options_.format, "table, json or csv")
+            ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case).description(""));
+        app_.add_option("--activity", options_.activity, "File to which each command to the server is added as JSON");
+    }
+
+    CLI::App& add(CommandKind kind, const std::string& name, const std::string& does, const std::string& example) {
+        auto* const command = app_.add_subcommand(name, does);
+        command->footer("Example:\n  vantrelctl " + example);
+        command->callback([this, kind] { options_.command = kind; });
+        return *command;
+    }
+
+    void addPath(CLI::App& command, bool required) {
+        command.add_option("PATH", options_.path, "Names from \"Printers\" and its like down")->required(required);
+    }
+
+    void addRow(CLI::App& command) {
+        command.add_option("--row", options_.row, "A row of the node's list instead of the node");
+    }
+
+    void addTreeCommands() {
+        add(CommandKind::login, "login", "Tries the login and prints how it went",
+            "--server print.example.org --port 5005 --user admin login");
+        auto& tree =
+            add(CommandKind::tree, "tree", "Prints the tree, or what stands below a path", "tree Printers --depth 2");
+        addPath(tree, false);
+        tree.add_option("--depth", options_.depth, "How many levels; all without it");
+        auto& show = add(CommandKind::show, "show", "Prints the list of a node", "show Printers/Berlin --format csv");
+        addPath(show, true);
+        auto& menu = add(CommandKind::menu, "menu", "Prints the menu of a node, or of a row of its list",
+                         "menu Printers/Berlin --row \"Hall 1\"");
+        addPath(menu, true);
+        addRow(menu);
+    }
+
+    void addChanges() {
+        auto& run = add(CommandKind::run, "run", "Chooses a menu entry, by its text or its id, and does the steps",
+                        "run Printers \"Create region\" --set \"Region Name=North\" --press OK\n"
+                        "  vantrelctl run Printers/North \"Delete region\" --answer ok");
+        addPath(run, true);
+        run.add_option("ENTRY", options_.entry, "Text or id of the entry")->required();
+        addRow(run);
+        addStep(run, Step::Kind::set, "--set", "LABEL=VALUE: fills a box, or checks one with yes or no");
+        addStep(run, Step::Kind::select, "--select", "LABEL=ROW: selects a row of a list");
+        addStep(run, Step::Kind::press, "--press", "Presses a button");
+        addStep(run, Step::Kind::answer, "--answer", "Answers a message box: ok, cancel, yes or no");
+        auto& rename = add(CommandKind::rename, "rename", "Gives a node another name", "rename Printers/North South");
+        addPath(rename, true);
+        rename.add_option("NEW", options_.newName, "The new name")->required();
+        auto& move = add(CommandKind::move, "move", "Moves a node below another one",
+                         "move \"Printers/North/Hall 1\" Printers/South");
+        addPath(move, true);
+        move.add_option("TARGET", options_.target, "The path of the node that takes it")->required();
+    }
+
+    void addRaw() {
+        auto& call = add(CommandKind::call, "call", "Sends one command of the protocol and prints the reply as JSON",
+                         "call 6 str8: u32:7 u16:0");
+        call.add_option("OPCODE", options_.opcode, "Number or name of the command; see \"vantrelctl commands\"")
+            ->required();
+        call.add_option("KIND:VALUE", options_.fields,
+                        "The fields, in order; kinds are u8 u16 u32 f32 bool str8 str16 uuid and none,\n"
+                        "an optional field that is left out");
+        add(CommandKind::commands, "commands", "Prints the commands of the protocol", "commands --format json");
+    }
+
+    void addStep(CLI::App& command, Step::Kind kind, const std::string& name, const std::string& does) {
+        auto* const option = command.add_option(name, written_[kind], does);
+        option->allow_extra_args(false)->group("Steps, done in the order given");
+        stepOptions_[option] = kind;
+        runCommand_ = &command;
+    }
+
+    // The steps stand in one list for each option; only the order of parsing tells how they were mixed.
+    std::vector<Step> stepsInOrder() {
+        std::vector<Step> steps;
+        std::map<Step::Kind, std::size_t> taken;
+        for (const CLI::Option* const option : runCommand_->parse_order()) {
+            if (const auto found = stepOptions_.find(option); found != stepOptions_.end()) {
+                const auto kind = found->second;
+                steps.push_back(parseStep(kind, written_.at(kind).at(taken[kind]++)));
+            }
+        }
+        return steps;
+    }
+
+    CLI::App app_{"", "vantrelctl"};
+    Options options_;
+    std::map<Step::Kind, std::vector<std::string>> written_;
+    std::map<const CLI::Option*, Step::Kind> stepOptions_;
+    const CLI::App* runCommand_ = nullptr;
+};
+
+} // namespace
+
+std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments) {
+    return Parser().parse(count, arguments);
+}
+
+} // namespace ctl

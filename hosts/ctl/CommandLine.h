@@ -1,0 +1,18 @@
+#pragma once
+
+#include "hosts/ctl/Options.h"
+
+#include <string>
+#include <variant>
+
+namespace ctl {
+
+// A text that was asked for with --help or --version.
+struct Information {
+    std::string text;
+};
+
+// Reads the command line; global options may stand before or after the command. Throws Failure (usage) with one line.
+std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments);
+
+} // namespace ctl

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "hosts/ctl/Failure.h"
+#include "hosts/ctl/StepList.h"
+#include "shell/ShellUserInterface.h"
+
+#include <optional>
+#include <ostream>
+
+namespace ctl {
+
+// The person at the command line: forms and questions are answered by the steps that were given. What can't be answered
+// is answered with the least, and remembered as the failure of the command.
+//
+// A box that only has an OK is a statement: it goes to standard error. Unless an --answer stands for it, it is the
+// failure of the command; with a warning or an error on it, always.
+class CtlUserInterface final : public shell::ShellUserInterface {
+public:
+    // Both outlive this.
+    CtlUserInterface(shell::TaskQueue& tasks, std::ostream& errors) : ShellUserInterface(tasks), errors_(errors) {}
+
+    void setSteps(StepList steps) { steps_ = std::move(steps); }
+    // Throws the failure, if there was one, or for steps that were not used.
+    void finish();
+
+    console::Answer messageBox(console::WindowHandle owner, const wire::WideString& text,
+                               const wire::WideString& caption, std::uint32_t style) override;
+    int runModal(console::Form& form, console::WindowHandle owner) override;
+
+private:
+    void fail(const Failure& failure);
+    console::Answer statement(const std::string& line, std::uint32_t icon);
+    void drive(console::Form& form);
+
+    std::ostream& errors_;
+    StepList steps_;
+    std::optional<Failure> failure_;
+};
+
+} // namespace ctl

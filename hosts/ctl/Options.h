@@ -1,0 +1,42 @@
+#pragma once
+
+#include "hosts/ctl/Step.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ctl {
+
+enum class Format : std::uint8_t { table, json, csv };
+
+enum class CommandKind : std::uint8_t { login, tree, show, menu, run, rename, move, call, commands };
+
+// What the person has typed. Texts are UTF-8.
+struct Options {
+    // The connection; what is not given comes from the settings.
+    std::optional<std::string> server;
+    std::optional<std::uint16_t> port;
+    std::optional<std::string> user;
+    std::optional<std::string> domain;
+    std::optional<std::filesystem::path> passwordFile;
+    std::optional<std::filesystem::path> settings;
+
+    Format format = Format::table;
+    std::optional<std::filesystem::path> activity;
+
+    CommandKind command = CommandKind::login;
+    std::string path;
+    std::optional<std::uint32_t> depth; // of the tree
+    std::optional<std::string> row;
+    std::string entry; // of the menu
+    std::string newName;
+    std::string target; // of a move
+    std::string opcode;
+    std::vector<std::string> fields; // of a call
+    std::vector<Step> steps;
+};
+
+} // namespace ctl

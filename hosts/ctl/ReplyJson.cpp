@@ -1,0 +1,75 @@
+#include "hosts/ctl/ReplyJson.h"
+
+#include "wire/WireUuid.h"
+
+namespace ctl {
+namespace {
+
+Json valueJson(const protocol::FieldValue& field);
+
+Json recordJson(const protocol::FieldRecord& record) {
+    Json json = Json::object();
+    for (const auto& [name, value] : record) {
+        json[std::string(name)] = valueJson(value);
+    }
+    return json;
+}
+
+Json valueJson(const protocol::FieldValue& field) {
+    return std::visit(
+        []<class T>(const T& value) -> Json {
+            if constexpr (std::is_same_v<T, std::monostate>) {
+                return nullptr;
+            } else if constexpr (std::is_same_v<T, wire::WideString>) {
+                return wire::toUtf8(value);
+            } else if constexpr (std::is_same_v<T, wire::Uuid>) {
+                return wire::toText(value);
+            } else if constexpr (std::is_same_v<T, protocol::FieldList>) {
+                Json list = Json::array();
+                for (const auto& element : value) {
+                    list.push_back(valueJson(element));
+                }
+                return list;
+            } else if constexpr (std::is_same_v<T, protocol::FieldRecord>) {
+                return recordJson(value);
+            } else {
+                return value;
+            }
+        },
+        field.value);
+}
+
+Json hexJson(const wire::Message& message) {
+    static constexpr char digits[] = "0123456789abcdef";
+    std::string hex;
+    for (const auto byte : message.bytes()) {
+        hex += digits[byte >> 4U];
+        hex += digits[byte & 0xFU];
+    }
+    return {{"hex", hex}};
+}
+
+} // namespace
+
+Json replyJson(const client::RawReply& reply) {
+    Json json{{"opcode", reply.command->opcode}, {"name", reply.command->name}};
+    Json records = Json::array();
+    for (const auto& record : reply.records) {
+        records.push_back(recordJson(record));
+    }
+    for (const auto& message : reply.undescribed) {
+        records.push_back(hexJson(*message));
+    }
+    if (reply.command->reply == protocol::ReplyShape::list) {
+        json["records"] = std::move(records);
+    } else if (reply.command->reply != protocol::ReplyShape::none && !records.empty()) {
+        json["reply"] = std::move(records.front());
+    }
+    return json;
+}
+
+std::string dump(const Json& json, int indent) {
+    return json.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
+
+} // namespace ctl

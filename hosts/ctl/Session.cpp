@@ -1,0 +1,98 @@
+#include "hosts/ctl/Session.h"
+
+#include "hosts/ctl/Password.h"
+#include "hosts/ctl/QuietOutput.h"
+#include "hosts/ctl/Words.h"
+#include "snapin/AuthenticationDlg.h"
+#include "snapin/LoginThread.h"
+
+namespace ctl {
+namespace {
+
+// What a login can carry of a name or a password, in UTF-16 units: the block of the key's size holds no more.
+constexpr std::size_t longestCredential = 122;
+
+wire::WideString checked(wire::WideString credential, const std::string& what) {
+    if (credential.size() > longestCredential) {
+        throw Failure(ExitStatus::noConnection, "The " + what + " is longer than the " +
+                                                    std::to_string(longestCredential) + " characters of a login");
+    }
+    return credential;
+}
+
+} // namespace
+
+Session::Session(const Options& options, std::ostream& errors)
+    : options_(options),
+      ui_(tasks_, errors),
+      settings_(options.settings ? *options.settings : console::IniSettingsStore::defaultPath()),
+      platform_{.ui = ui_,
+                .settings = settings_,
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
+                .productVersion = {}},
+      print_(platform_) {
+    observers_.add(failures_);
+    if (options.activity) {
+        observers_.add(activity_.emplace(*options.activity));
+    }
+}
+
+wire::WideString Session::value(const std::optional<std::string>& given, std::string_view name,
+                                std::string_view option) const {
+    const auto value = given ? std::optional(wire::toWide(*given)) : settings_.read(name);
+    if (!value || value->empty()) {
+        throw Failure(ExitStatus::noConnection,
+                      "Nothing is known of the server to log in to: give " + std::string(option));
+    }
+    return *value;
+}
+
+StepList Session::loginSteps(const wire::WideString& server, const wire::WideString& port) const {
+    const auto user = checked(value(options_.user, "UserName", "--user NAME"), "user name");
+    const auto domain = checked(
+        options_.domain ? wire::toWide(*options_.domain) : settings_.read("DomainName").value_or(u""), "domain");
+    const auto password = checked(obtainPassword(options_.passwordFile), "password");
+    const auto step = [](const char16_t* label, const wire::WideString& text) {
+        return Step{.kind = Step::Kind::set, .label = label, .value = text, .written = "the login"};
+    };
+    return StepList({step(u"Server Name", server), step(u"Port", port), step(u"User Name", user),
+                     step(u"Password", password), step(u"Domain", domain),
+                     Step{.kind = Step::Kind::press, .label = u"Login", .written = "the login"}});
+}
+
+wire::WideString Session::logIn() {
+    const auto server = value(options_.server, "ServerName", "--server HOST");
+    const auto port =
+        value(options_.port ? std::optional(std::to_string(*options_.port)) : std::nullopt, "ServerPort", "--port N");
+    ui_.setSteps(loginSteps(server, port));
+    snapin::AuthenticationDlg dialog(platform_);
+    {
+        const QuietOutput quiet; // the login leaves a word on standard output, which is for data here
+        ui_.runModal(dialog, 0);
+    }
+    failures_.forget();
+    try {
+        ui_.finish();
+    } catch (const Failure& failure) {
+        throw Failure(ExitStatus::noConnection,
+                      std::string(failure.what()) + " (" + shown(server) + ":" + shown(port) + ")");
+    }
+    snapin::loginDone = 1;
+    return dialog.statusText();
+}
+
+shell::Shell& Session::start() {
+    logIn();
+    if (!shell_.start()) {
+        throw Failure(ExitStatus::refused, "The console did not start");
+    }
+    check();
+    return shell_;
+}
+
+void Session::check() {
+    failures_.check();
+    ui_.finish();
+}
+
+} // namespace ctl

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "console/IniSettingsStore.h"
+#include "console/Platform.h"
+#include "hosts/ctl/Activity.h"
+#include "hosts/ctl/CtlUserInterface.h"
+#include "hosts/ctl/FailureWatch.h"
+#include "hosts/ctl/Options.h"
+#include "shell/CommandWatch.h"
+#include "shell/Observers.h"
+#include "shell/RefusalBox.h"
+#include "shell/Shell.h"
+#include "shell/SnapInOf.h"
+#include "shell/TaskQueue.h"
+#include "snapin/CPrintComponent.h"
+#include "snapin/Print.h"
+
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string_view>
+
+namespace ctl {
+
+// The console for the length of one command line.
+class Session {
+public:
+    // Both outlive it. Throws Failure when the activity file can't be written.
+    Session(const Options& options, std::ostream& errors);
+
+    // Logs in with the product's own dialog, and answers the words that go with it. Throws Failure (no connection).
+    wire::WideString logIn();
+    // Logs in and starts the console.
+    shell::Shell& start();
+    // Throws Failure when a command has failed, or a question or a step was left over.
+    void check();
+
+    shell::Shell& shell() { return shell_; }
+    CtlUserInterface& ui() { return ui_; }
+
+private:
+    // What was given, else what the settings have under the name. Throws Failure (no connection) without either.
+    wire::WideString value(const std::optional<std::string>& given, std::string_view name,
+                           std::string_view option) const;
+    StepList loginSteps(const wire::WideString& server, const wire::WideString& port) const;
+
+    const Options& options_;
+    shell::Observers observers_;
+    shell::TaskQueue tasks_;
+    std::optional<Activity> activity_;
+    FailureWatch failures_;
+    shell::CommandWatch watch_{observers_};
+    CtlUserInterface ui_;
+    shell::RefusalBox refusals_{ui_};
+    console::IniSettingsStore settings_;
+    console::Platform platform_;
+    snapin::Print print_;
+    shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn_{print_};
+    shell::Shell shell_{snapIn_, tasks_, observers_};
+};
+
+} // namespace ctl

@@ -1,0 +1,51 @@
+#include "hosts/ctl/Step.h"
+
+#include "hosts/ctl/Failure.h"
+#include "hosts/ctl/Words.h"
+
+#include <array>
+#include <utility>
+
+namespace ctl {
+namespace {
+
+constexpr std::array<std::string_view, 4> optionNames{"--set", "--select", "--press", "--answer"};
+
+constexpr std::array<std::pair<std::u16string_view, console::Answer>, 4> answers{{{u"ok", console::Answer::ok},
+                                                                                  {u"cancel", console::Answer::cancel},
+                                                                                  {u"yes", console::Answer::yes},
+                                                                                  {u"no", console::Answer::no}}};
+
+console::Answer parseAnswer(std::string_view text) {
+    for (const auto& [name, answer] : answers) {
+        if (sameWord(name, wire::toWide(text))) {
+            return answer;
+        }
+    }
+    throw Failure(ExitStatus::usage, "--answer takes ok, cancel, yes or no, not \"" + std::string(text) + '"');
+}
+
+} // namespace
+
+Step parseStep(Step::Kind kind, std::string_view argument) {
+    const auto option = optionNames[static_cast<std::size_t>(kind)];
+    Step step{.kind = kind, .written = std::string(option) + " \"" + shown(wire::toWide(argument)) + '"'};
+    if (kind == Step::Kind::answer) {
+        step.answer = parseAnswer(argument);
+        return step;
+    }
+    if (kind == Step::Kind::press) {
+        step.label = wire::toWide(argument);
+        return step;
+    }
+    const auto equals = argument.find('=');
+    if (equals == std::string_view::npos || equals == 0) {
+        throw Failure(ExitStatus::usage,
+                      std::string(option) + " takes LABEL=VALUE, not \"" + std::string(argument) + '"');
+    }
+    step.label = wire::toWide(argument.substr(0, equals));
+    step.value = wire::toWide(argument.substr(equals + 1));
+    return step;
+}
+
+} // namespace ctl

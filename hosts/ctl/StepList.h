@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hosts/ctl/Step.h"
+
+#include <deque>
+#include <vector>
+
+namespace ctl {
+
+// The steps of a command line that are still to be done, in the order given.
+class StepList {
+public:
+    explicit StepList(std::vector<Step> steps = {}) : steps_(steps.begin(), steps.end()) {}
+
+    const Step* next() const { return steps_.empty() ? nullptr : &steps_.front(); }
+    void done() { steps_.pop_front(); }
+    const std::deque<Step>& left() const { return steps_; }
+
+private:
+    std::deque<Step> steps_;
+};
+
+} // namespace ctl

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "wire/Text.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace ctl {
+
+// Texts as they stand in a line for a person: with control characters visible, in UTF-8.
+std::string shown(wire::WideStringView text);
+
+// "A", "B", "C", or "A", ..., "T" and 12 more.
+std::string listed(std::span<const wire::WideString> texts);
+
+// Equal without regard to case.
+bool sameWord(wire::WideStringView a, wire::WideStringView b);
+
+// The place of the one text that is meant: the one that is equal, else the only one that is without regard to case.
+// texts.size() when there is none; throws Failure when there are several, where `what` says what they are.
+std::size_t placeOf(wire::WideStringView name, std::span<const wire::WideString> texts, const std::string& what);
+
+} // namespace ctl

@@ -1,0 +1,46 @@
+#include "hosts/ctl/CommandLine.h"
+#include "hosts/ctl/Commands.h"
+#include "hosts/ctl/Failure.h"
+#include "hosts/ctl/Words.h"
+
+#include <clocale>
+#include <iostream>
+
+namespace {
+
+// One line, whatever the text holds.
+int fail(ctl::ExitStatus status, const std::string& text) {
+    std::cerr << "vantrelctl: " << ctl::shown(wire::toWide(text)) << std::endl;
+    return static_cast<int>(status);
+}
+
+int run(int count, const char* const* arguments) {
+    const auto commandLine = ctl::parseCommandLine(count, arguments);
+    if (const auto* const information = std::get_if<ctl::Information>(&commandLine)) {
+        std::cout << information->text;
+    } else {
+        const auto& options = std::get<ctl::Options>(commandLine);
+        ctl::Session session(options, std::cerr);
+        ctl::carryOut(options, session, std::cout);
+    }
+    std::cout.flush();
+    if (!std::cout) {
+        return fail(ctl::ExitStatus::refused, "Standard output can't be written");
+    }
+    return static_cast<int>(ctl::ExitStatus::done);
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    std::setlocale(LC_ALL, "");
+    try {
+        return run(count, arguments);
+    } catch (const ctl::Failure& failure) {
+        return fail(failure.status(), failure.what());
+    } catch (const char* text) {
+        return fail(ctl::ExitStatus::refused, text);
+    } catch (const std::exception& exception) {
+        return fail(ctl::ExitStatus::refused, exception.what());
+    }
+}

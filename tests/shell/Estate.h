@@ -1,0 +1,91 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+#include "console/Platform.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace shelltest {
+
+class FolderNode;
+
+// What the nodes of a test read their children from, in place of a server, and what they report back.
+struct Estate {
+    struct Entry {
+        std::string key;
+        wire::WideString name;
+        wire::WideString number{};
+        bool leaf = false;
+    };
+
+    std::map<std::string, std::vector<Entry>> below; // by the key of the parent
+    std::map<std::int32_t, std::function<void(FolderNode&, console::CommandOrigin)>> commands;
+    std::function<void(FolderNode&, const wire::WideString&)> renamed;
+    std::function<void(FolderNode&, console::CSnapInItem&)> pasted;
+    std::string unreadable; // the key of a node whose children can't be read
+    bool pasteAllowed = true;
+    std::vector<std::string> lists; // the keys of the nodes whose children were read, in order
+    int living = 0;                 // nodes
+};
+
+// Counts the living nodes of an estate.
+class NodeOfEstate {
+public:
+    NodeOfEstate(Estate& itsEstate, Estate::Entry itsEntry) : estate(itsEstate), entry(std::move(itsEntry)) {
+        ++estate.living;
+    }
+    NodeOfEstate(const NodeOfEstate&) = delete;
+    NodeOfEstate& operator=(const NodeOfEstate&) = delete;
+    ~NodeOfEstate() { --estate.living; }
+
+    Estate& estate;
+    Estate::Entry entry;
+};
+
+// A leaf: a row in its folder's list and an item without children.
+class LeafNode final : public NodeOfEstate, public console::CBaseNodeItem<LeafNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Leaf", .image = 3};
+    LeafNode(console::Platform& platform, Estate& estate, Estate::Entry entry);
+
+    std::string refreshKey() const override { return entry.key; }
+    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+
+protected:
+    std::span<const console::VerbChoice> verbs() const override;
+};
+
+// A folder of folders and leaves.
+class FolderNode : public NodeOfEstate, public console::CBaseNodeItem<FolderNode> {
+public:
+    static constexpr console::NodeIdentity identity{.displayName = u"Folder", .openImage = 1, .children = 1};
+    FolderNode(console::Platform& platform, Estate& estate, Estate::Entry entry);
+
+    std::string refreshKey() const override { return entry.key; }
+    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+    console::Result GetResultViewType(const char16_t*& viewType, std::int32_t& viewOptions) override;
+    using NodeBase::PressRefreshKey;
+
+    console::IConsole& itsConsole() { return *console(); }
+    void press(std::initializer_list<console::Key> keys) { NodeBase::press(keys); }
+
+protected:
+    std::span<const console::Column> columns() const override;
+    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::VerbChoice> verbs() const override;
+    std::vector<console::NodeBase*> rows() const override;
+    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
+    console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
+    console::Result OnQueryPaste(const console::CSnapInItem& source) override;
+    console::Result OnPaste(console::CSnapInItem& source) override;
+
+private:
+    console::NodeArray<console::NodeBase> children_;
+};
+
+} // namespace shelltest

@@ -1,0 +1,62 @@
+#include "shell/ListExport.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+using Cells = std::vector<std::vector<wire::WideString>>;
+
+// The table's first row of cells is that of the titles.
+std::string written(void (*write)(std::ostream&, const shell::Table&), const Cells& cells) {
+    shell::Table table;
+    table.columns = cells.front();
+    table.rowCount = cells.size() - 1;
+    table.cell = [&](std::size_t row, std::size_t column) { return wire::WideStringView(cells[row + 1][column]); };
+    std::ostringstream out;
+    write(out, table);
+    return out.str();
+}
+
+TEST(ListExport, csvHasATitleLineAndEndsLinesWithCrLf) {
+    EXPECT_EQ(written(shell::writeCsv, {{u"Name", u"Jobs"}, {u"Hall", u"3"}}), "Name,Jobs\r\nHall,3\r\n");
+}
+
+TEST(ListExport, csvQuotesCommasQuotesAndLineBreaks) {
+    EXPECT_EQ(written(shell::writeCsv, {{u"Name"}, {u"a,b"}, {u"say \"hi\""}, {u"two\nlines"}}),
+              "Name\r\n\"a,b\"\r\n\"say \"\"hi\"\"\"\r\n\"two\nlines\"\r\n");
+}
+
+TEST(ListExport, csvIsUtf8) {
+    EXPECT_EQ(written(shell::writeCsv, {{u"Ort"}, {u"Zürich"}}), "Ort\r\nZ\xC3\xBCrich\r\n");
+}
+
+TEST(ListExport, jsonHoldsColumnsAndRows) {
+    EXPECT_EQ(written(shell::writeJson, {{u"Name", u"Jobs"}, {u"Hall", u"3"}, {u"Roof", u"0"}}),
+              "{\"columns\": [\"Name\", \"Jobs\"], \"rows\": [\n  [\"Hall\", \"3\"],\n  [\"Roof\", \"0\"]\n]}\n");
+}
+
+TEST(ListExport, jsonOfAnEmptyListHasNoRows) {
+    EXPECT_EQ(written(shell::writeJson, {{u"Name"}}), "{\"columns\": [\"Name\"], \"rows\": []}\n");
+}
+
+TEST(ListExport, jsonEscapesWhatNeedsIt) {
+    EXPECT_EQ(written(shell::writeJson, {{u"N"}, {u"a\"b\\c\n\t\u0001"}}),
+              "{\"columns\": [\"N\"], \"rows\": [\n  [\"a\\\"b\\\\c\\n\\t\\u0001\"]\n]}\n");
+}
+
+TEST(ListExport, textAlignsColumnsByTheirWidthOnTheScreen) {
+    EXPECT_EQ(written(shell::writeText, {{u"Name", u"Jobs"}, {u"東京", u"3"}, {u"Hall", u""}}),
+              "Name  Jobs\n----  ----\n東京  3\nHall\n");
+}
+
+TEST(ListExport, textMakesLineBreaksVisible) {
+    EXPECT_EQ(written(shell::writeText, {{u"Name"}, {u"a\nb"}}), "Name\n----\na\u240Ab\n");
+}
+
+TEST(ListExport, textOfAListWithoutColumnsIsEmpty) {
+    EXPECT_EQ(written(shell::writeText, {{}}), "");
+}
+
+} // namespace

@@ -1,0 +1,211 @@
+#include "shell/ResultPane.h"
+#include "tests/shell/ShellFixture.h"
+
+namespace shelltest {
+namespace {
+
+// Writes down what happens to the rows.
+class RowEvents final : public shell::ShellObserver {
+public:
+    void rowsInserted(std::size_t first, std::size_t count) override { add("in", first, count); }
+    void rowsRemoved(std::size_t first, std::size_t count) override { add("out", first, count); }
+    void rowsChanged(std::size_t first, std::size_t count) override { add("changed", first, count); }
+    void rowsReset() override { log.emplace_back("reset"); }
+    Lines log;
+
+private:
+    void add(const std::string& what, std::size_t first, std::size_t count) {
+        log.push_back(what + " " + std::to_string(first) + " " + std::to_string(count));
+    }
+};
+
+class ResultPane : public testing::Test {
+protected:
+    ResultPane() { observers.add(events); }
+
+    std::shared_ptr<LeafNode> leaf(const wire::WideString& name) {
+        return std::make_shared<LeafNode>(platform, estate,
+                                          Estate::Entry{.key = wire::toUtf8(name), .name = name, .leaf = true});
+    }
+    std::shared_ptr<LeafNode> insert(const wire::WideString& name) {
+        auto node = leaf(name);
+        EXPECT_EQ(pane.InsertItem(node->resultFields()), console::Result::ok);
+        return node;
+    }
+    Lines rows() const {
+        Lines texts;
+        for (std::size_t row = 0; row < pane.rowCount(); ++row) {
+            texts.push_back(wire::toUtf8(pane.cell(row, 0)));
+        }
+        return texts;
+    }
+
+    Estate estate;
+    shell::TaskQueue tasks;
+    QuietUserInterface ui{tasks};
+    support::MemorySettingsStore settings;
+    console::Platform platform{.ui = ui, .settings = settings};
+    shell::Observers observers;
+    RowEvents events;
+    shell::ResultPane pane{observers};
+};
+
+TEST_F(ResultPane, rowsAreShownWhenTheyAreCommitted) {
+    insert(u"one");
+    EXPECT_EQ(pane.rowCount(), 0U);
+
+    pane.commit();
+
+    EXPECT_EQ(rows(), (Lines{"one"}));
+    EXPECT_EQ(events.log, (Lines{"in 0 1", "changed 0 1"}));
+}
+
+TEST_F(ResultPane, oldRowsStayUntilNewOnesAreCommitted) {
+    insert(u"one");
+    pane.commit();
+
+    pane.DeleteAllRsltItems();
+    EXPECT_EQ(rows(), (Lines{"one"}));
+    pane.commit();
+
+    EXPECT_TRUE(rows().empty());
+}
+
+TEST_F(ResultPane, aRowKeepsTheIdThatItBrings) {
+    const auto node = insert(u"one");
+    const auto id = node->resultFields().itemID;
+    pane.commit();
+    events.log.clear();
+
+    pane.DeleteAllRsltItems();
+    pane.InsertItem(node->resultFields());
+    pane.commit();
+
+    EXPECT_EQ(node->resultFields().itemID, id);
+    EXPECT_EQ(events.log, (Lines{"changed 0 1"}));
+}
+
+TEST_F(ResultPane, anIdThatIsTakenIsNotGivenAgain) {
+    const auto one = insert(u"one");
+    const auto two = leaf(u"two");
+    two->resultFields().itemID = one->resultFields().itemID;
+
+    pane.InsertItem(two->resultFields());
+
+    EXPECT_NE(two->resultFields().itemID, one->resultFields().itemID);
+}
+
+TEST_F(ResultPane, aRowWithoutANodeIsRefused) {
+    console::ResultItemFields row;
+
+    EXPECT_EQ(pane.InsertItem(row), console::Result::failed);
+}
+
+TEST_F(ResultPane, oneRowCanBeRemoved) {
+    insert(u"one");
+    const auto two = insert(u"two");
+    insert(u"three");
+    pane.commit();
+    events.log.clear();
+
+    EXPECT_EQ(pane.DeleteItem(two->resultFields().itemID, 0), console::Result::ok);
+    EXPECT_EQ(pane.DeleteItem(two->resultFields().itemID, 0), console::Result::failed);
+    pane.commit();
+
+    EXPECT_EQ(rows(), (Lines{"one", "three"}));
+    EXPECT_EQ(events.log, (Lines{"out 2 1", "changed 0 2"}));
+}
+
+TEST_F(ResultPane, rowsAfterARemovedOneAreStillFoundByTheirIds) {
+    const auto one = insert(u"one");
+    const auto two = insert(u"two");
+    pane.commit();
+
+    pane.DeleteItem(one->resultFields().itemID, 0);
+    pane.commit();
+    pane.DeleteItem(two->resultFields().itemID, 0);
+    pane.commit();
+
+    EXPECT_EQ(pane.rowCount(), 0U);
+}
+
+TEST_F(ResultPane, withoutAnOrderNeighboursStandInNaturalOrder) {
+    insert(u"P10");
+    insert(u"P9");
+    insert(u"P2");
+    pane.commit();
+
+    EXPECT_EQ(rows(), (Lines{"P2", "P9", "P10"}));
+}
+
+TEST_F(ResultPane, sortingIsStable) {
+    insert(u"P1");
+    insert(u"p01");
+    insert(u"A");
+    pane.commit();
+
+    pane.sort(shell::SortOrder{0, true});
+    EXPECT_EQ(rows(), (Lines{"A", "P1", "p01"}));
+    pane.sort(shell::SortOrder{0, false});
+    EXPECT_EQ(rows(), (Lines{"P1", "p01", "A"}));
+}
+
+TEST_F(ResultPane, sortingByAnOrderThatStandsChangesNothing) {
+    insert(u"A");
+    pane.commit();
+    pane.sort(shell::SortOrder{0, true});
+    events.log.clear();
+
+    pane.sort(shell::SortOrder{0, true});
+
+    EXPECT_TRUE(events.log.empty());
+}
+
+TEST_F(ResultPane, nodesGoWithTheirRows) {
+    insert(u"one");
+    pane.commit();
+    EXPECT_EQ(estate.living, 1);
+
+    pane.DeleteAllRsltItems();
+    pane.commit();
+
+    EXPECT_EQ(estate.living, 0);
+}
+
+TEST_F(ResultPane, aHundredThousandRowsAreSortedFilteredAndReplaced) {
+    std::vector<std::shared_ptr<LeafNode>> nodes;
+    for (int i = 99999; i >= 0; --i) {
+        nodes.push_back(insert(wire::toWide("Printer " + std::to_string(i))));
+    }
+    pane.commit();
+    EXPECT_EQ(pane.cell(99999, 0), u"Printer 99999");
+    pane.sort(shell::SortOrder{0, false});
+    EXPECT_EQ(pane.cell(0, 0), u"Printer 99999");
+    pane.filter(u"R 123", 2);
+    EXPECT_EQ(pane.rowCount(), 111U);
+
+    pane.DeleteAllRsltItems();
+    for (const auto& node : nodes) {
+        pane.InsertItem(node->resultFields());
+    }
+    pane.commit();
+    EXPECT_EQ(pane.rowCount(), 111U);
+}
+
+TEST_F(ResultPane, removingAHundredThousandRowsOneByOneIsNotQuadratic) {
+    std::vector<std::shared_ptr<LeafNode>> nodes;
+    for (int i = 0; i < 100000; ++i) {
+        nodes.push_back(insert(u"x"));
+    }
+    pane.commit();
+
+    for (const auto& node : nodes) {
+        pane.DeleteItem(node->resultFields().itemID, 0);
+    }
+    pane.commit();
+
+    EXPECT_EQ(pane.rowCount(), 0U);
+}
+
+} // namespace
+} // namespace shelltest
