@@ -53,7 +53,7 @@ void initCrypto() {
         throw "error";
 }
 
-std::string rsaEncrypt(std::string plain, std::string key) {
+std::string rsaEncrypt(const std::string& plain, const std::string& key) {
     ImportedKey imported(key);
     if (!imported.valid() || register_prng(&sprng_desc) == -1)
         return {};
@@ -74,14 +74,14 @@ std::string rsaEncrypt(std::string plain, std::string key) {
     return {reinterpret_cast<const char*>(cipher.data()), cipherSize};
 }
 
-wire::WideString encryptCredential(std::string key, wire::WideString text) {
+wire::WideString encryptCredential(const std::string& key, wire::WideStringView text) {
     std::string plain;
     plain.reserve(text.size() * 2);
     for (const char16_t unit : text) {
         plain.push_back(static_cast<char>(unit & 0xFF));
         plain.push_back(static_cast<char>(unit >> 8));
     }
-    const std::string cipher = rsaEncrypt(std::move(plain), std::move(key));
+    const std::string cipher = rsaEncrypt(plain, key);
     wire::WideString packed;
     packed.reserve(cipher.size() / 2);
     for (std::size_t at = 0; at + 1 < cipher.size(); at += 2) {

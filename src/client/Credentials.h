@@ -12,10 +12,10 @@ void initCrypto();
 
 // The plain bytes under a 2048-bit key in DER form, 256 bytes; empty for every failure. The padding leaves room for 245
 // bytes. Writes a trace to the standard output, which a host that puts data there has to reckon with.
-[[nodiscard]] std::string rsaEncrypt(std::string plain, std::string key);
+[[nodiscard]] std::string rsaEncrypt(const std::string& plain, const std::string& key);
 
 // The sealed text packed into a wide string, two bytes to a unit, the first one low: 128 units, or empty for every
 // failure. Longer texts than 122 units cannot be sealed.
-[[nodiscard]] wire::WideString encryptCredential(std::string key, wire::WideString text);
+[[nodiscard]] wire::WideString encryptCredential(const std::string& key, wire::WideStringView text);
 
 } // namespace client

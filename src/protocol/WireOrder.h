@@ -68,13 +68,13 @@ concept Record = requires {
 namespace detail {
 
 template <class T>
-constexpr bool isOptional = false;
+inline constexpr bool isOptional = false;
 template <class T>
-constexpr bool isOptional<std::optional<T>> = true;
+inline constexpr bool isOptional<std::optional<T>> = true;
 template <class T>
-constexpr bool isList = false;
+inline constexpr bool isList = false;
 template <class T>
-constexpr bool isList<std::vector<T>> = true;
+inline constexpr bool isList<std::vector<T>> = true;
 
 // Calls action with each field of the record's type, in order.
 template <Record R, class Action>

@@ -40,6 +40,7 @@ protected:
     // One connection for each reply: takes a frame, answers with these bytes, and waits for the end.
     void answer(const std::vector<Bytes>& replies) {
         std::vector<support::ScriptedServer::Script> scripts;
+        scripts.reserve(replies.size());
         for (const Bytes& reply : replies)
             scripts.emplace_back([reply](Connection& connection) {
                 connection.expectFrame();
