@@ -33,8 +33,8 @@ asio::awaitable<void> ArrivalOrder::Place::beginReading() {
     return order_.waitForEarlier(*this, true);
 }
 
-asio::awaitable<void> ArrivalOrder::Place::beginChanging() {
-    enter(State::changing);
+asio::awaitable<void> ArrivalOrder::Place::beginChanging(bool isAnswered) {
+    enter(isAnswered ? State::done : State::changing);
     return order_.waitForEarlier(*this, false);
 }
 

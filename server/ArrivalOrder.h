@@ -33,7 +33,7 @@ public:
         // The request is there and reads: what must come before it has been done when this returns.
         [[nodiscard]] asio::awaitable<void> beginReading();
         // The request is there and changes something: earlier changes have begun when this returns.
-        [[nodiscard]] asio::awaitable<void> beginChanging();
+        [[nodiscard]] asio::awaitable<void> beginChanging(bool isAnswered);
         // The request is there and belongs to no order, or its change is done.
         void finish();
 

@@ -36,7 +36,7 @@ Reply databaseRefused(const StoreError& error) {
 template <class Rules, auto operation, class Request, bool replies>
 Change prepare(std::span<const std::uint8_t> fields) {
     auto request = RequestReader(fields).read<Request>();
-    return {[request = std::move(request)](Estate& estate, ReplyBuffer& buffer) {
+    auto make = [request = std::move(request)](Estate& estate, ReplyBuffer& buffer) -> StatusReply {
         using Reply = decltype((std::declval<Rules&>().*operation)(request));
         Reply reply;
         try {
@@ -47,7 +47,8 @@ Change prepare(std::span<const std::uint8_t> fields) {
         if constexpr (replies)
             buffer.putFrame(reply);
         return statusOf(reply);
-    }};
+    };
+    return {.isAnswered = replies, .make = std::move(make)};
 }
 
 struct Entry {

@@ -12,6 +12,7 @@ namespace server {
 
 // A change that was asked for, and what to tell the console about it.
 struct Change {
+    bool isAnswered = false; // the console waits for the outcome
     // Makes it in one transaction, or refuses. Never throws: an error of the database becomes a refusal.
     std::function<protocol::StatusReply(Estate&, ReplyBuffer&)> make;
 };

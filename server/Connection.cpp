@@ -86,7 +86,7 @@ asio::awaitable<void> Connection::carryOut(RequestFrame request) {
 }
 
 asio::awaitable<void> Connection::change(std::uint16_t opcode, Change wanted) {
-    co_await place_.beginChanging();
+    co_await place_.beginChanging(wanted.isAnswered);
     ReplyBuffer reply;
     const auto status = co_await runOn(services_.writer, [&] { return wanted.make(*services_.writerEstate, reply); });
     place_.finish();

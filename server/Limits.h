@@ -14,6 +14,7 @@ struct Limits {
     std::chrono::milliseconds arrivalGrace{250}; // how long a command of a distant peer is waited for, see ArrivalOrder
     std::chrono::milliseconds localGrace{5};     // the same for a peer on this machine
     std::chrono::milliseconds stopTime{5000};    // for work in progress when the server is told to end
+    std::chrono::milliseconds idleTime{1000};    // after which a connection without a command makes room for others
     std::size_t connections = 512;
     std::size_t arrivingFromOneAddress = 64; // connections whose command isn't there yet
     std::uint32_t blockSize = 4096;          // of a sealed credential

@@ -4,6 +4,7 @@
 
 #include <tomcrypt.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace server {
@@ -13,6 +14,23 @@ namespace {
 constexpr int modulusBytes = 256;
 constexpr long publicExponent = 65537;
 constexpr std::size_t largestDer = 4096;
+constexpr std::size_t paddingBegin = 2;
+constexpr std::size_t shortestPadding = 8;
+
+// block = 00 02 (padding: bytes other than 0) 00 text
+std::optional<std::u16string> textIn(std::span<const std::uint8_t> block) {
+    const auto end = std::find(block.begin() + paddingBegin, block.end(), std::uint8_t{0});
+    const auto padding = static_cast<std::size_t>(end - block.begin()) - paddingBegin;
+    if (block[0] != 0 || block[1] != 2 || end == block.end() || padding < shortestPadding)
+        return std::nullopt;
+    const auto bytes = block.subspan(paddingBegin + padding + 1);
+    if (bytes.size() % 2 != 0)
+        return std::nullopt;
+    std::u16string text(bytes.size() / 2, u'\0');
+    if (!text.empty())
+        std::memcpy(text.data(), bytes.data(), bytes.size());
+    return text;
+}
 
 } // namespace
 
@@ -67,19 +85,15 @@ Bytes LoginKey::exported(int which) const {
     return der;
 }
 
+// The library's own way out of the padding takes no empty text, and an empty domain is the rule.
 std::optional<std::u16string> LoginKey::unseal(std::span<const std::uint8_t> sealed) const {
-    Bytes plain(modulusBytes);
-    auto size = static_cast<unsigned long>(plain.size());
-    int valid = 0;
-    const int result = rsa_decrypt_key_ex(sealed.data(), static_cast<unsigned long>(sealed.size()), plain.data(), &size,
-                                          nullptr, 0, -1, LTC_PKCS_1_V1_5, &valid, &key_->rsa);
+    Bytes padded(modulusBytes);
+    auto size = static_cast<unsigned long>(padded.size());
     std::optional<std::u16string> text;
-    if (result == CRYPT_OK && valid == 1 && size % 2 == 0) {
-        text.emplace(size / 2, u'\0');
-        if (size > 0)
-            std::memcpy(text->data(), plain.data(), size);
-    }
-    zeromem(plain.data(), plain.size());
+    if (sealed.size() == modulusBytes && rsa_exptmod(sealed.data(), static_cast<unsigned long>(sealed.size()),
+                                                     padded.data(), &size, PK_PRIVATE, &key_->rsa) == CRYPT_OK)
+        text = textIn(padded);
+    zeromem(padded.data(), padded.size());
     return text;
 }
 

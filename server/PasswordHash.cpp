@@ -4,6 +4,8 @@
 
 #include <tomcrypt.h>
 
+#include <algorithm>
+
 namespace server {
 
 namespace {
@@ -14,9 +16,11 @@ constexpr std::size_t hashSize = 32;
 Bytes derive(const std::u16string& password, const Bytes& salt, int iterations) {
     Bytes hash(hashSize);
     unsigned long size = hashSize;
-    const auto* bytes = reinterpret_cast<const unsigned char*>(password.data());
-    require(pkcs_5_alg2(bytes, static_cast<unsigned long>(password.size() * 2), salt.data(),
-                        static_cast<unsigned long>(salt.size()), iterations, find_hash("sha256"), hash.data(), &size),
+    // The library takes no empty key; one zero byte is the same key to the function.
+    const auto* bytes = reinterpret_cast<const unsigned char*>(password.c_str());
+    const auto length = static_cast<unsigned long>(std::max<std::size_t>(password.size() * 2, 1));
+    require(pkcs_5_alg2(bytes, length, salt.data(), static_cast<unsigned long>(salt.size()), iterations,
+                        find_hash("sha256"), hash.data(), &size),
             "hashing a password");
     return hash;
 }

@@ -31,10 +31,9 @@ asio::awaitable<std::span<const std::uint8_t>> PeerStream::take(std::size_t coun
         error_code error;
         const std::size_t got = co_await socket_.async_read_some(
             asio::buffer(input_.data() + end_, input_.size() - end_), asio::redirect_error(asio::use_awaitable, error));
-        if (dropReason_ != nullptr)
-            throw Dropped(dropReason_);
         if (error)
-            throw Dropped("it went away before its request was there as a whole");
+            throw Dropped(dropReason_ != nullptr ? dropReason_
+                                                 : "it went away before its request was there as a whole");
         end_ += got;
     }
     deadline_ = Clock::time_point::max();
@@ -50,10 +49,8 @@ asio::awaitable<void> PeerStream::send(std::span<const std::uint8_t> bytes, std:
     co_await asio::async_write(socket_, asio::buffer(bytes.data(), bytes.size()),
                                asio::redirect_error(asio::use_awaitable, error));
     sendingSince_ = Clock::time_point::max();
-    if (dropReason_ != nullptr)
-        throw Dropped(dropReason_);
     if (error)
-        throw Dropped("it went away before it had its answer");
+        throw Dropped(dropReason_ != nullptr ? dropReason_ : "it went away before it had its answer");
     deadline_ = Clock::time_point::max();
 }
 

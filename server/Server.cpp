@@ -34,7 +34,8 @@ Clock::duration watchInterval(const Limits& limits) {
     return std::clamp(shortest / 4, std::chrono::milliseconds(10), std::chrono::milliseconds(1000));
 }
 
-bool isIdle(Connection& connection) {
+// Its command is not there and nothing of it waits to be looked at.
+bool isSilent(Connection& connection) {
     return connection.isArriving() && !connection.peer().isDropped() && !connection.peer().hasUnread();
 }
 
@@ -86,13 +87,12 @@ asio::awaitable<void> Server::acceptAll() {
     }
 }
 
-// Room is made at the cost of those that sent nothing or do not take their answer, never of a command that has come:
-// when all are at work, new ones wait outside.
+// When all connections are at work, new ones wait outside.
 asio::awaitable<void> Server::waitForRoom() {
     while (acceptor_.is_open() && connections_.size() >= services_.limits.connections) {
-        dropOldestIdle();
+        makeRoom();
         error_code woken;
-        room_.expires_after(stalled);
+        room_.expires_after(services_.limits.idleTime / 2);
         co_await room_.async_wait(asio::redirect_error(asio::use_awaitable, woken));
     }
 }
@@ -102,8 +102,9 @@ void Server::welcome(asio::ip::tcp::socket socket) {
     const auto address = socket.remote_endpoint(error).address();
     if (error)
         return; // it is gone already
-    dropOldestArriving(address);
+    keepWithinShare(address);
     auto connection = std::make_shared<Connection>(std::move(socket), address, services_);
+    connection->peer().endBy(endBy_);
     const auto position = connections_.insert(connections_.end(), connection);
     asio::co_spawn(context_, connection->serve(), [this, position, connection](const std::exception_ptr& failure) {
         connections_.erase(position);
@@ -114,7 +115,11 @@ void Server::welcome(asio::ip::tcp::socket socket) {
     });
 }
 
-void Server::dropOldestArriving(const asio::ip::address& address) {
+bool Server::isIdle(Connection& connection) const {
+    return isSilent(connection) && Clock::now() - connection.since() >= services_.limits.idleTime;
+}
+
+void Server::keepWithinShare(const asio::ip::address& address) {
     if (services_.order.arrivingFrom(address) < services_.limits.arrivingFromOneAddress)
         return;
     const auto found = std::ranges::find_if(
@@ -123,14 +128,12 @@ void Server::dropOldestArriving(const asio::ip::address& address) {
         (*found)->peer().drop("too many connections of its address sent no command");
 }
 
-void Server::dropOldestIdle() {
-    auto found = std::ranges::find_if(connections_, [](const auto& connection) { return isIdle(*connection); });
-    if (found == connections_.end())
-        found = std::ranges::find_if(connections_, [limit = Clock::now() - stalled](const auto& connection) {
-            return connection->peer().isSendingSince(limit);
-        });
-    if (found != connections_.end())
-        (*found)->peer().drop("room was needed for others");
+// Room is made at the cost of those that send nothing or do not take their answer, never of a command that has come.
+void Server::makeRoom() {
+    for (const auto& connection : connections_) {
+        if (isIdle(*connection) || connection->peer().isSendingSince(Clock::now() - stalled))
+            connection->peer().drop("room was needed for others");
+    }
 }
 
 asio::awaitable<void> Server::watchTimes() {
@@ -149,6 +152,7 @@ void Server::beginStopping() {
     if (stopping_)
         return;
     stopping_ = true;
+    endBy_ = Clock::now() + services_.limits.stopTime;
     error_code error;
     acceptor_.non_blocking(true, error);
     for (;;) {
@@ -159,10 +163,9 @@ void Server::beginStopping() {
         welcome(std::move(waiting));
     }
     acceptor_.close(error);
-    const auto latest = Clock::now() + services_.limits.stopTime;
     for (const auto& connection : connections_) {
-        connection->peer().endBy(latest);
-        if (isIdle(*connection))
+        connection->peer().endBy(endBy_);
+        if (isSilent(*connection))
             connection->peer().drop("the server ends");
     }
     watch_.cancel();

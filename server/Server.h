@@ -41,8 +41,9 @@ private:
     [[nodiscard]] asio::awaitable<void> watchTimes();
 
     void welcome(asio::ip::tcp::socket socket);
-    void dropOldestArriving(const asio::ip::address& address);
-    void dropOldestIdle();
+    void keepWithinShare(const asio::ip::address& address);
+    void makeRoom();
+    [[nodiscard]] bool isIdle(Connection& connection) const;
     void beginStopping();
 
     asio::io_context context_{1};
@@ -52,6 +53,7 @@ private:
     asio::steady_timer room_;                            // cancelled whenever a connection ends
     std::list<std::shared_ptr<Connection>> connections_; // in the order of their making
     bool stopping_ = false;
+    PeerStream::Clock::time_point endBy_ = PeerStream::Clock::time_point::max();
 };
 
 } // namespace server

@@ -1,0 +1,149 @@
+#include "server/Answer.h"
+
+#include "tests/server/TestClient.h"
+#include "tests/server/TestEstate.h"
+
+#include <gtest/gtest.h>
+
+namespace server {
+namespace {
+
+using support::operator+;
+using test::FieldCursor;
+using test::TestEstate;
+
+// All frames of the answer, asked for in pieces of the size.
+test::Bytes answerOf(Estate& estate, std::uint16_t opcode, const test::Bytes& fields, std::size_t piece = 65536) {
+    const auto answer = makeAnswer(opcode, fields, estate);
+    test::Bytes all;
+    for (bool more = true; more;) {
+        ReplyBuffer buffer;
+        more = answer->append(buffer, piece);
+        all = std::move(all) + test::Bytes(buffer.bytes().begin(), buffer.bytes().end());
+    }
+    return all;
+}
+
+test::Bytes regionsOf(std::uint8_t kind, std::uint32_t parent) {
+    return test::u8(kind) + test::u32(parent) + test::u16(0);
+}
+
+test::Bytes printersOf(std::int32_t region) {
+    return test::str8("") + test::u32(static_cast<std::uint32_t>(region)) + test::u16(0);
+}
+
+TEST(Answer, thereIsNoneForACommandThatDoesNotRead) {
+    TestEstate place;
+    EXPECT_EQ(makeAnswer(1, {}, place.estate()), nullptr);
+    EXPECT_FALSE(isAnswered(1));
+    EXPECT_TRUE(isAnswered(0));
+    EXPECT_TRUE(isAnswered(6));
+    EXPECT_TRUE(isAnswered(76));
+}
+
+TEST(RegionListAnswer, noRegionsAreOneMessageWithACountOfZero) {
+    TestEstate place;
+    EXPECT_EQ(support::toHex(answerOf(place.estate(), 0, regionsOf(0, 0))),
+              "01 07 00 00 00 08 00 00 00 01 07 00 00 00 00 00");
+}
+
+TEST(RegionListAnswer, regionsComeInOneMessage) {
+    TestEstate place;
+    place.addRegion(u"B");
+    place.addRegion(u"a", 1);
+    EXPECT_EQ(support::toHex(answerOf(place.estate(), 0, regionsOf(0, 0))),
+              "01 1F 00 00 00 CD 00 00 00 01 1F 00 00 00 02 00 "
+              "02 00 61 00 02 00 00 00 01 00 00 00 02 00 42 00 01 00 00 00 00 00 00 00");
+}
+
+TEST(RegionListAnswer, aParentSelectsTheRegionsBelowIt) {
+    TestEstate place;
+    place.addRegion(u"top");
+    place.addRegion(u"below", 1);
+    place.addRegion(u"deeper", 2);
+    const auto messages = test::messagesOf(answerOf(place.estate(), 0, regionsOf(0, 1)));
+    FieldCursor message(messages.at(0));
+    EXPECT_EQ(message.number(2), 1U);
+    EXPECT_EQ(message.text16(), u"below");
+}
+
+TEST(RegionListAnswer, aListOfExactlyTheLargestFrameIsOneMessage) {
+    TestEstate place;
+    place.addRegion(std::u16string((65535 - 7 - 10) / 2, u'x')); // one byte short of the limit: units take two
+    EXPECT_EQ(test::messagesOf(answerOf(place.estate(), 0, regionsOf(0, 0))).size(), 1U);
+}
+
+TEST(RegionListAnswer, aLongerListIsCountedAndSentRecordByRecord) {
+    TestEstate place;
+    place.addRegion(std::u16string(20000, u'x'));
+    place.addRegion(std::u16string(20000, u'y'));
+    const auto messages = test::messagesOf(answerOf(place.estate(), 0, regionsOf(0, 0), 10));
+    ASSERT_EQ(messages.size(), 3U);
+    EXPECT_EQ(support::toHex(messages[0]), "01 07 00 00 00 02 00");
+    FieldCursor second(messages[2]);
+    EXPECT_EQ(second.text16(), std::u16string(20000, u'y'));
+    EXPECT_EQ(second.number(4), 2U);
+    EXPECT_EQ(second.number(4), 0U);
+    EXPECT_TRUE(second.atEnd());
+}
+
+TEST(RecordListAnswer, aCountOfZeroIsOneFrameAndNoRecordFollows) {
+    TestEstate place;
+    EXPECT_EQ(support::toHex(answerOf(place.estate(), 6, printersOf(1))),
+              "01 07 00 00 00 08 00 00 00 01 07 00 00 00 00 00");
+}
+
+TEST(RecordListAnswer, aRecordGoesOutWithAllItsFields) {
+    TestEstate place;
+    const auto region = place.addRegion(u"North");
+    const auto id = place.addPrinter(u"P", region);
+    const auto messages = test::messagesOf(answerOf(place.estate(), 6, printersOf(region)));
+    ASSERT_EQ(messages.size(), 2U);
+    const auto idInHex = support::toHex({id.begin(), id.end()});
+    EXPECT_EQ(support::toHex(messages[1]), "01 64 00 00 00 00 00 00 00 24 00 " + idInHex +
+                                               " 02 00 50 00 00 00 00 00 00 00 00 00 00 00 00 00 "
+                                               "03 02 00 00 01 00 00 00 00 00 30 30 30 00 00 00 00 00 00 00 00 00 00 "
+                                               "00 00 00 00 00 00 00 00 00 00 00 00 00 00");
+}
+
+TEST(RecordListAnswer, piecesOfAnySizeGiveTheSameBytes) {
+    TestEstate place;
+    const auto region = place.addRegion(u"North");
+    for (int number = 0; number < 20; ++number)
+        place.addPrinter(std::u16string(1, static_cast<char16_t>(u'A' + number)), region);
+    const auto whole = answerOf(place.estate(), 6, printersOf(region));
+    EXPECT_EQ(test::messagesOf(whole).size(), 21U);
+    for (const std::size_t piece : {1U, 100U, 1000U})
+        EXPECT_EQ(answerOf(place.estate(), 6, printersOf(region), piece), whole) << piece;
+}
+
+TEST(RecordListAnswer, aListOfMoreThanAConsoleTakesIsCut) {
+    TestEstate place;
+    const auto region = place.addRegion(u"North");
+    place.estate().change([&] {
+        protocol::PrinterRecord record;
+        record.regionId = region;
+        for (int number = 0; number < 32769; ++number) {
+            record.id = std::to_string(number);
+            record.name = std::u16string(record.id.begin(), record.id.end());
+            place.estate().records().insert({.record = record, .printerId = {}});
+        }
+        return true;
+    });
+    const auto messages = test::messagesOf(answerOf(place.estate(), 6, printersOf(region)));
+    EXPECT_EQ(support::toHex(messages.at(0)), "01 07 00 00 00 FF 7F");
+    EXPECT_EQ(messages.size(), 32768U);
+}
+
+TEST(OctetOrderAnswer, theOrderOfAPrinterComesAndZeroForOneThatIsNotThere) {
+    TestEstate place;
+    const auto id = place.addPrinter(u"P", place.addRegion(u"North"));
+    place.recordRules().setOctetOrder({.order = 2, .printerId = id});
+    EXPECT_EQ(support::toHex(answerOf(place.estate(), 76, test::str8(id))),
+              "01 09 00 00 00 0C 00 00 00 01 09 00 00 00 02 00 00 00");
+    EXPECT_EQ(support::toHex(answerOf(place.estate(), 76, test::str8("nobody"))),
+              "01 09 00 00 00 0A 00 00 00 01 09 00 00 00 00 00 00 00");
+}
+
+} // namespace
+} // namespace server

@@ -1,0 +1,132 @@
+#include "server/Store.h"
+
+#include "server/StoreError.h"
+#include "tests/server/TestEstate.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+namespace server {
+namespace {
+
+using test::TestFolder;
+
+std::string messageOf(const std::filesystem::path& file) {
+    try {
+        const Store store(file);
+    } catch (const StoreError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+TEST(Store, aNewDatabaseBelongsToItsOwnerOnly) {
+    const TestFolder folder;
+    const Store store(folder / "estate.db");
+    EXPECT_EQ(std::filesystem::status(store.file()).permissions(), std::filesystem::perms(0600));
+}
+
+TEST(Store, aSecondServerOnTheSameDatabaseIsRefused) {
+    const TestFolder folder;
+    const auto file = folder / "estate.db";
+    const Store store(file);
+    EXPECT_EQ(messageOf(file), file.string() + ": the database is in use by another vantreld");
+}
+
+TEST(Store, theDatabaseIsFreeAgainWhenItsStoreIsGone) {
+    const TestFolder folder;
+    const auto file = folder / "estate.db";
+    { const Store store(file); }
+    EXPECT_EQ(messageOf(file), "");
+}
+
+TEST(Store, aFileThatIsNoDatabaseIsRefusedAndStaysAsItIs) {
+    const TestFolder folder;
+    const std::string text = "This is a letter to the editor, and long enough to be looked at as a page of a file. "
+                             "It goes on for more than a hundred bytes.";
+    const auto file = folder.write("letter.txt", text);
+    EXPECT_EQ(messageOf(file), file.string() + ": the file is not a database");
+    EXPECT_EQ(std::filesystem::file_size(file), text.size());
+}
+
+TEST(Store, aFolderIsRefused) {
+    const TestFolder folder;
+    std::filesystem::create_directory(folder / "sub");
+    EXPECT_NE(messageOf(folder / "sub").find("the database cannot be opened"), std::string::npos);
+}
+
+TEST(Store, aFolderThatDoesNotExistIsNamed) {
+    const TestFolder folder;
+    const auto file = folder / "nowhere/estate.db";
+    EXPECT_EQ(messageOf(file), file.string() + ": the database cannot be opened: No such file or directory");
+}
+
+TEST(Store, aDeviceIsNoDatabase) {
+    EXPECT_EQ(messageOf("/dev/null"), "/dev/null: the database must be an ordinary file");
+}
+
+TEST(Store, aDatabaseThatAnotherProgramHasLockedIsTold) {
+    const TestFolder folder;
+    const auto file = folder / "estate.db";
+    { const Store store(file); }
+    SQLite::Database other(file.string(), SQLite::OPEN_READWRITE);
+    other.exec("PRAGMA locking_mode = EXCLUSIVE");
+    other.exec("BEGIN EXCLUSIVE");
+    EXPECT_EQ(messageOf(file), file.string() + ": the database is locked by another program");
+}
+
+TEST(Store, connectionsWriteThroughToTheDisk) {
+    const TestFolder folder;
+    const Store store(folder / "estate.db");
+    auto database = store.connect();
+    EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
+    EXPECT_EQ(database.execAndGet("PRAGMA synchronous").getInt(), 2);
+    EXPECT_EQ(database.execAndGet("PRAGMA foreign_keys").getInt(), 1);
+}
+
+TEST(Estate, aChangeThatThrowsHasNotHappened) {
+    test::TestEstate place;
+    EXPECT_THROW(place.estate().change([&]() -> int {
+        place.addRegion(u"North");
+        throw StoreError("no");
+    }),
+                 StoreError);
+    EXPECT_TRUE(place.estate().regions().isEmpty());
+    EXPECT_EQ(place.estate().change([&] { return place.addRegion(u"South"); }), 1);
+}
+
+TEST(Estate, aFullDatabaseTellsSoAndKeepsWhatItHas) {
+    test::TestEstate place;
+    const auto kept = place.addRegion(u"North");
+    auto database = place.store().connect();
+    const auto pages = database.execAndGet("PRAGMA page_count").getInt();
+    database.exec("PRAGMA max_page_count = " + std::to_string(pages));
+    Estate full(std::move(database));
+    const std::u16string longName(20000, u'x');
+    try {
+        full.change([&] { return full.regions().insert(0, 0, longName); });
+        FAIL() << "there was space";
+    } catch (const StoreError& error) {
+        EXPECT_STREQ(error.what(), "there is no space left for the database");
+    }
+    EXPECT_TRUE(full.regions().find(0, kept));
+    EXPECT_TRUE(full.change([&] {
+        full.regions().rename(kept, u"N");
+        return true;
+    }));
+}
+
+TEST(Estate, aMomentDoesNotSeeLaterChanges) {
+    test::TestEstate place;
+    const auto reader = place.store().openEstate();
+    {
+        const Estate::Moment moment(*reader);
+        EXPECT_TRUE(reader->regions().isEmpty());
+        place.addRegion(u"North");
+        EXPECT_TRUE(reader->regions().isEmpty());
+    }
+    EXPECT_FALSE(reader->regions().isEmpty());
+}
+
+} // namespace
+} // namespace server

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "tests/support/Bytes.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace server::test {
+
+using support::Bytes;
+
+// Fields of requests.
+[[nodiscard]] Bytes u8(std::uint8_t value);
+[[nodiscard]] Bytes u16(std::uint16_t value);
+[[nodiscard]] Bytes u32(std::uint32_t value);
+[[nodiscard]] Bytes str8(std::string_view text);
+[[nodiscard]] Bytes str16(std::u16string_view text);
+
+// A whole request: the Data message when there are fields, then the Command message.
+[[nodiscard]] Bytes request(std::uint16_t opcode, const std::optional<Bytes>& fields, std::uint16_t version = 1);
+
+// Takes fields off the bytes of a message, in order.
+class FieldCursor {
+public:
+    explicit FieldCursor(const Bytes& message, std::size_t offset = 5) : message_(message), offset_(offset) {}
+    [[nodiscard]] std::uint32_t number(std::size_t width);
+    [[nodiscard]] std::string text8();
+    [[nodiscard]] std::u16string text16();
+    [[nodiscard]] bool atEnd() const { return offset_ == message_.size(); }
+
+private:
+    const Bytes& message_;
+    std::size_t offset_;
+};
+
+// One connection to a server, which speaks in bytes. A wait of more than twenty seconds throws.
+class TestClient {
+public:
+    explicit TestClient(std::uint16_t port);
+    ~TestClient();
+    TestClient(TestClient&& other) noexcept;
+    TestClient(const TestClient&) = delete;
+    TestClient& operator=(const TestClient&) = delete;
+
+    TestClient& send(const Bytes& bytes);
+    // Like send, but a server that has closed is no failure.
+    void trySend(const Bytes& bytes);
+    void closeSending();
+    void close();
+    // Closes so that the server sees a reset.
+    void reset();
+
+    [[nodiscard]] Bytes receive(std::size_t count);
+    // The data of the next frame, its header checked.
+    [[nodiscard]] Bytes receiveFrame();
+    // All that comes until the server closes; a reset counts as closing.
+    [[nodiscard]] Bytes receiveAll();
+    // The server closes without a byte.
+    [[nodiscard]] bool isClosedSilently() { return receiveAll().empty(); }
+
+private:
+    [[nodiscard]] bool waitReadable() const;
+
+    int socket_;
+};
+
+// One command over a connection of its own, all of its answer.
+[[nodiscard]] Bytes ask(std::uint16_t port, const Bytes& request);
+// Sends, closes and waits for nothing.
+void tell(std::uint16_t port, const Bytes& request);
+
+// The messages of all frames.
+[[nodiscard]] std::vector<Bytes> messagesOf(const Bytes& frames);
+
+} // namespace server::test

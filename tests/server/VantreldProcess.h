@@ -1,0 +1,43 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace server::test {
+
+// The program itself, with everything that it writes. Waits of more than thirty seconds throw. One that still runs at
+// the end is killed.
+class VantreldProcess {
+public:
+    // The largest size of a file that it may write, to stand for a full disk.
+    explicit VantreldProcess(std::vector<std::string> arguments,
+                             std::optional<std::uint64_t> largestFile = std::nullopt);
+    ~VantreldProcess();
+    VantreldProcess(const VantreldProcess&) = delete;
+    VantreldProcess& operator=(const VantreldProcess&) = delete;
+
+    // Waits until it listens, and returns where.
+    [[nodiscard]] std::uint16_t waitForPort();
+
+    void signal(int number);
+    // Waits until it has ended; its exit status, or minus the signal that killed it.
+    [[nodiscard]] int wait();
+
+    // What it has written, complete after wait().
+    [[nodiscard]] const std::string& output() const { return output_; }
+
+private:
+    // False at the end of what it writes.
+    bool readMore();
+
+    pid_t process_ = -1;
+    int pipe_ = -1;
+    std::string output_;
+};
+
+} // namespace server::test
