@@ -200,7 +200,7 @@ void ScriptedServer::Connection::close() {
     }
 }
 
-void ScriptedServer::Connection::endSending() {
+void ScriptedServer::Connection::endSending() const {
     ::shutdown(socket_, SHUT_WR);
 }
 

@@ -40,7 +40,7 @@ public:
         void close();
 
         // Ends the server's side: the peer reads to an end, but may still send.
-        void endSending();
+        void endSending() const;
 
         // Ends the connection so that the peer sees a reset.
         void reset();

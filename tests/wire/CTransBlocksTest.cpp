@@ -5,7 +5,6 @@
 
 using support::Bytes;
 using support::hex;
-using support::operator+;
 using support::ScriptedServer;
 using support::toHex;
 using trans::CTrans;
@@ -126,13 +125,14 @@ TEST(CTransBlocks, aReceivedBlockOfNothingIsASuccess) {
 }
 
 TEST(CTransBlocks, aReceivedBlockOfSeveralChunksIsPutTogether) {
-    Bytes sent = hex("A8 61 00 00"); // 25000
+    const Bytes sent = hex("A8 61 00 00"); // 25000
     Bytes body(25000);
     for (std::size_t index = 0; index < body.size(); ++index) {
         body[index] = static_cast<std::uint8_t>(index % 253);
     }
     ScriptedServer server([&](auto& connection) {
-        connection.send(sent + body);
+        connection.send(sent);
+        connection.send(body);
         connection.untilClosed();
     });
     CTrans connection;

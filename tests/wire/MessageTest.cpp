@@ -10,7 +10,6 @@
 using support::Bytes;
 using support::dataMessage;
 using support::hex;
-using support::operator+;
 using support::toHex;
 using wire::Message;
 using wire::MessageKind;
@@ -356,9 +355,10 @@ TEST(Message, theShortWayForPlainWideTextGivesWhatTheConverterGives) {
                 const Bytes expected(encoded, encoded + converter.byteLength(false));
                 EXPECT_EQ(toHex({written.bytes().begin() + 7, written.bytes().end()}), toHex(expected));
 
-                Bytes raw(2 * length);
-                std::memcpy(raw.data(), text.data(), raw.size());
-                Message read = loaded(dataMessage(Bytes{static_cast<std::uint8_t>(raw.size()), 0} + raw));
+                Bytes raw(2 + 2 * length);
+                raw[0] = static_cast<std::uint8_t>(2 * length);
+                std::memcpy(&raw[2], text.data(), 2 * length);
+                Message read = loaded(dataMessage(raw));
                 EXPECT_EQ(read.getWideString(), unicode::UTFConverter(text.c_str(), 3).toWideString());
             }
         }

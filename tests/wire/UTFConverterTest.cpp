@@ -5,7 +5,6 @@
 
 #include <cstring>
 
-using support::hex;
 using support::toHex;
 using unicode::UTFConverter;
 using wire::WideString;
