@@ -5,6 +5,7 @@
 #include "server/Store.h"
 
 #include <array>
+#include <map>
 #include <optional>
 
 namespace server {
@@ -29,11 +30,14 @@ public:
 private:
     [[nodiscard]] const LoginKey& key();
     [[nodiscard]] const PasswordHash& nobody();
+    [[nodiscard]] bool matches(const PasswordHash& account, const std::u16string& password);
 
     SQLite::Database database_;
     AccountTable table_;
     std::optional<LoginKey> key_;
     std::optional<PasswordHash> nobody_;
+    Bytes proofKey_;
+    std::map<Bytes, Bytes> proofs_; // of passwords that were right, by the hash of their account
 };
 
 } // namespace server

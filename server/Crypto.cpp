@@ -30,7 +30,20 @@ Bytes randomBytes(std::size_t count) {
 }
 
 bool equalInConstantTime(std::span<const std::uint8_t> left, std::span<const std::uint8_t> right) {
-    return left.size() == right.size() && mem_neq(left.data(), right.data(), left.size()) == 0;
+    return left.size() == right.size() && !left.empty() && mem_neq(left.data(), right.data(), left.size()) == 0;
+}
+
+Bytes authenticationCode(const Bytes& key, const Bytes& bytes, const std::u16string& text) {
+    Bytes message = bytes;
+    const auto* units = reinterpret_cast<const std::uint8_t*>(text.data());
+    message.insert(message.end(), units, units + text.size() * 2);
+    Bytes code(32);
+    auto size = static_cast<unsigned long>(code.size());
+    require(hmac_memory(find_hash("sha256"), key.data(), static_cast<unsigned long>(key.size()), message.data(),
+                        static_cast<unsigned long>(message.size()), code.data(), &size),
+            "proving a password");
+    zeromem(message.data(), message.size());
+    return code;
 }
 
 } // namespace server

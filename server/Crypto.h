@@ -13,8 +13,11 @@ void initCrypto();
 
 [[nodiscard]] Bytes randomBytes(std::size_t count);
 
-// Takes the same time wherever two texts of one length differ.
+// Takes the same time wherever two texts of one length differ. Nothing equals an empty one.
 [[nodiscard]] bool equalInConstantTime(std::span<const std::uint8_t> left, std::span<const std::uint8_t> right);
+
+// HMAC with SHA-256 of the bytes and the units of the text after them.
+[[nodiscard]] Bytes authenticationCode(const Bytes& key, const Bytes& bytes, const std::u16string& text);
 
 // Throws std::runtime_error that names the step for any result of LibTomCrypt but success.
 void require(int result, const char* step);

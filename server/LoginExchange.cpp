@@ -66,8 +66,16 @@ asio::awaitable<bool> LoginExchange::verify(const SealedCredentials& sealed) {
         asio::steady_timer timer(co_await asio::this_coro::executor, *wait);
         co_await timer.async_wait(asio::use_awaitable);
     }
-    const bool known = co_await runOn(services_.logins, [&] { return services_.accounts.verify(sealed); });
+    bool known = false;
+    std::exception_ptr failure;
+    try {
+        known = co_await runOn(services_.logins, [&] { return services_.accounts.verify(sealed); });
+    } catch (...) {
+        failure = std::current_exception();
+    }
     services_.ledger.endTry(address_, Clock::now(), known);
+    if (failure)
+        std::rethrow_exception(failure);
     if (known)
         spdlog::info("{}: logged in", address_.to_string());
     else

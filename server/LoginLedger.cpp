@@ -13,6 +13,7 @@ constexpr LoginLedger::Clock::duration firstDelay = 250ms;
 constexpr LoginLedger::Clock::duration longestDelay = 8s; // a console waits fifteen seconds for an answer
 constexpr LoginLedger::Clock::duration longestWait = 10s;
 constexpr LoginLedger::Clock::duration forgivenAfter = 10min;
+constexpr int mostUnderWay = 32;
 constexpr std::size_t mostAddresses = 10000;
 
 LoginLedger::Clock::duration delayAfter(int failures) {
@@ -32,19 +33,27 @@ bool LoginLedger::mayCommand(const asio::ip::address& address, Clock::time_point
 
 std::optional<LoginLedger::Clock::duration> LoginLedger::beginTry(const asio::ip::address& address,
                                                                   Clock::time_point now) {
-    const auto failures = failures_.find(address);
-    if (failures == failures_.end())
-        return 0s;
-    auto& [count, last, nextTry] = failures->second;
-    const auto wait = std::max(nextTry - now, Clock::duration::zero());
-    if (wait > longestWait)
+    const auto underWay = underWay_.find(address);
+    if (underWay != underWay_.end() && underWay->second >= mostUnderWay)
         return std::nullopt;
-    nextTry = now + wait + delayAfter(count);
+    Clock::duration wait{};
+    const auto failures = failures_.find(address);
+    if (failures != failures_.end()) {
+        auto& [count, last, nextTry] = failures->second;
+        wait = std::max(nextTry - now, Clock::duration::zero());
+        if (wait > longestWait)
+            return std::nullopt;
+        nextTry = now + wait + delayAfter(count);
+    }
+    ++underWay_[address];
     return wait;
 }
 
 void LoginLedger::endTry(const asio::ip::address& address, Clock::time_point now, bool loggedIn) {
     forgetOld(now);
+    const auto underWay = underWay_.find(address);
+    if (underWay != underWay_.end() && --underWay->second <= 0)
+        underWay_.erase(underWay);
     if (loggedIn) {
         logins_[address] = now;
         failures_.erase(address);

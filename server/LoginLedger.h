@@ -33,6 +33,7 @@ private:
     void forgetOld(Clock::time_point now);
 
     std::chrono::minutes loginRequired_;
+    std::map<asio::ip::address, int> underWay_;
     std::map<asio::ip::address, Clock::time_point> logins_;
     std::map<asio::ip::address, Failures> failures_;
 };

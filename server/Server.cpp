@@ -45,6 +45,15 @@ void passOn(const std::exception_ptr& error) {
         std::rethrow_exception(error);
 }
 
+// So that the first login does not wait for it. A login that needs a key which cannot be made says so again.
+void makeLoginKey(Accounts& accounts) {
+    try {
+        (void)accounts.publicKey();
+    } catch (const std::exception& error) {
+        spdlog::error("there is no key for logins: {}", error.what());
+    }
+}
+
 } // namespace
 
 Server::Server(const Store& store, Accounts& accounts, const ServerSettings& settings)
@@ -63,6 +72,7 @@ std::uint16_t Server::port() const {
 }
 
 void Server::run() {
+    asio::post(services_.logins, [this] { makeLoginKey(services_.accounts); });
     asio::co_spawn(context_, acceptAll(), passOn);
     asio::co_spawn(context_, watchTimes(), passOn);
     context_.run();

@@ -96,6 +96,17 @@ TEST_F(AccountsTest, savingAgainGivesAnotherPassword) {
     EXPECT_TRUE(logIn(u"admin", u"second"));
 }
 
+TEST_F(AccountsTest, aPasswordThatWasRightIsRightAgainUntilItChanges) {
+    accounts_.save(u"admin", u"secret");
+    EXPECT_TRUE(logIn(u"admin", u"secret"));
+    EXPECT_TRUE(logIn(u"admin", u"secret"));
+    EXPECT_FALSE(logIn(u"admin", u"secret "));
+    EXPECT_FALSE(logIn(u"other", u"secret"));
+    accounts_.save(u"admin", u"changed");
+    EXPECT_FALSE(logIn(u"admin", u"secret"));
+    EXPECT_TRUE(logIn(u"admin", u"changed"));
+}
+
 TEST_F(AccountsTest, theKeyStaysTheSame) {
     const auto key = accounts_.publicKey();
     EXPECT_EQ(Accounts(store_).publicKey(), key);
@@ -172,6 +183,18 @@ TEST(LoginLedger, triesAtOnceWaitInTurnAndTooManyAreTurnedAway) {
         ledger.endTry(here, now, false);
     EXPECT_EQ(ledger.beginTry(here, now), 8s);
     EXPECT_EQ(ledger.beginTry(here, now), std::nullopt);
+}
+
+TEST(LoginLedger, soManyTriesOfOneAddressMayBeUnderWay) {
+    LoginLedger ledger(60min);
+    const auto now = Clock::now();
+    for (int count = 0; count < 32; ++count)
+        EXPECT_TRUE(ledger.beginTry(here, now)) << count;
+    EXPECT_FALSE(ledger.beginTry(here, now));
+    EXPECT_TRUE(ledger.beginTry(there, now));
+    ledger.endTry(here, now, true);
+    EXPECT_TRUE(ledger.beginTry(here, now));
+    EXPECT_FALSE(ledger.beginTry(here, now));
 }
 
 TEST(LoginLedger, aLoginEndsTheWaiting) {
