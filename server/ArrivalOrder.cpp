@@ -34,8 +34,9 @@ asio::awaitable<void> ArrivalOrder::Place::beginReading() {
 }
 
 asio::awaitable<void> ArrivalOrder::Place::beginChanging(bool isAnswered) {
+    enter(State::waiting);
+    co_await order_.waitForEarlier(*this, false);
     enter(isAnswered ? State::done : State::changing);
-    return order_.waitForEarlier(*this, false);
 }
 
 void ArrivalOrder::Place::finish() {
@@ -63,7 +64,7 @@ Clock::time_point ArrivalOrder::waitFor(const Place& place, Clock::time_point st
     return place.since_ + (place.address_.is_loopback() ? limits_.localGrace : limits_.arrivalGrace);
 }
 
-asio::awaitable<void> ArrivalOrder::waitForEarlier(const Place& place, bool forChanges) {
+asio::awaitable<void> ArrivalOrder::waitForEarlier(const Place& place, bool forBegunChanges) {
     const auto start = Clock::now();
     for (;;) {
         auto& line = *lines_.at(place.address_);
@@ -73,7 +74,8 @@ asio::awaitable<void> ArrivalOrder::waitForEarlier(const Place& place, bool forC
                 break;
             if (earlier->state_ == Place::State::arriving)
                 until = std::max(until, waitFor(*earlier, start));
-            else if (forChanges && earlier->state_ == Place::State::changing)
+            else if (earlier->state_ == Place::State::waiting ||
+                     (forBegunChanges && earlier->state_ == Place::State::changing))
                 until = Clock::time_point::max();
         }
         if (until <= Clock::now())

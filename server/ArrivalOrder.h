@@ -39,7 +39,12 @@ public:
 
     private:
         friend class ArrivalOrder;
-        enum class State { arriving, changing, done };
+        enum class State {
+            arriving, // the request is not there yet
+            waiting,  // it is there, and wants to change something after others
+            changing, // the change has begun, and its console waits for nothing
+            done,     // nobody has to wait for it any more
+        };
 
         void enter(State state);
 
@@ -63,7 +68,7 @@ private:
 
     // Until when the place has to be waited for; the past when it need not be.
     [[nodiscard]] PeerStream::Clock::time_point waitFor(const Place& place, PeerStream::Clock::time_point start) const;
-    [[nodiscard]] asio::awaitable<void> waitForEarlier(const Place& place, bool forChanges);
+    [[nodiscard]] asio::awaitable<void> waitForEarlier(const Place& place, bool forBegunChanges);
 
     asio::io_context& context_;
     const Limits& limits_;

@@ -204,6 +204,31 @@ TEST(Server, manyChangesAtOnceAreAllDoneInTheirOrder) {
     EXPECT_EQ(regionNames(server.port()), std::vector<std::u16string>{u"200"});
 }
 
+TEST(Server, manyConsolesOfOneAddressEachSeeTheirChangesInTheirOrder) {
+    RunningServer server;
+    server.start();
+    constexpr std::uint32_t consoles = 6;
+    for (std::uint32_t console = 0; console < consoles; ++console)
+        tell(server.port(), createRegion(std::u16string(1, static_cast<char16_t>(u'A' + console))));
+    for (std::uint32_t console = 0; console < consoles; ++console)
+        tell(server.port(), createRegion(u"inner", console + 1));
+    ASSERT_EQ(regionNames(server.port()).size(), std::size_t{2} * consoles);
+    const auto administer = [&](std::uint32_t outer) {
+        for (char16_t round = 0; round < 80; ++round) {
+            const std::u16string name = {u'x', static_cast<char16_t>(u'a' + round)};
+            for (const auto& next : {std::u16string(u"first"), std::u16string(u"second"), name})
+                tell(server.port(), request(2, u8(0) + u32(outer + consoles) + str16(next)));
+            const auto message = messagesOf(ask(server.port(), listRegions(outer))).at(0);
+            FieldCursor cursor(message);
+            EXPECT_EQ(cursor.number(2), 1U);
+            EXPECT_EQ(cursor.text16(), name);
+        }
+    };
+    std::vector<std::jthread> threads;
+    for (std::uint32_t console = 0; console < consoles; ++console)
+        threads.emplace_back(administer, console + 1);
+}
+
 TEST(Server, aChangeOverAConnectionThatWasMadeLongBeforeIsNotOvertaken) {
     RunningServer server;
     server.start();
