@@ -31,7 +31,10 @@ public:
             app_.exit(success, text, text);
             return Information{text.str()};
         } catch (const CLI::ParseError& error) {
-            throw Failure(ExitStatus::usage, oneLine(error.what()) + " (see vantrelctl --help)");
+            const auto unknown = app_.get_subcommands().empty() ? app_.remaining() : std::vector<std::string>();
+            throw Failure(ExitStatus::usage,
+                          (unknown.empty() ? oneLine(error.what()) : "There is no command \"" + unknown.front() + '"') +
+                              " (see vantrelctl --help)");
         }
         options_.steps = stepsInOrder();
         return options_;

@@ -53,7 +53,7 @@ void CtlUserInterface::finish() {
 Answer CtlUserInterface::messageBox(console::WindowHandle /*owner*/, const wire::WideString& text,
                                     const wire::WideString& caption, std::uint32_t boxStyle) {
     const Buttons buttons = buttonsOf(boxStyle);
-    const std::string line = shown(caption) + ": " + shown(text);
+    const std::string line = shown(caption) + ": " + shown(text.substr(0, text.find_last_not_of(u' ') + 1));
     if (failure_) {
         return buttons.least;
     }

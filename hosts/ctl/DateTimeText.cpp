@@ -10,7 +10,7 @@ std::optional<std::optional<console::DateTime>> parseDateTime(const std::string&
     }
     static const std::regex form(R"((?:(\d{4})-(\d\d)-(\d\d))?[ T]?(?:(\d\d):(\d\d)(?::(\d\d))?)?)");
     std::smatch parts;
-    if (text.empty() || !std::regex_match(text, parts, form)) {
+    if (!std::regex_match(text, parts, form)) {
         return std::nullopt;
     }
     console::DateTime value;
@@ -25,7 +25,10 @@ std::optional<std::optional<console::DateTime>> parseDateTime(const std::string&
     take(4, value.hour);
     take(5, value.minute);
     take(6, value.second);
-    return console::isValid(value) ? std::optional(std::optional(value)) : std::nullopt;
+    if ((!parts[1].matched && !parts[4].matched) || !console::isValid(value)) {
+        return std::nullopt;
+    }
+    return std::optional<console::DateTime>(value);
 }
 
 } // namespace ctl

@@ -37,6 +37,7 @@ public:
 
     shell::Shell& shell() { return shell_; }
     CtlUserInterface& ui() { return ui_; }
+    shell::Observers& observers() { return observers_; }
 
 private:
     // What was given, else what the settings have under the name. Throws Failure (no connection) without either.

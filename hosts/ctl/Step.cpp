@@ -29,7 +29,7 @@ console::Answer parseAnswer(std::string_view text) {
 
 Step parseStep(Step::Kind kind, std::string_view argument) {
     const auto option = optionNames[static_cast<std::size_t>(kind)];
-    Step step{.kind = kind, .written = std::string(option) + " \"" + shown(wire::toWide(argument)) + '"'};
+    Step step{.kind = kind, .written = std::string(option) + " \"" + shown(wire::toWide(argument.substr(0, 80))) + '"'};
     if (kind == Step::Kind::answer) {
         step.answer = parseAnswer(argument);
         return step;
@@ -44,7 +44,7 @@ Step parseStep(Step::Kind kind, std::string_view argument) {
                       std::string(option) + " takes LABEL=VALUE, not \"" + std::string(argument) + '"');
     }
     step.label = wire::toWide(argument.substr(0, equals));
-    step.value = wire::toWide(argument.substr(equals + 1));
+    step.value = bearable(wire::toWide(argument.substr(equals + 1)));
     return step;
 }
 

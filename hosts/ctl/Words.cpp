@@ -28,6 +28,15 @@ std::string listed(std::span<const wire::WideString> texts) {
     return line;
 }
 
+wire::WideString bearable(wire::WideString text) {
+    constexpr std::size_t longest = 32767; // the length before a text counts bytes and has 16 bits
+    if (text.size() > longest) {
+        throw Failure(ExitStatus::usage, "The text \"" + shown(text.substr(0, 20)) + "...\" is longer than the " +
+                                             std::to_string(longest) + " characters of a command");
+    }
+    return text;
+}
+
 bool sameWord(wire::WideStringView a, wire::WideStringView b) {
     return a.size() == b.size() && console::compareIgnoringCase(a, b) == 0;
 }

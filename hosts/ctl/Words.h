@@ -14,6 +14,9 @@ std::string shown(wire::WideStringView text);
 // "A", "B", "C", or "A", ..., "T" and 12 more.
 std::string listed(std::span<const wire::WideString> texts);
 
+// The text itself. Throws Failure (usage) when it is longer than the 32,767 characters that a command can carry.
+wire::WideString bearable(wire::WideString text);
+
 // Equal without regard to case.
 bool sameWord(wire::WideStringView a, wire::WideStringView b);
 

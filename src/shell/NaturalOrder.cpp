@@ -1,6 +1,7 @@
 #include "shell/NaturalOrder.h"
 
 #include "console/CaseFold.h"
+#include "shell/BaseLetter.h"
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ wire::WideString naturalKey(wire::WideStringView text) {
     key.reserve(text.size() + 4);
     for (auto at = text.begin(); at != text.end();) {
         if (!isDigit(*at)) {
-            key.push_back(console::foldCase(*at++));
+            key.push_back(baseLetter(console::foldCase(*at++)));
             continue;
         }
         const auto end = std::find_if_not(at, text.end(), isDigit);

@@ -4,8 +4,8 @@
 
 namespace shell {
 
-// The order in which people expect names: without regard to case, and numbers by their value, so that "Floor 9" stands
-// before "Floor 10".
+// The order in which people expect names: without regard to case and accents, and numbers by their value, so that
+// "Floor 9" stands before "Floor 10".
 
 // A text whose plain comparison with others of its kind gives the natural order of the originals.
 wire::WideString naturalKey(wire::WideStringView text);

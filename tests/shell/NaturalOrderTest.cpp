@@ -25,6 +25,12 @@ TEST(NaturalOrder, caseDoesNotCount) {
     EXPECT_EQ(shell::naturalKey(u"ZÜRICH"), shell::naturalKey(u"Zürich"));
 }
 
+TEST(NaturalOrder, accentsDoNotCount) {
+    EXPECT_TRUE(stands(u"Łódź", u"München"));
+    EXPECT_TRUE(stands(u"Århus", u"Berlin"));
+    EXPECT_EQ(shell::naturalKey(u"Straße"), shell::naturalKey(u"strase"));
+}
+
 TEST(NaturalOrder, aBeginningStandsBeforeTheWhole) {
     EXPECT_TRUE(stands(u"Hall", u"Hall 2"));
     EXPECT_TRUE(stands(u"", u"a"));
