@@ -71,6 +71,13 @@ TEST(LayerRules, windowsHeadersBelongToTheModuleAndToTheWindowsHalves) {
                             "src/client/A.cpp: windows.h belongs to other folders"));
 }
 
+TEST(LayerRules, ourOwnWindowsHeaderCountsAsOneOfThem) {
+    EXPECT_THAT(platformHeadersOutside({{"src/diagnostics/DbgHelp.h", "#include <windows.h>\n"},
+                                        {"src/diagnostics/DbgHelp.cpp", "#include \"diagnostics/DbgHelp.h\"\n"},
+                                        {"src/console/A.cpp", "#include \"diagnostics/DbgHelp.h\"\n"}}),
+                ElementsAre("src/console/A.cpp: diagnostics/DbgHelp.h belongs to other folders"));
+}
+
 TEST(LayerRules, sqliteBelongsToTheServer) {
     EXPECT_THAT(platformHeadersOutside({{"server/Store.cpp", "#include <sqlite3.h>\n"},
                                         {"src/client/A.cpp", "#include <SQLiteCpp/Database.h>\n"},
