@@ -13,23 +13,19 @@ class FormWidgets;
 // A form of the console as a dialog, drawn from its controls alone. Attaches itself as the form's observer, opens the
 // form, and closes once the form has ended. The form outlives it.
 class FormDialog final : public QDialog, private console::FormObserver {
-    Q_OBJECT
-
 public:
     explicit FormDialog(console::Form& form, QWidget* owner = nullptr);
     FormDialog(const FormDialog&) = delete;
     FormDialog& operator=(const FormDialog&) = delete;
     ~FormDialog() override;
 
-    // The widget that stands for a control: the box, list or button itself, not its label; null for a control that is
-    // not shown by one.
+    // The widget that stands for a control: the box, list or button itself, not its label.
     QWidget* widgetOf(const console::Control& control) const;
 
-    // Escape and the closing cross: up to the form, as its Cancel button is.
+    // Escape and the closing cross: the form decides, as it does about its Cancel button.
     void reject() override;
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

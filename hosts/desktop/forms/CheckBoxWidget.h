@@ -1,0 +1,30 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QCheckBox>
+
+namespace console {
+class CheckBox;
+}
+
+namespace desktop {
+
+// A check box of a form.
+class CheckBoxWidget final : public ControlWidget {
+public:
+    explicit CheckBoxWidget(console::CheckBox& checkBox);
+
+    Place place() const override { return Place::field; }
+    bool takesAccessKey() const override { return true; }
+    void showLabel(const QString& text) override { box_->setText(text); }
+
+protected:
+    void update(console::Aspect aspect) override;
+
+private:
+    console::CheckBox& checkBox_;
+    QCheckBox* box_;
+};
+
+} // namespace desktop

@@ -1,0 +1,116 @@
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include "console/FormWalk.h"
+#include "hosts/desktop/forms/ShownText.h"
+
+#include <QFocusEvent>
+#include <QTimer>
+
+#include <utility>
+
+namespace desktop {
+
+void ControlWidget::setUp(QWidget* widget, QWidget* field) {
+    widget_ = widget;
+    field_ = field != nullptr ? field : widget;
+    widget_->installEventFilter(this);
+}
+
+void ControlWidget::addCaption() {
+    if (control_.label().empty()) {
+        return;
+    }
+    caption_ = new QLabel;
+    caption_->setTextFormat(Qt::PlainText);
+    caption_->setBuddy(widget_);
+}
+
+void ControlWidget::showLabel(const QString& text) {
+    if (caption_ != nullptr) {
+        caption_->setText(text);
+    }
+}
+
+void ControlWidget::mirror(console::Aspect aspect) {
+    mirrored([&] {
+        switch (aspect) {
+        case console::Aspect::enabled:
+            enable(control_.enabled());
+            if (caption_ != nullptr) {
+                caption_->setEnabled(control_.enabled());
+            }
+            break;
+        case console::Aspect::visible:
+            field_->setVisible(control_.visible());
+            if (caption_ != nullptr) {
+                caption_->setVisible(control_.visible());
+            }
+            break;
+        case console::Aspect::label:
+            for (QWidget* stop : tabStops()) {
+                stop->setAccessibleName(shownLine(spokenName()));
+            }
+            break;
+        case console::Aspect::focus:
+            if (widget_->isVisible() && control_.reachable()) {
+                widget_->window()->activateWindow();
+                widget_->setFocus(Qt::TabFocusReason);
+            }
+            break;
+        default:
+            update(aspect);
+        }
+    });
+}
+
+wire::WideString ControlWidget::spokenName() const {
+    return console::readableLabel(control_.label());
+}
+
+void ControlWidget::mirrorAll() {
+    using enum console::Aspect;
+    for (const auto aspect : {label, columns, limits, items, text, selection, enabled}) {
+        mirror(aspect);
+    }
+    refillNow();
+    if (!control_.visible()) {
+        mirror(visible);
+    }
+}
+
+void ControlWidget::mirrored(const std::function<void()>& change) {
+    const bool before = std::exchange(mirroring_, true);
+    change();
+    mirroring_ = before;
+}
+
+void ControlWidget::refillSoon() {
+    if (!std::exchange(stale_, true)) {
+        QTimer::singleShot(0, this, [this] { refillNow(); });
+    }
+}
+
+void ControlWidget::refillNow() {
+    if (std::exchange(stale_, false)) {
+        mirrored([this] { refill(); });
+    }
+}
+
+bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && !widget_->hasFocus() && place() == Place::row) {
+        event->ignore(); // a wheel that scrolls the dialog changes no box that it passes
+        return true;
+    }
+    if (event->type() == QEvent::FocusOut && watched == widget_) {
+        const auto reason = static_cast<const QFocusEvent*>(event)->reason();
+        const bool staysInDialog =
+            reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
+        if (staysInDialog) {
+            // The handler may ask questions: not in the middle of a change of focus.
+            QTimer::singleShot(0, this, [this] { control_.userLeft(); });
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QCheckBox>
+#include <QDateTimeEdit>
+
+namespace console {
+class DateTimePicker;
+}
+
+namespace desktop {
+
+// A box in which a day, a time or both are picked; one that may have no value has a check box in front.
+class DateTimeWidget final : public ControlWidget {
+public:
+    explicit DateTimeWidget(console::DateTimePicker& picker);
+
+    std::vector<QWidget*> tabStops() const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void update(console::Aspect aspect) override;
+
+private:
+    void picked();
+
+    console::DateTimePicker& picker_;
+    QDateTimeEdit* edit_;
+    QCheckBox* set_ = nullptr; // null where there is always a value
+};
+
+} // namespace desktop

@@ -1,0 +1,59 @@
+#include "hosts/desktop/forms/DropListWidget.h"
+
+#include "console/DropList.h"
+#include "console/FormWalk.h"
+#include "console/RadioButton.h"
+#include "hosts/desktop/forms/ShownText.h"
+
+namespace desktop {
+namespace {
+
+constexpr int charactersWide = 28;
+constexpr int rowsAtOnce = 15;
+
+} // namespace
+
+DropListWidget::DropListWidget(console::DropList& list) : ControlWidget(list), list_(list), box_(new QComboBox) {
+    setUp(box_);
+    addCaption();
+    box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box_->setMinimumContentsLength(charactersWide);
+    box_->setMaxVisibleItems(rowsAtOnce);
+    connect(box_, &QComboBox::activated, this, [this](int row) {
+        if (!stale() && row >= 0) {
+            list_.userSelected(static_cast<std::size_t>(row));
+        }
+        mirror(console::Aspect::selection); // as it stands, should it have been refused
+    });
+}
+
+void DropListWidget::update(console::Aspect aspect) {
+    if (aspect == console::Aspect::items) {
+        refillSoon();
+    } else if (aspect == console::Aspect::selection && !stale()) {
+        showSelection();
+    }
+}
+
+void DropListWidget::refill() {
+    QStringList texts;
+    for (const auto& item : list_.items()) {
+        texts.append(shownLine(item.text));
+    }
+    box_->clear();
+    box_->addItems(texts);
+    showSelection();
+}
+
+void DropListWidget::showSelection() {
+    box_->setCurrentIndex(list_.selection() ? static_cast<int>(*list_.selection()) : -1);
+}
+
+// A list that goes with a radio button is called what the button says.
+wire::WideString DropListWidget::spokenName() const {
+    const auto* const button = list_.options().belongsTo;
+    const bool borrows = list_.label().empty() && button != nullptr;
+    return console::readableLabel(borrows ? button->label() : list_.label());
+}
+
+} // namespace desktop

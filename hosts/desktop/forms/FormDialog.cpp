@@ -1,0 +1,100 @@
+#include "hosts/desktop/forms/FormDialog.h"
+
+#include "console/Form.h"
+#include "hosts/desktop/forms/FormScroll.h"
+#include "hosts/desktop/forms/FormWidgets.h"
+#include "hosts/desktop/forms/ShownText.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace desktop {
+namespace {
+
+constexpr int narrowest = 360;
+
+QWidget* frontWindow() {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+} // namespace
+
+FormDialog::FormDialog(console::Form& form, QWidget* owner)
+    : QDialog(owner != nullptr ? owner : frontWindow()), form_(form) {
+    form_.setObserver(this);
+    form_.open(); // while nothing is drawn, so that what it fills is drawn once
+    setSizeGripEnabled(true);
+    setMinimumWidth(narrowest);
+    auto* const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    auto* const scroll = new FormScroll(this);
+    whole->addWidget(scroll);
+    widgets_ = std::make_unique<FormWidgets>(form_, *scroll->widget());
+    titleChanged(form_);
+}
+
+FormDialog::~FormDialog() {
+    form_.setObserver(nullptr);
+}
+
+QWidget* FormDialog::widgetOf(const console::Control& control) const {
+    const ControlWidget* const widget = widgets_->find(control);
+    return widget != nullptr ? widget->widget() : nullptr;
+}
+
+void FormDialog::reject() {
+    if (form_.ended()) {
+        QDialog::reject();
+    } else {
+        form_.userCancelled();
+    }
+}
+
+void FormDialog::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return;
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (isEnter && isPlain) {
+        form_.userPressedDefault();
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void FormDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (ControlWidget* const first = widgets_->first()) {
+        first->tabStops().front()->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void FormDialog::controlChanged(console::Control& control, console::Aspect aspect) {
+    if (widgets_ != nullptr) {
+        widgets_->controlChanged(control, aspect);
+    }
+}
+
+void FormDialog::titleChanged(console::Form& form) {
+    // A window would take "[*]" for the place of a mark of its own.
+    setWindowTitle(shownLine(form.title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void FormDialog::formEnded(console::Form& form) {
+    done(form.result());
+}
+
+int runForm(console::Form& form, QWidget* owner) {
+    FormDialog dialog(form, owner);
+    if (!form.ended()) {
+        dialog.exec();
+    }
+    if (!form.ended()) {
+        form.userCancelled();
+    }
+    return form.result();
+}
+
+} // namespace desktop

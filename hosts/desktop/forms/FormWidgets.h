@@ -1,0 +1,40 @@
+#pragma once
+
+#include "console/Control.h"
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace console {
+class Form;
+} // namespace console
+
+namespace desktop {
+
+// What stands on the screen for the controls of a form: makes it, lays it out, names it and orders it.
+class FormWidgets {
+public:
+    // On an empty surface, which owns the widgets.
+    FormWidgets(console::Form& form, QWidget& surface);
+    FormWidgets(const FormWidgets&) = delete;
+    FormWidgets& operator=(const FormWidgets&) = delete;
+    ~FormWidgets();
+
+    ControlWidget* find(const console::Control& control) const;
+    void controlChanged(console::Control& control, console::Aspect aspect);
+    // What the keyboard begins on: where the form has set the focus, or else the first that takes it; null for none.
+    ControlWidget* first() const;
+
+private:
+    void giveAccessKeys();
+    void showDefaultButton();
+    void orderTabStops();
+
+    console::Form& form_;
+    std::map<const console::Control*, std::unique_ptr<ControlWidget>> widgets_;
+    std::vector<ControlWidget*> inOrder_;
+};
+
+} // namespace desktop

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QGroupBox>
+
+namespace console {
+class Group;
+}
+
+namespace desktop {
+
+// A frame with a caption around controls that belong together.
+class GroupWidget final : public ControlWidget {
+public:
+    explicit GroupWidget(console::Group& group);
+
+    QWidget& surface() const { return *box_; }
+    Place place() const override { return Place::block; }
+    void showLabel(const QString& text) override { box_->setTitle(text); }
+
+protected:
+    void update(console::Aspect /*aspect*/) override {}
+    // As on the platform, a group that is disabled leaves what stands in it alone.
+    void enable(bool /*enabled*/) override {}
+
+private:
+    QGroupBox* box_;
+};
+
+} // namespace desktop

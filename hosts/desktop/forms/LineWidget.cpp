@@ -1,0 +1,90 @@
+#include "hosts/desktop/forms/LineWidget.h"
+
+#include "console/TextControl.h"
+#include "hosts/desktop/forms/ShownText.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <limits>
+
+namespace desktop {
+namespace {
+
+constexpr int charactersWide = 32;
+
+QString digitsOf(const QString& text) {
+    QString digits;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(digits),
+                 [](QChar unit) { return unit >= QLatin1Char('0') && unit <= QLatin1Char('9'); });
+    return digits;
+}
+
+} // namespace
+
+LineWidget::LineWidget(console::TextControl& box, QLineEdit::EchoMode echo)
+    : ControlWidget(box), box_(box), line_(new QLineEdit) {
+    setUp(line_);
+    addCaption();
+    line_->setEchoMode(echo);
+    line_->setMinimumWidth(line_->fontMetrics().averageCharWidth() * charactersWide);
+    if (box.options().digitsOnly) {
+        line_->setInputMethodHints(Qt::ImhDigitsOnly);
+    }
+    connect(line_, &QLineEdit::textEdited, this, &LineWidget::typed);
+}
+
+bool LineWidget::filledByForm() const {
+    return box_.options().readOnly;
+}
+
+void LineWidget::typed(const QString& text) {
+    if (box_.userTyped(exactText(text))) {
+        showLimits();
+        return;
+    }
+    // Of a piece pasted into a box for digits, the digits are taken.
+    const int cursor = line_->cursorPosition();
+    const QString digits = digitsOf(text);
+    if (box_.options().digitsOnly && exactText(digits) != box_.text() && box_.userTyped(exactText(digits))) {
+        mirror(console::Aspect::text);
+        line_->setCursorPosition(static_cast<int>(digitsOf(text.left(cursor)).size()));
+        return;
+    }
+    const auto added = text.size() - static_cast<qsizetype>(box_.text().size());
+    mirror(console::Aspect::text);
+    line_->setCursorPosition(cursor - static_cast<int>(std::max<qsizetype>(added, 0)));
+}
+
+void LineWidget::update(console::Aspect aspect) {
+    if (aspect == console::Aspect::text) {
+        showText();
+    } else if (aspect == console::Aspect::limits) {
+        showLimits();
+    }
+}
+
+void LineWidget::showText() {
+    const QString text = exactText(box_.text());
+    if (line_->text() == text) {
+        return;
+    }
+    line_->setMaxLength(std::numeric_limits<int>::max()); // the limit does not bind the form's own code
+    line_->setText(text);
+    line_->setCursorPosition(0);
+    showLimits();
+}
+
+void LineWidget::showLimits() {
+    constexpr auto unlimited = static_cast<std::size_t>(std::numeric_limits<int>::max());
+    const auto length = std::max(box_.options().limit, box_.text().size());
+    line_->setMaxLength(static_cast<int>(std::min(length, unlimited)));
+    line_->setReadOnly(box_.options().readOnly);
+    QPalette palette;
+    if (box_.options().readOnly) {
+        palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
+    }
+    line_->setPalette(palette);
+}
+
+} // namespace desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QLineEdit>
+
+namespace console {
+class TextControl;
+}
+
+namespace desktop {
+
+// A box for one line of text, or for a password.
+class LineWidget final : public ControlWidget {
+public:
+    LineWidget(console::TextControl& box, QLineEdit::EchoMode echo);
+
+    // Nobody types into it: buttons beside it do that.
+    bool filledByForm() const;
+
+protected:
+    void update(console::Aspect aspect) override;
+
+private:
+    void typed(const QString& text);
+    void showText();
+    void showLimits();
+
+    console::TextControl& box_;
+    QLineEdit* line_;
+};
+
+} // namespace desktop

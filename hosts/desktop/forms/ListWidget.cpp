@@ -1,0 +1,101 @@
+#include "hosts/desktop/forms/ListWidget.h"
+
+#include "console/ListView.h"
+#include "hosts/desktop/forms/ListRows.h"
+#include "hosts/desktop/forms/NaturalOrder.h"
+#include "hosts/desktop/forms/RoomyView.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+#include <utility>
+
+namespace desktop {
+
+ListWidget::ListWidget(console::ListView& list)
+    : ControlWidget(list),
+      list_(list),
+      view_(new RoomyView),
+      rows_(new ListRows(list, this)),
+      sorted_(new NaturalOrder(this)) {
+    setUp(view_);
+    addCaption();
+    sorted_->setSourceModel(rows_);
+    view_->setModel(sorted_);
+    view_->setRootIsDecorated(false);
+    view_->setItemsExpandable(false);
+    view_->setUniformRowHeights(true);
+    view_->setAllColumnsShowFocus(true);
+    view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view_->header()->setSortIndicatorClearable(true);
+    view_->header()->setSortIndicator(-1, Qt::AscendingOrder);
+    view_->setSortingEnabled(true);
+    connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!mirroring()) {
+            selected();
+        }
+    });
+    connect(view_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (const auto row = rowAt(index)) {
+            list_.userDoubleClicked(*row);
+        }
+    });
+}
+
+std::optional<std::size_t> ListWidget::rowAt(const QModelIndex& shown) const {
+    const auto index = sorted_->mapToSource(shown);
+    return index.isValid() && !stale() ? std::optional(static_cast<std::size_t>(index.row())) : std::nullopt;
+}
+
+void ListWidget::selected() {
+    const auto rows = view_->selectionModel()->selectedRows();
+    if (!stale()) {
+        list_.userSelected(rows.isEmpty() ? std::nullopt : rowAt(rows.front()));
+    }
+    mirror(console::Aspect::selection); // as it stands, should it have been refused
+}
+
+void ListWidget::update(console::Aspect aspect) {
+    if (aspect == console::Aspect::items || aspect == console::Aspect::columns) {
+        newColumns_ = newColumns_ || aspect == console::Aspect::columns;
+        refillSoon();
+    } else if (aspect == console::Aspect::selection && !stale()) {
+        showSelection();
+    }
+}
+
+void ListWidget::refill() {
+    rows_->refresh();
+    if (std::exchange(newColumns_, false)) {
+        showColumns();
+    }
+    showSelection();
+}
+
+void ListWidget::showColumns() {
+    QHeaderView* const header = view_->header();
+    const auto& columns = list_.columns();
+    int section = 0;
+    for (const auto& column : columns) {
+        view_->setColumnHidden(section, column.width <= 0);
+        if (column.width > 0) {
+            view_->setColumnWidth(section, std::max(column.width, header->sectionSizeHint(section)));
+        }
+        ++section;
+    }
+    view_->setHeaderHidden(std::ranges::all_of(columns, [](const auto& column) { return column.title.empty(); }));
+    view_->updateGeometry();
+}
+
+void ListWidget::showSelection() {
+    const auto row = list_.selection();
+    if (!row) {
+        view_->clearSelection();
+        return;
+    }
+    const auto index = sorted_->mapFromSource(rows_->index(static_cast<int>(*row), 0));
+    view_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view_->scrollTo(index);
+}
+
+} // namespace desktop

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+
+#include <optional>
+
+namespace console {
+class ListView;
+}
+
+namespace desktop {
+
+class ListRows;
+
+// A list with columns of a form. A click on a header sorts what is seen; to the form its rows keep their numbers.
+class ListWidget final : public ControlWidget {
+public:
+    explicit ListWidget(console::ListView& list);
+
+    Place place() const override { return Place::block; }
+
+protected:
+    void update(console::Aspect aspect) override;
+    void refill() override;
+
+private:
+    void showColumns();
+    void showSelection();
+    void selected();
+    std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
+
+    console::ListView& list_;
+    QTreeView* view_;
+    ListRows* rows_;
+    QSortFilterProxyModel* sorted_;
+    bool newColumns_ = true;
+};
+
+} // namespace desktop

@@ -1,0 +1,101 @@
+#include "hosts/desktop/forms/MessageBox.h"
+
+#include "hosts/desktop/forms/ShownText.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+
+#include <vector>
+
+namespace desktop {
+namespace {
+
+using console::Answer;
+namespace boxStyle = console::boxStyle;
+
+struct Choice {
+    QMessageBox::StandardButton button;
+    Answer answer;
+};
+
+constexpr Choice ok{QMessageBox::Ok, Answer::ok};
+constexpr Choice cancel{QMessageBox::Cancel, Answer::cancel};
+constexpr Choice yes{QMessageBox::Yes, Answer::yes};
+constexpr Choice no{QMessageBox::No, Answer::no};
+
+// In the order in which the platform counts them; the last one is what Escape answers.
+std::vector<Choice> choicesOf(std::uint32_t style) {
+    switch (style & boxStyle::buttonMask) {
+    case boxStyle::okCancel:
+        return {ok, cancel};
+    case boxStyle::yesNoCancel:
+        return {yes, no, cancel};
+    case boxStyle::yesNo:
+        return {yes, no};
+    default:
+        return {ok};
+    }
+}
+
+// The platform's styles say in these bits which button is the default one, from 0.
+std::size_t defaultOf(std::uint32_t style, std::size_t count) {
+    constexpr std::uint32_t shift = 8;
+    constexpr std::uint32_t mask = 0x0F;
+    const std::size_t wished = (style >> shift) & mask;
+    return wished < count ? wished : 0;
+}
+
+QMessageBox::Icon iconOf(std::uint32_t style) {
+    switch (style & boxStyle::iconMask) {
+    case boxStyle::iconStop:
+        return QMessageBox::Critical;
+    case boxStyle::iconQuestion:
+        return QMessageBox::Question;
+    case boxStyle::iconWarning:
+        return QMessageBox::Warning;
+    case boxStyle::iconInformation:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+QWidget* frontWindow() {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+} // namespace
+
+Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
+                      std::uint32_t style) {
+    QMessageBox box(owner != nullptr ? owner : frontWindow());
+    const QString shown = shownText(text);
+    box.setWindowTitle(shownLine(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(shown);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.setIcon(iconOf(style));
+    box.setAccessibleName(box.windowTitle());
+    box.setAccessibleDescription(shown);
+    if (shown.endsWith(QChar(0x2026)) && text.back() != u'\u2026') {
+        box.setDetailedText(exactText(text));
+    }
+
+    const auto choices = choicesOf(style);
+    for (const Choice& choice : choices) {
+        box.addButton(choice.button);
+    }
+    box.setDefaultButton(choices[defaultOf(style, choices.size())].button);
+    box.setEscapeButton(choices.back().button);
+    const int pressed = box.exec();
+    for (const Choice& choice : choices) {
+        if (pressed == choice.button) {
+            return choice.answer;
+        }
+    }
+    return choices.back().answer; // the program quits
+}
+
+} // namespace desktop

@@ -1,0 +1,28 @@
+#include "hosts/desktop/forms/RadioButtonWidget.h"
+
+#include "console/RadioButton.h"
+#include "console/RadioGroup.h"
+
+#include <QButtonGroup>
+
+namespace desktop {
+
+RadioButtonWidget::RadioButtonWidget(console::RadioButton& choice, QButtonGroup& group)
+    : ControlWidget(choice), choice_(choice), button_(new QRadioButton) {
+    setUp(button_);
+    group.addButton(button_);
+    connect(button_, &QRadioButton::toggled, this, [this](bool checked) {
+        if (checked && !mirroring()) {
+            choice_.userChose();
+        }
+    });
+}
+
+void RadioButtonWidget::update(console::Aspect /*aspect*/) {
+    // The group lets go of the earlier choice by itself, and would refuse to do so otherwise.
+    if (choice_.chosen()) {
+        button_->setChecked(true);
+    }
+}
+
+} // namespace desktop

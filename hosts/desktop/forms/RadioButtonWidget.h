@@ -1,0 +1,34 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QRadioButton>
+
+class QButtonGroup;
+
+namespace console {
+class RadioButton;
+}
+
+namespace desktop {
+
+// One choice of a radio group of a form.
+class RadioButtonWidget final : public ControlWidget {
+public:
+    // The group holds the buttons of which one is chosen.
+    RadioButtonWidget(console::RadioButton& choice, QButtonGroup& group);
+
+    console::RadioButton& choice() const { return choice_; }
+    Place place() const override { return Place::field; }
+    bool takesAccessKey() const override { return true; }
+    void showLabel(const QString& text) override { button_->setText(text); }
+
+protected:
+    void update(console::Aspect aspect) override;
+
+private:
+    console::RadioButton& choice_;
+    QRadioButton* button_;
+};
+
+} // namespace desktop

@@ -1,0 +1,41 @@
+#include "hosts/desktop/forms/TabsWidget.h"
+
+#include "console/Tabs.h"
+
+#include <QTabBar>
+
+namespace desktop {
+
+TabsWidget::TabsWidget(console::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pages_(new QTabWidget) {
+    setUp(pages_);
+    for (std::size_t page = 0; page < tabs.pages().size(); ++page) {
+        pages_->addTab(new QWidget, QString());
+    }
+    connect(pages_, &QTabWidget::currentChanged, this, [this](int page) {
+        if (mirroring() || page < 0) {
+            return;
+        }
+        tabs_.userShowed(static_cast<std::size_t>(page));
+        mirror(console::Aspect::selection); // as it stands, should it have been refused
+    });
+}
+
+void TabsWidget::showTitle(std::size_t page, const QString& title) {
+    pages_->setTabText(static_cast<int>(page), title);
+}
+
+std::vector<QWidget*> TabsWidget::tabStops() const {
+    return {pages_->tabBar()};
+}
+
+void TabsWidget::update(console::Aspect aspect) {
+    if (aspect == console::Aspect::selection) {
+        pages_->setCurrentIndex(static_cast<int>(tabs_.current()));
+    }
+}
+
+void TabsWidget::enable(bool enabled) {
+    pages_->tabBar()->setEnabled(enabled);
+}
+
+} // namespace desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QTabWidget>
+
+namespace console {
+class Tabs;
+}
+
+namespace desktop {
+
+// The pages of a form, one of them in front.
+class TabsWidget final : public ControlWidget {
+public:
+    explicit TabsWidget(console::Tabs& tabs);
+
+    console::Tabs& tabs() const { return tabs_; }
+    QWidget& surface(std::size_t page) const { return *pages_->widget(static_cast<int>(page)); }
+    // The title of a page, with its access key marked.
+    void showTitle(std::size_t page, const QString& title);
+
+    Place place() const override { return Place::block; }
+    // The bar takes the keyboard.
+    std::vector<QWidget*> tabStops() const override;
+
+protected:
+    void update(console::Aspect aspect) override;
+    // As on the platform, what stands on the page in front stays usable.
+    void enable(bool enabled) override;
+
+private:
+    console::Tabs& tabs_;
+    QTabWidget* pages_;
+};
+
+} // namespace desktop

@@ -1,0 +1,79 @@
+#include "hosts/desktop/forms/TextWidget.h"
+
+#include "console/MultiLineEdit.h"
+#include "hosts/desktop/forms/ShownText.h"
+
+#include <QGuiApplication>
+#include <QTextBlock>
+
+namespace desktop {
+namespace {
+
+constexpr int charactersWide = 32;
+constexpr int linesHigh = 4;
+
+} // namespace
+
+TextWidget::TextWidget(console::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new QPlainTextEdit) {
+    setUp(edit_);
+    addCaption();
+    edit_->setTabChangesFocus(true);
+    const auto metrics = edit_->fontMetrics();
+    edit_->setMinimumSize(metrics.averageCharWidth() * charactersWide,
+                          metrics.lineSpacing() * linesHigh +
+                              static_cast<int>(edit_->document()->documentMargin() * 2) + edit_->frameWidth() * 2);
+    edit_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+    connect(edit_, &QPlainTextEdit::textChanged, this, [this] {
+        if (!mirroring()) {
+            typed();
+        }
+    });
+}
+
+wire::WideString TextWidget::typedText() const {
+    QString text = edit_->toPlainText();
+    return exactText(text.replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+}
+
+void TextWidget::typed() {
+    wire::WideString text = typedText();
+    if (text == box_.text() || box_.userTyped(text)) {
+        return;
+    }
+    if (text.size() > box_.options().limit) {
+        cutToLimit(text.size() - box_.options().limit);
+        text = typedText();
+        if (text == box_.text() || box_.userTyped(text)) {
+            return;
+        }
+    }
+    mirror(console::Aspect::text);
+}
+
+// Takes the end of what was typed or pasted away again, which stands before the cursor.
+void TextWidget::cutToLimit(std::size_t tooMany) {
+    mirrored([&] {
+        QTextCursor cursor = edit_->textCursor();
+        cursor.joinPreviousEditBlock();
+        for (std::size_t cut = 0; cut < tooMany && !cursor.atStart(); ++cut) {
+            cut += cursor.positionInBlock() == 0 ? 1 : 0; // a line's end counts twice
+            cursor.deletePreviousChar();
+        }
+        cursor.endEditBlock();
+    });
+}
+
+void TextWidget::update(console::Aspect aspect) {
+    if (aspect == console::Aspect::limits) {
+        edit_->setReadOnly(box_.options().readOnly);
+        QPalette palette;
+        if (box_.options().readOnly) {
+            palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
+        }
+        edit_->setPalette(palette);
+    } else if (aspect == console::Aspect::text && typedText() != box_.text()) {
+        edit_->setPlainText(exactText(box_.text()));
+    }
+}
+
+} // namespace desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "hosts/desktop/forms/ControlWidget.h"
+
+#include <QStandardItemModel>
+#include <QTreeView>
+
+#include <vector>
+
+namespace console {
+class TreeView;
+}
+
+namespace desktop {
+
+// A tree of a form, in which one item is picked.
+class TreeWidget final : public ControlWidget {
+public:
+    explicit TreeWidget(console::TreeView& tree);
+
+    Place place() const override { return Place::block; }
+
+protected:
+    void update(console::Aspect aspect) override;
+    void refill() override;
+
+private:
+    void showSelection();
+    void selected();
+
+    console::TreeView& tree_;
+    QTreeView* view_;
+    QStandardItemModel* model_;
+    std::vector<QStandardItem*> items_; // by their numbers in the form
+};
+
+} // namespace desktop
