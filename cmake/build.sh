@@ -3,6 +3,10 @@
 
 say() { echo "==> $*"; }
 
+# What one checkout has compiled serves all others: paths below the checkout count as relative ones.
+CCACHE_BASEDIR="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+export CCACHE_BASEDIR CCACHE_NOHASHDIR=1
+
 # buildPreset <preset> [<target>...]: configures and builds; shows nothing but the progress on a terminal, and on a
 # failure the errors.
 buildPreset() {
