@@ -4,8 +4,10 @@
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QFocusEvent>
+#include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace desktop {
@@ -63,6 +65,13 @@ void ControlWidget::mirror(console::Aspect aspect) {
     });
 }
 
+int ControlWidget::comfortableWidth() const {
+    constexpr int characters = 32;
+    constexpr double partOfScreen = 0.4; // with large letters
+    return std::min(widget_->fontMetrics().averageCharWidth() * characters,
+                    static_cast<int>(widget_->screen()->availableSize().width() * partOfScreen));
+}
+
 wire::WideString ControlWidget::spokenName() const {
     return console::readableLabel(control_.label());
 }
@@ -100,6 +109,10 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Wheel && !widget_->hasFocus() && place() == Place::row) {
         event->ignore(); // a wheel that scrolls the dialog changes no box that it passes
         return true;
+    }
+    if (event->type() == QEvent::Show && watched == widget_) {
+        // A list has its size from now on, and can bring its selected row in sight.
+        QTimer::singleShot(0, this, [this] { mirror(console::Aspect::selection); });
     }
     if (event->type() == QEvent::FocusOut && watched == widget_) {
         const auto reason = static_cast<const QFocusEvent*>(event)->reason();

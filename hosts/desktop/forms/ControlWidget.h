@@ -51,6 +51,8 @@ protected:
     // Once, by the constructor. With a caption when the control has a label that the widget does not show itself.
     void setUp(QWidget* widget, QWidget* field = nullptr);
     void addCaption();
+    // Of a box that a person reads and writes texts in: about thirty characters.
+    int comfortableWidth() const;
     virtual void update(console::Aspect aspect) = 0;
     // What a screen reader calls it.
     virtual wire::WideString spokenName() const;

@@ -23,16 +23,15 @@ QWidget* frontWindow() {
 } // namespace
 
 FormDialog::FormDialog(console::Form& form, QWidget* owner)
-    : QDialog(owner != nullptr ? owner : frontWindow()), form_(form) {
+    : QDialog(owner != nullptr ? owner : frontWindow()), form_(form), scroll_(new FormScroll(this)) {
     form_.setObserver(this);
     form_.open(); // while nothing is drawn, so that what it fills is drawn once
     setSizeGripEnabled(true);
     setMinimumWidth(narrowest);
+    widgets_ = std::make_unique<FormWidgets>(form_, *scroll_->widget());
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    auto* const scroll = new FormScroll(this);
-    whole->addWidget(scroll);
-    widgets_ = std::make_unique<FormWidgets>(form_, *scroll->widget());
+    whole->addWidget(scroll_);
     titleChanged(form_);
 }
 
@@ -65,6 +64,10 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        scroll_->updateGeometry();
+        resize(sizeHint()); // by itself a dialog takes two thirds of the screen at most
+    }
     QDialog::showEvent(event);
     if (ControlWidget* const first = widgets_->first()) {
         first->tabStops().front()->setFocus(Qt::TabFocusReason);

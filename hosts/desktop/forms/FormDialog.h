@@ -8,6 +8,7 @@
 
 namespace desktop {
 
+class FormScroll;
 class FormWidgets;
 
 // A form of the console as a dialog, drawn from its controls alone. Attaches itself as the form's observer, opens the
@@ -35,6 +36,7 @@ private:
     void formEnded(console::Form& form) override;
 
     console::Form& form_;
+    FormScroll* scroll_;
     std::unique_ptr<FormWidgets> widgets_;
 };
 

@@ -24,6 +24,9 @@ namespace {
 // A dialog with more rows than these is too high for small screens: they stand in two columns.
 constexpr std::size_t rowsInOneColumn = 14;
 constexpr int gap = 8;
+// How lists and boxes of several lines share the room that a larger dialog has.
+constexpr int listStretch = 3;
+constexpr int textStretch = 1;
 
 QFormLayout* newRows() {
     auto* const rows = new QFormLayout;
@@ -125,12 +128,18 @@ void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
         column.addWidget(widget.caption());
     }
     column.addWidget(widget.field());
+    const auto place = column.count() - 1;
     if (const auto* const group = dynamic_cast<const GroupWidget*>(&widget)) {
         layContainer(dynamic_cast<const console::Group&>(control), group->surface());
     } else if (const auto* const tabs = dynamic_cast<const TabsWidget*>(&widget)) {
         for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
             layContainer(*tabs->tabs().pages()[page], tabs->surface(page));
         }
+    }
+    const bool growsInside =
+        widget.field()->layout() != nullptr && (widget.field()->layout()->expandingDirections() & Qt::Vertical);
+    if (growsInside || (widget.field()->sizePolicy().expandingDirections() & Qt::Vertical)) {
+        column.setStretch(place, listStretch);
     }
 }
 
@@ -150,7 +159,8 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
             columns->addLayout(rows, 1);
         }
     }
-    column.addLayout(columns);
+    const bool grows = columns->expandingDirections() & Qt::Vertical;
+    column.addLayout(columns, grows ? textStretch : 0);
 }
 
 void FormLayout::layRow(const console::Control& control, QFormLayout& rows) {

@@ -22,6 +22,7 @@ FormScroll::FormScroll(QWidget* parent) : QScrollArea(parent) {
 }
 
 QSize FormScroll::withinScreen(QSize size) const {
+    ensurePolished();
     const QSize room = screen()->availableSize() * partOfScreen;
     const bool scrolls = size.height() > room.height();
     return {std::min(size.width() + (scrolls ? verticalScrollBar()->sizeHint().width() : 0), room.width()),

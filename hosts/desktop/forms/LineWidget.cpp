@@ -11,8 +11,6 @@
 namespace desktop {
 namespace {
 
-constexpr int charactersWide = 32;
-
 QString digitsOf(const QString& text) {
     QString digits;
     std::copy_if(text.begin(), text.end(), std::back_inserter(digits),
@@ -27,7 +25,7 @@ LineWidget::LineWidget(console::TextControl& box, QLineEdit::EchoMode echo)
     setUp(line_);
     addCaption();
     line_->setEchoMode(echo);
-    line_->setMinimumWidth(line_->fontMetrics().averageCharWidth() * charactersWide);
+    line_->setMinimumWidth(comfortableWidth());
     if (box.options().digitsOnly) {
         line_->setInputMethodHints(Qt::ImhDigitsOnly);
     }
@@ -69,22 +67,31 @@ void LineWidget::showText() {
     if (line_->text() == text) {
         return;
     }
-    line_->setMaxLength(std::numeric_limits<int>::max()); // the limit does not bind the form's own code
+    setMaxLength(std::numeric_limits<int>::max()); // the limit does not bind the form's own code
     line_->setText(text);
-    line_->setCursorPosition(0);
     showLimits();
+    line_->setCursorPosition(0);
 }
 
 void LineWidget::showLimits() {
     constexpr auto unlimited = static_cast<std::size_t>(std::numeric_limits<int>::max());
     const auto length = std::max(box_.options().limit, box_.text().size());
-    line_->setMaxLength(static_cast<int>(std::min(length, unlimited)));
+    setMaxLength(static_cast<int>(std::min(length, unlimited)));
     line_->setReadOnly(box_.options().readOnly);
     QPalette palette;
     if (box_.options().readOnly) {
         palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
     }
     line_->setPalette(palette);
+}
+
+// The box would move its cursor to the end.
+void LineWidget::setMaxLength(int length) {
+    if (line_->maxLength() != length) {
+        const int cursor = line_->cursorPosition();
+        line_->setMaxLength(length);
+        line_->setCursorPosition(cursor);
+    }
 }
 
 } // namespace desktop

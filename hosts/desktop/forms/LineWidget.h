@@ -25,6 +25,7 @@ private:
     void typed(const QString& text);
     void showText();
     void showLimits();
+    void setMaxLength(int length);
 
     console::TextControl& box_;
     QLineEdit* line_;

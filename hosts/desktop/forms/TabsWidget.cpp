@@ -8,6 +8,9 @@ namespace desktop {
 
 TabsWidget::TabsWidget(console::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pages_(new QTabWidget) {
     setUp(pages_);
+    // Its bar takes the keyboard, once.
+    pages_->setFocusProxy(nullptr);
+    pages_->setFocusPolicy(Qt::NoFocus);
     for (std::size_t page = 0; page < tabs.pages().size(); ++page) {
         pages_->addTab(new QWidget, QString());
     }

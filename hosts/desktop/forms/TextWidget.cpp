@@ -9,7 +9,6 @@
 namespace desktop {
 namespace {
 
-constexpr int charactersWide = 32;
 constexpr int linesHigh = 4;
 
 } // namespace
@@ -19,9 +18,9 @@ TextWidget::TextWidget(console::MultiLineEdit& box) : ControlWidget(box), box_(b
     addCaption();
     edit_->setTabChangesFocus(true);
     const auto metrics = edit_->fontMetrics();
-    edit_->setMinimumSize(metrics.averageCharWidth() * charactersWide,
-                          metrics.lineSpacing() * linesHigh +
-                              static_cast<int>(edit_->document()->documentMargin() * 2) + edit_->frameWidth() * 2);
+    edit_->setMinimumSize(comfortableWidth(), metrics.lineSpacing() * linesHigh +
+                                                  static_cast<int>(edit_->document()->documentMargin() * 2) +
+                                                  edit_->frameWidth() * 2);
     edit_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     connect(edit_, &QPlainTextEdit::textChanged, this, [this] {
         if (!mirroring()) {
