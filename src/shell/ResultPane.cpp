@@ -4,6 +4,7 @@
 #include "shell/RowOrder.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace shell {
@@ -87,6 +88,7 @@ void ResultPane::restart(std::optional<SortOrder> order) {
     replaced_ = false;
     setScopeRows({});
     order_ = order;
+    topRow_ = 0;
     filterText_.clear();
     filter_ = RowFilter();
 }
@@ -153,7 +155,23 @@ void ResultPane::commit() {
             places_[rows_[place].id] = place;
         }
     }
-    show(arranged());
+    const auto next = arranged();
+    keepTopRow(next);
+    show(next);
+}
+
+void ResultPane::keepTopRow(const std::vector<const Row*>& next) {
+    const auto staysAt = [&next](ResultId id) { return std::ranges::find(next, id, &Row::id) != next.end(); };
+    const auto before = std::ranges::find(shown_, topRow_, &Row::id);
+    if (topRow_ == 0 || before == shown_.end() || staysAt(topRow_)) {
+        return;
+    }
+    const auto ids = idsOf(next);
+    const std::unordered_set<ResultId> staying(ids.begin(), ids.end());
+    const auto stays = [&staying](const Row* row) { return staying.contains(row->id); };
+    const auto after = std::find_if(before, shown_.end(), stays);
+    const auto above = std::find_if(std::make_reverse_iterator(before), shown_.rend(), stays);
+    topRow_ = after != shown_.end() ? (*after)->id : above != shown_.rend() ? (*above)->id : 0;
 }
 
 void ResultPane::show(const std::vector<const Row*>& next) {
@@ -162,13 +180,15 @@ void ResultPane::show(const std::vector<const Row*>& next) {
         reset(next);
         return;
     }
-    for (const auto& [kind, first, count] : *steps) {
+    for (const ListStep& step : *steps) {
+        const std::size_t first = step.first;
+        const std::size_t count = step.count;
         if (count == 0) {
             continue;
         }
         const auto at = static_cast<std::ptrdiff_t>(first);
         const auto end = static_cast<std::ptrdiff_t>(first + count);
-        if (kind == ListStep::Kind::remove) {
+        if (step.kind == ListStep::Kind::remove) {
             observers_.tell([&](auto& observer) { observer.rowsAboutToBeRemoved(first, count); });
             shown_.erase(shown_.begin() + at, shown_.begin() + end);
             observers_.tell([&](auto& observer) { observer.rowsRemoved(first, count); });

@@ -39,6 +39,11 @@ public:
     void filter(wire::WideStringView text, std::int32_t columns);
     const wire::WideString& filterText() const { return filterText_; }
 
+    // The row that a host shows at the top of its window, to be shown there again after a change. When that row goes,
+    // the next one that stays takes its place, else the one before; 0 when none stays.
+    void setTopRow(console::ResultId id) { topRow_ = id; }
+    console::ResultId topRow() const { return topRow_; }
+
     // For the shell. Another node is going to be shown, in its own order and unfiltered: no rows.
     void restart(std::optional<SortOrder> order);
     // The row with that id as handlers know it; null when it is not there.
@@ -57,6 +62,7 @@ private:
     std::vector<const Row*> arranged() const;
     void show(const std::vector<const Row*>& next);
     void reset(std::vector<const Row*> next);
+    void keepTopRow(const std::vector<const Row*>& next);
 
     const Observers& observers_;
     std::vector<Row> scopeRows_;
@@ -70,6 +76,7 @@ private:
     wire::WideString filterText_;
     std::int32_t filterColumns_ = 0;
     console::ResultId last_ = 0;
+    console::ResultId topRow_ = 0;
     bool replaced_ = false;
 };
 

@@ -204,7 +204,7 @@ ScopeItem* ScopeTree::alive(ScopeId id) {
     return found != items_.end() && !found->second.gone ? &found->second : nullptr;
 }
 
-ScopeId ScopeTree::nearestAlive(ScopeId id) {
+ScopeId ScopeTree::nearestAlive(ScopeId id) const {
     for (const ScopeItem* item = find(id); item != nullptr; item = find(item->parent)) {
         if (!item->gone) {
             return item->id;
@@ -286,13 +286,15 @@ void ScopeTree::show(ScopeItem& parent, const std::vector<ScopeId>& next) {
     const auto steps = listSteps(parent.shown, next)
                            .value_or(std::vector<ListStep>{{ListStep::Kind::remove, 0, parent.shown.size()},
                                                            {ListStep::Kind::insert, 0, next.size()}});
-    for (const auto& [kind, first, count] : steps) {
+    for (const ListStep& step : steps) {
+        const std::size_t first = step.first;
+        const std::size_t count = step.count;
         if (count == 0) {
             continue;
         }
         const auto at = static_cast<std::ptrdiff_t>(first);
         const auto end = static_cast<std::ptrdiff_t>(first + count);
-        if (kind == ListStep::Kind::remove) {
+        if (step.kind == ListStep::Kind::remove) {
             observers_.tell([&](auto& observer) { observer.scopeItemsAboutToBeRemoved(parent.id, first, count); });
             parent.shown.erase(parent.shown.begin() + at, parent.shown.begin() + end);
             observers_.tell([&](auto& observer) { observer.scopeItemsRemoved(parent.id, first, count); });

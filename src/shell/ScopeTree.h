@@ -52,7 +52,7 @@ public:
     // Also finds what is removed and not committed yet.
     const ScopeItem* find(console::ScopeId id) const;
     // The item itself, else the nearest one above it that is still there.
-    console::ScopeId nearestAlive(console::ScopeId id);
+    console::ScopeId nearestAlive(console::ScopeId id) const;
     void setOpen(ScopeItem& item, bool open);
     // The item that must be loaded again when it comes back, though nothing around it is open: the selected one.
     void keepReachable(console::ScopeId id) { reachable_ = id; }

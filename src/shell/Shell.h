@@ -79,6 +79,8 @@ public:
 
     void sort(std::optional<SortOrder> order);
     void filter(wire::WideStringView text);
+    // See ResultPane::setTopRow.
+    void setTopRow(console::ResultId id) { view_.pane.setTopRow(id); }
     // The list as it stands, sorted and filtered. Valid until the list changes.
     Table table() const;
     // The next item that holds the text, below the selected one; 0 when there is none. With `load` items that were

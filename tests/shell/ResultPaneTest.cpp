@@ -161,6 +161,42 @@ TEST_F(ResultPane, sortingByAnOrderThatStandsChangesNothing) {
     EXPECT_TRUE(events.log.empty());
 }
 
+TEST_F(ResultPane, theTopRowStaysWhileItIsThere) {
+    const auto one = insert(u"one");
+    pane.commit();
+    pane.setTopRow(one->resultFields().itemID);
+
+    insert(u"a");
+    pane.commit();
+
+    EXPECT_EQ(pane.topRow(), one->resultFields().itemID);
+}
+
+TEST_F(ResultPane, theNextRowTakesThePlaceOfATopRowThatGoes) {
+    insert(u"a");
+    const auto top = insert(u"b");
+    const auto next = insert(u"c");
+    pane.commit();
+    pane.setTopRow(top->resultFields().itemID);
+
+    pane.DeleteItem(top->resultFields().itemID, 0);
+    pane.commit();
+
+    EXPECT_EQ(pane.topRow(), next->resultFields().itemID);
+}
+
+TEST_F(ResultPane, theRowBeforeTakesThePlaceOfALastTopRowThatGoes) {
+    const auto before = insert(u"a");
+    const auto top = insert(u"b");
+    pane.commit();
+    pane.setTopRow(top->resultFields().itemID);
+
+    pane.DeleteItem(top->resultFields().itemID, 0);
+    pane.commit();
+
+    EXPECT_EQ(pane.topRow(), before->resultFields().itemID);
+}
+
 TEST_F(ResultPane, nodesGoWithTheirRows) {
     insert(u"one");
     pane.commit();
