@@ -28,7 +28,7 @@ Options::Outcome usage(const std::string& text) {
     return {.options = std::nullopt, .text = "vantreld: " + text + " (see vantreld --help)", .exitStatus = usageStatus};
 }
 
-std::string firstLine(std::string text) {
+std::string firstLine(const std::string& text) {
     return text.substr(0, text.find('\n'));
 }
 

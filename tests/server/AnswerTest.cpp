@@ -8,9 +8,7 @@
 namespace server {
 namespace {
 
-using support::operator+;
-using test::FieldCursor;
-using test::TestEstate;
+using namespace test; // the words of requests
 
 // All frames of the answer, asked for in pieces of the size.
 test::Bytes answerOf(Estate& estate, std::uint16_t opcode, const test::Bytes& fields, std::size_t piece = 65536) {

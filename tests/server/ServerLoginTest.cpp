@@ -8,7 +8,6 @@ namespace server {
 namespace {
 
 using support::hex;
-using support::operator+;
 using support::toHex;
 using namespace test; // the words of requests
 

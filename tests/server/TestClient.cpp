@@ -13,8 +13,6 @@
 
 namespace server::test {
 
-using support::operator+;
-
 namespace {
 
 constexpr int waitMilliseconds = 20000;

@@ -10,6 +10,7 @@
 namespace server::test {
 
 using support::Bytes;
+using support::operator+;
 
 // Fields of requests.
 [[nodiscard]] Bytes u8(std::uint8_t value);

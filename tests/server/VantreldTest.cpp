@@ -19,7 +19,6 @@ namespace server {
 namespace {
 
 using support::hex;
-using support::operator+;
 using namespace test; // the words of requests
 
 class Vantreld : public ::testing::Test {
