@@ -6,6 +6,7 @@
 #include "protocol/CreateRecordReply.h"
 #include "protocol/FieldValue.h"
 #include "protocol/ListPrinterRecordsRequest.h"
+#include "protocol/LoginStatus.h"
 #include "protocol/PrinterRecord.h"
 #include "protocol/RegionKind.h"
 #include "protocol/RegionRecord.h"
@@ -30,9 +31,9 @@ public:
     CQVXAdminClass(); // on theProperties
     explicit CQVXAdminClass(std::shared_ptr<CQVXAdminClassProperties> settingsToUse);
 
-    // Proves a name and a password, and gives a protocol::loginStatus; every failure is noAnswer. User and domain stand
+    // Proves a name and a password, and gives the server's answer; every failure is noAnswer. User and domain stand
     // in the settings afterwards, as typed, once the key has come and the server is connected.
-    std::uint16_t login(wire::WideString user, wire::WideString password, wire::WideString domain);
+    protocol::LoginStatus login(wire::WideString user, wire::WideString password, wire::WideString domain);
 
     // True means failure. The key is bytes with a length and may hold zeros.
     [[nodiscard]] bool fetchPublicKey(std::string& key, const std::string& serverHost, std::uint16_t serverPort);

@@ -6,7 +6,6 @@
 #include "protocol/GetPublicKeyRequest.h"
 #include "protocol/LoginReply.h"
 #include "protocol/LoginRequest.h"
-#include "protocol/LoginStatus.h"
 #include "wire/CTrans.h"
 
 namespace client {
@@ -54,7 +53,7 @@ bool CQVXAdminClass::fetchPublicKey(std::string& key, const std::string& serverH
             return failure;
         return exchange.run([&] {
             static_cast<void>(protocol::read<protocol::GetPublicKeyReply>(*message));
-            if (blocks.receiveBlock(key))
+            if (blocks.receiveBlock(key, longestKey))
                 return !failure;
             exchange.fail("The server's key did not arrive whole");
             return failure;
@@ -64,7 +63,7 @@ bool CQVXAdminClass::fetchPublicKey(std::string& key, const std::string& serverH
     }
 }
 
-std::uint16_t CQVXAdminClass::login(wire::WideString user, wire::WideString password, wire::WideString domain) {
+protocol::LoginStatus CQVXAdminClass::login(wire::WideString user, wire::WideString password, wire::WideString domain) {
     try {
         std::string key;
         if (fetchPublicKey(key, settings().host, settings().port))

@@ -9,7 +9,6 @@ namespace client {
 namespace {
 
 constexpr unsigned long modulusBits = 2048;
-constexpr std::size_t longestKey = 4096; // bytes; a key of that modulus has some 300
 using CipherBuffer = std::array<unsigned char, 4096>;
 
 const unsigned char* bytesOf(const std::string& text) {
@@ -25,8 +24,8 @@ void traceEncoding() {
 class ImportedKey {
 public:
     explicit ImportedKey(const std::string& der)
-        // The library ends the program over an empty key, and a huge one would keep it busy for hours.
-        : valid_(!der.empty() && der.size() <= longestKey &&
+        // The library ends the program over an empty key and over a call before it has been readied.
+        : valid_(ltc_mp.name != nullptr && !der.empty() && der.size() <= longestKey &&
                  rsa_import(bytesOf(der), static_cast<unsigned long>(der.size()), &key_) == CRYPT_OK) {}
     ~ImportedKey() {
         if (valid_)

@@ -2,10 +2,15 @@
 
 #include "wire/Text.h"
 
+#include <cstdint>
 #include <string>
 
 // How a user's name, domain and password are sealed for the login: RSA under the server's public key.
 namespace client {
+
+// The bytes that a key may have. One of 2048 bits has some 300; a key as long as a server may send would keep the
+// console busy for hours.
+constexpr std::uint32_t longestKey = 2048;
 
 // Readies the cryptography; doing it again does no harm. Throws the plain string "error".
 void initCrypto();

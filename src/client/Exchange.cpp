@@ -77,8 +77,9 @@ void Exchange::send(std::unique_ptr<wire::Message> data) {
     });
 }
 
-std::unique_ptr<wire::Message> Exchange::receive() {
+std::unique_ptr<wire::Message> Exchange::receive(std::unique_ptr<wire::Message> used) {
     return run([&] {
+        transport_->reuse(std::move(used));
         const bool received = transport_->getMessages({}, nullptr);
         if (!received && command_.reader == protocol::ReaderForm::strict)
             throw std::runtime_error("failed to get messages");

@@ -36,8 +36,8 @@ public:
     void send(std::unique_ptr<wire::Message> data);
 
     // The next message of the reply. Null when it does not come and the row's reader form lets the reply end there;
-    // else throws std::runtime_error with the text of that form.
-    [[nodiscard]] std::unique_ptr<wire::Message> receive();
+    // else throws std::runtime_error with the text of that form. A used message lends its memory to the one that comes.
+    [[nodiscard]] std::unique_ptr<wire::Message> receive(std::unique_ptr<wire::Message> used = nullptr);
 
     // The number of records that a count message announces; 0 from 32,768 on, since a count is a signed 16-bit number.
     [[nodiscard]] static std::uint16_t readCount(wire::Message& message);

@@ -50,8 +50,9 @@ template <class Reply, class Request>
 template <class R>
 void readRecords(Exchange& exchange, std::uint16_t count, std::vector<R>& records) {
     records.reserve(records.size() + count);
+    std::unique_ptr<wire::Message> message;
     for (std::uint16_t index = 0; index < count; ++index) {
-        const auto message = exchange.receive();
+        message = exchange.receive(std::move(message));
         if (!message)
             return;
         exchange.run([&] {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "protocol/LoginStatus.h"
 #include "protocol/WireOrder.h"
 
 namespace protocol {
 
 // Whether the server let the user in.
 struct LoginReply {
-    std::uint16_t status = 0; // a LoginStatus
+    LoginStatus status = loginStatus::noAnswer;
 
     static constexpr auto fields = wireOrder(field("status", &LoginReply::status));
 

@@ -5,11 +5,13 @@
 namespace protocol {
 
 // The server's answer to a login.
+using LoginStatus = std::uint16_t;
+
 namespace loginStatus {
-constexpr std::uint16_t noAnswer = 0; // never sent: what a console takes when it got no answer
-constexpr std::uint16_t loggedIn = 1;
-constexpr std::uint16_t wrongCredentials = 2;
-constexpr std::uint16_t wrongVersion = 3;
+constexpr LoginStatus noAnswer = 0; // never sent: what a console takes when it got no answer
+constexpr LoginStatus loggedIn = 1;
+constexpr LoginStatus wrongCredentials = 2;
+constexpr LoginStatus wrongVersion = 3;
 } // namespace loginStatus
 
 } // namespace protocol

@@ -162,9 +162,11 @@ template <class T>
 constexpr FieldInfo infoOf(std::string_view name) {
     FieldInfo info{.name = name, .kind = kindOf<T>()};
     if constexpr (isOptional<T> || isList<T>) {
-        info.elementKind = kindOf<typename T::value_type>();
-        if constexpr (Record<typename T::value_type>)
-            info.element = &layoutOf<typename T::value_type>;
+        using Element = typename T::value_type;
+        static_assert(!isOptional<Element> && !isList<Element>, "a layout tells one level: put a record between them");
+        info.elementKind = kindOf<Element>();
+        if constexpr (Record<Element>)
+            info.element = &layoutOf<Element>;
     } else if constexpr (Record<T>) {
         info.element = &layoutOf<T>;
     }
@@ -314,7 +316,7 @@ template <Record R>
     auto message = std::make_unique<wire::Message>();
     const auto size = static_cast<std::uint32_t>(detail::plainSize(record));
     message->beginMessage(size);
-    PlainWriter writer(message->extend(size));
+    PlainWriter writer(message->extend(size).data());
     detail::writePlain(writer, record);
     if (!writer.plain()) {
         message->beginMessage(size);

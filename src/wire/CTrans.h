@@ -6,9 +6,11 @@
 
 #include <chrono>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace trans {
@@ -36,6 +38,7 @@ public:
     bool sendMessages(const wire::TransLogger& logger) override;
     [[nodiscard]] std::unique_ptr<wire::Message> getMessage(wire::MessageKind kind) override;
     bool getMessages(const wire::TransLogger& logger, const char* logPrefix) override;
+    void reuse(std::unique_ptr<wire::Message> message) override { spare_ = std::move(message); }
     void setWaitObserver(wire::WaitObserver* observer) override { observer_ = observer; }
     void noteRecords(std::uint32_t records) override { records_ = records; }
     [[nodiscard]] const wire::TransferCounts& counts() const override { return counts_; }
@@ -62,8 +65,9 @@ public:
     // True when the receiver confirmed the block. An empty block isn't sent and is false.
     bool sendBlock(std::string_view data);
 
-    // False, and no data, when the block didn't arrive whole.
-    bool receiveBlock(std::string& data);
+    // False, and no data, when the block didn't arrive whole, or is longer than the longest that the caller takes; of
+    // that one nothing is received.
+    bool receiveBlock(std::string& data, std::uint32_t longest = std::numeric_limits<std::uint32_t>::max());
 
     [[nodiscard]] std::int32_t readTimeout() const { return readTimeout_; }
     [[nodiscard]] std::uint16_t chunkSize() const { return chunkSize_; }
@@ -80,7 +84,7 @@ private:
     std::intptr_t sendBytes(const std::uint8_t* bytes, std::size_t count);
     bool reject();
     void unpackMessages(std::uint8_t count);
-    bool receivePieces(std::string& data);
+    bool receivePieces(std::string& data, std::uint32_t longest);
 
     wire::Socket& calls_;
     wire::Clock& clock_;
@@ -101,6 +105,7 @@ private:
     std::vector<std::uint8_t> rawBuffer_;
     std::uint32_t rawLength_ = 0;
     std::vector<std::unique_ptr<wire::Message>> messages_; // the front of the queue is the last element
+    std::unique_ptr<wire::Message> spare_;                 // read to its end, for the next one that comes
     wire::SocketHandle socket_ = 0;                        // 0 is not connected
     std::string rejectText_;
     std::uint32_t blockProgress_ = 0;

@@ -41,11 +41,11 @@ bool CTrans::sendBlock(std::string_view data) {
     return result == blockArrived;
 }
 
-bool CTrans::receiveBlock(std::string& data) {
+bool CTrans::receiveBlock(std::string& data, std::uint32_t longest) {
     data.clear();
     bool arrived = false;
     try {
-        arrived = receivePieces(data);
+        arrived = receivePieces(data, longest);
     } catch (const std::bad_alloc&) {
         data.clear();
         return false;
@@ -59,12 +59,15 @@ bool CTrans::receiveBlock(std::string& data) {
 }
 
 // The memory grows with what arrives: the announced length is only the peer's word.
-bool CTrans::receivePieces(std::string& data) {
+bool CTrans::receivePieces(std::string& data, std::uint32_t longest) {
     std::array<std::uint8_t, sizeof blockLength_> length{};
     if (readExact(length.data(), length.size()) != static_cast<int>(length.size())) {
         return false;
     }
     std::memcpy(&blockLength_, length.data(), length.size());
+    if (blockLength_ > longest) {
+        return false;
+    }
     sendBytes(length.data(), 1); // any byte acknowledges; it is the low byte of the length
 
     blockProgress_ = 0;

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <string_view>
 #include <utility>
 
 namespace trans {
@@ -28,15 +29,15 @@ public:
     ReceiveLog(const TransLogger& logger, const char* prefix, wire::Clock& clock)
         : logger_(logger), prefix_(prefix), clock_(clock), enabled_(logger && prefix != nullptr) {}
 
-    void report(const std::string& what, std::int32_t code) const {
+    void report(std::string_view what, std::int32_t code) const {
         if (enabled_) {
-            logger_(std::string(prefix_) + " CTrans::getMessages " + what, code, failureLevel);
+            logger_(std::string(prefix_) + " CTrans::getMessages " + std::string(what), code, failureLevel);
         }
     }
 
     // Runs one read, and reports how long it took when that is noteworthy.
     template <typename Read>
-    int timed(const std::string& what, const std::int32_t& code, Read read) const {
+    int timed(const char* what, const std::int32_t& code, Read read) const {
         if (!enabled_) {
             return read();
         }
@@ -44,7 +45,7 @@ public:
         const int result = read();
         const auto lasted = std::chrono::floor<std::chrono::seconds>(clock_.now() - start);
         if (lasted >= noteworthy) {
-            report(what + " lasted " + std::to_string(lasted.count()) + " seconds", code);
+            report(std::string(what) + " lasted " + std::to_string(lasted.count()) + " seconds", code);
         }
         return result;
     }
@@ -158,7 +159,7 @@ bool CTrans::getMessages(const TransLogger& logger, const char* logPrefix) {
 void CTrans::unpackMessages(std::uint8_t count) {
     std::uint32_t offset = 0;
     for (unsigned index = 0; index < count; ++index) {
-        auto message = std::make_unique<Message>();
+        auto message = spare_ ? std::move(spare_) : std::make_unique<Message>();
         message->loadMessage(rawBuffer_.data() + offset, rawLength_ - offset);
         offset += message->size();
         addMessage(std::move(message));

@@ -43,6 +43,9 @@ public:
     // a frame whose messages don't fit into it.
     [[nodiscard]] virtual bool getMessages(const TransLogger& logger, const char* logPrefix) = 0;
 
+    // Hands a message back that nobody reads any more, so that the next one that comes takes its memory; null is none.
+    virtual void reuse(std::unique_ptr<Message> message) = 0;
+
     // The observer is not owned, must outlive the connection or be taken off with null, and may be called from within
     // connect, getMessages and the block calls, which then may throw Cancelled.
     virtual void setWaitObserver(WaitObserver* observer) = 0;

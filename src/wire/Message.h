@@ -61,8 +61,11 @@ public:
     // Bytes that are still to be read.
     [[nodiscard]] std::uint32_t remaining() const { return size() > cursor_ ? size() - cursor_ : 0; }
 
-    // Room for so many bytes more at the end of a message under construction, for the caller to fill at once.
-    [[nodiscard]] std::uint8_t* extend(std::uint32_t count) { return buffer_.extend(count); }
+    // Room for so many bytes more at the end of a message under construction, for the caller to fill at once; none at
+    // all once the message is rewound.
+    [[nodiscard]] std::span<std::uint8_t> extend(std::uint32_t count) {
+        return rewound_ ? std::span<std::uint8_t>() : std::span(buffer_.extend(count), count);
+    }
 
     void putByte(std::uint8_t value) { putValue(value); }
     void putUInt16(std::uint16_t value) { putValue(value); }

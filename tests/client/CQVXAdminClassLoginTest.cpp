@@ -52,6 +52,7 @@ protected:
         return CQVXAdminClass(settings).login(user, password, domain);
     }
 
+    const Bytes request78 = hex("01  09 00 00 00  58 00 00 00  00 09 00 00 00 01 00 4E 00");
     std::array<Bytes, 3> blocks;
 };
 
@@ -73,8 +74,7 @@ TEST_F(Login, asksForTheKeyAndConfirmsIt) {
     login();
 
     const Bytes acknowledgement{lengthOf(key)[0]};
-    EXPECT_EQ(received(0),
-              hex("01  09 00 00 00  58 00 00 00  00 09 00 00 00 01 00 4E 00") + acknowledgement + hex("01"));
+    EXPECT_EQ(received(0), request78 + acknowledgement + hex("01"));
 }
 
 TEST_F(Login, opensWithThreeAndZeroAndThenTheBlocks) {
@@ -193,10 +193,28 @@ TEST_F(Login, aKeyThatIsCutShortIsAFailureAndTheServerIsTold) {
         connection.send(hex("FF 00 00 00"));
         connection.expect(1);
         connection.send(hex("30 82"));
+        connection.endSending();
+        connection.untilClosed();
     }});
     std::string key;
 
     EXPECT_TRUE(CQVXAdminClass(settings).fetchPublicKey(key, "127.0.0.1", settings->port));
+
+    EXPECT_EQ(received(), request78 + hex("FF 02"));
+}
+
+TEST_F(Login, aKeyLongerThanAnyIsAFailureBeforeItIsReceived) {
+    serve({[](Connection& connection) {
+        connection.expectFrame();
+        connection.send(statusFrame("00 00 00 00 00 00"));
+        connection.send(hex("01 08 00 00"));
+        connection.untilClosed();
+    }});
+
+    EXPECT_EQ(login(), status::noAnswer);
+
+    EXPECT_EQ(received(), request78 + hex("02"));
+    EXPECT_EQ(observer.ended.at(0).text, "The server's key did not arrive whole");
 }
 
 TEST_F(Login, aKeyMayHoldZeroBytes) {

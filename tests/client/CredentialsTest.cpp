@@ -3,6 +3,9 @@
 #include "tests/client/ServerKey.h"
 
 #include <gtest/gtest.h>
+#include <tomcrypt.h>
+
+#include <utility>
 
 namespace client {
 namespace {
@@ -14,6 +17,11 @@ protected:
     static std::string publicKey() {
         const support::Bytes bytes = serverKey().publicHalf();
         return {bytes.begin(), bytes.end()};
+    }
+
+    static std::string text(const char* bytes) {
+        const support::Bytes taken = support::hex(bytes);
+        return {taken.begin(), taken.end()};
     }
 
     static support::Bytes bytesOf(const wire::WideString& units) {
@@ -67,6 +75,48 @@ TEST_F(Credentials, aKeyThatIsNoneGivesAnEmptyText) {
     EXPECT_EQ(rsaEncrypt("x", "no key at all"), "");
     EXPECT_EQ(rsaEncrypt("x", publicKey().substr(0, 100)), "");
     EXPECT_EQ(rsaEncrypt("x", std::string(5000, '0')), "");
+}
+
+TEST_F(Credentials, aKeyWithAnyByteChangedDoesNoHarm) {
+    const std::string key = publicKey();
+    testing::internal::CaptureStdout();
+    for (std::size_t at = 0; at < key.size(); ++at) {
+        for (const int change : {0x01, 0x80, 0xFF}) {
+            std::string changed = key;
+            changed[at] = static_cast<char>(changed[at] ^ change);
+            EXPECT_LE(rsaEncrypt("x", changed).size(), longestKey);
+        }
+    }
+    static_cast<void>(testing::internal::GetCapturedStdout());
+}
+
+TEST_F(Credentials, aKeyThatEndsAnywhereGivesAnEmptyText) {
+    const std::string key = publicKey();
+    for (std::size_t length = 0; length < key.size(); ++length)
+        EXPECT_EQ(rsaEncrypt("x", key.substr(0, length)), "") << length;
+}
+
+TEST_F(Credentials, aModulusOfZeroOrOneOrBelowGivesAnEmptyText) {
+    EXPECT_EQ(rsaEncrypt("x", text("30 06 02 01 00 02 01 03")), "");
+    EXPECT_EQ(rsaEncrypt("x", text("30 06 02 01 01 02 01 03")), "");
+    EXPECT_EQ(rsaEncrypt("x", text("30 06 02 01 FF 02 01 03")), "");
+}
+
+TEST_F(Credentials, aKeyLongerThanAnyGivesAnEmptyTextAtOnce) {
+    const std::string number = text("02 82 04 00") + std::string(1024, 0x7F);
+    const std::string tooLong = text("30 82 08 08") + number + number;
+
+    EXPECT_GT(tooLong.size(), longestKey);
+    EXPECT_EQ(rsaEncrypt("x", tooLong), "");
+}
+
+TEST_F(Credentials, nothingIsSealedBeforeTheCryptographyIsReady) {
+    const std::string key = publicKey();
+    const ltc_math_descriptor ready = std::exchange(ltc_mp, {});
+    const std::string cipher = rsaEncrypt("x", key);
+    ltc_mp = ready;
+
+    EXPECT_EQ(cipher, "");
 }
 
 TEST_F(Credentials, aShorterKeyGivesAnEmptyText) {

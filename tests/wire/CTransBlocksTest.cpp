@@ -171,6 +171,33 @@ TEST(CTransBlocks, aBlockLengthThatLiesTakesNoMemory) {
     EXPECT_LT(data.capacity(), 100000u);
 }
 
+TEST(CTransBlocks, aBlockAsLongAsTheCallerTakesIsReceived) {
+    ScriptedServer server([](auto& connection) {
+        connection.send(hex("03 00 00 00 61 62 63"));
+        connection.untilClosed();
+    });
+    CTrans connection;
+    open(connection, server);
+    std::string data;
+    EXPECT_TRUE(connection.receiveBlock(data, 3));
+    EXPECT_EQ(data, "abc");
+}
+
+TEST(CTransBlocks, aBlockLongerThanTheCallerTakesIsAnsweredWithTwoAndNotReceived) {
+    ScriptedServer server([](auto& connection) {
+        connection.send(hex("04 00 00 00 61 62 63 64"));
+        connection.untilClosed();
+    });
+    CTrans connection;
+    open(connection, server);
+    std::string data = "before";
+    EXPECT_FALSE(connection.receiveBlock(data, 3));
+    connection.disconnect(0);
+    EXPECT_EQ(server.finish(), "");
+    EXPECT_EQ(data, "");
+    EXPECT_EQ(toHex(server.received()), "02");
+}
+
 TEST(CTransBlocks, aLengthThatBreaksOffIsAFailure) {
     ScriptedServer server([](auto& connection) {
         connection.send(hex("05 00"));

@@ -387,6 +387,29 @@ TEST(CTransFrames, readsThatLastedLessThanTwoSecondsAreNotReported) {
     EXPECT_EQ(log.lines, Lines{});
 }
 
+TEST(CTransFrames, aMessageThatIsHandedBackBecomesTheNextOne) {
+    ScriptedServer server([](auto& connection) {
+        connection.send(hex("01  07 00 00 00  0B 00 00 00  01 07 00 00 00 01 02"));
+        connection.send(hex("02  0C 00 00 00  0D 00 00 00  01 05 00 00 00  00 07 00 00 00 00 00"));
+        connection.stall();
+    });
+    CTrans connection;
+    open(connection, server);
+    ASSERT_TRUE(connection.getMessages({}, nullptr));
+    auto message = connection.getMessage(MessageKind::Data);
+    ASSERT_NE(message, nullptr);
+    const Message* const first = message.get();
+    connection.reuse(std::move(message));
+    ASSERT_TRUE(connection.getMessages({}, nullptr));
+    message = connection.getMessage(MessageKind::Data);
+    ASSERT_EQ(message.get(), first);
+    EXPECT_EQ(toHex({message->bytes().begin(), message->bytes().end()}), "01 05 00 00 00");
+    EXPECT_EQ(message->remaining(), 0u);
+    message = connection.getMessage(MessageKind::Command);
+    ASSERT_NE(message, nullptr);
+    EXPECT_EQ(toHex({message->bytes().begin(), message->bytes().end()}), "00 07 00 00 00 00 00");
+}
+
 TEST(CTransFrames, manyFramesAreReadAheadInAFewCalls) {
     constexpr int frames = 2000;
     Bytes all;

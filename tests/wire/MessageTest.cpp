@@ -228,6 +228,26 @@ TEST(Message, afterRewindEveryWriteVanishes) {
     EXPECT_EQ(bytesOf(message), "01 05 00 00 00");
 }
 
+TEST(Message, afterRewindThereIsNoRoomToFill) {
+    Message message = begun();
+    message.putByte(1);
+    message.rewind();
+    EXPECT_TRUE(message.extend(3).empty());
+    EXPECT_EQ(bytesOf(message), "01 06 00 00 00 01");
+}
+
+TEST(Message, roomToFillStandsAtTheEnd) {
+    Message message = begun();
+    message.putByte(1);
+    const std::span<std::uint8_t> room = message.extend(2);
+    ASSERT_EQ(room.size(), 2u);
+    room[0] = 2;
+    room[1] = 3;
+    message.putByte(4);
+    message.rewind();
+    EXPECT_EQ(bytesOf(message), "01 09 00 00 00 01 02 03 04");
+}
+
 TEST(Message, rewindingTwiceChangesNothing) {
     Message message = begun();
     message.putByte(1);
