@@ -26,8 +26,9 @@ int rank(const QString& text, qsizetype position, qsizetype wished) {
 
 } // namespace
 
-void AccessKeys::add(const QString& label) {
+void AccessKeys::add(const QString& label, Claim claim) {
     Label entry;
+    entry.claim = claim;
     qsizetype wished = -1;
     for (qsizetype i = 0; i < label.size(); ++i) {
         if (label[i] == QLatin1Char('&') && i + 1 < label.size()) {
@@ -69,7 +70,7 @@ bool AccessKeys::serve(std::size_t index, std::vector<bool>& tried) {
     for (const qsizetype position : label.positions) {
         const auto owner = ownerOf(keyAt(label, position));
         const auto ownerIndex = static_cast<std::size_t>(owner - labels_.begin());
-        if (!tried[ownerIndex] && serve(ownerIndex, tried)) {
+        if (owner->claim == Claim::givesWay && !tried[ownerIndex] && serve(ownerIndex, tried)) {
             label.chosen = position;
             return true;
         }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace desktop {
@@ -11,11 +12,13 @@ namespace desktop {
 // served as can be.
 class AccessKeys {
 public:
+    enum class Claim : std::uint8_t { givesWay, keeps };
+
     // A label as it stands, perhaps with an ampersand before the key that it wishes for.
-    void add(const QString& label);
+    void add(const QString& label, Claim claim = Claim::givesWay);
 
     // The labels in the order of adding, trimmed, with one ampersand before the key and other ampersands doubled.
-    // Earlier ones keep what they like best unless a later one would get nothing.
+    // Earlier ones keep what they like best; those that give way do so where a later one would get nothing.
     std::vector<QString> assign();
 
 private:
@@ -23,6 +26,7 @@ private:
         QString text;                     // as a person reads it
         std::vector<qsizetype> positions; // of letters and digits, best first
         qsizetype chosen = -1;
+        Claim claim = Claim::givesWay;
     };
 
     bool serve(std::size_t index, std::vector<bool>& tried);

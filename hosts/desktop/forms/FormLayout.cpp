@@ -24,16 +24,26 @@ namespace {
 // A dialog with more rows than these is too high for small screens: they stand in two columns.
 constexpr std::size_t rowsInOneColumn = 14;
 constexpr int gap = 8;
+constexpr int labelGap = 14;
 // How lists and boxes of several lines share the room that a larger dialog has.
 constexpr int listStretch = 3;
 constexpr int textStretch = 1;
 
 QFormLayout* newRows() {
     auto* const rows = new QFormLayout;
+    rows->setVerticalSpacing(gap);
+    rows->setHorizontalSpacing(labelGap);
     rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     rows->setLabelAlignment(Qt::AlignLeft);
     rows->setFormAlignment(Qt::AlignLeft | Qt::AlignTop);
     return rows;
+}
+
+// Where nothing grows with the dialog, the room stays below.
+void keepAtTop(QBoxLayout& column) {
+    if (!(column.expandingDirections() & Qt::Vertical)) {
+        column.addStretch(1);
+    }
 }
 
 bool isBox(const ControlWidget& widget) {
@@ -43,18 +53,18 @@ bool isBox(const ControlWidget& widget) {
 } // namespace
 
 void FormLayout::lay(console::Form& form, QWidget& surface) {
-    layContainer(form, surface);
+    QBoxLayout& column = layContainer(form, surface);
+    keepAtTop(column);
     auto* const foot = new QHBoxLayout;
     foot->addStretch(1);
     for (console::Button* button : {&form.okButton(), &form.cancelButton()}) {
         foot->addWidget(widgetOf_(*button)->field());
     }
-    auto* const column = static_cast<QVBoxLayout*>(surface.layout());
-    column->addSpacing(gap);
-    column->addLayout(foot);
+    column.addSpacing(gap);
+    column.addLayout(foot);
 }
 
-void FormLayout::layContainer(const console::Container& container, QWidget& surface) {
+QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidget& surface) {
     auto* const column = new QVBoxLayout(&surface);
     column->setSpacing(gap);
     const Controls controls(container.controls());
@@ -89,9 +99,7 @@ void FormLayout::layContainer(const console::Container& container, QWidget& surf
         }
     }
     layWhatWaits();
-    if (!(column->expandingDirections() & Qt::Vertical)) {
-        column->addStretch(1);
-    }
+    return *column;
 }
 
 // A list that goes with a radio button stands behind it, and buttons behind a box that they fill or act on.
@@ -133,7 +141,7 @@ void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
         layContainer(dynamic_cast<const console::Group&>(control), group->surface());
     } else if (const auto* const tabs = dynamic_cast<const TabsWidget*>(&widget)) {
         for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
-            layContainer(*tabs->tabs().pages()[page], tabs->surface(page));
+            keepAtTop(layContainer(*tabs->tabs().pages()[page], tabs->surface(page)));
         }
     }
     const bool growsInside =
@@ -148,13 +156,16 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
         return;
     }
     const auto half = controls.size() > rowsInOneColumn ? (controls.size() + 1) / 2 : controls.size();
+    const bool withLabels = std::ranges::any_of(controls, [this](const auto* control) {
+        return widgetOf_(*control)->caption() != nullptr || beside_.contains(control);
+    });
     auto* const columns = new QHBoxLayout;
     columns->setSpacing(gap * 3);
     for (const Controls part : {controls.first(half), controls.subspan(half)}) {
         if (!part.empty()) {
             auto* const rows = newRows();
             for (const console::Control* control : part) {
-                layRow(*control, *rows);
+                layRow(*control, *rows, withLabels);
             }
             columns->addLayout(rows, 1);
         }
@@ -163,7 +174,7 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
     column.addLayout(columns, grows ? textStretch : 0);
 }
 
-void FormLayout::layRow(const console::Control& control, QFormLayout& rows) {
+void FormLayout::layRow(const console::Control& control, QFormLayout& rows, bool withLabels) {
     const ControlWidget& widget = *widgetOf_(control);
     const auto found = beside_.find(&control);
     const Controls shared = found != beside_.end() ? Controls(found->second) : Controls();
@@ -179,7 +190,7 @@ void FormLayout::layRow(const console::Control& control, QFormLayout& rows) {
     if (widget.caption() != nullptr) {
         rows.setWidget(row, QFormLayout::LabelRole, widget.caption());
     }
-    const auto role = isChoice ? QFormLayout::SpanningRole : QFormLayout::FieldRole;
+    const auto role = isChoice || !withLabels ? QFormLayout::SpanningRole : QFormLayout::FieldRole;
     if (shared.empty()) {
         rows.setWidget(row, role, widget.field());
     } else {
@@ -189,6 +200,7 @@ void FormLayout::layRow(const console::Control& control, QFormLayout& rows) {
 
 QLayout* FormLayout::lineOf(const console::Control& control, Controls buttons) {
     auto* const line = new QHBoxLayout;
+    line->setSpacing(gap);
     const ControlWidget& first = *widgetOf_(control);
     const bool grows = isBox(first);
     line->addWidget(first.field(), grows ? 1 : 0);

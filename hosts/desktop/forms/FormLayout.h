@@ -36,11 +36,11 @@ public:
 private:
     using Controls = std::span<console::Control* const>;
 
-    void layContainer(const console::Container& container, QWidget& surface);
+    QBoxLayout& layContainer(const console::Container& container, QWidget& surface);
     void pairWithNeighbours(Controls controls);
     void layBlock(console::Control& control, QBoxLayout& column);
     void layRows(Controls controls, QBoxLayout& column);
-    void layRow(const console::Control& control, QFormLayout& rows);
+    void layRow(const console::Control& control, QFormLayout& rows, bool withLabels);
     QLayout* lineOf(const console::Control& control, Controls buttons);
 
     Finder widgetOf_;

@@ -17,6 +17,11 @@
 #include <algorithm>
 
 namespace desktop {
+namespace {
+
+constexpr std::size_t standardButtons = 2;
+
+} // namespace
 
 FormWidgets::FormWidgets(console::Form& form, QWidget& surface) : form_(form) {
     WidgetMaker maker(surface);
@@ -75,11 +80,12 @@ void FormWidgets::giveAccessKeys() {
     std::vector<std::function<void(const QString&)>> takers;
     AccessKeys keys;
     const auto add = [&](const wire::WideString& label, std::function<void(const QString&)> taker) {
-        keys.add(exactText(label));
+        const bool isStandard = takers.size() < standardButtons;
+        keys.add(exactText(label), isStandard ? AccessKeys::Claim::keeps : AccessKeys::Claim::givesWay);
         takers.push_back(std::move(taker));
     };
     auto controls = console::controlsOf(form_);
-    std::rotate(controls.begin(), controls.end() - 2, controls.end());
+    std::rotate(controls.begin(), controls.end() - standardButtons, controls.end());
     for (console::Control* control : controls) {
         ControlWidget* const widget = find(*control);
         if (auto* const tabs = dynamic_cast<TabsWidget*>(widget)) {

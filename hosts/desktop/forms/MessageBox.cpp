@@ -1,9 +1,11 @@
 #include "hosts/desktop/forms/MessageBox.h"
 
+#include "hosts/desktop/SvgIcon.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 #include <vector>
@@ -61,6 +63,32 @@ QMessageBox::Icon iconOf(std::uint32_t style) {
     }
 }
 
+// The style's own pictures are of another age.
+void drawIcon(QMessageBox& box) {
+    constexpr int side = 40;
+    const char* name = nullptr;
+    switch (box.icon()) {
+    case QMessageBox::Critical:
+        name = "stop";
+        break;
+    case QMessageBox::Question:
+        name = "question";
+        break;
+    case QMessageBox::Warning:
+        name = "warning";
+        break;
+    case QMessageBox::Information:
+        name = "information";
+        break;
+    default:
+        return;
+    }
+    if (auto* const picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
+        const QIcon icon = SvgIcon::make(QStringLiteral(":/icons/boxes/%1.svg").arg(QLatin1String(name)));
+        picture->setPixmap(icon.pixmap(QSize(side, side), box.devicePixelRatioF()));
+    }
+}
+
 QWidget* frontWindow() {
     QWidget* const modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
@@ -77,6 +105,7 @@ Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::
     box.setText(shown);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setIcon(iconOf(style));
+    drawIcon(box);
     box.setAccessibleName(box.windowTitle());
     box.setAccessibleDescription(shown);
     if (shown.endsWith(QChar(0x2026)) && text.back() != u'\u2026') {

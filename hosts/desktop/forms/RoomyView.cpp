@@ -1,5 +1,7 @@
 #include "hosts/desktop/forms/RoomyView.h"
 
+#include "hosts/desktop/forms/RoomyRows.h"
+
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -14,6 +16,10 @@ constexpr int narrowest = 32; // characters
 constexpr int widest = 110;
 
 } // namespace
+
+RoomyView::RoomyView() {
+    setItemDelegate(new RoomyRows(this));
+}
 
 QSize RoomyView::sizeHint() const {
     const int character = fontMetrics().averageCharWidth();

@@ -1,26 +1,18 @@
 #include "hosts/desktop/forms/TextWidget.h"
 
 #include "console/MultiLineEdit.h"
+#include "hosts/desktop/forms/LinesEdit.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QGuiApplication>
 #include <QTextBlock>
 
 namespace desktop {
-namespace {
-
-constexpr int linesHigh = 4;
-
-} // namespace
-
-TextWidget::TextWidget(console::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new QPlainTextEdit) {
+TextWidget::TextWidget(console::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new LinesEdit) {
     setUp(edit_);
     addCaption();
     edit_->setTabChangesFocus(true);
-    const auto metrics = edit_->fontMetrics();
-    edit_->setMinimumSize(comfortableWidth(), metrics.lineSpacing() * linesHigh +
-                                                  static_cast<int>(edit_->document()->documentMargin() * 2) +
-                                                  edit_->frameWidth() * 2);
+    edit_->setMinimumWidth(comfortableWidth());
     edit_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     connect(edit_, &QPlainTextEdit::textChanged, this, [this] {
         if (!mirroring()) {

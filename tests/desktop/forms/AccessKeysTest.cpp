@@ -37,6 +37,13 @@ TEST(AccessKeys, anEarlierLabelGivesWayWhenALaterOneWouldGetNothing) {
     EXPECT_THAT(assigned({"AB", "A"}), ElementsAre("A&B", "&A"));
 }
 
+TEST(AccessKeys, aLabelThatKeepsItsKeyDoesNotGiveWay) {
+    AccessKeys keys;
+    keys.add(QStringLiteral("OK"), AccessKeys::Claim::keeps);
+    keys.add(QStringLiteral("O"));
+    EXPECT_THAT(keys.assign(), ElementsAre(QStringLiteral("&OK"), QStringLiteral("O")));
+}
+
 TEST(AccessKeys, moreLabelsThanLettersLeaveTheLastWithoutAKey) {
     EXPECT_THAT(assigned({"A", "A"}), ElementsAre("&A", "A"));
 }

@@ -100,8 +100,8 @@ TEST_P(AllForms, areDrawnWithEveryLabelReadable) {
         ASSERT_NE(widget, nullptr);
         if (control->reachable()) {
             const QRect place(widget->mapTo(&dialog, QPoint()), widget->size());
-            EXPECT_TRUE(dialog.rect().contains(place)) << label.toStdString() << " is cut off: the dialog is "
-                                                      << dialog.width() << " by " << dialog.height();
+            EXPECT_TRUE(dialog.rect().contains(place))
+                << label.toStdString() << " is cut off: the dialog is " << dialog.width() << " by " << dialog.height();
             EXPECT_TRUE(widget->visibleRegion().boundingRect().size() == widget->size()) << label.toStdString();
         }
     }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace desktop {
+
+// A box for a few lines of text, which grows where there is room.
+class LinesEdit final : public QPlainTextEdit {
+public:
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+} // namespace desktop
