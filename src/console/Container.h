@@ -19,6 +19,8 @@ public:
     virtual Form& form() = 0;
     // Whether what stands on it can be seen.
     virtual bool shown() const = 0;
+    // Whether what stands on it can be acted on: it can be seen, and nothing below it is disabled.
+    virtual bool usable() const { return shown(); }
 
 protected:
     Container() = default;

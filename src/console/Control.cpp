@@ -37,7 +37,7 @@ void Control::setFocus() {
 }
 
 bool Control::reachable() const {
-    return enabled_ && visible_ && container_.shown();
+    return enabled_ && visible_ && container_.usable();
 }
 
 Form& Control::form() const {

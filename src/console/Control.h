@@ -35,8 +35,13 @@ public:
     bool visible() const { return visible_; }
     void setVisible(bool visible);
     void setFocus();
-    // The control and all that it stands on are visible (its page is the one shown), and it is enabled.
+    // The control and all that it stands on are visible (its page is the one shown) and enabled.
     bool reachable() const;
+
+    // What this control stands beside and goes with: a unit beside its number, a list beside its radio button, the
+    // buttons of a list; null for most. Without a label of its own it is called by that of the other.
+    const Control* beside() const { return beside_; }
+    void setBeside(const Control& other) { beside_ = &other; }
 
     Form& form() const;
     Container& container() const { return container_; }
@@ -57,6 +62,7 @@ protected:
 private:
     Container& container_;
     wire::WideString label_;
+    const Control* beside_ = nullptr;
     bool enabled_ = true;
     bool visible_ = true;
 };

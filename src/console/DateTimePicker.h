@@ -25,7 +25,8 @@ bool isValid(const DateTime& value);
 struct DateTimeOptions {
     bool date = true;
     bool time = true;
-    bool optional = false; // can be switched off, which leaves no value
+    bool optional = false;        // can be switched off, which leaves no value
+    std::u16string_view format{}; // how it is shown, as "yyyy-MM-dd"; empty for the way that the user is used to
 };
 
 // A box in which a day, a time or both are picked.

@@ -2,6 +2,7 @@
 
 #include "console/CaseFold.h"
 #include "console/ControlVisitor.h"
+#include "console/RadioButton.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,7 +10,11 @@
 namespace console {
 
 DropList::DropList(Container& container, std::u16string_view label, DropListOptions options)
-    : Control(container, label), options_(options) {}
+    : Control(container, label), options_(options) {
+    if (options_.belongsTo != nullptr) {
+        setBeside(*options_.belongsTo);
+    }
+}
 
 void DropList::accept(ControlVisitor& visitor) {
     visitor.visit(*this);
@@ -18,22 +23,31 @@ void DropList::accept(ControlVisitor& visitor) {
 std::size_t DropList::addItem(wire::WideString text, std::string data) {
     auto place = items_.end();
     if (options_.sorted) {
-        place =
-            std::upper_bound(items_.begin(), items_.end(), text, [](const wire::WideString& added, const auto& item) {
-                return compareIgnoringCase(added, item.text) < 0;
-            });
+        place = std::upper_bound(
+            items_.begin() + static_cast<std::ptrdiff_t>(firsts_), items_.end(), text,
+            [](const wire::WideString& added, const auto& item) { return compareIgnoringCase(added, item.text) < 0; });
     }
     const auto row = static_cast<std::size_t>(place - items_.begin());
-    items_.insert(place, {std::move(text), std::move(data)});
+    insert(row, {std::move(text), std::move(data)});
+    return row;
+}
+
+void DropList::addFirst(wire::WideString text, std::string data) {
+    ++firsts_;
+    insert(0, {std::move(text), std::move(data)});
+}
+
+void DropList::insert(std::size_t row, DropListItem item) {
+    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(row), std::move(item));
     if (selection_ && *selection_ >= row) {
         ++*selection_; // the same row stays selected
     }
     changed(Aspect::items);
-    return row;
 }
 
 void DropList::clear() {
     items_.clear();
+    firsts_ = 0;
     selection_.reset();
     changed(Aspect::items);
 }

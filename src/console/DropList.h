@@ -32,6 +32,8 @@ public:
     const std::vector<DropListItem>& items() const { return items_; }
     // Answers the row at which it ended up.
     std::size_t addItem(wire::WideString text, std::string data = {});
+    // Above all other rows, in a sorted list too: an empty row, or one that asks to select.
+    void addFirst(wire::WideString text, std::string data = {});
     void clear();
 
     std::optional<std::size_t> selection() const { return selection_; }
@@ -48,8 +50,11 @@ public:
     bool userSelected(std::size_t row);
 
 private:
+    void insert(std::size_t row, DropListItem item);
+
     DropListOptions options_;
     std::vector<DropListItem> items_;
+    std::size_t firsts_ = 0; // rows at the top that are not sorted
     std::optional<std::size_t> selection_;
 };
 

@@ -1,11 +1,9 @@
 #include "console/FormWalk.h"
 
 #include "console/CaseFold.h"
-#include "console/DropList.h"
 #include "console/Form.h"
 #include "console/Group.h"
 #include "console/Page.h"
-#include "console/RadioButton.h"
 #include "console/Tabs.h"
 
 #include <algorithm>
@@ -30,14 +28,16 @@ void collect(const Container& container, std::vector<Control*>& all) {
 }
 
 wire::WideString ownName(const Control& control) {
-    const auto* list = dynamic_cast<const DropList*>(&control);
-    const bool borrows = list != nullptr && list->label().empty() && list->options().belongsTo != nullptr;
-    return readableLabel(borrows ? list->options().belongsTo->label() : control.label());
+    const bool borrows = control.label().empty() && control.beside() != nullptr;
+    return borrows ? ownName(*control.beside()) : readableLabel(control.label());
 }
 
-// The control's own name, then those of what it stands on, from the inside out.
+// The control's own name, then those of what it stands beside and on, from the inside out.
 std::vector<wire::WideString> namesOf(const Control& control) {
     std::vector<wire::WideString> names{ownName(control)};
+    if (control.beside() != nullptr && !control.label().empty()) {
+        names.push_back(ownName(*control.beside()));
+    }
     const Container* container = &control.container();
     while (container != nullptr) {
         const Container* outer = nullptr;

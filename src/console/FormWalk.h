@@ -17,13 +17,14 @@ std::vector<Control*> controlsOf(Form& form);
 // A label as a person reads it: without access keys ("&Name" is "Name", "&&" is "&") and blanks at the ends.
 wire::WideString readableLabel(std::u16string_view label);
 
-// How a person calls a control: its label; of a list that goes with a radio button the button's label; of a control in
-// a group "Group: Label", and of one on a page "Page: Label" or "Page: Group: Label".
+// How a person calls a control: its label. One that stands beside another has that one's label when it has none of its
+// own, else "Other: Label"; a control in a group is "Group: Label", and one on a page "Page: Label" or
+// "Page: Group: Label".
 wire::WideString fullName(const Control& control);
 
 // The controls that a person may mean by a name: without regard to case, access keys and blanks at the ends. The name
-// of the group or page may be left out; where that leaves several, those that need the fewest names in front are meant.
-// More than one: the name does not tell them apart, or a list goes with a radio button.
+// of the neighbour, group or page may be left out; where that leaves several, those that need the fewest names in front
+// are meant. More than one: the name does not tell them apart, or one of them stands beside the other.
 std::vector<Control*> findControls(Form& form, std::u16string_view name);
 
 // The only control of a kind that a person may mean by a name; null when there is none or more than one.

@@ -18,4 +18,8 @@ bool Group::shown() const {
     return visible() && container().shown();
 }
 
+bool Group::usable() const {
+    return visible() && enabled() && container().usable();
+}
+
 } // namespace console

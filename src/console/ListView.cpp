@@ -2,8 +2,6 @@
 
 #include "console/ControlVisitor.h"
 
-#include <utility>
-
 namespace console {
 
 ListView::ListView(Container& container, std::u16string_view label) : Control(container, label) {}
@@ -76,6 +74,18 @@ bool ListView::userDoubleClicked(std::size_t row) {
         return false;
     }
     run(onDoubleClick);
+    return true;
+}
+
+bool ListView::userChoseFromRowMenu(std::size_t row, std::size_t entry) {
+    if (entry >= rowMenu_.size() || !userSelected(row)) {
+        return false;
+    }
+    run([this, entry] {
+        if (onRowMenu) {
+            onRowMenu(entry);
+        }
+    });
     return true;
 }
 

@@ -5,14 +5,18 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace console {
 
-// A column of a list view. A width of 0 hides it: the program keeps its ids there. Other widths are in pixels at 100 %.
+// A column of a list view. A width of 0 or less hides it: the program keeps its ids there. Other widths are in pixels
+// at 100 %.
 struct ListColumn {
     wire::WideString title;
     int width = 100;
+
+    bool hidden() const { return width <= 0; }
 };
 
 // A row of a list view: a text per column, and what the program knows the row by.
@@ -42,16 +46,23 @@ public:
     // Does not fire onSelect. A row that is not there takes the selection away.
     void select(std::optional<std::size_t> row);
 
+    // The entries that a right click on a row offers; none for no menu. Hosts ask for them at the click.
+    const std::vector<wire::WideString>& rowMenu() const { return rowMenu_; }
+    void setRowMenu(std::vector<wire::WideString> entries) { rowMenu_ = std::move(entries); }
+
     std::function<void()> onSelect;
     std::function<void()> onDoubleClick;
+    std::function<void(std::size_t entry)> onRowMenu;
     bool userSelected(std::optional<std::size_t> row);
-    // Selects the row first.
+    // These two select the row first. False also for an entry that the menu does not have.
     bool userDoubleClicked(std::size_t row);
+    bool userChoseFromRowMenu(std::size_t row, std::size_t entry);
 
 private:
     std::vector<ListColumn> columns_;
     std::vector<ListRow> rows_;
     std::optional<std::size_t> selection_;
+    std::vector<wire::WideString> rowMenu_;
 };
 
 } // namespace console

@@ -12,6 +12,10 @@ Form& Page::form() {
     return tabs_.form();
 }
 
+bool Page::usable() const {
+    return shown() && tabs_.enabled() && tabs_.container().usable();
+}
+
 bool Page::shown() const {
     return tabs_.visible() && tabs_.container().shown() && tabs_.pages()[tabs_.current()] == this;
 }

@@ -18,6 +18,7 @@ public:
     Tabs& tabs() const { return tabs_; }
     Form& form() override;
     bool shown() const override;
+    bool usable() const override;
 
 private:
     Tabs& tabs_;

@@ -14,7 +14,7 @@ class Form;
 // Keys that handlers press on the user's behalf; the numbers are the platform's virtual key codes.
 enum class Key : std::uint16_t { tab = 0x09, up = 0x26, down = 0x28, deleteKey = 0x2E, f5 = 0x74 };
 
-// Styles of a message box: buttons and icon added up. The numbers are the platform's MB_ values.
+// Styles of a message box: buttons, icon and the rest added up. The numbers are the platform's MB_ values.
 namespace boxStyle {
 constexpr std::uint32_t ok = 0x00;
 constexpr std::uint32_t okCancel = 0x01;
@@ -24,6 +24,8 @@ constexpr std::uint32_t iconStop = 0x10; // also the platform's "error"
 constexpr std::uint32_t iconQuestion = 0x20;
 constexpr std::uint32_t iconWarning = 0x30; // also the platform's "exclamation"
 constexpr std::uint32_t iconInformation = 0x40;
+constexpr std::uint32_t secondIsDefault = 0x100; // Enter presses the second button, such as Cancel
+constexpr std::uint32_t taskModal = 0x2000;      // keeps people from all windows of the program
 constexpr std::uint32_t buttonMask = 0x0F;
 constexpr std::uint32_t iconMask = 0xF0;
 } // namespace boxStyle

@@ -102,6 +102,23 @@ TEST_F(ControlTest, aControlInAHiddenGroupCannotBeReached) {
     EXPECT_FALSE(form.place.userTyped(u"x"));
 }
 
+TEST_F(ControlTest, aControlInADisabledGroupCannotBeReached) {
+    form.where.setEnabled(false);
+    EXPECT_FALSE(form.place.reachable());
+    EXPECT_FALSE(form.place.userTyped(u"x"));
+    EXPECT_TRUE(form.place.enabled());
+    form.where.setEnabled(true);
+    EXPECT_TRUE(form.place.userTyped(u"x"));
+}
+
+TEST_F(ControlTest, aDisabledGroupTakesGroupsWithinAlong) {
+    Group inner(form.where, u"Inner");
+    EditBox box(inner, u"Box");
+    EXPECT_TRUE(box.reachable());
+    form.where.setEnabled(false);
+    EXPECT_FALSE(box.reachable());
+}
+
 TEST_F(ControlTest, leavingRunsItsHandler) {
     int times = 0;
     form.name.onLeave = [&] { ++times; };

@@ -57,6 +57,31 @@ TEST_F(DropListTest, theSelectionOfASortedListStaysWithItsRow) {
     EXPECT_EQ(sorted.selection(), 1U);
 }
 
+TEST_F(DropListTest, aFirstRowStandsAboveAllOthersInASortedListToo) {
+    sorted.addFirst(u"Select");
+    sorted.addItem(u"Zulu");
+    sorted.addItem(u"Alpha");
+    EXPECT_THAT(texts(sorted), ElementsAre(u"Select", u"Alpha", u"Zulu"));
+    sorted.addFirst(u"");
+    EXPECT_THAT(texts(sorted), ElementsAre(u"", u"Select", u"Alpha", u"Zulu"));
+}
+
+TEST_F(DropListTest, aFirstRowLeavesTheSelectionWithItsRow) {
+    list.addItem(u"One", "1");
+    list.select(0);
+    list.addFirst(u"", "none");
+    EXPECT_EQ(list.selection(), 1U);
+    EXPECT_EQ(list.selectedData(), "1");
+}
+
+TEST_F(DropListTest, clearingForgetsTheFirstRowsToo) {
+    sorted.addFirst(u"Select");
+    sorted.clear();
+    sorted.addItem(u"Zulu");
+    sorted.addItem(u"Alpha");
+    EXPECT_THAT(texts(sorted), ElementsAre(u"Alpha", u"Zulu"));
+}
+
 TEST_F(DropListTest, withoutASelectionTextAndDataAreEmpty) {
     list.addItem(u"One", "1");
     EXPECT_EQ(list.selectedText(), u"");

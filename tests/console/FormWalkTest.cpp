@@ -45,6 +45,29 @@ TEST_F(FormWalkTest, aListThatGoesWithARadioButtonHasTheButtonsName) {
     EXPECT_EQ(findControl<RadioButton>(form, u"By brand"), &form.byBrand);
 }
 
+TEST_F(FormWalkTest, whatStandsBesideAnotherIsToldFromItsLikeByThatOnesName) {
+    DropList affected(form.where, u"Affected");
+    Button editAffected(form.where, u"Edit...");
+    editAffected.setBeside(affected);
+    DropList limits(form.where, u"Limits");
+    Button editLimit(form.where, u"Edit...");
+    editLimit.setBeside(limits);
+    EXPECT_EQ(fullName(editLimit), u"Where: Limits: Edit...");
+    EXPECT_EQ(findControl<Button>(form, u"Affected: Edit..."), &editAffected);
+    EXPECT_THAT(findControls(form, u"edit..."), ElementsAre(&editAffected, &editLimit));
+}
+
+TEST_F(FormWalkTest, whatHasNoLabelIsCalledByThatOfItsNeighbour) {
+    CheckBox validFor(form, u"Valid for");
+    EditBox number(form, u"", {.digitsOnly = true});
+    number.setBeside(validFor);
+    DropList unit(form, u"");
+    unit.setBeside(number);
+    EXPECT_EQ(fullName(unit), u"Valid for");
+    EXPECT_EQ(findControl<EditBox>(form, u"Valid for"), &number);
+    EXPECT_EQ(findControl<DropList>(form, u"Valid for"), &unit);
+}
+
 TEST_F(FormWalkTest, aControlIsFoundWithoutRegardToCaseKeysAndBlanks) {
     for (const auto* name : {u"Apply", u"APPLY", u" apply ", u"&Apply", u"general: apply"}) {
         EXPECT_THAT(findControls(form, name), ElementsAre(&form.apply));

@@ -25,7 +25,9 @@ protected:
 };
 
 TEST_F(ListViewTest, aColumnOfZeroWidthHoldsTheProgramsOwnIds) {
-    EXPECT_EQ(list.columns()[0].width, 0);
+    EXPECT_TRUE(list.columns()[0].hidden());
+    EXPECT_FALSE(list.columns()[1].hidden());
+    EXPECT_TRUE((ListColumn{u"actionId", -1}.hidden()));
     list.select(1);
     EXPECT_EQ(list.selectedRow()->cells[0], u"8");
 }
@@ -87,6 +89,28 @@ TEST_F(ListViewTest, aDoubleClickSelectsFirst) {
     EXPECT_TRUE(list.userDoubleClicked(1));
     EXPECT_FALSE(list.userDoubleClicked(9));
     EXPECT_THAT(events, ElementsAre("select", "open b"));
+}
+
+TEST_F(ListViewTest, theMenuOfARowSelectsTheRowFirst) {
+    std::vector<std::string> events;
+    list.setRowMenu({u"Open", u"Delete action"});
+    list.onSelect = [&] { events.emplace_back("select"); };
+    list.onRowMenu = [&](std::size_t entry) {
+        events.push_back(std::to_string(entry) + " of " + list.selectedRow()->data);
+    };
+    EXPECT_TRUE(list.userChoseFromRowMenu(2, 1));
+    EXPECT_THAT(events, ElementsAre("select", "1 of c"));
+    EXPECT_THAT(list.rowMenu(), ElementsAre(u"Open", u"Delete action"));
+}
+
+TEST_F(ListViewTest, theMenuOfARowHasOnlyItsEntriesAndRows) {
+    list.onSelect = [] { FAIL() << "selected"; };
+    EXPECT_FALSE(list.userChoseFromRowMenu(0, 0));
+    list.setRowMenu({u"Delete action"});
+    EXPECT_FALSE(list.userChoseFromRowMenu(0, 1));
+    EXPECT_FALSE(list.userChoseFromRowMenu(3, 0));
+    list.setEnabled(false);
+    EXPECT_FALSE(list.userChoseFromRowMenu(0, 0));
 }
 
 TEST_F(ListViewTest, changesReachTheHost) {

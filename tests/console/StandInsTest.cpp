@@ -108,6 +108,29 @@ TEST(FormChecks, findTwoControlsWithOneLabel) {
     EXPECT_NONFATAL_FAILURE(support::expectSound(form), "two with this label");
 }
 
+TEST(FormChecks, takeTwoControlsWithOneLabelThatStandBesideOthers) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    Button editBrand(form.where, u"Edit...");
+    editBrand.setBeside(form.brand);
+    Button editPlace(form.where, u"Edit...");
+    editPlace.setBeside(form.place);
+    support::expectSound(form);
+}
+
+TEST(FormChecks, findTwoControlsOfAKindThatBorrowOneLabel) {
+    support::TestPlatform platform;
+    SampleForm form(platform);
+    EditBox number(form, u"");
+    number.setBeside(form.invisible);
+    DropList unit(form, u"");
+    unit.setBeside(form.invisible);
+    support::expectSound(form);
+    EditBox other(form, u"");
+    other.setBeside(form.invisible);
+    EXPECT_NONFATAL_FAILURE(support::expectSound(form), "two of a kind with one borrowed name");
+}
+
 TEST(MemorySettingsStore, answersAsItIsToldTo) {
     support::MemorySettingsStore settings;
     settings.opens = false;

@@ -46,6 +46,22 @@ TEST_F(TabsTest, showingAPageThatIsNotThereIsAnError) {
     EXPECT_EQ(form.tabs.current(), 0U);
 }
 
+TEST_F(TabsTest, disabledTabsTakeWhatStandsOnTheirPagesAlong) {
+    form.tabs.setEnabled(false);
+    EXPECT_TRUE(form.general.shown());
+    EXPECT_FALSE(form.apply.reachable());
+}
+
+TEST_F(TabsTest, tabsInADisabledGroupAreDisabledToo) {
+    Group group(form, u"Group");
+    Tabs inner(group);
+    Page page(inner, u"Page");
+    Button button(page, u"Button");
+    EXPECT_TRUE(button.reachable());
+    group.setEnabled(false);
+    EXPECT_FALSE(button.reachable());
+}
+
 TEST_F(TabsTest, hiddenTabsHideTheirPages) {
     form.tabs.setVisible(false);
     EXPECT_FALSE(form.apply.reachable());

@@ -23,6 +23,7 @@
 
 #include <algorithm>
 #include <set>
+#include <typeindex>
 #include <utility>
 
 namespace support {
@@ -38,13 +39,7 @@ public:
     void visit(Button& control) override { EXPECT_FALSE(control.visible() && control.label().empty()); }
     void visit(CheckBox& /*control*/) override {}
     void visit(DateTimePicker& control) override { EXPECT_TRUE(control.options().date || control.options().time); }
-    void visit(DropList& control) override {
-        const RadioButton* const owner = control.options().belongsTo;
-        if (owner != nullptr) {
-            EXPECT_EQ(&owner->form(), &control.form());
-            needsName = !control.label().empty();
-        }
-    }
+    void visit(DropList& /*control*/) override {}
     void visit(EditBox& /*control*/) override {}
     void visit(Group& /*control*/) override {}
     void visit(Label& control) override { needsName = !control.label().empty(); }
@@ -78,7 +73,8 @@ wire::WideString withoutCase(wire::WideString text) {
 void expectSound(Form& form) {
     SCOPED_TRACE("form \"" + wire::toUtf8(form.title()) + "\"");
     EXPECT_FALSE(readableLabel(form.title()).empty());
-    std::set<std::pair<const Container*, wire::WideString>> names;
+    std::set<wire::WideString> names;
+    std::set<std::pair<const Control*, std::type_index>> borrowers;
     for (Control* control : controlsOf(form)) {
         const wire::WideString name = readableLabel(control->label());
         SCOPED_TRACE("control \"" + wire::toUtf8(name) + "\"");
@@ -86,6 +82,14 @@ void expectSound(Form& form) {
         Check check;
         control->accept(check);
         const bool leftOut = control->label().empty() && !control->visible();
+        if (const Control* const other = control->beside(); other != nullptr) {
+            EXPECT_EQ(&other->form(), &form);
+            if (check.needsName && name.empty()) {
+                EXPECT_TRUE(borrowers.emplace(other, typeid(*control)).second)
+                    << "two of a kind with one borrowed name";
+                continue;
+            }
+        }
         if (!check.needsName || leftOut) {
             continue;
         }
@@ -93,7 +97,7 @@ void expectSound(Form& form) {
             ADD_FAILURE() << "a control without a label";
             continue;
         }
-        EXPECT_TRUE(names.emplace(&control->container(), withoutCase(name)).second) << "two with this label";
+        EXPECT_TRUE(names.insert(withoutCase(fullName(*control))).second) << "two with this label";
         const auto found = findControls(form, fullName(*control));
         EXPECT_NE(std::ranges::find(found, control), found.end()) << "not found by its name";
     }
