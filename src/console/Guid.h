@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace console {
@@ -16,13 +15,13 @@ struct Guid {
 };
 
 // Reads "813A64F9-EC5E-4A73-9072-CC3667D1C40F" (upper or lower case, no braces); for constants of the program.
-consteval Guid guid(std::string_view text) {
+consteval Guid guid(std::u16string_view text) {
     if (text.size() != 36) {
         throw "a guid has 36 characters";
     }
     // Where each byte's two digits stand: the first three groups are little-endian in memory.
     constexpr std::array<std::size_t, 16> places{6, 4, 2, 0, 11, 9, 16, 14, 19, 21, 24, 26, 28, 30, 32, 34};
-    const auto digit = [](char c) -> unsigned {
+    const auto digit = [](char16_t c) -> unsigned {
         if (c >= '0' && c <= '9') {
             return static_cast<unsigned>(c - '0');
         }
@@ -40,8 +39,5 @@ consteval Guid guid(std::string_view text) {
     }
     return result;
 }
-
-// "813A64F9-EC5E-4A73-9072-CC3667D1C40F": upper case, no braces.
-std::u16string toText(const Guid& value);
 
 } // namespace console

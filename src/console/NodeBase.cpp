@@ -256,10 +256,10 @@ Result NodeBase::FillData(ClipboardFormat format, std::vector<std::uint8_t>& str
     const NodeIdentity& identity = nodeIdentity();
     switch (format) {
     case ClipboardFormat::nodeType:
-        append(stream, identity.nodeType);
+        append(stream, identity.nodeType.guid);
         return Result::ok;
     case ClipboardFormat::nodeTypeText:
-        append(stream, toText(identity.nodeType));
+        append(stream, identity.nodeType.text);
         return Result::ok;
     case ClipboardFormat::displayName:
         append(stream, identity.displayName); // that of the class, whatever this node is called

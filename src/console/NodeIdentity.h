@@ -11,14 +11,26 @@
 namespace console {
 
 // The class id of the snap-in (CLSID_Print), the same for every node.
-inline constexpr Guid snapInClassId = guid("6F257AE4-F4E0-49EC-AE9D-61078938E7CE");
-inline constexpr Guid rootNodeType = guid("813A64F9-EC5E-4A73-9072-CC3667D1C40F");
-inline constexpr Guid folderNodeType = guid("13CBA1B8-C9A1-4a0b-858C-AE981C158B7D");
+inline constexpr Guid snapInClassId = guid(u"6F257AE4-F4E0-49EC-AE9D-61078938E7CE");
+
+// A node type, with the text for it as it stands in the registry, the case of its letters included.
+struct NodeType {
+    Guid guid;
+    std::u16string_view text; // without braces
+};
+
+consteval NodeType nodeTypeOf(std::u16string_view text) {
+    return {guid(text), text};
+}
+
+inline constexpr NodeType noNodeType = nodeTypeOf(u"00000000-0000-0000-0000-000000000000");
+inline constexpr NodeType rootNodeType = nodeTypeOf(u"813A64F9-EC5E-4A73-9072-CC3667D1C40F");
+inline constexpr NodeType folderNodeType = nodeTypeOf(u"13CBA1B8-C9A1-4a0b-858C-AE981C158B7D");
 
 // What is the same for all nodes of a class.
 struct NodeIdentity {
     std::u16string_view displayName{}; // of a new node, and for ever that of the class
-    Guid nodeType{};                   // all zero for classes that the console need not tell apart
+    NodeType nodeType = noNodeType;    // of a class that the console must tell apart
     std::int32_t image = 0;
     std::int32_t openImage = image;
     std::int32_t children = 0; // 0 for a leaf

@@ -127,13 +127,13 @@ TEST_F(NodeAnswers, theSnapInsClassIsTheSameForEveryNode) {
                     {0xE4, 0x7A, 0x25, 0x6F, 0xE0, 0xF4, 0xEC, 0x49, 0xAE, 0x9D, 0x61, 0x07, 0x89, 0x38, 0xE7, 0xCE}));
 }
 
-TEST_F(NodeAnswers, theNodeTypeAsTextHasNoBracesAndATerminator) {
+TEST_F(NodeAnswers, theNodeTypeAsTextKeepsItsCaseAndHasNoBracesAndATerminator) {
     const auto stream = filled(ClipboardFormat::nodeTypeText);
     std::u16string text;
     for (std::size_t i = 0; i + 1 < stream.size(); i += 2) {
         text += static_cast<char16_t>(stream[i] | stream[i + 1] << 8);
     }
-    EXPECT_EQ(text, std::u16string(u"13CBA1B8-C9A1-4A0B-858C-AE981C158B7D") + u'\0');
+    EXPECT_EQ(text, std::u16string(u"13CBA1B8-C9A1-4a0b-858C-AE981C158B7D") + u'\0');
 }
 
 TEST_F(NodeAnswers, aClassWithoutATypeHasAllZeros) {
@@ -141,7 +141,7 @@ TEST_F(NodeAnswers, aClassWithoutATypeHasAllZeros) {
     std::vector<std::uint8_t> stream;
     EXPECT_EQ(box->FillData(ClipboardFormat::nodeType, stream), Result::ok);
     EXPECT_EQ(stream, std::vector<std::uint8_t>(16, 0));
-    EXPECT_EQ(toText(BoxNode::identity.nodeType), u"00000000-0000-0000-0000-000000000000");
+    EXPECT_EQ(BoxNode::identity.nodeType.text, u"00000000-0000-0000-0000-000000000000");
 }
 
 TEST_F(NodeAnswers, theDisplayNameOfTheDataIsThatOfTheClassAndNotOfTheNode) {

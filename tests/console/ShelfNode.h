@@ -31,11 +31,8 @@ private:
 // the test.
 class ShelfNode final : public CBaseNodeItem<ShelfNode> {
 public:
-    static constexpr NodeIdentity identity{.displayName = u"Shelf",
-                                           .nodeType = guid("13CBA1B8-C9A1-4a0b-858C-AE981C158B7D"),
-                                           .image = 0,
-                                           .openImage = 1,
-                                           .children = 2};
+    static constexpr NodeIdentity identity{
+        .displayName = u"Shelf", .nodeType = folderNodeType, .image = 0, .openImage = 1, .children = 2};
 
     struct Record {
         std::string id;

@@ -160,7 +160,7 @@ TEST_F(RootNode, hasNoContextMenuOfItsOwnAndNoColumns) {
 
 TEST_F(RootNode, hasItsIdentity) {
     EXPECT_EQ(root_->displayName(), u"Vantrel Manager");
-    EXPECT_EQ(root_->nodeIdentity().nodeType, console::guid("813A64F9-EC5E-4A73-9072-CC3667D1C40F"));
+    EXPECT_EQ(root_->nodeIdentity().nodeType.text, u"813A64F9-EC5E-4A73-9072-CC3667D1C40F");
     EXPECT_EQ(root_->scopeFields().nImage, 6);
     EXPECT_EQ(root_->scopeFields().nOpenImage, 6);
     EXPECT_EQ(root_->scopeFields().cChildren, 3);

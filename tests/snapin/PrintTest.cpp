@@ -123,7 +123,7 @@ TEST_F(PrintSnapIn, tellsNodesApart) {
 }
 
 TEST_F(PrintSnapIn, hasTheClassIdOfAllItsNodes) {
-    EXPECT_EQ(print_.GetClassID(), console::guid("6F257AE4-F4E0-49EC-AE9D-61078938E7CE"));
+    EXPECT_EQ(print_.GetClassID(), console::guid(u"6F257AE4-F4E0-49EC-AE9D-61078938E7CE"));
 }
 
 TEST_F(PrintSnapIn, isCleanEvenAfterAChangeInTheTree) {
