@@ -65,7 +65,6 @@ console::Result PrinterNode::OnExpand(console::ExpandCode code, console::IConsol
     protocol::PrinterRecord record;
     while (client.nextPrinterRecord(record)) {
         fresh.push_back(std::make_shared<queues::QueueNode>(platform(), std::move(record), queues::QueueMode::queue));
-        fresh.back()->setParent(*this);
     }
     replaceChildren(queues_, std::move(fresh));
     for (const auto& queue : queues_) {

@@ -136,7 +136,6 @@ console::Result PrinterRegionNode::createRegion(console::CommandOrigin origin) {
 void PrinterRegionNode::addRegion(std::int32_t newRegionId, const wire::WideString& name) {
     const auto region = std::make_shared<PrinterRegionNode>(
         platform(), protocol::RegionRecord{.name = name, .id = newRegionId, .parentId = regionId_});
-    region->setParent(*this);
     regions_.push_back(region);
     insertChild(*console(), *region);
     console()->SelectScopeItem(region->scopeFields().ID);

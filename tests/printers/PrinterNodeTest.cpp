@@ -180,6 +180,31 @@ TEST_F(Printer, staysWhenTheDeleteCannotBeSent) {
     EXPECT_TRUE(console_.calls.empty());
 }
 
+TEST_F(Printer, thatStandsInNoConsoleIsDeletedOnTheServerAlone) {
+    const auto printer = std::make_shared<printers::PrinterNode>(platform_, support::printer("p1", 1, u"Copier"));
+    platform_.ui.expectBox(Answer::ok, question);
+
+    EXPECT_EQ(printer->Command(293, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"36: 01 02 00 70 31"});
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_EQ(platform_.ui.presses(), refreshes(2));
+}
+
+TEST_F(Printer, whoseParentIsNotKnownOnlyLeavesTheTree) {
+    const auto printer = std::make_shared<printers::PrinterNode>(platform_, support::printer("p1", 1, u"Copier"));
+    support::expand(console_, *printer, console_.addScopeRow(printer));
+    const auto row = idOf(u"Copier");
+    watchQueues();
+    console_.calls.clear();
+    platform_.ui.expectBox(Answer::ok, question);
+
+    EXPECT_EQ(printer->Command(293, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(console_.calls, Strings{"DeleteItem " + row + " itself"});
+    EXPECT_EQ(platform_.ui.presses(), refreshes(2));
+}
+
 TEST_F(Printer, isRefreshedTwiceAfterACommandThatIsNotItsOwn) {
     openNorth();
 

@@ -152,6 +152,15 @@ TEST_F(PrinterRegion, losesItsRowsWhenAllThatItHeldHasGone) {
     EXPECT_TRUE(console_.childNames(rowOf(console_, u"North")).empty());
 }
 
+TEST_F(PrinterRegion, withNothingInItLeavesTheListAloneWhenItIsHidden) {
+    expandNode(u"Printers");
+    show(console_, *root_);
+
+    show(console_, *nodeOf(console_, u"South"), false);
+
+    EXPECT_EQ(console_.resultRows.size(), 2U);
+}
+
 TEST_F(PrinterRegion, showsTheRowsOfTheLastReadWhenTheServerCannotBeReached) {
     showNorth();
     estate_.goOffline();
@@ -224,6 +233,31 @@ TEST_F(PrinterRegion, pressesTabTwiceAfterCreatingASubRegionFromARow) {
     EXPECT_EQ(estate_.changes(1), Strings{"1: 00 02 00 00 00 02 00 41 00"});
     EXPECT_TRUE(console_.calls.empty());
     EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::tab, Key::tab}}));
+}
+
+TEST_F(PrinterRegion, listsASubRegionWhoseIdIsKnownBeforeItIsReadAgain) {
+    openNorth();
+    expectNewRegion(u"Airport", 42);
+    const auto north = nodeOf(console_, u"North");
+    north->Command(247, DataObjectType::scope);
+    estate_.goOffline();
+
+    show(console_, *north);
+
+    EXPECT_EQ(console_.resultRows.size(), 4U);
+    EXPECT_NE(shownNode(console_, u"Airport"), nullptr);
+}
+
+TEST_F(PrinterRegion, thatStandsInNoConsoleStillDoesItsCommands) {
+    const auto region = std::make_shared<printers::PrinterRegionNode>(platform_, support::region(7, 0, u"Loose"));
+    expectNewRegion(u"A", 42);
+    platform_.ui.expectBox(Answer::ok, question);
+
+    EXPECT_EQ(region->Command(247, DataObjectType::scope), Result::ok);
+    EXPECT_EQ(region->Command(302, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(estate_.changes(2), (Strings{"1: 00 07 00 00 00 02 00 41 00", "45: 07 00 00 00 00"}));
+    EXPECT_TRUE(platform_.ui.presses().empty());
 }
 
 TEST_F(PrinterRegion, isDeletedAfterTheQuestionWhenNothingIsInIt) {
@@ -360,6 +394,17 @@ TEST_F(PrinterRegion, leavesItToTheServerWhetherARegionMayGoBelowItsOwnSubRegion
     paste(console_, *harbour, *north);
 
     EXPECT_EQ(estate_.changes(1), Strings{"3: 00 01 00 00 00 02 00 00 00"});
+}
+
+TEST_F(PrinterRegion, takesWhatIsPastedFromAViewBeforeTheTreeHasShownIt) {
+    const auto region = std::make_shared<printers::PrinterRegionNode>(platform_, support::region(7, 0, u"Loose"));
+    const auto printer = std::make_shared<printers::PrinterNode>(platform_, support::printer("p1", 1, u"Copier"));
+
+    EXPECT_EQ(region->Notify({.event = console::Event::paste, .source = printer.get(), .component = &console_}),
+              Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"21: 02 00 70 31 07 00 00 00"});
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::f5}, {Key::f5}, {Key::f5}, {Key::f5}}));
 }
 
 TEST_F(PrinterRegion, readsTheTreeAgainAfterAMoveThatCouldNotBeSent) {

@@ -106,6 +106,29 @@ TEST_F(PrintersRoot, createsARegionAtTheTopAndReadsTheTreeAgain) {
     EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
 }
 
+TEST_F(PrintersRoot, createsARegionAlsoBeforeItStandsInAConsole) {
+    const auto root = std::make_shared<printers::PrintersRootNode>(platform_);
+    platform_.ui.expect<CreateRegionDlg>([](CreateRegionDlg& dialog) {
+        dialog.name.userTyped(u"W");
+        dialog.okButton().userPressed();
+    });
+
+    EXPECT_EQ(root->Command(247, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"1: 00 00 00 00 00 02 00 57 00"});
+    EXPECT_TRUE(platform_.ui.presses().empty());
+}
+
+TEST_F(PrintersRoot, readsTheTreeAgainAfterAMoveThatCouldNotBeSent) {
+    openNorth();
+    const auto harbour = support::nodeOf(console_, u"Harbour");
+    estate_.goOffline();
+
+    paste(console_, *root_, *harbour);
+
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::f5}, {Key::f5}}));
+}
+
 TEST_F(PrintersRoot, pressesTabTwiceAfterCreatingARegionFromARow) {
     expandNode(u"Printers");
     console_.calls.clear();

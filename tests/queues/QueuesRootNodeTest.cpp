@@ -50,6 +50,16 @@ TEST(QueuesRoot, keepsItsRowForRefreshesFromOutside) {
     EXPECT_EQ(console.calls, Strings{"DeleteItem 1 children"});
 }
 
+TEST(QueuesRoot, isNotMissedByARefreshOnceItIsGone) {
+    support::TestPlatform platform;
+    support::RecordingConsole console;
+    std::make_shared<QueuesRootNode>(platform).reset();
+
+    QueuesRootNode::refreshInstance(console);
+
+    EXPECT_TRUE(console.calls.empty());
+}
+
 TEST(QueuesRoot, isLeftAloneWhileItHasNoRow) {
     support::TestPlatform platform;
     support::RecordingConsole console;
