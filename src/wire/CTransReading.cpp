@@ -15,11 +15,6 @@ namespace {
 constexpr std::chrono::milliseconds longestWait = 50ms; // then the observer is asked
 constexpr std::uint32_t readAheadSize = 64 * 1024;
 
-// What one step of a read delivers at most. The outcome of a step is a signed 16-bit number to the protocol, so that
-// more would count as a failure and be lost; in steps of this size a body between 32,768 and 65,535 bytes arrives
-// whole.
-constexpr std::uint32_t largestStep = 32767;
-
 constexpr int socketFailed = -1;
 constexpr int timedOut = -2;
 
@@ -48,7 +43,7 @@ int CTrans::iGetData(std::uint8_t* buffer, std::uint32_t length, std::int32_t ti
             start = start ? start : wholeSecond();
             filled = fillReadAhead();
         }
-        const std::uint32_t step = takeReadAhead(buffer + received, std::min(length - received, largestStep));
+        const std::uint32_t step = takeReadAhead(buffer + received, length - received);
         received = static_cast<std::uint16_t>(received + step);
         if (filled.fault == SocketFault::reset) {
             break;

@@ -99,7 +99,11 @@ public:
         return result(::send(socketOf(handle), reinterpret_cast<const char*>(bytes.data()), sizeOf(bytes.size()), 0));
     }
 
-    SocketResult shutdown(SocketHandle handle, int mode) override { return result(::shutdown(socketOf(handle), mode)); }
+    SocketResult shutdown(SocketHandle handle, int mode) override {
+        const SocketResult done = result(::shutdown(socketOf(handle), mode));
+        // Nothing is left to shut down when the peer went first; trying again would only take time.
+        return done.error == WSAENOTCONN ? SocketResult{} : done;
+    }
 
     SocketResult close(SocketHandle handle) override { return result(::closesocket(socketOf(handle))); }
 

@@ -107,6 +107,20 @@ TEST(CTransReading, aPeerThatClosesEndsTheReadWithWhatCame) {
     EXPECT_EQ(received, 0u);
 }
 
+TEST(CTransReading, theCountOfAReadWrapsAt65536) {
+    ScriptedServer server([](auto& connection) {
+        connection.send(support::Bytes(65539, 7));
+        connection.endSending();
+        connection.untilClosed();
+    });
+    CTrans connection;
+    open(connection, server);
+    support::Bytes buffer(65539);
+    std::uint32_t received = 99;
+    EXPECT_EQ(connection.iGetData(buffer.data(), 65539, 10, &received), 3);
+    EXPECT_EQ(received, 3u);
+}
+
 TEST(CTransReading, anExactReadThatFallsShortIsAFailure) {
     ScriptedServer server([](auto& connection) { connection.send({1, 2}); });
     CTrans connection;
