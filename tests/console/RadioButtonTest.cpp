@@ -47,5 +47,13 @@ TEST_F(RadioButtonTest, theHostHearsWhichButtonThePersonsChoiceLetGo) {
     EXPECT_THAT(host.changes, ElementsAre(Pair(&form.byBrand, Aspect::selection)));
 }
 
+TEST_F(RadioButtonTest, choosingTheChosenOneAgainLetsGoOfNone) {
+    form.byBrand.choose();
+    host.changes.clear();
+    EXPECT_TRUE(form.byBrand.userChose());
+    EXPECT_TRUE(form.byBrand.chosen());
+    EXPECT_TRUE(host.changes.empty());
+}
+
 } // namespace
 } // namespace console

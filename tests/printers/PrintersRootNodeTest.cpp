@@ -172,6 +172,17 @@ TEST_F(PrintersRoot, movesAPastedRegionToTheTop) {
     EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::f5}, {Key::f5}, {Key::f5}, {Key::f5}}));
 }
 
+TEST_F(PrintersRoot, takesWhatIsPastedFromAViewBeforeTheTreeHasShownIt) {
+    const auto root = std::make_shared<printers::PrintersRootNode>(platform_);
+    const auto region = std::make_shared<printers::PrinterRegionNode>(platform_, support::region(7, 1, u"Loose"));
+
+    EXPECT_EQ(root->Notify({.event = console::Event::paste, .source = region.get(), .component = &console_}),
+              Result::ok);
+
+    EXPECT_EQ(estate_.changes(1), Strings{"3: 00 07 00 00 00 00 00 00 00"});
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::f5}, {Key::f5}, {Key::f5}, {Key::f5}}));
+}
+
 TEST_F(PrintersRoot, doesNotMoveAPastedPrinter) {
     openNorth();
 
