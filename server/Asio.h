@@ -23,7 +23,7 @@ namespace asio = boost::asio;
 template <class Action>
 asio::awaitable<std::invoke_result_t<Action&>> runOn(asio::thread_pool& pool, Action action) {
     using Result = std::invoke_result_t<Action&>;
-    auto on = [](Action todo) -> asio::awaitable<Result> { co_return todo(); };
+    auto on = [](Action job) -> asio::awaitable<Result> { co_return job(); };
     co_return co_await asio::co_spawn(pool, on(std::move(action)), asio::use_awaitable);
 }
 
