@@ -66,8 +66,7 @@ Result Notifier::queryPaste(const Node& node, DataObjectType type, const Node& s
 }
 
 Result Notifier::paste(const Node& node, DataObjectType type, const Node& source) const {
-    const Node keepAlive = source;
-    return send(Side::view, node, {.event = Event::paste, .source = keepAlive.get(), .type = type});
+    return send(Side::view, node, {.event = Event::paste, .source = source.get(), .type = type});
 }
 
 Result Notifier::deleteItem(const Node& node, DataObjectType type) const {

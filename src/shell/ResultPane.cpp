@@ -144,10 +144,18 @@ void ResultPane::commit() {
     if (!working_ && !nextScope_) {
         return;
     }
-    const auto oldScope = std::move(scopeRows_); // what is shown points here until the end
-    const auto oldRows = std::move(rows_);
-    scopeRows_ = nextScope_ ? std::move(*nextScope_) : oldScope;
-    rows_ = working_ ? std::move(*working_) : oldRows;
+    const auto oldScope = std::exchange(scopeRows_, {}); // what is shown points here until the end
+    const auto oldRows = std::exchange(rows_, {});
+    if (nextScope_) {
+        scopeRows_.swap(*nextScope_);
+    } else {
+        scopeRows_ = oldScope;
+    }
+    if (working_) {
+        rows_.swap(*working_);
+    } else {
+        rows_ = oldRows;
+    }
     nextScope_.reset();
     working_.reset();
     if (std::erase_if(rows_, [](const Row& row) { return !row.node; }) != 0) {
