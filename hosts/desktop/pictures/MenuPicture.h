@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include <optional>
+
+namespace console {
+class SettingsStore;
+}
+
+namespace desktop {
+
+// A picture of the window with the context menu of an item of the tree. Logs in with the settings and the password;
+// nothing when that fails.
+std::optional<QImage> menuPicture(console::SettingsStore& settings, const QString& password, const QString& path);
+
+} // namespace desktop

@@ -1,0 +1,45 @@
+#include "console/IniSettingsStore.h"
+#include "hosts/desktop/Application.h"
+#include "hosts/desktop/Look.h"
+#include "hosts/desktop/pictures/DialogPictures.h"
+#include "hosts/desktop/pictures/IconSheet.h"
+#include "hosts/desktop/pictures/MenuPicture.h"
+
+#include <QDir>
+
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+bool save(const QImage& image, const QDir& folder, const QString& name, const QString& look) {
+    const QString file = folder.filePath(name + QLatin1Char('-') + look + QStringLiteral(".png"));
+    if (image.isNull() || !image.save(file)) {
+        std::fprintf(stderr, "vantrel-pictures: %s could not be made\n", qPrintable(file));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+// vantrel-pictures LOOK FOLDER SETTINGS PATH: the password comes in VANTREL_PASSWORD.
+int main(int argc, char** argv) {
+    const desktop::Application application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const auto look = arguments.size() == 5 ? desktop::lookNamed(arguments[1]) : std::nullopt;
+    if (!look) {
+        std::fputs("vantrel-pictures light|dark FOLDER SETTINGS PATH\n", stderr);
+        return 2;
+    }
+    desktop::applyLook(*look);
+    const QDir folder(arguments[2]);
+    bool done = save(desktop::iconSheet(), folder, QStringLiteral("icons"), arguments[1]);
+    for (const auto& [name, image] : desktop::dialogPictures()) {
+        done = save(image, folder, name, arguments[1]) && done;
+    }
+    console::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
+    const auto menu = desktop::menuPicture(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
+    done = save(menu.value_or(QImage()), folder, QStringLiteral("menu"), arguments[1]) && done;
+    return done ? 0 : 1;
+}
