@@ -26,7 +26,9 @@ QIcon SvgIcon::make(const QString& path) {
 
 void SvgIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) {
     const int side = std::min(rect.width(), rect.height());
-    const QRectF square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side, side);
+    const int left = rect.x() + (rect.width() - side) / 2;
+    const int top = rect.y() + (rect.height() - side) / 2;
+    const QRectF square(left, top, side, side);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (mode == QIcon::Disabled) {
