@@ -6,6 +6,7 @@
 #include "hosts/desktop/forms/RoomyView.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 
 #include <algorithm>
 #include <utility>
@@ -35,11 +36,7 @@ ListWidget::ListWidget(console::ListView& list)
             selected();
         }
     });
-    connect(view_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
-        if (const auto row = rowAt(index)) {
-            list_.userDoubleClicked(*row);
-        }
-    });
+    connect(view_, &QTreeView::doubleClicked, this, &ListWidget::open);
 }
 
 std::optional<std::size_t> ListWidget::rowAt(const QModelIndex& shown) const {
@@ -53,6 +50,24 @@ void ListWidget::selected() {
         list_.userSelected(rows.isEmpty() ? std::nullopt : rowAt(rows.front()));
     }
     mirror(console::Aspect::selection); // as it stands, should it have been refused
+}
+
+void ListWidget::open(const QModelIndex& shown) {
+    if (const auto row = rowAt(shown)) {
+        list_.userDoubleClicked(*row);
+    }
+}
+
+bool ListWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const key = static_cast<const QKeyEvent*>(event);
+        const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (isEnter && key->modifiers().testFlag(Qt::ControlModifier)) {
+            open(view_->currentIndex());
+            return true;
+        }
+    }
+    return ControlWidget::eventFilter(watched, event);
 }
 
 void ListWidget::update(console::Aspect aspect) {

@@ -15,12 +15,14 @@ namespace desktop {
 
 class ListRows;
 
-// A list with columns of a form. A click on a header sorts what is seen; to the form its rows keep their numbers.
+// A list with columns of a form. A click on a header sorts what is seen; to the form its rows keep their numbers. Ctrl
+// and Enter do what a double click does.
 class ListWidget final : public ControlWidget {
 public:
     explicit ListWidget(console::ListView& list);
 
     Place place() const override { return Place::block; }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void update(console::Aspect aspect) override;
@@ -30,6 +32,7 @@ private:
     void showColumns();
     void showSelection();
     void selected();
+    void open(const QModelIndex& shown);
     std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
 
     console::ListView& list_;

@@ -156,6 +156,20 @@ TEST_F(FormLists, aDoubleClickReachesTheRowUnderIt) {
     EXPECT_EQ(opened, "b");
 }
 
+TEST_F(FormLists, theKeyboardOpensARowToo) {
+    form.opening = [this] { fillRules(); };
+    show();
+    auto& view = widget<QTreeView>(form.rules);
+    std::string opened;
+    form.rules.onDoubleClick = [&] { opened = form.rules.selectedRow()->data; };
+    QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(opened, "") << "no row yet";
+    view.setCurrentIndex(view.model()->index(1, 0));
+    QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(opened, "b");
+    EXPECT_FALSE(form.ended());
+}
+
 TEST_F(FormLists, aCellThatChangesIsShown) {
     form.opening = [this] { fillRules(); };
     show();
