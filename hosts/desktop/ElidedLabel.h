@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+namespace desktop {
+
+// A line of plain text that is cut where there is no room for it, and then shown whole in a tool tip. A long text does
+// not push anything else out of the window.
+class ElidedLabel final : public QLabel {
+public:
+    explicit ElidedLabel(QWidget* parent = nullptr);
+
+    void setLine(const QString& text);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+};
+
+} // namespace desktop

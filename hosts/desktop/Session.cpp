@@ -1,0 +1,16 @@
+#include "hosts/desktop/Session.h"
+
+namespace desktop {
+namespace {
+
+constexpr std::array<std::uint16_t, 4> version{VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0};
+
+} // namespace
+
+Session::Session(console::SettingsStore& settings)
+    : platform_{.ui = ui_,
+                .settings = settings,
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
+                .productVersion = version} {}
+
+} // namespace desktop

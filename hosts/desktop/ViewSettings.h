@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+
+#include <vector>
+
+namespace desktop {
+
+// A column as the person wants it.
+struct ColumnChoice {
+    QString title;
+    int width = 0;
+    bool hidden = false;
+};
+
+// What the windows remember from one start to the next, in an INI file. Of a file that is none, or that holds what no
+// window can use, nothing is taken; it is written anew when there is something to remember.
+class ViewSettings {
+public:
+    explicit ViewSettings(QString file);
+
+    const QString& file() const { return file_; }
+
+    // In the order in which they are shown; empty when nothing is remembered of the list.
+    std::vector<ColumnChoice> columns(const QString& list) const;
+    void setColumns(const QString& list, const std::vector<ColumnChoice>& columns);
+    void forgetColumns(const QString& list);
+
+    // Where the window stood; an invalid rectangle when that is not known or no screen would show enough of it.
+    QRect geometry(const std::vector<QRect>& screens) const;
+    void setGeometry(const QRect& geometry);
+
+    // By name: positions of splitters and docks, whether something is shown.
+    QByteArray state(const QString& name) const;
+    void setState(const QString& name, const QByteArray& state);
+
+private:
+    QString file_;
+};
+
+} // namespace desktop
