@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace desktoptest {
+
+// A vantreld of its own process with the sample estate, on a free port of the loopback address. The account is "admin"
+// with the password "secret-pw".
+class ServerProcess {
+public:
+    ServerProcess();
+    ServerProcess(const ServerProcess&) = delete;
+    ServerProcess& operator=(const ServerProcess&) = delete;
+    ~ServerProcess();
+
+    // 0 when the server did not come up.
+    quint16 port() const { return port_; }
+    static constexpr const char16_t* password = u"secret-pw";
+
+private:
+    QTemporaryDir folder_;
+    QProcess process_;
+    quint16 port_ = 0;
+};
+
+} // namespace desktoptest
