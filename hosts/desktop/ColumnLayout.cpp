@@ -6,10 +6,13 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace desktop {
 namespace {
 
 constexpr int automaticWidth = 120; // of a column that says nothing
+constexpr int onlyWidth = 260;      // at least, of a column that stands alone
 constexpr int saveDelay = 400;      // milliseconds
 
 } // namespace
@@ -79,7 +82,7 @@ void ColumnLayout::applyDefaults() {
         const auto width = static_cast<std::size_t>(column) < columns.size()
                                ? columns[static_cast<std::size_t>(column)].width
                                : automaticWidth;
-        widths_[column] = width > 0 ? width : automaticWidth;
+        widths_[column] = std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0);
         header_.resizeSection(column, widths_[column]);
     }
 }

@@ -207,8 +207,8 @@ Complaints platformHeadersOutside(const SourceTree& tree) {
     Complaints complaints;
     for (const auto& file : tree) {
         for (const auto& [name, quoted] : includesOf(file.text)) {
-            const bool qt =
-                isQtHeader(name) && !startsWithAny(file.path, {"hosts/desktop/", "tests/desktop/", "tests/hosts/"});
+            const bool qt = isQtHeader(name) && !startsWithAny(file.path, {"hosts/desktop/", "tests/desktop/",
+                                                                           "tests/hosts/", "bench/desktop/"});
             const bool win32 = isWin32Header(name) && !mayIncludeWin32(file);
             const bool sqlite =
                 isSqliteHeader(name) && !startsWithAny(file.path, {"server/", "tests/server/", "bench/"});
