@@ -1,7 +1,9 @@
 #include "hosts/desktop/ColumnLayout.h"
 
+#include "hosts/desktop/FittedWidths.h"
 #include "hosts/desktop/Text.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -13,7 +15,8 @@ namespace {
 
 constexpr int automaticWidth = 120; // of a column that says nothing
 constexpr int onlyWidth = 260;      // at least, of a column that stands alone
-constexpr int saveDelay = 400;      // milliseconds
+constexpr int leastWidth = 48;
+constexpr int saveDelay = 400; // milliseconds
 
 } // namespace
 
@@ -29,6 +32,7 @@ ColumnLayout::ColumnLayout(const Operations& operations, ViewSettings& settings,
         changed();
     });
     connect(&header_, &QHeaderView::sectionMoved, this, [this] { changed(); });
+    header_.installEventFilter(this);
 }
 
 ColumnLayout::~ColumnLayout() {
@@ -62,6 +66,7 @@ void ColumnLayout::apply() {
     }
     int place = 0;
     for (const auto& choice : settings_.columns(applied_)) {
+        fitting_ = false;
         for (int column = 0; column < header_.count(); ++column) {
             if (header_.model()->headerData(column, Qt::Horizontal).toString() == choice.title) {
                 widths_[column] = choice.width;
@@ -75,16 +80,38 @@ void ColumnLayout::apply() {
 }
 
 void ColumnLayout::applyDefaults() {
-    const auto& columns = operations_.shell().header().columns();
     for (int column = 0; column < header_.count(); ++column) {
         header_.setSectionHidden(column, false);
         header_.moveSection(header_.visualIndex(column), column);
+    }
+    fitting_ = true;
+    fit();
+}
+
+void ColumnLayout::fit() {
+    const auto& columns = operations_.shell().header().columns();
+    std::vector<ColumnWish> wishes;
+    for (int column = 0; column < header_.count(); ++column) {
         const auto width = static_cast<std::size_t>(column) < columns.size()
                                ? columns[static_cast<std::size_t>(column)].width
                                : automaticWidth;
-        widths_[column] = std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0);
-        header_.resizeSection(column, widths_[column]);
+        wishes.push_back({std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0),
+                          std::max(header_.sectionSizeHint(column), leastWidth)});
     }
+    int column = 0;
+    for (const int width : fittedWidths(wishes, header_.width())) {
+        widths_[column] = width;
+        header_.resizeSection(column++, width);
+    }
+}
+
+// The list pane has become wider or narrower.
+bool ColumnLayout::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == &header_ && fitting_) {
+        const QScopedValueRollback applying(applying_, true);
+        fit();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void ColumnLayout::reset() {
@@ -124,6 +151,7 @@ void ColumnLayout::setHidden(int column, bool hidden) {
 
 void ColumnLayout::changed() {
     if (!applying_) {
+        fitting_ = false;
         wanted_ = current(); // another list may be shown before it is saved
         saving_.start();
     }

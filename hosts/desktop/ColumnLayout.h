@@ -14,7 +14,7 @@ class QPoint;
 namespace desktop {
 
 // The columns of the list as the person wants them: which, in what order and how wide, remembered for each class of
-// node and each set of columns that it has.
+// node and each set of columns that it has. Until they are touched, all of them are in view.
 class ColumnLayout final : public QObject {
 public:
     // All outlive it. The header is the list's.
@@ -31,9 +31,12 @@ public:
     // The last visible column stays.
     void setHidden(int column, bool hidden);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QString key() const;
     void applyDefaults();
+    void fit();
     void changed();
     std::vector<ColumnChoice> current() const;
     void save();
@@ -46,6 +49,7 @@ private:
     std::vector<ColumnChoice> wanted_;    // what is to be saved
     std::unordered_map<int, int> widths_; // by column, whether it is hidden or not
     bool applying_ = false;
+    bool fitting_ = false; // as the node wants them, in the room that there is
 };
 
 } // namespace desktop

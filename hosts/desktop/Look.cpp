@@ -1,5 +1,7 @@
 #include "hosts/desktop/Look.h"
 
+#include "hosts/desktop/DarkStyle.h"
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -113,7 +115,7 @@ void applyLook(Look look) {
         return;
     }
     const bool dark = look == Look::dark || (look == Look::system && systemPrefersDark());
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(dark ? new DarkStyle : QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(dark ? darkPalette() : lightPalette());
 }
 

@@ -296,6 +296,26 @@ TEST_F(Window, columnsAreRememberedForTheirList) {
     EXPECT_GT(header->sectionSize(1), 77);
 }
 
+TEST_F(Window, allColumnsAreInViewUntilTheyAreTouched) {
+    open(QStringLiteral("Printers/München"));
+    auto* const header = panes().list().header();
+    const auto width = [this] { return panes().list().viewport()->width(); };
+    ASSERT_GE(header->count(), 4);
+    EXPECT_LE(header->length(), width());
+    window().resize(window().width() - 120, window().height());
+    settle();
+    EXPECT_LE(header->length(), width());
+    const int narrow = header->length();
+    window().resize(window().width() + 300, window().height());
+    settle();
+    EXPECT_LE(header->length(), width());
+    EXPECT_GT(header->length(), narrow);
+    header->resizeSection(1, 900);
+    window().resize(window().width() - 100, window().height());
+    settle();
+    EXPECT_EQ(900, header->sectionSize(1));
+}
+
 TEST_F(Window, theLastVisibleColumnStays) {
     open(QStringLiteral("Printers/München"));
     for (int column = 0; column < panes().listModel().columnCount(); ++column) {

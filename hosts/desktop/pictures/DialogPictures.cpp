@@ -8,6 +8,7 @@
 #include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/pictures/Framed.h"
 #include "regions/CreateRegionDlg.h"
+#include "regions/RegionDeletion.h"
 #include "snapin/AuthenticationDlg.h"
 
 #include <QApplication>
@@ -59,8 +60,7 @@ QImage boxPicture() {
         image = framed(*box);
         box->close();
     });
-    showMessageBox(nullptr, u"Are you sure you want to delete this region?", u"Warning",
-                   console::boxStyle::okCancel | console::boxStyle::iconWarning);
+    showMessageBox(nullptr, regions::deleteRegionQuestion, u"Warning", console::boxStyle::okCancel);
     return image;
 }
 
