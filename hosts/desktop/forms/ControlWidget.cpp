@@ -73,7 +73,11 @@ int ControlWidget::comfortableWidth() const {
 }
 
 wire::WideString ControlWidget::spokenName() const {
-    return console::readableLabel(control_.label());
+    const console::Control* named = &control_;
+    while (named->label().empty() && named->beside() != nullptr) {
+        named = named->beside();
+    }
+    return console::readableLabel(named->label());
 }
 
 void ControlWidget::mirrorAll() {

@@ -54,7 +54,7 @@ protected:
     // Of a box that a person reads and writes texts in: about thirty characters.
     int comfortableWidth() const;
     virtual void update(console::Aspect aspect) = 0;
-    // What a screen reader calls it.
+    // What a screen reader calls it: a box without a label like what it stands beside.
     virtual wire::WideString spokenName() const;
     virtual void enable(bool enabled) { field_->setEnabled(enabled); }
 

@@ -10,8 +10,11 @@
 namespace desktop {
 namespace {
 
-// The locale's short form, with all digits of the year and with seconds.
+// The form that is asked for, else the locale's short one, with all digits of the year and with seconds.
 QString displayFormat(const console::DateTimeOptions& options) {
+    if (!options.format.empty()) {
+        return QString::fromUtf16(options.format.data(), static_cast<qsizetype>(options.format.size()));
+    }
     const QLocale locale;
     QString date = locale.dateFormat(QLocale::ShortFormat);
     if (!date.contains(QStringLiteral("yyyy"))) {

@@ -1,8 +1,6 @@
 #include "hosts/desktop/forms/DropListWidget.h"
 
 #include "console/DropList.h"
-#include "console/FormWalk.h"
-#include "console/RadioButton.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 namespace desktop {
@@ -47,13 +45,6 @@ void DropListWidget::refill() {
 
 void DropListWidget::showSelection() {
     box_->setCurrentIndex(list_.selection() ? static_cast<int>(*list_.selection()) : -1);
-}
-
-// A list that goes with a radio button is called what the button says.
-wire::WideString DropListWidget::spokenName() const {
-    const auto* const button = list_.options().belongsTo;
-    const bool borrows = list_.label().empty() && button != nullptr;
-    return console::readableLabel(borrows ? button->label() : list_.label());
 }
 
 } // namespace desktop

@@ -20,7 +20,6 @@ public:
 protected:
     void update(console::Aspect aspect) override;
     void refill() override;
-    wire::WideString spokenName() const override;
 
 private:
     void showSelection();

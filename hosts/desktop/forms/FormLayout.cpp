@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace desktop {
 namespace {
@@ -75,7 +76,7 @@ QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidge
     const auto layWhatWaits = [&] {
         layRows(rows, *column);
         if (!buttons.empty()) {
-            column->addLayout(lineOf(*buttons.front(), Controls(buttons).subspan(1)));
+            column->addLayout(lineOf(buttons));
         }
         rows.clear();
         buttons.clear();
@@ -102,22 +103,24 @@ QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidge
     return *column;
 }
 
-// A list that goes with a radio button stands behind it, and buttons behind a box that they fill or act on.
+// What goes with another control shares its line, and buttons that of a box that they fill or act on.
 void FormLayout::pairWithNeighbours(Controls controls) {
     for (console::Control* control : controls) {
-        const auto* const list = dynamic_cast<const console::DropList*>(control);
-        if (list == nullptr || list->options().belongsTo == nullptr) {
-            continue;
-        }
-        const bool isNeighbour = std::ranges::find(controls, list->options().belongsTo) != controls.end();
-        if (isNeighbour && beside_[list->options().belongsTo].empty()) {
-            beside_[list->options().belongsTo].push_back(control);
+        const console::Control* const partner = control->beside();
+        const bool holdsOthers = dynamic_cast<const console::Group*>(control) != nullptr ||
+                                 dynamic_cast<const console::Tabs*>(control) != nullptr;
+        if (!holdsOthers && partner != nullptr && partner != control &&
+            std::ranges::find(controls, partner) != controls.end()) {
+            beside_[partner].push_back(control);
             shares_.insert(control);
         }
     }
     const console::Control* box = nullptr;
     for (console::Control* control : controls) {
         const ControlWidget& widget = *widgetOf_(*control);
+        if (widget.place() == Place::button && shares_.contains(control)) {
+            continue;
+        }
         if (widget.place() == Place::button && box != nullptr) {
             beside_[box].push_back(control);
             shares_.insert(control);
@@ -128,6 +131,11 @@ void FormLayout::pairWithNeighbours(Controls controls) {
             dynamic_cast<const console::DropList*>(control) != nullptr || (line != nullptr && line->filledByForm());
         box = isFilledByButtons ? control : nullptr;
     }
+}
+
+FormLayout::Controls FormLayout::besideOf(const console::Control& control) const {
+    const auto found = beside_.find(&control);
+    return found != beside_.end() ? Controls(found->second) : Controls();
 }
 
 void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
@@ -149,6 +157,9 @@ void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
     if (growsInside || (widget.field()->sizePolicy().expandingDirections() & Qt::Vertical)) {
         column.setStretch(place, listStretch);
     }
+    if (const Controls others = besideOf(control); !others.empty()) {
+        column.addLayout(lineOf(others));
+    }
 }
 
 void FormLayout::layRows(Controls controls, QBoxLayout& column) {
@@ -164,7 +175,7 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
     for (const Controls part : {controls.first(half), controls.subspan(half)}) {
         if (!part.empty()) {
             auto* const rows = newRows();
-            for (const console::Control* control : part) {
+            for (console::Control* control : part) {
                 layRow(*control, *rows, withLabels);
             }
             columns->addLayout(rows, 1);
@@ -174,17 +185,14 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
     column.addLayout(columns, grows ? textStretch : 0);
 }
 
-void FormLayout::layRow(const console::Control& control, QFormLayout& rows, bool withLabels) {
+void FormLayout::layRow(console::Control& control, QFormLayout& rows, bool withLabels) {
     const ControlWidget& widget = *widgetOf_(control);
-    const auto found = beside_.find(&control);
-    const Controls shared = found != beside_.end() ? Controls(found->second) : Controls();
+    const Controls shared = besideOf(control);
     const int row = rows.rowCount();
     const bool isChoice = dynamic_cast<const RadioButtonWidget*>(&widget) != nullptr;
     if (isChoice && !shared.empty()) {
         rows.setWidget(row, QFormLayout::LabelRole, widget.field());
-        const auto further = beside_.find(shared.front());
-        rows.setLayout(row, QFormLayout::FieldRole,
-                       lineOf(*shared.front(), further != beside_.end() ? Controls(further->second) : Controls()));
+        rows.setLayout(row, QFormLayout::FieldRole, lineOf(shared));
         return;
     }
     if (widget.caption() != nullptr) {
@@ -194,19 +202,24 @@ void FormLayout::layRow(const console::Control& control, QFormLayout& rows, bool
     if (shared.empty()) {
         rows.setWidget(row, role, widget.field());
     } else {
-        rows.setLayout(row, role, lineOf(control, shared));
+        rows.setLayout(row, role, lineOf(std::array{&control}));
     }
 }
 
-QLayout* FormLayout::lineOf(const console::Control& control, Controls buttons) {
+QLayout* FormLayout::lineOf(Controls controls) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(gap);
-    const ControlWidget& first = *widgetOf_(control);
-    const bool grows = isBox(first);
-    line->addWidget(first.field(), grows ? 1 : 0);
-    for (const console::Control* button : buttons) {
-        line->addWidget(widgetOf_(*button)->field());
-    }
+    bool grows = false;
+    const std::function<void(const console::Control*)> add = [&](const console::Control* control) {
+        const ControlWidget& widget = *widgetOf_(*control);
+        if (shares_.contains(control) && widget.caption() != nullptr) {
+            line->addWidget(widget.caption());
+        }
+        line->addWidget(widget.field(), !grows && isBox(widget) ? 1 : 0);
+        grows = grows || isBox(widget);
+        std::ranges::for_each(besideOf(*control), add);
+    };
+    std::ranges::for_each(controls, add);
     if (!grows) {
         line->addStretch(1);
     }

@@ -38,14 +38,17 @@ private:
 
     QBoxLayout& layContainer(const console::Container& container, QWidget& surface);
     void pairWithNeighbours(Controls controls);
+    Controls besideOf(const console::Control& control) const;
     void layBlock(console::Control& control, QBoxLayout& column);
     void layRows(Controls controls, QBoxLayout& column);
-    void layRow(const console::Control& control, QFormLayout& rows, bool withLabels);
-    QLayout* lineOf(const console::Control& control, Controls buttons);
+    void layRow(console::Control& control, QFormLayout& rows, bool withLabels);
+    // With what stands beside each of them.
+    QLayout* lineOf(Controls controls);
 
     Finder widgetOf_;
-    std::map<const console::Control*, std::vector<console::Control*>> beside_; // what shares a box's line
-    std::set<const console::Control*> shares_;                                 // what stands in another's line
+    std::map<const console::Control*, std::vector<console::Control*>>
+        beside_;                               // what shares a line with it, or stands below it
+    std::set<const console::Control*> shares_; // what stands in another's line
 };
 
 } // namespace desktop

@@ -21,8 +21,6 @@ public:
 
 protected:
     void update(console::Aspect /*aspect*/) override {}
-    // As on the platform, a group that is disabled leaves what stands in it alone.
-    void enable(bool /*enabled*/) override {}
 
 private:
     QGroupBox* box_;

@@ -4,9 +4,12 @@
 #include "hosts/desktop/forms/ListRows.h"
 #include "hosts/desktop/forms/NaturalOrder.h"
 #include "hosts/desktop/forms/RoomyView.h"
+#include "hosts/desktop/forms/ShownText.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 
 #include <algorithm>
 #include <utility>
@@ -37,6 +40,7 @@ ListWidget::ListWidget(console::ListView& list)
         }
     });
     connect(view_, &QTreeView::doubleClicked, this, &ListWidget::open);
+    view_->viewport()->installEventFilter(this); // a right click comes there, the menu key to the view
 }
 
 std::optional<std::size_t> ListWidget::rowAt(const QModelIndex& shown) const {
@@ -58,6 +62,27 @@ void ListWidget::open(const QModelIndex& shown) {
     }
 }
 
+// The menu stays open while this goes on: the form may have other rows by the time that an entry is chosen.
+void ListWidget::showRowMenu(const QModelIndex& shown, const QPoint& place) {
+    const auto row = rowAt(shown);
+    const auto& entries = list_.rowMenu();
+    if (!row || entries.empty() || !list_.reachable()) {
+        return;
+    }
+    view_->setCurrentIndex(shown);
+    auto* const menu = new QMenu(view_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (std::size_t entry = 0; entry < entries.size(); ++entry) {
+        const QAction* const action = menu->addAction(withoutAccessKey(shownLine(entries[entry])));
+        connect(action, &QAction::triggered, this, [this, row = *row, entry] {
+            if (!stale()) {
+                list_.userChoseFromRowMenu(row, entry);
+            }
+        });
+    }
+    menu->popup(place);
+}
+
 bool ListWidget::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const auto* const key = static_cast<const QKeyEvent*>(event);
@@ -66,6 +91,14 @@ bool ListWidget::eventFilter(QObject* watched, QEvent* event) {
             open(view_->currentIndex());
             return true;
         }
+    }
+    if (event->type() == QEvent::ContextMenu) {
+        const auto* const asked = static_cast<const QContextMenuEvent*>(event);
+        const QModelIndex row =
+            asked->reason() == QContextMenuEvent::Keyboard ? view_->currentIndex() : view_->indexAt(asked->pos());
+        const QPoint below = view_->viewport()->mapToGlobal(view_->visualRect(row).bottomLeft());
+        showRowMenu(row, asked->reason() == QContextMenuEvent::Keyboard ? below : asked->globalPos());
+        return true;
     }
     return ControlWidget::eventFilter(watched, event);
 }
@@ -92,8 +125,8 @@ void ListWidget::showColumns() {
     const auto& columns = list_.columns();
     int section = 0;
     for (const auto& column : columns) {
-        view_->setColumnHidden(section, column.width <= 0);
-        if (column.width > 0) {
+        view_->setColumnHidden(section, column.hidden());
+        if (!column.hidden()) {
             view_->setColumnWidth(section, std::max(column.width, header->sectionSizeHint(section)));
         }
         ++section;

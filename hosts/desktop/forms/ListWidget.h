@@ -16,7 +16,7 @@ namespace desktop {
 class ListRows;
 
 // A list with columns of a form. A click on a header sorts what is seen; to the form its rows keep their numbers. Ctrl
-// and Enter do what a double click does.
+// and Enter do what a double click does; the right button and the menu key open the menu of a row.
 class ListWidget final : public ControlWidget {
 public:
     explicit ListWidget(console::ListView& list);
@@ -33,6 +33,7 @@ private:
     void showSelection();
     void selected();
     void open(const QModelIndex& shown);
+    void showRowMenu(const QModelIndex& shown, const QPoint& place);
     std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
 
     console::ListView& list_;

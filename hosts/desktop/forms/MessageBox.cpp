@@ -40,12 +40,8 @@ std::vector<Choice> choicesOf(std::uint32_t style) {
     }
 }
 
-// The platform's styles say in these bits which button is the default one, from 0.
 std::size_t defaultOf(std::uint32_t style, std::size_t count) {
-    constexpr std::uint32_t shift = 8;
-    constexpr std::uint32_t mask = 0x0F;
-    const std::size_t wished = (style >> shift) & mask;
-    return wished < count ? wished : 0;
+    return (style & boxStyle::secondIsDefault) != 0 && count > 1 ? 1 : 0;
 }
 
 QMessageBox::Icon iconOf(std::uint32_t style) {
@@ -99,6 +95,7 @@ QWidget* frontWindow() {
 Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
                       std::uint32_t style) {
     QMessageBox box(owner != nullptr ? owner : frontWindow());
+    box.setWindowModality(Qt::ApplicationModal); // whether the style asks for it or not: there is one console
     const QString shown = shownText(text);
     box.setWindowTitle(shownLine(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     box.setTextFormat(Qt::PlainText);

@@ -6,10 +6,10 @@ class QWidget;
 
 namespace desktop {
 
-// Asks or tells with the icon and the buttons of the style; the first button is the default one unless the
-// style says which. The text is shown as
-// plain text, whatever it looks like. Escape answers cancel, or no where there is no cancel, or ok where it stands
-// alone. A null owner means the front-most dialog.
+// Asks or tells with the icon and the buttons of the style; the first button is the default one unless the style says
+// that it is the second. Nothing else of the program can be used meanwhile. The text is shown as plain text, whatever
+// it looks like. Escape answers cancel, or no where there is no cancel, or ok where it stands alone. A null owner means
+// the front-most dialog.
 console::Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
                                std::uint32_t style);
 

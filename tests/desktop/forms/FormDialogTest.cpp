@@ -45,9 +45,14 @@ TEST_F(FormDialogs, aControlIsDisabledAndHiddenWithItsLabel) {
     EXPECT_TRUE(box.isVisible() && box.isEnabled() && caption->isVisible() && caption->isEnabled());
 }
 
-TEST_F(FormDialogs, aGroupThatIsDisabledLeavesWhatStandsInItAlone) {
+TEST_F(FormDialogs, aGroupThatIsDisabledOrHiddenTakesWhatStandsInItAlong) {
     show();
     form.where.setEnabled(false);
+    EXPECT_FALSE(widget<QLineEdit>(form.place).isEnabled());
+    form.place.setEnabled(false);
+    form.place.setEnabled(true);
+    EXPECT_FALSE(widget<QLineEdit>(form.place).isEnabled());
+    form.where.setEnabled(true);
     EXPECT_TRUE(widget<QLineEdit>(form.place).isEnabled());
     form.where.setVisible(false);
     EXPECT_FALSE(widget<QLineEdit>(form.place).isVisible());

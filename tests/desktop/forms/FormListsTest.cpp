@@ -1,7 +1,9 @@
 #include "tests/desktop/forms/DialogFixture.h"
 
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QMenu>
 #include <QRadioButton>
 #include <QTest>
 #include <QTreeView>
@@ -168,6 +170,121 @@ TEST_F(FormLists, theKeyboardOpensARowToo) {
     QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(opened, "b");
     EXPECT_FALSE(form.ended());
+}
+
+TEST_F(FormLists, aRightClickOpensTheMenuOfTheRow) {
+    form.opening = [this] { fillRules(); };
+    form.rules.setRowMenu({u"Edit", u"Salt & pepper"});
+    auto& dialog = show();
+    auto& view = widget<QTreeView>(form.rules);
+    std::string chosen;
+    form.rules.onRowMenu = [&](std::size_t entry) {
+        chosen = form.rules.selectedRow()->data + " " + std::to_string(entry);
+    };
+    const QPoint place = view.visualRect(view.model()->index(1, 0)).center();
+    QContextMenuEvent click(QContextMenuEvent::Mouse, place, view.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(view.viewport(), &click);
+    const auto* const menu = dialog.findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 2);
+    EXPECT_EQ(menu->actions()[1]->text(), QStringLiteral("Salt && pepper"));
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(chosen, "b 1");
+}
+
+TEST_F(FormLists, theMenuKeyOpensTheMenuOfTheCurrentRow) {
+    form.opening = [this] { fillRules(); };
+    form.rules.setRowMenu({u"Edit"});
+    auto& dialog = show();
+    auto& view = widget<QTreeView>(form.rules);
+    std::string chosen;
+    form.rules.onRowMenu = [&](std::size_t /*entry*/) { chosen = form.rules.selectedRow()->data; };
+    view.setCurrentIndex(view.model()->index(2, 0));
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&view, &key);
+    const auto* const menu = dialog.findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    menu->actions().front()->trigger();
+    EXPECT_EQ(chosen, "c");
+}
+
+TEST_F(FormLists, aListWithoutAMenuOrWithoutARowOpensNone) {
+    auto& dialog = show();
+    auto& view = widget<QTreeView>(form.rules);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    form.rules.setRowMenu({u"Edit"});
+    QCoreApplication::sendEvent(&view, &key);
+    EXPECT_EQ(dialog.findChild<QMenu*>(), nullptr) << "no row";
+    fillRules();
+    settle();
+    form.rules.setRowMenu({});
+    view.setCurrentIndex(view.model()->index(0, 0));
+    QCoreApplication::sendEvent(&view, &key);
+    EXPECT_EQ(dialog.findChild<QMenu*>(), nullptr) << "no menu";
+}
+
+TEST_F(FormLists, aRowThatIsGoneWhenItsMenuIsUsedIsLeftAlone) {
+    form.opening = [this] { fillRules(); };
+    form.rules.setRowMenu({u"Edit"});
+    auto& dialog = show();
+    auto& view = widget<QTreeView>(form.rules);
+    int calls = 0;
+    form.rules.onRowMenu = [&](std::size_t /*entry*/) { ++calls; };
+    view.setCurrentIndex(view.model()->index(2, 0));
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&view, &key);
+    const auto* const menu = dialog.findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    form.rules.setRows({});
+    menu->actions().front()->trigger();
+    settle();
+    EXPECT_EQ(calls, 0);
+}
+
+// A number with its unit, a check with its box, and a list with its buttons.
+class NeighboursForm final : public console::Form {
+public:
+    explicit NeighboursForm(console::Platform& owner) : Form(owner, u"Neighbours") {
+        unit.setBeside(number);
+        amount.setBeside(limited);
+        edit.setBeside(list);
+        remove.setBeside(list);
+    }
+    console::EditBox number{*this, u"Number"};
+    console::DropList unit{*this, u""};
+    console::CheckBox limited{*this, u"Limited to"};
+    console::EditBox amount{*this, u""};
+    console::ListView list{*this, u"Messages"};
+    console::EditBox last{*this, u"Last"};
+    console::Button edit{*this, u"Edit"};
+    console::Button remove{*this, u"Delete"};
+};
+
+TEST(FormNeighbours, whatStandsBesideAnotherSharesItsLineAndItsName) {
+    support::TestPlatform platform;
+    NeighboursForm form(platform);
+    FormDialog dialog(form);
+    dialog.show();
+    const auto sharesLine = [&](const console::Control& left, const console::Control& right) {
+        const QRect first = dialog.widgetOf(left)->geometry();
+        const QRect second = dialog.widgetOf(right)->geometry();
+        return second.left() > first.right() && std::abs(first.center().y() - second.center().y()) < 8;
+    };
+    EXPECT_TRUE(sharesLine(form.number, form.unit));
+    EXPECT_TRUE(sharesLine(form.limited, form.amount));
+    EXPECT_EQ(dialog.widgetOf(form.unit)->accessibleName(), QStringLiteral("Number"));
+    EXPECT_EQ(dialog.widgetOf(form.amount)->accessibleName(), QStringLiteral("Limited to"));
+}
+
+TEST(FormNeighbours, theButtonsOfAListStandBelowIt) {
+    support::TestPlatform platform;
+    NeighboursForm form(platform);
+    FormDialog dialog(form);
+    dialog.show();
+    const auto top = [&](const console::Control& control) { return dialog.widgetOf(control)->geometry().top(); };
+    EXPECT_GT(top(form.edit), dialog.widgetOf(form.list)->geometry().bottom());
+    EXPECT_EQ(top(form.edit), top(form.remove));
+    EXPECT_LT(top(form.edit), top(form.last));
 }
 
 TEST_F(FormLists, aCellThatChangesIsShown) {

@@ -213,6 +213,15 @@ TEST_F(FormTexts, aDayThatMustBeThereIsThereOnceItIsSeen) {
     EXPECT_EQ(widget<QDateTimeEdit>(form.from).date().year(), form.from.value()->year);
 }
 
+TEST(FormTextsOfDays, aDayIsShownInTheFormThatIsAskedFor) {
+    support::TestPlatform platform;
+    console::SampleForm form(platform);
+    console::DateTimePicker day(form, u"Day", {.time = false, .format = u"yyyy-MM-dd"});
+    day.setValue(console::DateTime{.year = 2024, .month = 2, .day = 9});
+    const FormDialog dialog(form);
+    EXPECT_EQ(dynamic_cast<QDateTimeEdit&>(*dialog.widgetOf(day)).text(), QStringLiteral("2024-02-09"));
+}
+
 // Digits only, a day that may be missing, and a value with a label.
 class OtherForm final : public console::Form {
 public:

@@ -60,9 +60,18 @@ TEST(MessageBox, theClosingCrossAnswersAsEscapeDoes) {
 }
 
 TEST(MessageBox, theFirstButtonIsTheDefaultOneUnlessTheStyleSaysWhich) {
-    constexpr std::uint32_t secondIsDefault = 0x100;
     EXPECT_EQ(answerTo(boxStyle::okCancel, pressing(Qt::Key_Return)), Answer::ok);
-    EXPECT_EQ(answerTo(boxStyle::okCancel | secondIsDefault, pressing(Qt::Key_Return)), Answer::cancel);
+    EXPECT_EQ(answerTo(boxStyle::okCancel | boxStyle::secondIsDefault, pressing(Qt::Key_Return)), Answer::cancel);
+    EXPECT_EQ(answerTo(boxStyle::ok | boxStyle::secondIsDefault, pressing(Qt::Key_Return)), Answer::ok);
+}
+
+TEST(MessageBox, nothingElseOfTheProgramCanBeUsedMeanwhile) {
+    for (const auto style : {boxStyle::ok, boxStyle::ok | boxStyle::taskModal}) {
+        answerTo(style, [](QMessageBox& box) {
+            EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
+            box.close();
+        });
+    }
 }
 
 TEST(MessageBox, theIconIsThatOfTheStyle) {
