@@ -115,7 +115,8 @@ private:
         addRow(run);
         addStep(run, Step::Kind::set, "--set", "LABEL=VALUE: fills a box, or checks one with yes or no");
         addStep(run, Step::Kind::select, "--select", "LABEL=ROW: selects a row of a list");
-        addStep(run, Step::Kind::press, "--press", "Presses a button");
+        addStep(run, Step::Kind::press, "--press",
+                "Presses a button, or \"List: Entry\" of the menu on the selected row");
         addStep(run, Step::Kind::answer, "--answer", "Answers a message box: ok, cancel, yes or no");
         auto& rename = add(CommandKind::rename, "rename", "Gives a node another name", "rename Printers/North South");
         addPath(rename, true);

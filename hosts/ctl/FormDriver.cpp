@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace ctl {
@@ -47,9 +48,71 @@ std::string_view nameOf(Step::Kind kind) {
     return names[static_cast<std::size_t>(kind)];
 }
 
+std::optional<bool> parseChecked(const wire::WideString& value) {
+    for (const auto* const word : {u"yes", u"on", u"true", u"1"}) {
+        if (sameWord(value, word)) {
+            return true;
+        }
+    }
+    for (const auto* const word : {u"no", u"off", u"false", u"0"}) {
+        if (sameWord(value, word)) {
+            return false;
+        }
+    }
+    return std::nullopt;
+}
+
+// A check box and the box beside it may have one name: the value tells which of them is meant. Digits are for the box.
+void chooseByValue(std::vector<Control*>& found, const Step& step) {
+    const auto isCheck = [](const Control* control) { return isOneOf<console::CheckBox>(control); };
+    if (step.kind == Step::Kind::set && found.size() == 2 && std::ranges::count_if(found, isCheck) == 1) {
+        const bool isDigit = step.value == u"0" || step.value == u"1";
+        const bool toCheck = !isDigit && parseChecked(step.value).has_value();
+        std::erase_if(found, [&](const Control* control) { return isCheck(control) != toCheck; });
+    }
+}
+
+// An entry of the menu on the rows of a list.
+struct RowEntry {
+    console::ListView* list = nullptr;
+    std::size_t entry = 0;
+};
+
+wire::WideString nameOf(const RowEntry& entry) {
+    return console::fullName(*entry.list) + u": " + console::readableLabel(entry.list->rowMenu()[entry.entry]);
+}
+
+std::vector<RowEntry> rowEntriesOf(console::Form& form) {
+    std::vector<RowEntry> entries;
+    for (Control* const control : console::controlsOf(form)) {
+        if (auto* const list = dynamic_cast<console::ListView*>(control)) {
+            for (std::size_t entry = 0; entry < list->rowMenu().size(); ++entry) {
+                entries.push_back({list, entry});
+            }
+        }
+    }
+    return entries;
+}
+
+// What "List: Entry" means; the groups and pages that the list stands on may be left out.
+std::vector<RowEntry> findRowEntries(console::Form& form, const wire::WideString& label) {
+    auto entries = rowEntriesOf(form);
+    std::erase_if(entries, [&](const RowEntry& one) {
+        const auto entry = u": " + console::readableLabel(one.list->rowMenu()[one.entry]);
+        if (label.size() <= entry.size()) {
+            return true;
+        }
+        const auto place = label.size() - entry.size();
+        return !sameWord(label.substr(place), entry) ||
+               console::findControl<console::ListView>(form, label.substr(0, place)) != one.list;
+    });
+    return entries;
+}
+
 Control& findControl(console::Form& form, const Step& step) {
     auto found = console::findControls(form, step.label);
     std::erase_if(found, [&](const Control* control) { return !takes(control, step.kind); });
+    chooseByValue(found, step);
     if (found.size() == 1) {
         return *found.front();
     }
@@ -58,6 +121,10 @@ Control& findControl(console::Form& form, const Step& step) {
         if (takes(control, step.kind) && control->visible()) {
             choices.push_back(console::fullName(*control));
         }
+    }
+    if (step.kind == Step::Kind::press && found.empty()) {
+        std::ranges::transform(rowEntriesOf(form), std::back_inserter(choices),
+                               [](const RowEntry& entry) { return nameOf(entry); });
     }
     const std::string title = "The form \"" + shown(form.title()) + "\" has ";
     throw Failure(ExitStatus::refused, (found.empty() ? title + "no " : title + "more than one ") +
@@ -69,16 +136,9 @@ Failure refusal(const Control& control, const std::string& why) {
     return {ExitStatus::refused, '"' + shown(console::fullName(control)) + "\" " + why};
 }
 
-bool parseChecked(const Control& control, const wire::WideString& value) {
-    for (const auto* const word : {u"yes", u"on", u"true", u"1"}) {
-        if (sameWord(value, word)) {
-            return true;
-        }
-    }
-    for (const auto* const word : {u"no", u"off", u"false", u"0"}) {
-        if (sameWord(value, word)) {
-            return false;
-        }
+bool checkedOrRefused(const Control& control, const wire::WideString& value) {
+    if (const auto checked = parseChecked(value)) {
+        return *checked;
     }
     throw refusal(control, "takes yes or no, not \"" + shown(value) + '"');
 }
@@ -101,7 +161,7 @@ void set(Control& control, const wire::WideString& value) {
     if (auto* const box = dynamic_cast<console::TextControl*>(&control)) {
         type(*box, value);
     } else if (auto* const check = dynamic_cast<console::CheckBox*>(&control)) {
-        check->userChecked(parseChecked(control, value));
+        check->userChecked(checkedOrRefused(control, value));
     } else if (auto* const picker = dynamic_cast<console::DateTimePicker*>(&control)) {
         const auto picked = parseDateTime(wire::toUtf8(value));
         if (!picked || !picker->userPicked(*picked)) {
@@ -123,7 +183,7 @@ std::size_t placeAmong(const Control& control, const wire::WideString& value, co
 // The first cell of each row that people see.
 Texts firstCells(const console::ListView& list) {
     const auto column = static_cast<std::size_t>(
-        std::ranges::find_if(list.columns(), [](const auto& one) { return one.width != 0; }) - list.columns().begin());
+        std::ranges::find_if(list.columns(), [](const auto& one) { return !one.hidden(); }) - list.columns().begin());
     Texts texts;
     for (const auto& row : list.rows()) {
         texts.push_back(column < row.cells.size() ? row.cells[column] : wire::WideString());
@@ -152,9 +212,29 @@ void press(Control& control) {
     }
 }
 
+void chooseFromRowMenu(const RowEntry& entry) {
+    console::ListView& list = *entry.list;
+    if (!console::reveal(list) || !list.reachable()) {
+        throw refusal(list, list.enabled() ? "can't be reached now" : "is disabled");
+    }
+    if (!list.selection()) {
+        throw refusal(list, "has no selected row; select one with --select");
+    }
+    list.userChoseFromRowMenu(*list.selection(), entry.entry);
+}
+
 } // namespace
 
 void perform(console::Form& form, const Step& step) {
+    if (step.kind == Step::Kind::press) {
+        // A button of that name comes first.
+        const auto entries = console::findControls(form, step.label).empty() ? findRowEntries(form, step.label)
+                                                                             : std::vector<RowEntry>();
+        if (entries.size() == 1) {
+            chooseFromRowMenu(entries.front());
+            return;
+        }
+    }
     Control& control = findControl(form, step);
     if (!console::reveal(control) || !control.reachable()) {
         throw refusal(control, control.enabled() ? "can't be reached now" : "is disabled");

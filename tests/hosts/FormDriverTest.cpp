@@ -66,6 +66,37 @@ TEST_F(FormDriver, selectPicksARowOfAListByItsFirstVisibleColumn) {
     EXPECT_EQ(form.drivers.selection(), 1U);
 }
 
+TEST_F(FormDriver, selectPassesOverAColumnWithANegativeWidth) {
+    form.drivers.setColumns({{u"Id", -1}, {u"Name", 100}});
+
+    perform(form, parseStep(Kind::select, "Drivers=Second"));
+
+    EXPECT_EQ(form.drivers.selection(), 1U);
+}
+
+TEST_F(FormDriver, pressChoosesFromTheMenuOfTheSelectedRow) {
+    perform(form, parseStep(Kind::select, "Drivers=Second"));
+    perform(form, parseStep(Kind::press, "drivers: delete"));
+
+    EXPECT_EQ(form.chosen, u"Second-");
+}
+
+TEST_F(FormDriver, aMenuOnRowsNeedsASelectedRow) {
+    EXPECT_THAT(refusal(Kind::press, "Drivers: Delete"), HasSubstr("no selected row"));
+}
+
+TEST_F(FormDriver, anUnknownButtonListsTheEntriesOfRowsToo) {
+    EXPECT_THAT(refusal(Kind::press, "Drivers: Burn"), HasSubstr("\"Drivers: Edit\", \"Drivers: Delete\""));
+}
+
+TEST_F(FormDriver, theValueTellsACheckBoxFromTheBoxBesideIt) {
+    perform(form, parseStep(Kind::set, "Limited to=yes"));
+    perform(form, parseStep(Kind::set, "Limited to=1"));
+
+    EXPECT_TRUE(form.limited.checked());
+    EXPECT_EQ(form.amount.text(), u"1");
+}
+
 TEST_F(FormDriver, pressChoosesARadioButton) {
     perform(form, parseStep(Kind::press, "One"));
 

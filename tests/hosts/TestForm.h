@@ -20,6 +20,11 @@ public:
         model.addItem(u"Ink");
         drivers.setColumns({{u"Id", 0}, {u"Name", 100}});
         drivers.setRows({{{u"1", u"First"}, ""}, {{u"2", u"Second"}, ""}});
+        drivers.setRowMenu({u"Edit", u"Delete"});
+        drivers.onRowMenu = [this](std::size_t entry) {
+            chosen = drivers.selectedRow()->cells[1] + (entry == 1 ? u"-" : u"+");
+        };
+        amount.setBeside(limited);
         ask.onPress = [this] { answer = messageBox(u"Go on?", u"Warning", style); };
     }
 
@@ -34,6 +39,10 @@ public:
     console::RadioButton one{*this, choice, u"One"};
     console::Button ask{*this, u"Ask"};
 
+    console::CheckBox limited{*this, u"Limited to"};
+    console::EditBox amount{*this, u""};
+
+    wire::WideString chosen; // the row and whether its second or first entry was
     std::uint32_t style = console::boxStyle::okCancel;
     console::Answer answer{};
 };
