@@ -42,10 +42,9 @@ bool commonInSameOrder(Ids before, const IdSet& inBefore, Ids after, const IdSet
     return true;
 }
 
-} // namespace
-
-std::optional<std::vector<ListStep>> listSteps(Ids before, Ids after) {
-    if (std::ranges::equal(before, after)) {
+// The steps between lists that neither begin nor end alike.
+std::optional<std::vector<ListStep>> stepsInside(Ids before, Ids after) {
+    if (before.empty() && after.empty()) {
         return std::vector<ListStep>{};
     }
     if (before.empty() || after.empty()) {
@@ -61,6 +60,22 @@ std::optional<std::vector<ListStep>> listSteps(Ids before, Ids after) {
     }
     std::ranges::reverse(*steps); // from the end, so that the places of the earlier ones stay right
     steps->insert(steps->end(), inserts->begin(), inserts->end());
+    return steps;
+}
+
+} // namespace
+
+std::optional<std::vector<ListStep>> listSteps(Ids before, Ids after) {
+    const auto firstDifference = std::ranges::mismatch(before, after).in1;
+    const auto same = static_cast<std::size_t>(firstDifference - before.begin());
+    before = before.subspan(same);
+    after = after.subspan(same);
+    const auto lastDifference = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend()).first;
+    const auto sameAtEnd = static_cast<std::size_t>(lastDifference - before.rbegin());
+    auto steps = stepsInside(before.first(before.size() - sameAtEnd), after.first(after.size() - sameAtEnd));
+    if (steps) {
+        std::ranges::for_each(*steps, [same](ListStep& step) { step.first += same; });
+    }
     return steps;
 }
 

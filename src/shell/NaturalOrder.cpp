@@ -8,29 +8,50 @@
 namespace shell {
 namespace {
 
+// What the key of one unit takes at most: a lone digit becomes three.
+constexpr std::size_t mostKeyUnits = 3;
+
 constexpr bool isDigit(char16_t unit) {
     return unit >= u'0' && unit <= u'9';
+}
+
+char16_t plainLetter(char16_t unit) {
+    if (unit < 0x80) { // nearly all of them
+        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
+    }
+    return baseLetter(console::foldCase(unit));
+}
+
+char16_t* writeKey(wire::WideStringView text, char16_t* out) {
+    for (auto at = text.begin(); at != text.end();) {
+        if (!isDigit(*at)) {
+            *out++ = plainLetter(*at++);
+            continue;
+        }
+        const auto end = std::find_if_not(at, text.end(), isDigit);
+        const auto digits = std::find_if(at, end, [](char16_t unit) { return unit != u'0'; });
+        // A number is a zero, the count of its digits, and the digits: the longer number is the greater one.
+        *out++ = u'0';
+        *out++ = static_cast<char16_t>(std::min<std::ptrdiff_t>(end - digits, 0xFFFF));
+        out = std::copy(digits, end, out);
+        at = end;
+    }
+    return out;
 }
 
 } // namespace
 
 wire::WideString naturalKey(wire::WideStringView text) {
     wire::WideString key;
-    key.reserve(text.size() + 4);
-    for (auto at = text.begin(); at != text.end();) {
-        if (!isDigit(*at)) {
-            key.push_back(baseLetter(console::foldCase(*at++)));
-            continue;
-        }
-        const auto end = std::find_if_not(at, text.end(), isDigit);
-        const auto digits = std::find_if(at, end, [](char16_t unit) { return unit != u'0'; });
-        // A number is a zero, the count of its digits, and the digits: the longer number is the greater one.
-        key.push_back(u'0');
-        key.push_back(static_cast<char16_t>(std::min<std::ptrdiff_t>(end - digits, 0xFFFF)));
-        key.append(digits, end);
-        at = end;
-    }
+    appendNaturalKey(key, text);
     return key;
+}
+
+void appendNaturalKey(wire::WideString& keys, wire::WideStringView text) {
+    const auto before = keys.size();
+    keys.resize(before + mostKeyUnits * text.size());
+    const char16_t* const end = writeKey(text, keys.data() + before);
+    keys.resize(static_cast<std::size_t>(end - keys.data()));
 }
 
 } // namespace shell

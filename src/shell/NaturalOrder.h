@@ -10,4 +10,7 @@ namespace shell {
 // A text whose plain comparison with others of its kind gives the natural order of the originals.
 wire::WideString naturalKey(wire::WideStringView text);
 
+// The same at the end of a text that is there already.
+void appendNaturalKey(wire::WideString& keys, wire::WideStringView text);
+
 } // namespace shell

@@ -19,6 +19,10 @@ std::vector<std::intptr_t> idsOf(const std::vector<const Row*>& rows) {
     return ids;
 }
 
+bool sameIds(const std::vector<Row>& a, const std::vector<Row>& b) {
+    return std::ranges::equal(a, b, {}, &Row::id, &Row::id);
+}
+
 } // namespace
 
 Result ResultPane::InsertItem(console::ResultItemFields& row) {
@@ -27,28 +31,35 @@ Result ResultPane::InsertItem(console::ResultItemFields& row) {
         return Result::failed;
     }
     beginChange();
-    if (row.itemID <= 0 || row.itemID > last_ || places_.contains(row.itemID)) {
+    if (row.itemID <= 0 || row.itemID > last_ || isTaken(row.itemID)) {
         row.itemID = ++last_;
     }
-    places_.emplace(row.itemID, working_->size());
+    const std::size_t place = working_->size();
+    greatest_ = std::max(greatest_, row.itemID);
+    follows_ = follows_ && place < rows_.size() && rows_[place].id == row.itemID;
+    if (places_) {
+        places_->emplace(row.itemID, place);
+    }
     working_->push_back({std::move(node), row.itemID, row.nImage});
     return Result::ok;
 }
 
 Result ResultPane::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
-    const auto place = places_.find(itemId);
-    if (place == places_.end()) {
+    const auto place = places().find(itemId);
+    if (place == places_->end()) {
         return Result::failed;
     }
     beginChange();
     (*working_)[place->second].node.reset();
-    places_.erase(place);
+    places_->erase(place);
     return Result::ok;
 }
 
 Result ResultPane::DeleteAllRsltItems() {
-    working_.emplace();
-    places_.clear();
+    working_.emplace().reserve(rows_.size());
+    places_.reset();
+    greatest_ = 0;
+    follows_ = true;
     replaced_ = true;
     return Result::ok;
 }
@@ -57,6 +68,27 @@ void ResultPane::beginChange() {
     if (!working_) {
         working_ = rows_;
     }
+}
+
+bool ResultPane::isTaken(ResultId id) {
+    if (id > greatest_) {
+        return false;
+    }
+    const std::size_t next = current().size();
+    // Rows that come again in their old sequence are told apart without a look at the others.
+    const bool expected = follows_ && next < rows_.size() && rows_[next].id == id;
+    return !expected && places().contains(id);
+}
+
+std::unordered_map<ResultId, std::size_t>& ResultPane::places() {
+    if (!places_) {
+        const auto& rows = current();
+        places_.emplace().reserve(rows.size());
+        for (std::size_t place = 0; place < rows.size(); ++place) {
+            places_->emplace(rows[place].id, place);
+        }
+    }
+    return *places_;
 }
 
 std::optional<std::size_t> ResultPane::indexOf(ResultId id) const {
@@ -70,12 +102,17 @@ const Row* ResultPane::find(ResultId id) const {
         const auto found = std::ranges::find(scopeRows, id, &Row::id);
         return found != scopeRows.end() ? &*found : nullptr;
     }
-    const auto place = places_.find(id);
-    return place != places_.end() ? &(working_ ? *working_ : rows_)[place->second] : nullptr;
+    const auto& rows = current();
+    if (places_) {
+        const auto place = places_->find(id);
+        return place != places_->end() ? &rows[place->second] : nullptr;
+    }
+    const auto found = std::ranges::find(rows, id, &Row::id);
+    return found != rows.end() ? &*found : nullptr;
 }
 
 const Row* ResultPane::findLike(const console::CSnapInItem& node) const {
-    const auto& rows = working_ ? *working_ : rows_;
+    const auto& rows = current();
     const auto key = node.refreshKey();
     const auto found = std::ranges::find_if(rows, [&](const Row& row) {
         return row.node && row.node->className() == node.className() && row.node->refreshKey() == key;
@@ -118,25 +155,46 @@ void ResultPane::filter(wire::WideStringView text, std::int32_t columns) {
     reset(arranged());
 }
 
-std::vector<const Row*> ResultPane::arranged() const {
+std::vector<const Row*> ResultPane::passing() const {
     const auto passes = [this](const Row& row) {
         for (std::int32_t column = 0; column < filterColumns_; ++column) {
             if (filter_.matches(cellOf(row, column))) {
                 return true;
             }
         }
-        return filter_.empty();
+        return false;
     };
     std::vector<const Row*> rows;
     rows.reserve(unfilteredCount());
     for (const auto* const source : {&scopeRows_, &rows_}) {
         for (const Row& row : *source) {
-            if (passes(row)) {
+            if (filter_.empty() || passes(row)) {
                 rows.push_back(&row);
             }
         }
     }
+    return rows;
+}
+
+std::vector<const Row*> ResultPane::arranged() const {
+    auto rows = passing();
     sortRows(rows, order_);
+    return rows;
+}
+
+std::vector<const Row*> ResultPane::arrangedLike(const std::vector<Row>& scopeBefore,
+                                                 const std::vector<Row>& before) const {
+    auto rows = passing();
+    std::vector<std::uint32_t> places;
+    if (rows.size() == shown_.size() && rows.size() == unfilteredCount() && sameIds(scopeBefore, scopeRows_) &&
+        sameIds(before, rows_)) {
+        places.resize(rows.size());
+        std::ranges::transform(shown_, places.begin(), [&](const Row* row) {
+            return static_cast<std::uint32_t>(row->isScopeItem() ? row - scopeBefore.data()
+                                                                 : std::ssize(scopeBefore) + (row - before.data()));
+        });
+    }
+    sortRows(rows, order_, places);
     return rows;
 }
 
@@ -159,11 +217,9 @@ void ResultPane::commit() {
     nextScope_.reset();
     working_.reset();
     if (std::erase_if(rows_, [](const Row& row) { return !row.node; }) != 0) {
-        for (std::size_t place = 0; place < rows_.size(); ++place) {
-            places_[rows_[place].id] = place;
-        }
+        places_.reset();
     }
-    const auto next = arranged();
+    const auto next = arrangedLike(oldScope, oldRows);
     keepTopRow(next);
     show(next);
 }

@@ -58,8 +58,16 @@ public:
     void commit();
 
 private:
+    // The rows as handlers have them.
+    const std::vector<Row>& current() const { return working_ ? *working_ : rows_; }
     void beginChange();
+    bool isTaken(console::ResultId id);
+    // Where the rows stand in current(), by their ids. Made when it is asked for first.
+    std::unordered_map<console::ResultId, std::size_t>& places();
+    std::vector<const Row*> passing() const;
     std::vector<const Row*> arranged() const;
+    // The same, where it is likely that the rows stand as in the rows before, which shown_ points to.
+    std::vector<const Row*> arrangedLike(const std::vector<Row>& scopeBefore, const std::vector<Row>& before) const;
     void show(const std::vector<const Row*>& next);
     void reset(std::vector<const Row*> next);
     void keepTopRow(const std::vector<const Row*>& next);
@@ -69,13 +77,15 @@ private:
     std::vector<Row> rows_;                     // in order of insertion
     std::optional<std::vector<Row>> working_;   // the same as handlers have it, while it differs; removed: no node
     std::optional<std::vector<Row>> nextScope_; // scope rows that are not committed yet
-    std::unordered_map<console::ResultId, std::size_t> places_; // in working_ while that is there, else in rows_
-    std::vector<const Row*> shown_;                             // scopeRows_ and rows_, sorted and filtered
+    std::optional<std::unordered_map<console::ResultId, std::size_t>> places_; // see places()
+    std::vector<const Row*> shown_; // scopeRows_ and rows_, sorted and filtered
     std::optional<SortOrder> order_;
     RowFilter filter_;
     wire::WideString filterText_;
     std::int32_t filterColumns_ = 0;
     console::ResultId last_ = 0;
+    console::ResultId greatest_ = 0; // no row of current() has a greater id
+    bool follows_ = false;           // all rows inserted since the last removal of all stand as in rows_
     console::ResultId topRow_ = 0;
     bool replaced_ = false;
 };

@@ -1,48 +1,61 @@
 #include "shell/RowOrder.h"
 
-#include "shell/NaturalOrder.h"
+#include "shell/SortKeys.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace shell {
 namespace {
 
-using Rows = std::vector<const Row*>;
-using Keyed = std::pair<wire::WideString, const Row*>;
+using Rows = std::span<const Row*>;
+using Places = std::span<const std::uint32_t>;
 
-void sortRun(Rows::iterator begin, Rows::iterator end, const SortOrder& order) {
-    std::vector<Keyed> keyed;
-    keyed.reserve(static_cast<std::size_t>(end - begin));
-    std::transform(begin, end, std::back_inserter(keyed),
-                   [&](const Row* row) { return Keyed(naturalKey(cellOf(*row, order.column)), row); });
-    const auto inOrder = [&](const Keyed& a, const Keyed& b) {
-        return order.ascending ? a.first < b.first : b.first < a.first;
-    };
-    const auto notInOrder = [&](const Keyed& a, const Keyed& b) { return !inOrder(b, a); };
-    if (std::ranges::adjacent_find(keyed, notInOrder) == keyed.end()) {
-        std::ranges::reverse(keyed); // as lists come that are handed out from their last record to their first
-    } else if (!std::ranges::is_sorted(keyed, inOrder)) {
-        std::ranges::stable_sort(keyed, inOrder);
+// Where the rows end that are sorted together with the first one.
+std::size_t lengthOfRun(Rows rows, const std::optional<SortOrder>& order) {
+    if (order) {
+        return rows.size();
     }
-    std::ranges::transform(keyed, begin, &Keyed::second);
+    const Row& first = *rows.front();
+    const auto& name = first.node->className();
+    const auto end = std::ranges::find_if(rows, [&](const Row* row) {
+        return row->isScopeItem() != first.isScopeItem() || row->node->className() != name;
+    });
+    return static_cast<std::size_t>(end - rows.begin());
 }
 
-bool sameKind(const Row& a, const Row& b) {
-    return a.isScopeItem() == b.isScopeItem() && a.node->className() == b.node->className();
+// The places of a run's rows, counted from its begin; nothing when other rows stand among them.
+std::vector<std::uint32_t> placesInRun(Places likely, std::size_t begin) {
+    std::vector<std::uint32_t> places(likely.begin(), likely.end());
+    for (std::uint32_t& place : places) {
+        if (place < begin || place - begin >= places.size()) {
+            return {};
+        }
+        place -= static_cast<std::uint32_t>(begin);
+    }
+    return places;
+}
+
+void sortRun(Rows run, const SortOrder& order, Places likely) {
+    SortKeys keys;
+    keys.reserve(run.size());
+    for (const Row* const row : run) {
+        keys.add(cellOf(*row, order.column));
+    }
+    const std::vector<const Row*> before(run.begin(), run.end());
+    std::ranges::transform(keys.sorted(order.ascending, likely), run.begin(),
+                           [&](auto place) { return before[place]; });
 }
 
 } // namespace
 
-void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order) {
-    if (order) {
-        sortRun(rows.begin(), rows.end(), *order);
-        return;
-    }
-    for (auto begin = rows.begin(); begin != rows.end();) {
-        const auto end = std::find_if(begin, rows.end(), [&](const Row* row) { return !sameKind(**begin, *row); });
-        sortRun(begin, end, {});
-        begin = end;
+void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order, Places likely) {
+    for (std::size_t begin = 0; begin < rows.size();) {
+        const auto rest = Rows(rows).subspan(begin);
+        const auto length = lengthOfRun(rest, order);
+        const auto places =
+            likely.empty() ? std::vector<std::uint32_t>() : placesInRun(likely.subspan(begin, length), begin);
+        sortRun(rest.first(length), order.value_or(SortOrder()), places);
+        begin += length;
     }
 }
 

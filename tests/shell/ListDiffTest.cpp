@@ -32,6 +32,12 @@ TEST(ListDiff, fromAndToNothingIsOneStep) {
     EXPECT_EQ(listSteps(Ids{1, 2}, Ids{}), (Steps{{Kind::remove, 0, 2}}));
 }
 
+TEST(ListDiff, changesBetweenEqualEndsStandAtTheirPlaces) {
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 2, 9, 3, 4}), (Steps{{Kind::insert, 2, 1}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 9, 8, 4}), (Steps{{Kind::remove, 1, 2}, {Kind::insert, 1, 2}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4, 5}, Ids{1, 4, 3, 2, 5}), std::nullopt);
+}
+
 TEST(ListDiff, anotherOrderCantBeReachedInSteps) {
     EXPECT_EQ(listSteps(Ids{1, 2, 3}, Ids{2, 1, 3}), std::nullopt);
 }

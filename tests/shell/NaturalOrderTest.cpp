@@ -40,4 +40,12 @@ TEST(NaturalOrder, numbersOfAnyLengthAreTaken) {
     EXPECT_TRUE(stands(u"99999999999999999999999", u"100000000000000000000000"));
 }
 
+TEST(NaturalOrder, aKeyIsPutBehindWhatIsThere) {
+    wire::WideString keys = u"before ";
+
+    shell::appendNaturalKey(keys, u"P1");
+
+    EXPECT_EQ(keys, u"before " + shell::naturalKey(u"P1"));
+}
+
 } // namespace

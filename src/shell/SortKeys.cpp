@@ -1,0 +1,68 @@
+#include "shell/SortKeys.h"
+
+#include "shell/NaturalOrder.h"
+
+#include <algorithm>
+
+namespace shell {
+
+void SortKeys::add(wire::WideStringView text) {
+    const auto begin = units_.size();
+    appendNaturalKey(units_, text);
+    keys_.push_back({.begin = begin,
+                     .length = static_cast<std::uint32_t>(units_.size() - begin),
+                     .place = static_cast<std::uint32_t>(keys_.size())});
+}
+
+std::vector<std::uint32_t> SortKeys::sorted(bool ascending, std::span<const std::uint32_t> likely) {
+    skipCommonBeginning();
+    setHeads();
+    const auto inOrder = [this, ascending](const Key& a, const Key& b) { return stands(a, b, ascending); };
+    const auto key = [this](std::uint32_t place) -> const Key& { return keys_[place]; };
+    if (likely.size() == keys_.size() && std::ranges::is_sorted(likely, inOrder, key)) {
+        return {likely.begin(), likely.end()};
+    }
+    std::ranges::sort(keys_, inOrder);
+    std::vector<std::uint32_t> places(keys_.size());
+    std::ranges::transform(keys_, places.begin(), &Key::place);
+    return places;
+}
+
+void SortKeys::skipCommonBeginning() {
+    if (keys_.empty()) {
+        return;
+    }
+    auto common = textOf(keys_.front());
+    for (const Key& key : keys_) {
+        const auto text = textOf(key);
+        const auto length = std::min(common.size(), text.size());
+        const auto differs = std::mismatch(common.begin(), common.begin() + length, text.begin()).first;
+        common = common.substr(0, static_cast<std::size_t>(differs - common.begin()));
+    }
+    for (Key& key : keys_) {
+        key.begin += common.size();
+        key.length -= static_cast<std::uint32_t>(common.size());
+    }
+}
+
+void SortKeys::setHeads() {
+    constexpr std::size_t headUnits = sizeof(Key::head) / sizeof(char16_t);
+    for (Key& key : keys_) {
+        const auto text = textOf(key);
+        for (std::size_t unit = 0; unit < headUnits; ++unit) {
+            key.head = key.head << 16U | (unit < text.size() ? text[unit] : 0U);
+        }
+    }
+}
+
+bool SortKeys::stands(const Key& before, const Key& after, bool ascending) const {
+    const Key& lower = ascending ? before : after;
+    const Key& upper = ascending ? after : before;
+    if (lower.head != upper.head) {
+        return lower.head < upper.head;
+    }
+    const int compared = textOf(lower).compare(textOf(upper));
+    return compared != 0 ? compared < 0 : before.place < after.place;
+}
+
+} // namespace shell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "wire/Text.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace shell {
+
+// The texts by which rows are put into order, in one piece of memory and not one for each row.
+class SortKeys {
+public:
+    void reserve(std::size_t count) { keys_.reserve(count); }
+    void add(wire::WideStringView text);
+    // The places of the texts, counted in the order of adding, as they stand in natural order; equal ones as added.
+    // `likely` is that or something else of all places, or nothing. Nothing can be added afterwards.
+    std::vector<std::uint32_t> sorted(bool ascending, std::span<const std::uint32_t> likely = {});
+
+private:
+    struct Key {
+        std::uint64_t head = 0; // the first units that are not common to all keys
+        std::size_t begin = 0;
+        std::uint32_t length = 0;
+        std::uint32_t place = 0;
+    };
+
+    wire::WideStringView textOf(const Key& key) const { return {units_.data() + key.begin, key.length}; }
+    void skipCommonBeginning();
+    void setHeads();
+    bool stands(const Key& before, const Key& after, bool ascending) const;
+
+    wire::WideString units_;
+    std::vector<Key> keys_;
+};
+
+} // namespace shell

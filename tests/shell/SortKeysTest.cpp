@@ -1,0 +1,60 @@
+#include "shell/SortKeys.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Places = std::vector<std::uint32_t>;
+using Texts = std::vector<wire::WideString>;
+
+Places sorted(const Texts& texts, bool ascending = true, const Places& likely = {}) {
+    shell::SortKeys keys;
+    for (const auto& text : texts) {
+        keys.add(text);
+    }
+    return keys.sorted(ascending, likely);
+}
+
+TEST(SortKeys, textsStandInNaturalOrder) {
+    EXPECT_EQ(sorted({u"Floor 10", u"floor 9", u"Attic"}), (Places{2, 1, 0}));
+}
+
+TEST(SortKeys, descendingTurnsTheOrderRound) {
+    EXPECT_EQ(sorted({u"b", u"c", u"a"}, false), (Places{1, 0, 2}));
+}
+
+TEST(SortKeys, equalTextsStandAsAddedInBothDirections) {
+    EXPECT_EQ(sorted({u"x", u"X", u"a", u"x"}, true), (Places{2, 0, 1, 3}));
+    EXPECT_EQ(sorted({u"x", u"X", u"a", u"x"}, false), (Places{0, 1, 3, 2}));
+}
+
+TEST(SortKeys, whatTextsBeginWithInCommonDoesNotHideTheRest) {
+    EXPECT_EQ(sorted({u"Hall 2 west", u"Hall", u"Hall 2 east", u"Hall 10"}), (Places{1, 2, 0, 3}));
+}
+
+TEST(SortKeys, textsThatDifferLateAreComparedToTheirEnds) {
+    EXPECT_EQ(sorted({u"Abcdefghijkz", u"Abcdefghijka", u"Bcd"}), (Places{1, 0, 2}));
+}
+
+TEST(SortKeys, aTextWithAZeroUnitStandsAfterTheOneThatEndsThere) {
+    EXPECT_EQ(sorted({wire::WideString(u"a\0", 2), u"a", u"b"}), (Places{1, 0, 2}));
+}
+
+TEST(SortKeys, theLikelyOrderIsTakenWhenItIsRight) {
+    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {1, 2, 0}), (Places{1, 2, 0}));
+}
+
+TEST(SortKeys, aWrongLikelyOrderDoesNoHarm) {
+    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {0, 1, 2}), (Places{1, 2, 0}));
+    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {1, 2}), (Places{1, 2, 0}));
+}
+
+TEST(SortKeys, aLikelyOrderThatSwapsEqualTextsIsWrong) {
+    EXPECT_EQ(sorted({u"x", u"x"}, true, {1, 0}), (Places{0, 1}));
+}
+
+TEST(SortKeys, noTextsHaveNoPlaces) {
+    EXPECT_EQ(sorted({}), Places{});
+}
+
+} // namespace
