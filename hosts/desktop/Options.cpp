@@ -63,7 +63,9 @@ std::variant<Options, Refusal> readOptions(const QStringList& arguments) {
         return wrong(parser.errorText());
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        return Refusal{parser.helpText(), 0};
+        // The parser knows the program's name only once there is an application.
+        return Refusal{parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("vantrel-admin")),
+                       0};
     }
     if (parser.isSet(QStringLiteral("version"))) {
         return Refusal{QStringLiteral("vantrel-admin " VANTREL_VERSION "\n"), 0};

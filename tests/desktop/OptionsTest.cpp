@@ -68,6 +68,7 @@ TEST(Options, wrongOnesAreRefusedWithAClearLine) {
 TEST(Options, helpAndVersionAreNoErrors) {
     EXPECT_EQ(0, refusal({"--help"}).status);
     EXPECT_TRUE(refusal({"--help"}).text.contains(QStringLiteral("--screenshot")));
+    EXPECT_FALSE(refusal({"--help"}).text.contains(QStringLiteral("executable_name")));
     EXPECT_EQ(QStringLiteral("vantrel-admin 1.0.2\n"), refusal({"--version"}).text);
 }
 
