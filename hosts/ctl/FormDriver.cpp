@@ -10,6 +10,7 @@
 #include "console/TreeView.h"
 #include "hosts/ctl/DateTimeText.h"
 #include "hosts/ctl/Failure.h"
+#include "hosts/ctl/RowEntry.h"
 #include "hosts/ctl/Words.h"
 
 #include <algorithm>
@@ -72,43 +73,6 @@ void chooseByValue(std::vector<Control*>& found, const Step& step) {
     }
 }
 
-// An entry of the menu on the rows of a list.
-struct RowEntry {
-    console::ListView* list = nullptr;
-    std::size_t entry = 0;
-};
-
-wire::WideString nameOf(const RowEntry& entry) {
-    return console::fullName(*entry.list) + u": " + console::readableLabel(entry.list->rowMenu()[entry.entry]);
-}
-
-std::vector<RowEntry> rowEntriesOf(console::Form& form) {
-    std::vector<RowEntry> entries;
-    for (Control* const control : console::controlsOf(form)) {
-        if (auto* const list = dynamic_cast<console::ListView*>(control)) {
-            for (std::size_t entry = 0; entry < list->rowMenu().size(); ++entry) {
-                entries.push_back({list, entry});
-            }
-        }
-    }
-    return entries;
-}
-
-// What "List: Entry" means; the groups and pages that the list stands on may be left out.
-std::vector<RowEntry> findRowEntries(console::Form& form, const wire::WideString& label) {
-    auto entries = rowEntriesOf(form);
-    std::erase_if(entries, [&](const RowEntry& one) {
-        const auto entry = u": " + console::readableLabel(one.list->rowMenu()[one.entry]);
-        if (label.size() <= entry.size()) {
-            return true;
-        }
-        const auto place = label.size() - entry.size();
-        return !sameWord(label.substr(place), entry) ||
-               console::findControl<console::ListView>(form, label.substr(0, place)) != one.list;
-    });
-    return entries;
-}
-
 Control& findControl(console::Form& form, const Step& step) {
     auto found = console::findControls(form, step.label);
     std::erase_if(found, [&](const Control* control) { return !takes(control, step.kind); });
@@ -124,7 +88,7 @@ Control& findControl(console::Form& form, const Step& step) {
     }
     if (step.kind == Step::Kind::press && found.empty()) {
         std::ranges::transform(rowEntriesOf(form), std::back_inserter(choices),
-                               [](const RowEntry& entry) { return nameOf(entry); });
+                               [](const RowEntry& entry) { return fullName(entry); });
     }
     const std::string title = "The form \"" + shown(form.title()) + "\" has ";
     throw Failure(ExitStatus::refused, (found.empty() ? title + "no " : title + "more than one ") +

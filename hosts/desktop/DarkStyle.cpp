@@ -11,6 +11,7 @@ namespace {
 // The plain style draws outlines in the colour of the window, made two thirds as bright. On a dark window that is
 // nearly the window itself, so it is given another colour to begin with.
 constexpr QRgb windowOfOutlines = 0xFFB4BCC8;
+constexpr QRgb windowOfFaintOutlines = 0xFF868C95;
 
 template <class Option>
 bool draw(const QStyleOption* option, const QPalette& palette, const std::function<void(const Option&)>& drawing) {
@@ -33,7 +34,7 @@ QPalette DarkStyle::outlined(const QPalette& palette) const {
         key_ = palette.cacheKey();
         outlined_ = palette;
         outlined_.setColor(QPalette::Window, QColor::fromRgb(windowOfOutlines));
-        outlined_.setColor(QPalette::Disabled, QPalette::Window, palette.color(QPalette::Disabled, QPalette::Text));
+        outlined_.setColor(QPalette::Disabled, QPalette::Window, QColor::fromRgb(windowOfFaintOutlines));
     }
     QPalette result = outlined_;
     result.setCurrentColorGroup(palette.currentColorGroup());
