@@ -13,6 +13,11 @@ void BareList::fill() {
 
 void BareList::refresh() {
     beginResetModel();
+    for (auto& row : rows_) {
+        for (QString& text : row) {
+            text = QString(text.constData(), text.size());
+        }
+    }
     endResetModel();
 }
 

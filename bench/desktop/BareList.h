@@ -11,7 +11,7 @@ class BareList final : public QAbstractTableModel {
 public:
     BareList() { fill(); }
 
-    // All rows anew.
+    // All rows and their strings anew.
     void refresh();
 
     int rowCount(const QModelIndex& parent) const override;

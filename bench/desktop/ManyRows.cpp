@@ -19,11 +19,27 @@ const char16_t* OneRow::GetResultPaneColInfo(std::int32_t column) {
     return cells_[static_cast<std::size_t>(column)].c_str();
 }
 
+void OneRow::renew() {
+    for (auto& cell : cells_) {
+        std::u16string(cell).swap(cell);
+    }
+}
+
 ManyRows::ManyRows(console::Platform& platform) : CBaseNodeItem(platform) {
     rows_.reserve(rowCount);
     for (std::size_t row = 0; row < rowCount; ++row) {
         rows_.push_back(std::make_shared<OneRow>(platform, row));
     }
+}
+
+console::Result ManyRows::OnExpand(console::ExpandCode code, console::IConsole& /*console*/,
+                                   console::ScopeId /*scopeId*/) {
+    if (code == console::ExpandCode::refresh) {
+        for (const auto& row : rows_) {
+            row->renew();
+        }
+    }
+    return console::Result::ok;
 }
 
 std::span<const console::Column> ManyRows::columns() const {

@@ -24,6 +24,8 @@ public:
 
     std::string refreshKey() const override { return std::to_string(number_); }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    // Makes its strings anew, as they would come from a server.
+    void renew();
 
 private:
     std::size_t number_;
@@ -35,6 +37,8 @@ class ManyRows final : public console::CBaseNodeItem<ManyRows> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Many", .openImage = 1, .children = 1};
     explicit ManyRows(console::Platform& platform);
+
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 
 protected:
     std::span<const console::Column> columns() const override;

@@ -26,7 +26,7 @@ bool sameIds(const std::vector<Row>& a, const std::vector<Row>& b) {
 } // namespace
 
 Result ResultPane::InsertItem(console::ResultItemFields& row) {
-    auto node = row.lParam != nullptr ? row.lParam->weak_from_this().lock() : nullptr;
+    auto node = row.lParam != nullptr ? takeNode(*row.lParam) : nullptr;
     if (!node) {
         return Result::failed;
     }
@@ -56,12 +56,23 @@ Result ResultPane::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
 }
 
 Result ResultPane::DeleteAllRsltItems() {
+    if (working_) {
+        discarded_ = std::move(*working_);
+    }
     working_.emplace().reserve(rows_.size());
     places_.reset();
     greatest_ = 0;
     follows_ = true;
     replaced_ = true;
     return Result::ok;
+}
+
+std::shared_ptr<console::CSnapInItem> ResultPane::takeNode(console::CSnapInItem& node) {
+    const std::size_t place = current().size();
+    if (place < discarded_.size() && discarded_[place].node.get() == &node) {
+        return std::move(discarded_[place].node);
+    }
+    return node.weak_from_this().lock();
 }
 
 void ResultPane::beginChange() {
@@ -216,12 +227,14 @@ void ResultPane::commit() {
     }
     nextScope_.reset();
     working_.reset();
+    discarded_.clear();
+    discarded_.shrink_to_fit();
     if (std::erase_if(rows_, [](const Row& row) { return !row.node; }) != 0) {
         places_.reset();
     }
-    const auto next = arrangedLike(oldScope, oldRows);
+    auto next = arrangedLike(oldScope, oldRows);
     keepTopRow(next);
-    show(next);
+    show(std::move(next));
 }
 
 void ResultPane::keepTopRow(const std::vector<const Row*>& next) {
@@ -238,10 +251,11 @@ void ResultPane::keepTopRow(const std::vector<const Row*>& next) {
     topRow_ = after != shown_.end() ? (*after)->id : above != shown_.rend() ? (*above)->id : 0;
 }
 
-void ResultPane::show(const std::vector<const Row*>& next) {
-    const auto steps = listSteps(idsOf(shown_), idsOf(next));
+void ResultPane::show(std::vector<const Row*> next) {
+    const bool sameRows = std::ranges::equal(shown_, next, {}, &Row::id, &Row::id);
+    const auto steps = sameRows ? std::vector<ListStep>() : listSteps(idsOf(shown_), idsOf(next));
     if (!steps) {
-        reset(next);
+        reset(std::move(next));
         return;
     }
     for (const ListStep& step : *steps) {
@@ -262,7 +276,7 @@ void ResultPane::show(const std::vector<const Row*>& next) {
             observers_.tell([&](auto& observer) { observer.rowsInserted(first, count); });
         }
     }
-    shown_ = next;
+    shown_ = std::move(next);
     if (!shown_.empty()) {
         observers_.tell([&](auto& observer) { observer.rowsChanged(0, shown_.size()); });
     }

@@ -60,6 +60,8 @@ public:
 private:
     // The rows as handlers have them.
     const std::vector<Row>& current() const { return working_ ? *working_ : rows_; }
+    // The node of the row that comes next; null when nobody owns it.
+    std::shared_ptr<console::CSnapInItem> takeNode(console::CSnapInItem& node);
     void beginChange();
     bool isTaken(console::ResultId id);
     // Where the rows stand in current(), by their ids. Made when it is asked for first.
@@ -68,7 +70,7 @@ private:
     std::vector<const Row*> arranged() const;
     // The same, where it is likely that the rows stand as in the rows before, which shown_ points to.
     std::vector<const Row*> arrangedLike(const std::vector<Row>& scopeBefore, const std::vector<Row>& before) const;
-    void show(const std::vector<const Row*>& next);
+    void show(std::vector<const Row*> next);
     void reset(std::vector<const Row*> next);
     void keepTopRow(const std::vector<const Row*>& next);
 
@@ -76,6 +78,7 @@ private:
     std::vector<Row> scopeRows_;
     std::vector<Row> rows_;                     // in order of insertion
     std::optional<std::vector<Row>> working_;   // the same as handlers have it, while it differs; removed: no node
+    std::vector<Row> discarded_;                // removed before anybody saw them; a refresh hands out its rows twice
     std::optional<std::vector<Row>> nextScope_; // scope rows that are not committed yet
     std::optional<std::unordered_map<console::ResultId, std::size_t>> places_; // see places()
     std::vector<const Row*> shown_; // scopeRows_ and rows_, sorted and filtered

@@ -7,6 +7,9 @@
 namespace shell {
 
 void SortKeys::add(wire::WideStringView text) {
+    if (keys_.empty()) { // most texts of a column are as long as the first one, and none need be as long as the longest
+        units_.reserve(keys_.capacity() * std::min<std::size_t>(text.size() + 8, 64));
+    }
     const auto begin = units_.size();
     appendNaturalKey(units_, text);
     keys_.push_back({.begin = begin,

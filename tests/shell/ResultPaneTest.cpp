@@ -315,6 +315,26 @@ TEST_F(ResultPane, nodesGoWithTheirRows) {
     EXPECT_EQ(estate.living, 0);
 }
 
+TEST_F(ResultPane, rowsThatAreHandedOutTwiceAreShownOnce) {
+    const auto one = insert(u"one");
+    const auto two = insert(u"two");
+    pane.DeleteAllRsltItems();
+
+    replaceBy({one, two});
+
+    EXPECT_EQ(rows(), (Lines{"one", "two"}));
+}
+
+TEST_F(ResultPane, nodesThatWereHandedOutOnlyTheFirstTimeGo) {
+    const auto one = insert(u"one");
+    insert(u"two");
+
+    replaceBy({one});
+
+    EXPECT_EQ(rows(), (Lines{"one"}));
+    EXPECT_EQ(estate.living, 1);
+}
+
 TEST_F(ResultPane, aHundredThousandRowsAreSortedFilteredAndReplaced) {
     std::vector<std::shared_ptr<LeafNode>> nodes;
     for (int i = 99999; i >= 0; --i) {
