@@ -8,7 +8,6 @@
 namespace desktoptest {
 namespace {
 
-using desktop::ColumnChoice;
 using desktop::ViewSettings;
 
 class ViewSettingsTest : public testing::Test {
