@@ -2,9 +2,6 @@
 
 #include "server/Estate.h"
 #include "server/ReplyBuffer.h"
-#include "server/RequestReader.h"
-
-#include <memory>
 
 namespace server {
 
@@ -20,11 +17,5 @@ public:
 
 // A console takes the count of a list as a signed number, and more than this as none at all.
 constexpr std::int64_t longestList = 32767;
-
-// The answer to a request, nothing when the opcode does not read; it uses the estate until it goes. Throws BadRequest
-// and StoreError.
-[[nodiscard]] std::unique_ptr<Answer> makeAnswer(std::uint16_t opcode, std::span<const std::uint8_t> fields,
-                                                 Estate& estate);
-[[nodiscard]] bool isAnswered(std::uint16_t opcode);
 
 } // namespace server

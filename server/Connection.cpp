@@ -3,7 +3,7 @@
 #include "protocol/Catalogue.h"
 #include "protocol/GetPublicKeyRequest.h"
 #include "protocol/LoginRequest.h"
-#include "server/Answer.h"
+#include "server/Handler.h"
 #include "server/LoginExchange.h"
 #include "server/Refusal.h"
 #include "server/StoreError.h"
@@ -77,12 +77,13 @@ asio::awaitable<void> Connection::carryOut(RequestFrame request) {
     }
     if (!services_.ledger.mayCommand(address_, PeerStream::Clock::now()))
         throw BadRequest(nameOf(request.opcode) + " without a login");
-    if (auto wanted = prepareChange(request.opcode, request.fields))
-        co_await change(request.opcode, std::move(*wanted));
-    else if (isAnswered(request.opcode))
-        co_await answer(request);
-    else
+    const auto* handler = findHandler(request.opcode, request.fields);
+    if (handler == nullptr)
         throw BadRequest("this server does not answer " + nameOf(request.opcode));
+    if (handler->prepare != nullptr)
+        co_await change(request.opcode, handler->prepare(request.fields));
+    else
+        co_await answer(*handler, request);
 }
 
 asio::awaitable<void> Connection::change(std::uint16_t opcode, Change wanted) {
@@ -96,10 +97,10 @@ asio::awaitable<void> Connection::change(std::uint16_t opcode, Change wanted) {
         co_await peer_.send(reply.bytes(), services_.limits.sendTime);
 }
 
-asio::awaitable<void> Connection::answer(const RequestFrame& request) {
+asio::awaitable<void> Connection::answer(const Handler& handler, const RequestFrame& request) {
     co_await place_.beginReading();
     const EstatePool::Lease lease(services_.readers);
-    const auto answer = makeAnswer(request.opcode, request.fields, lease.estate());
+    const auto answer = handler.answer(request.fields, lease.estate());
     ReplyBuffer piece;
     for (bool more = true; more;) {
         piece.clear();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/Changes.h"
+#include "server/Handler.h"
 #include "server/PeerStream.h"
 #include "server/RequestFrame.h"
 #include "server/Services.h"
@@ -27,7 +27,7 @@ private:
     [[nodiscard]] asio::awaitable<void> takeAndAnswer();
     [[nodiscard]] asio::awaitable<void> carryOut(RequestFrame request);
     [[nodiscard]] asio::awaitable<void> change(std::uint16_t opcode, Change wanted);
-    [[nodiscard]] asio::awaitable<void> answer(const RequestFrame& request);
+    [[nodiscard]] asio::awaitable<void> answer(const Handler& handler, const RequestFrame& request);
 
     Services& services_;
     asio::ip::address address_;

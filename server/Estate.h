@@ -5,6 +5,10 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <memory>
+#include <typeindex>
+#include <unordered_map>
+
 namespace server {
 
 // One connection to the database with everything that is stored about regions and printers. Used by one thread at a
@@ -17,6 +21,15 @@ public:
 
     [[nodiscard]] RegionTable& regions() { return regions_; }
     [[nodiscard]] RecordTable& records() { return records_; }
+
+    // Any other table by its type, which is made of the connection when it is first asked for.
+    template <class Table>
+    [[nodiscard]] Table& table() {
+        auto& held = tables_[std::type_index(typeid(Table))];
+        if (!held)
+            held = std::make_shared<Table>(database_.getHandle());
+        return *static_cast<Table*>(held.get());
+    }
 
     // Runs the action as one transaction: all of it is on the disk when this returns, and nothing of it happened when
     // this throws. No other change comes in between.
@@ -51,6 +64,7 @@ private:
     SQLite::Database database_;
     RegionTable regions_;
     RecordTable records_;
+    std::unordered_map<std::type_index, std::shared_ptr<void>> tables_;
     Query begin_;
     Query beginRead_;
     Query commit_;

@@ -55,6 +55,10 @@ std::int64_t Rows::number(int column) const {
     return sqlite3_column_int64(statement_, column);
 }
 
+double Rows::real(int column) const {
+    return sqlite3_column_double(statement_, column);
+}
+
 std::string_view Rows::text(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
     return text == nullptr ? std::string_view()
@@ -78,10 +82,11 @@ bool Rows::isNull(int column) const {
     return sqlite3_column_type(statement_, column) == SQLITE_NULL;
 }
 
-Query::Query(sqlite3* connection, const std::string& sql) {
-    if (sqlite3_prepare_v3(connection, sql.c_str(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                           &statement_, nullptr) != SQLITE_OK)
-        fail(connection);
+sqlite3_stmt* Query::statement() {
+    if (statement_ == nullptr && sqlite3_prepare_v3(connection_, sql_.c_str(), static_cast<int>(sql_.size()),
+                                                    SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) != SQLITE_OK)
+        fail(connection_);
+    return statement_;
 }
 
 Query::~Query() {
@@ -89,14 +94,24 @@ Query::~Query() {
 }
 
 void Query::bind(int index, std::int64_t value) {
-    if (sqlite3_bind_int64(statement_, index, value) != SQLITE_OK)
-        fail(sqlite3_db_handle(statement_));
+    if (sqlite3_bind_int64(statement(), index, value) != SQLITE_OK)
+        fail(connection_);
+}
+
+void Query::bind(int index, double value) {
+    if (sqlite3_bind_double(statement(), index, value) != SQLITE_OK)
+        fail(connection_);
+}
+
+void Query::bind(int index, const wire::Uuid& value) {
+    const auto characters = wire::uuidCharacters(value);
+    bind(index, std::string_view(characters.data(), characters.size()));
 }
 
 void Query::bind(int index, std::string_view text) {
     const char* from = text.empty() ? "" : text.data(); // a null pointer would mean NULL
-    if (sqlite3_bind_text(statement_, index, from, static_cast<int>(text.size()), SQLITE_TRANSIENT) != SQLITE_OK)
-        fail(sqlite3_db_handle(statement_));
+    if (sqlite3_bind_text(statement(), index, from, static_cast<int>(text.size()), SQLITE_TRANSIENT) != SQLITE_OK)
+        fail(connection_);
 }
 
 void Query::bind(int index, std::u16string_view text) {
@@ -104,16 +119,16 @@ void Query::bind(int index, std::u16string_view text) {
 }
 
 void Query::bind(int index, std::span<const std::uint8_t> bytes) {
-    const int code = bytes.empty() ? sqlite3_bind_zeroblob(statement_, index, 0)
-                                   : sqlite3_bind_blob(statement_, index, bytes.data(), static_cast<int>(bytes.size()),
+    const int code = bytes.empty() ? sqlite3_bind_zeroblob(statement(), index, 0)
+                                   : sqlite3_bind_blob(statement(), index, bytes.data(), static_cast<int>(bytes.size()),
                                                        SQLITE_TRANSIENT);
     if (code != SQLITE_OK)
-        fail(sqlite3_db_handle(statement_));
+        fail(connection_);
 }
 
 void Query::bind(int index, std::nullptr_t) {
-    if (sqlite3_bind_null(statement_, index) != SQLITE_OK)
-        fail(sqlite3_db_handle(statement_));
+    if (sqlite3_bind_null(statement(), index) != SQLITE_OK)
+        fail(connection_);
 }
 
 } // namespace server

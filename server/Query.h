@@ -1,11 +1,14 @@
 #pragma once
 
+#include "wire/WireUuid.h"
+
 #include <concepts>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 struct sqlite3;
@@ -30,6 +33,7 @@ public:
 
     // What the present row holds. Views last until the next call of next().
     [[nodiscard]] std::int64_t number(int column) const;
+    [[nodiscard]] double real(int column) const;
     [[nodiscard]] std::string_view text(int column) const;
     [[nodiscard]] std::span<const std::uint8_t> bytes(int column) const;
     [[nodiscard]] std::u16string wide(int column) const;
@@ -41,10 +45,10 @@ private:
     sqlite3_stmt* statement_;
 };
 
-// A prepared statement, kept for as long as its connection lives.
+// A statement, prepared when it is first used and kept for as long as its connection lives.
 class Query {
 public:
-    Query(sqlite3* connection, const std::string& sql);
+    Query(sqlite3* connection, std::string sql) : connection_(connection), sql_(std::move(sql)) {}
     ~Query();
     Query(const Query&) = delete;
     Query& operator=(const Query&) = delete;
@@ -54,7 +58,7 @@ public:
     [[nodiscard]] Rows run(const Values&... values) {
         int index = 1;
         (bind(index++, values), ...);
-        return Rows(statement_);
+        return Rows(statement());
     }
 
     template <class... Values>
@@ -65,6 +69,8 @@ public:
     }
 
     void bind(int index, std::int64_t value);
+    void bind(int index, double value);
+    void bind(int index, const wire::Uuid& value); // as its text
     void bind(int index, std::string_view text);
     void bind(int index, std::u16string_view text); // as the bytes of its units
     void bind(int index, std::span<const std::uint8_t> bytes);
@@ -88,6 +94,10 @@ public:
     }
 
 private:
+    [[nodiscard]] sqlite3_stmt* statement();
+
+    sqlite3* connection_;
+    std::string sql_;
     sqlite3_stmt* statement_ = nullptr;
 };
 

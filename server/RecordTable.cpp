@@ -1,10 +1,9 @@
 #include "server/RecordTable.h"
 
 #include "server/NameKey.h"
+#include "server/RecordColumns.h"
 
 #include <sqlite3.h>
-
-#include <type_traits>
 
 namespace server {
 
@@ -13,43 +12,6 @@ namespace {
 using protocol::PrinterRecord;
 namespace type = protocol::recordType;
 namespace mode = protocol::printerListMode;
-
-// The columns are named after the fields; a piece is put around each name, with commas between.
-std::string eachColumn(const std::string& before, const std::string& after, bool withName) {
-    std::string text;
-    PrinterRecord record;
-    protocol::forEachField(record, [&](std::string_view name, const auto&) {
-        text += (text.empty() ? "" : ", ") + before + (withName ? std::string(name) : "") + after;
-    });
-    return text;
-}
-
-std::string columnNames() {
-    return eachColumn("", "", true);
-}
-
-constexpr int fieldCount = static_cast<int>(std::tuple_size_v<decltype(PrinterRecord::fields.list)>);
-
-int bindFields(Query& query, const PrinterRecord& record) {
-    int index = 1;
-    protocol::forEachField(record, [&](std::string_view, const auto& value) { query.bind(index++, value); });
-    return index;
-}
-
-PrinterRecord readFields(const Rows& rows) {
-    PrinterRecord record;
-    int column = 0;
-    protocol::forEachField(record, [&]<class Value>(std::string_view, Value& value) {
-        if constexpr (std::same_as<Value, std::string>)
-            value = rows.text(column);
-        else if constexpr (std::same_as<Value, wire::WideString>)
-            value = rows.wide(column);
-        else
-            value = static_cast<Value>(rows.number(column));
-        ++column;
-    });
-    return record;
-}
 
 std::uint16_t typeInRegion(std::uint16_t listMode) {
     switch (listMode) {
@@ -78,18 +40,20 @@ std::uint8_t regionKindOf(std::uint16_t recordType) {
 
 RecordTable::Selection::Selection(sqlite3* connection, const std::string& where)
     : count(connection, "SELECT count(*) FROM record WHERE " + where),
-      rows(connection, "SELECT " + columnNames() + " FROM record WHERE " + where + " ORDER BY nameKey, number") {}
+      rows(connection,
+           "SELECT " + columnNames<PrinterRecord>() + " FROM record WHERE " + where + " ORDER BY nameKey, number") {}
 
 RecordTable::RecordTable(sqlite3* connection)
-    : find_(connection, "SELECT " + columnNames() + ", printerId FROM record WHERE id = ?"),
+    : find_(connection, "SELECT " + columnNames<PrinterRecord>() + ", printerId FROM record WHERE id = ?"),
       nameTaken_(connection, "SELECT 1 FROM record WHERE regionId = ? AND recordType = ? AND nameKey = ? AND id <> ?"),
       queueNameTaken_(connection,
                       "SELECT mine.name FROM record AS mine JOIN record AS other ON other.regionId = ?1 AND "
                       "other.recordType = 1 AND other.nameKey = mine.nameKey "
                       "WHERE mine.printerId = ?2 AND other.printerId <> ?2 LIMIT 1"),
-      insert_(connection, "INSERT INTO record (" + columnNames() + ", regionKind, nameKey, printerId) VALUES (" +
-                              eachColumn("?", "", false) + ", ?, ?, ?)"),
-      update_(connection, "UPDATE record SET " + eachColumn("", " = ?", true) + ", nameKey = ? WHERE id = ?"),
+      insert_(connection, "INSERT INTO record (" + columnNames<PrinterRecord>() +
+                              ", regionKind, nameKey, printerId) VALUES (" + columnPlaces<PrinterRecord>() +
+                              ", ?, ?, ?)"),
+      update_(connection, "UPDATE record SET " + columnAssignments<PrinterRecord>() + ", nameKey = ? WHERE id = ?"),
       move_(connection, "UPDATE record SET regionId = ?1 WHERE id = ?2 OR printerId = ?2"),
       removeQueues_(connection, "DELETE FROM record WHERE printerId = ?"),
       remove_(connection, "DELETE FROM record WHERE id = ?"),
@@ -106,7 +70,8 @@ std::optional<StoredRecord> RecordTable::find(const std::string& id) {
     auto rows = find_.run(id);
     if (!rows.next())
         return std::nullopt;
-    return StoredRecord{.record = readFields(rows), .printerId = std::string(rows.text(fieldCount))};
+    return StoredRecord{.record = readFields<PrinterRecord>(rows),
+                        .printerId = std::string(rows.text(columnCount<PrinterRecord>))};
 }
 
 bool RecordTable::nameTaken(std::int32_t regionId, std::uint16_t recordType, const wire::WideString& name,

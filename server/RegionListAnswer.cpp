@@ -1,6 +1,6 @@
 #include "server/RegionListAnswer.h"
 
-#include "server/RecordListAnswer.h"
+#include "server/ListAnswer.h"
 
 namespace server {
 

@@ -40,8 +40,19 @@ public:
             putCounted(value.data(), value.size() * 2);
         } else if constexpr (std::same_as<Value, bool>) {
             bytes_.appendValue(static_cast<std::uint8_t>(value ? 1 : 0));
+        } else if constexpr (std::same_as<Value, wire::Uuid>) {
+            const auto characters = wire::uuidCharacters(value);
+            putCounted(characters.data(), characters.size());
+        } else if constexpr (protocol::detail::isOptional<Value>) {
+            put(value.has_value());
+            if (value)
+                put(*value);
+        } else if constexpr (protocol::detail::isList<Value>) {
+            put(static_cast<std::uint16_t>(value.size()));
+            for (const auto& element : value)
+                put(element);
         } else {
-            static_assert(std::integral<Value>);
+            static_assert(std::is_arithmetic_v<Value>);
             bytes_.appendValue(value);
         }
     }
@@ -50,23 +61,33 @@ public:
     template <protocol::Record R>
     void putRow(const Rows& rows) {
         int column = 0;
-        protocol::detail::eachField<R>([&]<class Value>(const protocol::Field<R, Value>&) {
-            if constexpr (std::same_as<Value, std::string>) {
-                const auto text = rows.text(column);
-                putCounted(text.data(), text.size());
-            } else if constexpr (std::same_as<Value, wire::WideString>) {
-                const auto text = rows.bytes(column);
-                putCounted(text.data(), text.size());
-            } else if constexpr (std::same_as<Value, bool>) {
-                bytes_.appendValue(static_cast<std::uint8_t>(rows.number(column) != 0 ? 1 : 0));
-            } else {
-                bytes_.appendValue(static_cast<Value>(rows.number(column)));
-            }
-            ++column;
-        });
+        protocol::detail::eachField<R>(
+            [&]<class Value>(const protocol::Field<R, Value>&) { putColumn<Value>(rows, column++); });
     }
 
 private:
+    template <class Value>
+    void putColumn(const Rows& rows, int column) {
+        if constexpr (protocol::detail::isOptional<Value>) {
+            put(!rows.isNull(column));
+            if (!rows.isNull(column))
+                putColumn<typename Value::value_type>(rows, column);
+        } else if constexpr (std::same_as<Value, std::string> || std::same_as<Value, wire::Uuid>) {
+            const auto text = rows.text(column);
+            putCounted(text.data(), text.size());
+        } else if constexpr (std::same_as<Value, wire::WideString>) {
+            const auto text = rows.bytes(column);
+            putCounted(text.data(), text.size());
+        } else if constexpr (std::same_as<Value, bool>) {
+            bytes_.appendValue(static_cast<std::uint8_t>(rows.number(column) != 0 ? 1 : 0));
+        } else if constexpr (std::same_as<Value, float>) {
+            bytes_.appendValue(static_cast<float>(rows.real(column)));
+        } else {
+            static_assert(std::integral<Value>, "a column holds one value");
+            bytes_.appendValue(static_cast<Value>(rows.number(column)));
+        }
+    }
+
     void putCounted(const void* bytes, std::size_t size) {
         bytes_.appendValue(static_cast<std::uint16_t>(size));
         bytes_.append(bytes, size);

@@ -2,6 +2,7 @@
 
 #include "protocol/WireOrder.h"
 
+#include <cmath>
 #include <cstring>
 #include <span>
 #include <stdexcept>
@@ -42,6 +43,21 @@ private:
             std::memcpy(value.data(), bytes.data(), value.size() * 2);
         } else if constexpr (std::same_as<Value, bool>) {
             value = number<std::uint8_t>() != 0;
+        } else if constexpr (std::same_as<Value, float>) {
+            value = number<float>();
+            if (!std::isfinite(value))
+                throw BadRequest("a fraction that is no number");
+        } else if constexpr (std::same_as<Value, wire::Uuid>) {
+            std::string text;
+            readValue(text);
+            value = parse(text);
+        } else if constexpr (protocol::detail::isOptional<Value>) {
+            if (number<std::uint8_t>() != 0)
+                readValue(value.emplace());
+        } else if constexpr (protocol::detail::isList<Value>) {
+            // A count is a peer's word: what it announces is not reserved before it has come.
+            for (auto left = number<std::uint16_t>(); left > 0; --left)
+                readValue(value.emplace_back());
         } else {
             static_assert(std::integral<Value>);
             value = number<Value>();
@@ -53,6 +69,14 @@ private:
         Number value{};
         std::memcpy(&value, take(sizeof value).data(), sizeof value);
         return value;
+    }
+
+    [[nodiscard]] static wire::Uuid parse(const std::string& text) {
+        try {
+            return wire::parseUuid(text);
+        } catch (const std::exception&) {
+            throw BadRequest("an id that is no uuid");
+        }
     }
 
     [[nodiscard]] std::span<const std::uint8_t> take(std::size_t count) {

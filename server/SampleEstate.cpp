@@ -1,8 +1,12 @@
 #include "server/SampleEstate.h"
 
 #include "server/SampleNames.h"
+#include "server/alarms/AlarmSample.h"
+#include "server/configurations/ConfigurationSample.h"
+#include "server/drivers/DriverSample.h"
+#include "server/inventory/InventorySample.h"
+#include "server/rules/RuleSample.h"
 #include "wire/Text.h"
-#include "wire/WireUuid.h"
 
 #include <fmt/format.h>
 
@@ -19,6 +23,10 @@ constexpr std::uint8_t queueTree = 0;
 constexpr std::uint8_t localTree = 1;
 constexpr int printersInHub = 10000;
 constexpr int printersInOffice = 200;
+constexpr int printersInSmall = 40;
+
+// Each part of the estate has its own chance, so that a change to one leaves the others as they were.
+enum Seed : std::uint32_t { driverSeed = 1, configurationSeed, alarmSeed, ruleSeed, inventorySeed };
 
 std::u16string numbered(std::u16string_view before, int number, int digits) {
     return std::u16string(before) + wire::toWide(fmt::format("{:0{}}", number, digits));
@@ -31,6 +39,7 @@ std::uint8_t digit(std::uint32_t value) {
 } // namespace
 
 void SampleEstate::fillSmall() {
+    addDrivers(printersInSmall);
     const auto berlin = addRegion(queueTree, 0, u"Berlin");
     const auto headquarters = addRegion(queueTree, berlin, u"Headquarters");
     const Office ground{addRegion(queueTree, headquarters, u"Ground floor"), u"BER-HQ0"};
@@ -55,9 +64,11 @@ void SampleEstate::fillSmall() {
     addLocalPrinters({addRegion(localTree, home, u"North"), u"HOME-N"}, 4);
     addLocalPrinters({addRegion(localTree, home, u"South"), u"HOME-S"}, 3);
     addLocalPrinters({addRegion(localTree, 0, u"Field service"), u"FIELD"}, 2);
+    addTheRest(printersInSmall);
 }
 
 void SampleEstate::fill(int printers) {
+    addDrivers(printers);
     const int inHub = std::min(printers / 2, printersInHub);
     addPrinters({addRegion(queueTree, 0, u"Central Print Hub"), u"HUB"}, inHub, 1);
 
@@ -85,6 +96,7 @@ void SampleEstate::fill(int printers) {
             addLocalPrinters({addRegion(localTree, fieldService, place.city), std::u16string(place.code) + u"-L"}, 5);
         left -= here;
     }
+    addTheRest(printers);
 }
 
 std::int32_t SampleEstate::addRegion(std::uint8_t kind, std::int32_t parentId, std::u16string_view name) {
@@ -94,9 +106,9 @@ std::int32_t SampleEstate::addRegion(std::uint8_t kind, std::int32_t parentId, s
 void SampleEstate::addPrinters(const Office& office, int count, int mostQueues) {
     for (int number = 1; number <= count; ++number) {
         auto printer = makeRecord(office, type::printer, numbered(office.code + u"-", number, count > 999 ? 5 : 3));
-        const auto queues = 1 + below(static_cast<std::uint32_t>(mostQueues));
+        const auto queues = 1 + random_.below(static_cast<std::uint32_t>(mostQueues));
         for (std::uint32_t queue = 0; queue < queues; ++queue)
-            printer.jobs = static_cast<std::uint16_t>(printer.jobs + (below(3) == 0 ? below(12) : 0));
+            printer.jobs = static_cast<std::uint16_t>(printer.jobs + (random_.below(3) == 0 ? random_.below(12) : 0));
         estate_.records().insert({.record = printer, .printerId = {}});
         for (std::uint32_t queue = 0; queue < queues; ++queue) {
             auto record = makeRecord(office, type::queue, printer.name + (queue == 0 ? u"-mono" : u"-color"));
@@ -113,7 +125,7 @@ void SampleEstate::addFollowQueue(const Office& office, int number) {
     auto record = makeRecord(office, type::followQueue, numbered(office.code + u"-follow-me-", number, 1));
     record.ip.clear();
     record.fpBoxIp = fmt::format("10.250.{}.{}", office.region % 250, number);
-    record.jobs = static_cast<std::uint16_t>(below(20));
+    record.jobs = static_cast<std::uint16_t>(random_.below(20));
     estate_.records().insert({.record = record, .printerId = {}});
 }
 
@@ -126,14 +138,14 @@ void SampleEstate::addLocalPrinters(const Office& office, int count) {
 }
 
 protocol::PrinterRecord SampleEstate::makeRecord(const Office& office, std::uint16_t recordType, std::u16string name) {
-    const auto& model = anyOf(sample::models);
+    const auto& model = random_.anyOf(sample::models);
     const std::uint32_t number = made_++;
     protocol::PrinterRecord record;
     record.ip = fmt::format("10.{}.{}.{}", 1 + number / 62500 % 250, number / 250 % 250, 1 + number % 250);
-    record.id = newId();
+    record.id = random_.newId();
     record.name = std::move(name);
-    record.location = anyOf(sample::rooms);
-    record.comment = anyOf(sample::comments);
+    record.location = random_.anyOf(sample::rooms);
+    record.comment = random_.anyOf(sample::comments);
     record.modelName = model.name;
     record.modelId = model.id;
     record.lprQueueName = recordType == type::printer ? u"lp" : u"";
@@ -147,21 +159,24 @@ protocol::PrinterRecord SampleEstate::makeRecord(const Office& office, std::uint
     record.snmpActive = recordType == type::printer;
     record.snmpIndex = 1;
     record.snmpCommunity = u"public";
-    record.accounting = below(4) == 0 ? 3 : 0;
+    record.accounting = random_.below(4) == 0 ? 3 : 0;
     return record;
 }
 
-std::string SampleEstate::newId() {
-    wire::Uuid id;
-    for (auto& byte : id)
-        byte = static_cast<std::uint8_t>(below(256));
-    id.data[6] = static_cast<std::uint8_t>((id.data[6] & 0x0F) | 0x40); // version 4
-    id.data[8] = static_cast<std::uint8_t>((id.data[8] & 0x3F) | 0x80);
-    return wire::toText(id);
+void SampleEstate::addDrivers(int printers) {
+    SampleRandom random(driverSeed);
+    addDriverSample(estate_, random, printers);
 }
 
-std::uint32_t SampleEstate::below(std::uint32_t bound) {
-    return static_cast<std::uint32_t>(random_()) % bound;
+void SampleEstate::addTheRest(int printers) {
+    const auto add = [&](auto& part, std::uint32_t seed) {
+        SampleRandom random(seed);
+        part(estate_, random, printers);
+    };
+    add(addConfigurationSample, configurationSeed);
+    add(addAlarmSample, alarmSeed);
+    add(addRuleSample, ruleSeed);
+    add(addInventorySample, inventorySeed);
 }
 
 } // namespace server

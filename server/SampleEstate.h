@@ -1,8 +1,7 @@
 #pragma once
 
 #include "server/Estate.h"
-
-#include <random>
+#include "server/SampleRandom.h"
 
 namespace server {
 
@@ -32,15 +31,12 @@ private:
 
     [[nodiscard]] protocol::PrinterRecord makeRecord(const Office& office, std::uint16_t recordType,
                                                      std::u16string name);
-    [[nodiscard]] std::string newId();
-    [[nodiscard]] std::uint32_t below(std::uint32_t bound);
-    template <class List>
-    [[nodiscard]] const auto& anyOf(const List& list) {
-        return list[below(static_cast<std::uint32_t>(list.size()))];
-    }
+    // All that the regions and printers stand on, and all that stands on them.
+    void addDrivers(int printers);
+    void addTheRest(int printers);
 
     Estate& estate_;
-    std::mt19937 random_; // the same numbers in each run
+    SampleRandom random_;
     std::uint32_t made_ = 0;
 };
 

@@ -1,6 +1,11 @@
 #include "server/Schema.h"
 
 #include "server/StoreError.h"
+#include "server/alarms/AlarmSchema.h"
+#include "server/configurations/ConfigurationSchema.h"
+#include "server/drivers/DriverSchema.h"
+#include "server/inventory/InventorySchema.h"
+#include "server/rules/RuleSchema.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
@@ -14,8 +19,7 @@ namespace {
 
 constexpr int applicationId = 0x56746C64; // "Vtld"
 
-// Each step takes a database from the version that is its index to the next. Steps that have shipped never change.
-constexpr std::array<const char*, 1> steps = {R"sql(
+constexpr const char* estateTables = R"sql(
     CREATE TABLE region (
         id INTEGER PRIMARY KEY AUTOINCREMENT CHECK (id <= 2147483647),
         kind INTEGER NOT NULL CHECK (kind IN (0, 1)),
@@ -84,7 +88,11 @@ constexpr std::array<const char*, 1> steps = {R"sql(
         onlyOne INTEGER PRIMARY KEY CHECK (onlyOne = 1),
         privateKey BLOB NOT NULL
     ) STRICT;
-)sql"};
+)sql";
+
+// Each step takes a database from the version that is its index to the next. Steps that have shipped never change.
+constexpr std::array steps = {estateTables, driverTables, configurationTables,
+                              ruleTables,   alarmTables,  inventoryTables};
 
 int pragma(SQLite::Database& database, const char* name) {
     return database.execAndGet(std::string("PRAGMA ") + name).getInt();

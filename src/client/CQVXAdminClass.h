@@ -3,6 +3,11 @@
 #include "client/CQVXAdminClass2.h"
 #include "client/RawReply.h"
 #include "client/RecordCursor.h"
+#include "client/alarms/AlarmCommands.h"
+#include "client/configurations/ConfigurationCommands.h"
+#include "client/drivers/DriverCommands.h"
+#include "client/inventory/InventoryCommands.h"
+#include "client/rules/RuleCommands.h"
 #include "protocol/CreateRecordReply.h"
 #include "protocol/FieldValue.h"
 #include "protocol/ListPrinterRecordsRequest.h"
@@ -26,7 +31,12 @@ namespace client {
 // An operation that gives a bool is false when there is no connection, or when no reply came; a write command that went
 // out is true, whatever the server makes of it. Every operation may throw: ConnectFailed, std::runtime_error with the
 // text of a reader, wire::Cancelled, and the plain strings of the wire layer. Belongs to one thread.
-class CQVXAdminClass : public CQVXAdminClass2 {
+class CQVXAdminClass : public CQVXAdminClass2,
+                       public DriverCommands,
+                       public ConfigurationCommands,
+                       public RuleCommands,
+                       public AlarmCommands,
+                       public InventoryCommands {
 public:
     CQVXAdminClass(); // on theProperties
     explicit CQVXAdminClass(std::shared_ptr<CQVXAdminClassProperties> settingsToUse);

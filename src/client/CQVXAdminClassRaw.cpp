@@ -19,14 +19,23 @@ const protocol::Command& callable(std::uint16_t opcode) {
     return *command;
 }
 
-void take(RawReply& reply, std::unique_ptr<wire::Message> message) {
-    if (reply.command->replyRecord != nullptr)
-        reply.records.push_back(protocol::readFields(*message, *reply.command->replyRecord));
+// What the records of the reply to these fields look like.
+const protocol::RecordLayout* recordLayout(const protocol::Command& command,
+                                           std::span<const protocol::FieldValue> fields) {
+    const auto* const first = fields.empty() ? nullptr : std::get_if<std::uint8_t>(&fields.front().value);
+    if (command.otherRecord.layout != nullptr && first != nullptr && *first == command.otherRecord.firstByte)
+        return command.otherRecord.layout;
+    return command.replyRecord;
+}
+
+void take(RawReply& reply, const protocol::RecordLayout* layout, std::unique_ptr<wire::Message> message) {
+    if (layout != nullptr)
+        reply.records.push_back(protocol::readFields(*message, *layout));
     else
         reply.undescribed.push_back(std::move(message));
 }
 
-void readList(Exchange& exchange, RawReply& reply) {
+void readList(Exchange& exchange, RawReply& reply, const protocol::RecordLayout* layout) {
     const auto first = exchange.receive();
     if (!first) {
         reply.complete = false;
@@ -37,9 +46,9 @@ void readList(Exchange& exchange, RawReply& reply) {
     const bool allInOne = reply.command->opcode == protocol::ListRegionsRequest::opcode && !onlyCount;
     for (std::uint16_t index = 0; index < count && reply.complete; ++index) {
         if (allInOne) {
-            exchange.run([&] { reply.records.push_back(protocol::readFields(*first, *reply.command->replyRecord)); });
+            exchange.run([&] { reply.records.push_back(protocol::readFields(*first, *layout)); });
         } else if (auto message = exchange.receive()) {
-            exchange.run([&] { take(reply, std::move(message)); });
+            exchange.run([&] { take(reply, layout, std::move(message)); });
         } else {
             reply.complete = false;
             break;
@@ -59,10 +68,10 @@ RawReply CQVXAdminClass::rawCall(std::uint16_t opcode, std::span<const protocol:
         throw ConnectFailed();
     exchange.send(std::move(data));
     if (reply.command->reply == protocol::ReplyShape::list) {
-        readList(exchange, reply);
+        readList(exchange, reply, recordLayout(*reply.command, fields));
     } else if (reply.command->reply != protocol::ReplyShape::none) {
         if (auto message = exchange.receive())
-            exchange.run([&] { take(reply, std::move(message)); });
+            exchange.run([&] { take(reply, reply.command->replyRecord, std::move(message)); });
         else
             reply.complete = false;
     }

@@ -34,6 +34,18 @@ enum class SendForm : std::uint8_t {
     guarded, // throws "failed to send messages"
 };
 
+// One of several forms that the request of one opcode can have.
+struct RequestForm {
+    std::string_view when; // for people: "action 1 adds, 2 updates"
+    const RecordLayout* layout = nullptr;
+};
+
+// What a list holds instead of its usual records when its request begins with that byte.
+struct OtherRecord {
+    std::uint8_t firstByte = 0;
+    const RecordLayout* layout = nullptr;
+};
+
 // One command of the protocol.
 struct Command {
     std::uint16_t opcode = 0;
@@ -45,8 +57,10 @@ struct Command {
     bool closes = true; // the console ends the connection by itself
     ReaderForm reader = ReaderForm::none;
     SendForm send = SendForm::plain;
-    const RecordLayout* request = nullptr;     // null: several forms, or not described here
-    const RecordLayout* replyRecord = nullptr; // of a list the record; null: none, or not described here
+    const RecordLayout* request = nullptr; // null: several forms
+    std::span<const RequestForm> forms = {};
+    const RecordLayout* replyRecord = nullptr; // of a list the record; null: none
+    OtherRecord otherRecord = {};
 };
 
 // All commands, by opcode. Opcodes 7, 8, 26, 35, 63 and 72 are not in use.

@@ -1,4 +1,4 @@
-#include "server/Answer.h"
+#include "server/Handler.h"
 
 #include "tests/server/TestClient.h"
 #include "tests/server/TestEstate.h"
@@ -12,7 +12,7 @@ using namespace test; // the words of requests
 
 // All frames of the answer, asked for in pieces of the size.
 test::Bytes answerOf(Estate& estate, std::uint16_t opcode, const test::Bytes& fields, std::size_t piece = 65536) {
-    const auto answer = makeAnswer(opcode, fields, estate);
+    const auto answer = findHandler(opcode, fields)->answer(fields, estate);
     test::Bytes all;
     for (bool more = true; more;) {
         ReplyBuffer buffer;
@@ -30,13 +30,20 @@ test::Bytes printersOf(std::int32_t region) {
     return test::str8("") + test::u32(static_cast<std::uint32_t>(region)) + test::u16(0);
 }
 
-TEST(Answer, thereIsNoneForACommandThatDoesNotRead) {
-    TestEstate place;
-    EXPECT_EQ(makeAnswer(1, {}, place.estate()), nullptr);
-    EXPECT_FALSE(isAnswered(1));
-    EXPECT_TRUE(isAnswered(0));
-    EXPECT_TRUE(isAnswered(6));
-    EXPECT_TRUE(isAnswered(76));
+TEST(Handler, aCommandEitherReadsOrChanges) {
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{0, 6, 76}) {
+        EXPECT_NE(findHandler(opcode, {})->answer, nullptr) << opcode;
+        EXPECT_EQ(findHandler(opcode, {})->prepare, nullptr) << opcode;
+    }
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{1, 2, 3, 9, 10, 21, 36, 45, 74}) {
+        EXPECT_NE(findHandler(opcode, {})->prepare, nullptr) << opcode;
+        EXPECT_EQ(findHandler(opcode, {})->answer, nullptr) << opcode;
+    }
+}
+
+TEST(Handler, anOpcodeThatIsNotInUseHasNone) {
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{7, 8, 26, 35, 63, 72, 85, 65535})
+        EXPECT_EQ(findHandler(opcode, {}), nullptr) << opcode;
 }
 
 TEST(RegionListAnswer, noRegionsAreOneMessageWithACountOfZero) {
@@ -85,13 +92,13 @@ TEST(RegionListAnswer, aLongerListIsCountedAndSentRecordByRecord) {
     EXPECT_TRUE(second.atEnd());
 }
 
-TEST(RecordListAnswer, aCountOfZeroIsOneFrameAndNoRecordFollows) {
+TEST(ListAnswer, aCountOfZeroIsOneFrameAndNoRecordFollows) {
     TestEstate place;
     EXPECT_EQ(support::toHex(answerOf(place.estate(), 6, printersOf(1))),
               "01 07 00 00 00 08 00 00 00 01 07 00 00 00 00 00");
 }
 
-TEST(RecordListAnswer, aRecordGoesOutWithAllItsFields) {
+TEST(ListAnswer, aRecordGoesOutWithAllItsFields) {
     TestEstate place;
     const auto region = place.addRegion(u"North");
     const auto id = place.addPrinter(u"P", region);
@@ -104,7 +111,7 @@ TEST(RecordListAnswer, aRecordGoesOutWithAllItsFields) {
                                                "00 00 00 00 00 00 00 00 00 00 00 00 00 00");
 }
 
-TEST(RecordListAnswer, piecesOfAnySizeGiveTheSameBytes) {
+TEST(ListAnswer, piecesOfAnySizeGiveTheSameBytes) {
     TestEstate place;
     const auto region = place.addRegion(u"North");
     for (int number = 0; number < 20; ++number)
@@ -115,7 +122,7 @@ TEST(RecordListAnswer, piecesOfAnySizeGiveTheSameBytes) {
         EXPECT_EQ(answerOf(place.estate(), 6, printersOf(region), piece), whole) << piece;
 }
 
-TEST(RecordListAnswer, aListOfMoreThanAConsoleTakesIsCut) {
+TEST(ListAnswer, aListOfMoreThanAConsoleTakesIsCut) {
     TestEstate place;
     const auto region = place.addRegion(u"North");
     place.estate().change([&] {

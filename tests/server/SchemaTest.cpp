@@ -31,7 +31,7 @@ TEST(Schema, anEmptyFileGetsTheTablesAndTheVersion) {
     EXPECT_TRUE(database.tableExists("record"));
     EXPECT_TRUE(database.tableExists("account"));
     EXPECT_TRUE(database.tableExists("loginKey"));
-    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 1);
+    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 6);
     EXPECT_EQ(database.execAndGet("PRAGMA application_id").getInt(), 0x56746C64);
 }
 
@@ -71,7 +71,7 @@ TEST(Schema, theDatabaseOfANewerServerIsRefused) {
     migrate(database);
     database.exec("PRAGMA user_version = 99");
     EXPECT_EQ(messageOf(database),
-              "the database was written by a newer server (version 99, this server knows up to 1)");
+              "the database was written by a newer server (version 99, this server knows up to 6)");
 }
 
 } // namespace

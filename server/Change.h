@@ -3,10 +3,8 @@
 #include "protocol/StatusReply.h"
 #include "server/Estate.h"
 #include "server/ReplyBuffer.h"
-#include "server/RequestReader.h"
 
 #include <functional>
-#include <optional>
 
 namespace server {
 
@@ -17,7 +15,14 @@ struct Change {
     std::function<protocol::StatusReply(Estate&, ReplyBuffer&)> make;
 };
 
-// The change that a request asks for; nothing when the opcode stands for none. Throws BadRequest.
-[[nodiscard]] std::optional<Change> prepareChange(std::uint16_t opcode, std::span<const std::uint8_t> fields);
+// What became of a change whose reply does not tell it.
+template <protocol::Record Reply>
+struct Outcome {
+    protocol::StatusReply status;
+    Reply reply;
+};
+
+// The refusal of a change that the database did not take; the log has it too.
+[[nodiscard]] protocol::StatusReply databaseRefused(const char* reason);
 
 } // namespace server

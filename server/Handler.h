@@ -1,0 +1,123 @@
+#pragma once
+
+#include "protocol/CreateRecordReply.h"
+#include "server/Change.h"
+#include "server/ListAnswer.h"
+#include "server/RequestReader.h"
+#include "server/StoreError.h"
+
+#include <algorithm>
+#include <memory>
+
+// How the server's handlers are listed: one for each command, or for each form of one.
+namespace server {
+
+using Fields = std::span<const std::uint8_t>;
+
+// Carries out one command: either it changes something or it answers.
+struct Handler {
+    std::uint16_t opcode = 0;
+    bool (*takes)(Fields) = nullptr; // of several forms of one opcode; null: all
+    Change (*prepare)(Fields) = nullptr;
+    std::unique_ptr<Answer> (*answer)(Fields, Estate&) = nullptr; // uses the estate until it goes
+};
+
+namespace detail {
+
+// The first byte of the request is one of the actions of this form.
+template <class Request>
+bool isActionOf(Fields fields) {
+    return !fields.empty() && std::ranges::find(Request::actions, fields.front()) != std::end(Request::actions);
+}
+
+template <class Request>
+constexpr auto formOf() -> bool (*)(Fields) {
+    if constexpr (requires { Request::actions; })
+        return &isActionOf<Request>;
+    else
+        return nullptr;
+}
+
+inline const protocol::StatusReply& statusOf(const protocol::StatusReply& reply) {
+    return reply;
+}
+template <class Reply>
+const protocol::StatusReply& statusOf(const Reply& reply) {
+    return reply.status;
+}
+
+inline void refuse(protocol::StatusReply& reply, protocol::StatusReply status) {
+    reply = std::move(status);
+}
+template <class Reply>
+void refuse(Reply& reply, protocol::StatusReply status) {
+    reply.status = std::move(status);
+}
+
+template <class Reply>
+void putReply(ReplyBuffer& buffer, const Reply& reply) {
+    buffer.putFrame(reply);
+}
+template <class Reply>
+void putReply(ReplyBuffer& buffer, const Outcome<Reply>& outcome) {
+    buffer.putFrame(outcome.reply);
+}
+
+template <class Rules, auto operation, class Request, bool replies>
+Change prepareChange(Fields fields) {
+    auto request = RequestReader(fields).read<Request>();
+    auto make = [request = std::move(request)](Estate& estate, ReplyBuffer& buffer) -> protocol::StatusReply {
+        decltype((std::declval<Rules&>().*operation)(request)) reply;
+        try {
+            reply = estate.change([&] { return (Rules(estate).*operation)(request); });
+        } catch (const StoreError& error) {
+            reply = {};
+            refuse(reply, databaseRefused(error.what()));
+        }
+        if constexpr (replies)
+            putReply(buffer, reply);
+        return statusOf(reply);
+    };
+    return {.isAnswered = replies, .make = std::move(make)};
+}
+
+} // namespace detail
+
+// A change without an answer: Rules are made of the estate, the operation takes the request and gives a StatusReply.
+template <class Rules, auto operation, class Request>
+constexpr Handler changes = {.opcode = Request::opcode,
+                             .takes = detail::formOf<Request>(),
+                             .prepare = &detail::prepareChange<Rules, operation, Request, false>};
+
+// A change whose console waits for its reply: a StatusReply, a record with a status in it, or an Outcome.
+template <class Rules, auto operation, class Request>
+constexpr Handler changesWithReply = {.opcode = Request::opcode,
+                                      .takes = detail::formOf<Request>(),
+                                      .prepare = &detail::prepareChange<Rules, operation, Request, true>};
+
+// A list of R: the function takes the estate and the request and gives a Listing.
+template <class Request, class R, auto list>
+constexpr Handler lists = {.opcode = Request::opcode,
+                           .takes = detail::formOf<Request>(),
+                           .answer = [](Fields fields, Estate& estate) -> std::unique_ptr<Answer> {
+                               const auto request = RequestReader(fields).read<Request>();
+                               return std::make_unique<ListAnswer<R>>(estate,
+                                                                      [&] { return list(estate, request); });
+                           }};
+
+// A single reply: the function takes the estate and the request and gives it, or nothing for no reply at all.
+template <class Request, auto ask>
+constexpr Handler answers = {
+    .opcode = Request::opcode,
+    .takes = detail::formOf<Request>(),
+    .answer = [](Fields fields, Estate& estate) -> std::unique_ptr<Answer> {
+        using Reply = typename decltype(ask(estate, std::declval<const Request&>()))::value_type;
+        const auto request = RequestReader(fields).read<Request>();
+        return std::make_unique<SingleAnswer<Reply>>(ask(estate, request));
+    }};
+
+// The handler of a request; null when this server has none for the opcode. Throws BadRequest when it has some, and none
+// of them takes the request's form.
+[[nodiscard]] const Handler* findHandler(std::uint16_t opcode, Fields fields);
+
+} // namespace server

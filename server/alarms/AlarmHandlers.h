@@ -1,0 +1,10 @@
+#pragma once
+
+#include "server/Handler.h"
+
+namespace server {
+
+// The commands for alarm programs and e-mail recipients.
+[[nodiscard]] std::span<const Handler> alarmHandlers();
+
+} // namespace server

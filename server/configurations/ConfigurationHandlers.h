@@ -1,0 +1,10 @@
+#pragma once
+
+#include "server/Handler.h"
+
+namespace server {
+
+// The commands for configurations of driver models and of queues.
+[[nodiscard]] std::span<const Handler> configurationHandlers();
+
+} // namespace server

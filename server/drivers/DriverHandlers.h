@@ -1,0 +1,10 @@
+#pragma once
+
+#include "server/Handler.h"
+
+namespace server {
+
+// The commands for brands, models, drivers and deployments.
+[[nodiscard]] std::span<const Handler> driverHandlers();
+
+} // namespace server

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "server/Handler.h"
+
+namespace server {
+
+// The commands for inventory reports, migration plans and IP ranges.
+[[nodiscard]] std::span<const Handler> inventoryHandlers();
+
+} // namespace server

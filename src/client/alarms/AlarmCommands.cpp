@@ -1,0 +1,3 @@
+#include "client/alarms/AlarmCommands.h"
+
+namespace client {}

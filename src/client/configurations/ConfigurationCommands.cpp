@@ -1,0 +1,3 @@
+#include "client/configurations/ConfigurationCommands.h"
+
+namespace client {}

@@ -1,0 +1,3 @@
+#include "client/drivers/DriverCommands.h"
+
+namespace client {}

@@ -1,0 +1,3 @@
+#include "client/inventory/InventoryCommands.h"
+
+namespace client {}

@@ -1,0 +1,3 @@
+#include "client/rules/RuleCommands.h"
+
+namespace client {}
