@@ -15,8 +15,8 @@ Listing listRecords(Estate& estate, const protocol::ListPrinterRecordsRequest& r
 }
 
 // 0 for a printer that is not there.
-std::optional<protocol::GetStatusOctetOrderReply>
-tellOctetOrder(Estate& estate, const protocol::GetStatusOctetOrderRequest& request) {
+std::optional<protocol::GetStatusOctetOrderReply> tellOctetOrder(Estate& estate,
+                                                                 const protocol::GetStatusOctetOrderRequest& request) {
     return protocol::GetStatusOctetOrderReply{.order = estate.records().octetOrder(request.printerId).value_or(0)};
 }
 

@@ -46,12 +46,12 @@ const protocol::StatusReply& statusOf(const Reply& reply) {
     return reply.status;
 }
 
-inline void refuse(protocol::StatusReply& reply, protocol::StatusReply status) {
-    reply = std::move(status);
+inline void refuse(protocol::StatusReply& reply, const protocol::StatusReply& status) {
+    reply = status;
 }
 template <class Reply>
-void refuse(Reply& reply, protocol::StatusReply status) {
-    reply.status = std::move(status);
+void refuse(Reply& reply, const protocol::StatusReply& status) {
+    reply.status = status;
 }
 
 template <class Reply>
@@ -101,20 +101,19 @@ constexpr Handler lists = {.opcode = Request::opcode,
                            .takes = detail::formOf<Request>(),
                            .answer = [](Fields fields, Estate& estate) -> std::unique_ptr<Answer> {
                                const auto request = RequestReader(fields).read<Request>();
-                               return std::make_unique<ListAnswer<R>>(estate,
-                                                                      [&] { return list(estate, request); });
+                               return std::make_unique<ListAnswer<R>>(estate, [&] { return list(estate, request); });
                            }};
 
 // A single reply: the function takes the estate and the request and gives it, or nothing for no reply at all.
 template <class Request, auto ask>
-constexpr Handler answers = {
-    .opcode = Request::opcode,
-    .takes = detail::formOf<Request>(),
-    .answer = [](Fields fields, Estate& estate) -> std::unique_ptr<Answer> {
-        using Reply = typename decltype(ask(estate, std::declval<const Request&>()))::value_type;
-        const auto request = RequestReader(fields).read<Request>();
-        return std::make_unique<SingleAnswer<Reply>>(ask(estate, request));
-    }};
+constexpr Handler answers = {.opcode = Request::opcode,
+                             .takes = detail::formOf<Request>(),
+                             .answer = [](Fields fields, Estate& estate) -> std::unique_ptr<Answer> {
+                                 using Reply =
+                                     typename decltype(ask(estate, std::declval<const Request&>()))::value_type;
+                                 const auto request = RequestReader(fields).read<Request>();
+                                 return std::make_unique<SingleAnswer<Reply>>(ask(estate, request));
+                             }};
 
 // The handler of a request; null when this server has none for the opcode. Throws BadRequest when it has some, and none
 // of them takes the request's form.

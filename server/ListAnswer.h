@@ -10,7 +10,8 @@ namespace server {
 // What of a list of so many is announced; a longer one is cut, and the log says so.
 [[nodiscard]] std::int64_t announcedCount(std::int64_t count);
 
-// A list: the count and the rows of one moment, streamed from the database. The columns of the rows are the fields of R.
+// A list: the count and the rows of one moment, streamed from the database. The columns of the rows are the fields of
+// R.
 template <protocol::Record R>
 class ListAnswer final : public Answer {
 public:

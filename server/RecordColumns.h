@@ -12,9 +12,8 @@ namespace server {
 template <protocol::Record R>
 [[nodiscard]] std::string columnNames(std::string_view prefix = {}) {
     std::string text;
-    protocol::detail::eachField<R>([&](const auto& one) {
-        text.append(text.empty() ? "" : ", ").append(prefix).append(one.name);
-    });
+    protocol::detail::eachField<R>(
+        [&](const auto& one) { text.append(text.empty() ? "" : ", ").append(prefix).append(one.name); });
     return text;
 }
 
@@ -30,9 +29,8 @@ template <protocol::Record R>
 template <protocol::Record R>
 [[nodiscard]] std::string columnAssignments() {
     std::string text;
-    protocol::detail::eachField<R>([&](const auto& one) {
-        text.append(text.empty() ? "" : ", ").append(one.name).append(" = ?");
-    });
+    protocol::detail::eachField<R>(
+        [&](const auto& one) { text.append(text.empty() ? "" : ", ").append(one.name).append(" = ?"); });
     return text;
 }
 

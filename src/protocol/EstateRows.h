@@ -26,8 +26,8 @@
 namespace protocol {
 
 // The commands for regions, printers and queues, and the login. The list of regions comes as one message with all
-// records as long as they fit, and only beyond that in the form of the other lists. CreateRecord and UpdateRecord have a
-// single reply that must not be missing.
+// records as long as they fit, and only beyond that in the form of the other lists. CreateRecord and UpdateRecord have
+// a single reply that must not be missing.
 inline constexpr Command estateRows[] = {
     row(0, "ListRegions", "lists the regions of a tree, all or below one parent")
         .asks<ListRegionsRequest>()
