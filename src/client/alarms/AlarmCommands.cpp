@@ -1,3 +1,129 @@
 #include "client/alarms/AlarmCommands.h"
 
-namespace client {}
+#include "client/ServerCalls.h"
+#include "protocol/alarms/AddProgramActionRequest.h"
+#include "protocol/alarms/DeleteProgramActionRequest.h"
+#include "protocol/alarms/ListAlarmActionsRequest.h"
+#include "protocol/alarms/ListAlarmDestinationsRequest.h"
+#include "protocol/alarms/ListAlarmEventsRequest.h"
+#include "protocol/alarms/ListAlarmProgramsRequest.h"
+#include "protocol/alarms/ListEmailRecipientsRequest.h"
+#include "protocol/alarms/ListProgramActionsRequest.h"
+#include "protocol/alarms/SetRecipientActiveRequest.h"
+#include "protocol/alarms/WriteAlarmProgramReply.h"
+#include "protocol/alarms/WriteAlarmProgramRequest.h"
+#include "protocol/alarms/WriteEmailRecipientRequest.h"
+
+namespace client {
+namespace {
+
+// What a record is called, or its id where it has no name.
+std::string label(const wire::WideString& name, const std::string& id) {
+    return name.empty() ? id : wire::toUtf8(name);
+}
+
+// Lists into a cursor, which is empty when the list does not come.
+template <class R, class Request>
+bool listInto(RecordCursor<R>& cursor, CQVXAdminClass2& client, const Request& request, std::string summary) {
+    std::vector<R> records;
+    cursor.fill({});
+    const bool listed = listRecords(client, request, records, std::move(summary));
+    cursor.fill(std::move(records));
+    return listed;
+}
+
+template <class R>
+bool nextInto(RecordCursor<R>& cursor, R& record) {
+    auto next = cursor.next();
+    if (!next)
+        return false;
+    record = std::move(*next);
+    return true;
+}
+
+} // namespace
+
+bool AlarmCommands::listEmailRecipients(const std::string& id) {
+    return listInto(recipients_, client_, protocol::ListEmailRecipientsRequest{.id = id}, id);
+}
+
+bool AlarmCommands::nextEmailRecipient(protocol::EmailRecipientRecord& recipient) {
+    return nextInto(recipients_, recipient);
+}
+
+bool AlarmCommands::writeEmailRecipient(const protocol::EmailRecipientRecord& recipient) {
+    return sendCommand(client_,
+                       protocol::WriteEmailRecipientRequest{.id = recipient.id,
+                                                            .name = recipient.name,
+                                                            .email = recipient.email,
+                                                            .active = static_cast<std::uint8_t>(recipient.active)},
+                       label(recipient.name, recipient.id));
+}
+
+bool AlarmCommands::deleteEmailRecipient(const std::string& id) {
+    return writeEmailRecipient({.id = id, .email = {}, .name = {}});
+}
+
+bool AlarmCommands::setRecipientActive(const std::string& id, bool active) {
+    return sendCommand(client_,
+                       protocol::SetRecipientActiveRequest{.id = id, .active = static_cast<std::uint8_t>(active)}, id);
+}
+
+bool AlarmCommands::listAlarmPrograms(std::uint8_t kind, const std::string& id) {
+    return listInto(programs_, client_, protocol::ListAlarmProgramsRequest{.kind = kind, .filter = id}, id);
+}
+
+bool AlarmCommands::nextAlarmProgram(protocol::AlarmProgramRecord& program) {
+    return nextInto(programs_, program);
+}
+
+bool AlarmCommands::writeAlarmProgram(std::string& id, const wire::WideString& name, const wire::WideString& comment,
+                                      const wire::WideString& createdBy) {
+    auto reply = askServer<protocol::WriteAlarmProgramReply>(
+        client_, protocol::WriteAlarmProgramRequest{.id = id, .name = name, .comment = comment, .createdBy = createdBy},
+        label(name, id));
+    if (!reply)
+        return false;
+    id = std::move(reply->id);
+    return true;
+}
+
+bool AlarmCommands::deleteAlarmProgram(const std::string& id) {
+    std::string answered = id;
+    return writeAlarmProgram(answered, {}, {}, {});
+}
+
+bool AlarmCommands::listAlarmEvents(protocol::AlarmEventRecord& event) {
+    return events_.next(client_, protocol::ListAlarmEventsRequest{}, event);
+}
+
+bool AlarmCommands::listAlarmActions(protocol::AlarmActionRecord& action) {
+    return actions_.next(client_, protocol::ListAlarmActionsRequest{}, action);
+}
+
+bool AlarmCommands::listAlarmDestinations(std::uint16_t actionCode, protocol::AlarmDestinationRecord& destination) {
+    return destinations_.next(client_, protocol::ListAlarmDestinationsRequest{.actionCode = actionCode}, destination);
+}
+
+bool AlarmCommands::listProgramActions(const std::string& programId) {
+    return listInto(programActions_, client_, protocol::ListProgramActionsRequest{.programId = programId}, programId);
+}
+
+bool AlarmCommands::nextProgramAction(protocol::ProgramActionRecord& action) {
+    return nextInto(programActions_, action);
+}
+
+bool AlarmCommands::addProgramAction(const std::string& programId, const std::string& eventId, std::uint16_t actionCode,
+                                     const std::string& destinationId) {
+    return sendCommand(
+        client_,
+        protocol::AddProgramActionRequest{
+            .programId = programId, .eventId = eventId, .actionCode = actionCode, .destinationId = destinationId},
+        eventId);
+}
+
+bool AlarmCommands::deleteProgramAction(const std::string& actionId) {
+    return sendCommand(client_, protocol::DeleteProgramActionRequest{.actionId = actionId}, actionId);
+}
+
+} // namespace client
