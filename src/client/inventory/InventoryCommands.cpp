@@ -1,3 +1,179 @@
 #include "client/inventory/InventoryCommands.h"
 
-namespace client {}
+#include "client/ServerCalls.h"
+#include "protocol/inventory/ChangeIpRangeRequest.h"
+#include "protocol/inventory/ChangeSchemaRequest.h"
+#include "protocol/inventory/DeleteInventoryReportRequest.h"
+#include "protocol/inventory/ListInventoryModelsRequest.h"
+#include "protocol/inventory/ListInventoryPrintersRequest.h"
+#include "protocol/inventory/ListInventoryReportsRequest.h"
+#include "protocol/inventory/ListIpRangesRequest.h"
+#include "protocol/inventory/ListSchemasRequest.h"
+#include "protocol/inventory/RangeListKind.h"
+#include "protocol/inventory/SchemaListKind.h"
+#include "protocol/inventory/SearchQueuesRequest.h"
+
+namespace client {
+namespace {
+
+// The operations of a changed plan.
+constexpr std::uint8_t createsSchema = 1;
+constexpr std::uint8_t savesSchema = 2;
+constexpr std::uint8_t deletesSchema = 4;
+
+// The operations of a changed range.
+constexpr std::uint8_t addsRange = 1;
+constexpr std::uint8_t savesRange = 2;
+constexpr std::uint8_t deletesRange = 3;
+constexpr std::uint8_t setsRangeActive = 4;
+
+// A list into its cursor, which holds nothing when the list fails.
+template <class R, class Request>
+bool fillCursor(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary) {
+    std::vector<R> records;
+    cursor.fill({});
+    const bool listed = listRecords(client, request, records, std::move(summary));
+    cursor.fill(std::move(records));
+    return listed;
+}
+
+template <class R>
+bool takeNext(RecordCursor<R>& cursor, R& record) {
+    auto next = cursor.next();
+    if (!next)
+        return false;
+    record = std::move(*next);
+    return true;
+}
+
+} // namespace
+
+bool InventoryCommands::listSchemas(const std::string& reportId) {
+    return fillCursor(client_, schemas_,
+                      protocol::ListSchemasRequest{.id = reportId, .listKind = protocol::schemaListKind::all},
+                      reportId);
+}
+
+bool InventoryCommands::nextSchema(protocol::SchemaRecord& schema) {
+    return takeNext(schemas_, schema);
+}
+
+std::optional<protocol::SchemaRecord> InventoryCommands::getSchema(const std::string& schemaId) {
+    std::vector<protocol::SchemaRecord> found;
+    const protocol::ListSchemasRequest request{.id = schemaId, .listKind = protocol::schemaListKind::one};
+    if (!listRecords(client_, request, found, schemaId) || found.empty())
+        return std::nullopt;
+    return std::move(found.front());
+}
+
+bool InventoryCommands::createSchema(const protocol::SchemaRecord& schema) {
+    return changeSchema(createsSchema, schema, wire::toUtf8(schema.schemaName));
+}
+
+bool InventoryCommands::updateSchema(const protocol::SchemaRecord& schema) {
+    return changeSchema(savesSchema, schema, wire::toUtf8(schema.schemaName));
+}
+
+bool InventoryCommands::deleteSchema(const std::string& schemaId) {
+    protocol::SchemaRecord schema;
+    schema.schemaId = schemaId;
+    return changeSchema(deletesSchema, schema, schemaId);
+}
+
+bool InventoryCommands::changeSchema(std::uint8_t operation, const protocol::SchemaRecord& schema,
+                                     std::string summary) {
+    return sendCommand(client_, protocol::ChangeSchemaRequest{.operation = operation, .schema = schema},
+                       std::move(summary));
+}
+
+bool InventoryCommands::searchQueues(const wire::WideString& pattern) {
+    return fillCursor(client_, foundQueues_, protocol::SearchQueuesRequest{.pattern = pattern}, wire::toUtf8(pattern));
+}
+
+bool InventoryCommands::nextFoundQueue(protocol::FoundQueueRecord& queue) {
+    return takeNext(foundQueues_, queue);
+}
+
+bool InventoryCommands::listInventoryReports() {
+    return fillCursor(client_, reports_, protocol::ListInventoryReportsRequest{}, {});
+}
+
+bool InventoryCommands::nextInventoryReport(protocol::InventoryReportRecord& report) {
+    return takeNext(reports_, report);
+}
+
+bool InventoryCommands::createInventoryReport(const protocol::CreateInventoryReportRequest& request) {
+    return sendCommand(client_, request, wire::toUtf8(request.reportName));
+}
+
+bool InventoryCommands::deleteInventoryReport(const std::string& reportId) {
+    return sendCommand(client_, protocol::DeleteInventoryReportRequest{.reportId = reportId}, reportId);
+}
+
+bool InventoryCommands::listInventoryModels(std::uint16_t listKind, const std::string& id) {
+    return fillCursor(client_, models_, protocol::ListInventoryModelsRequest{.listKind = listKind, .id = id}, id);
+}
+
+bool InventoryCommands::nextInventoryModel(protocol::InventoryModelRecord& model) {
+    return takeNext(models_, model);
+}
+
+bool InventoryCommands::listInventoryPrinters(std::uint16_t listKind, const std::string& id) {
+    std::vector<protocol::InventoryPrinterRecord> records;
+    found_.fill({});
+    const bool listed =
+        listRecords(client_, protocol::ListInventoryPrintersRequest{.listKind = listKind, .id = id}, records, id);
+    for (auto& record : records)
+        record.spare = {};
+    found_.fill(std::move(records));
+    return listed;
+}
+
+bool InventoryCommands::nextInventoryPrinter(protocol::InventoryPrinterRecord& printer) {
+    return takeNext(found_, printer);
+}
+
+bool InventoryCommands::listIpRanges() {
+    return listRanges(protocol::rangeListKind::all, {});
+}
+
+bool InventoryCommands::getIpRange(const std::string& rangeId) {
+    return listRanges(protocol::rangeListKind::one, rangeId);
+}
+
+bool InventoryCommands::listRanges(std::uint8_t listKind, const std::string& id) {
+    return fillCursor(client_, ranges_, protocol::ListIpRangesRequest{.listKind = listKind, .id = id}, id);
+}
+
+bool InventoryCommands::nextIpRange(protocol::IpRangeRecord& range) {
+    return takeNext(ranges_, range);
+}
+
+bool InventoryCommands::addIpRange(const protocol::IpRangeRecord& range) {
+    return changeIpRange(addsRange, range, wire::toUtf8(range.name));
+}
+
+bool InventoryCommands::updateIpRange(const protocol::IpRangeRecord& range) {
+    return changeIpRange(savesRange, range, wire::toUtf8(range.name));
+}
+
+bool InventoryCommands::deleteIpRange(const std::string& rangeId) {
+    protocol::IpRangeRecord range;
+    range.rangeId = rangeId;
+    return changeIpRange(deletesRange, range, rangeId);
+}
+
+bool InventoryCommands::setIpRangeActive(const std::string& rangeId, bool active) {
+    protocol::IpRangeRecord range;
+    range.rangeId = rangeId;
+    range.active = active;
+    return changeIpRange(setsRangeActive, range, rangeId);
+}
+
+bool InventoryCommands::changeIpRange(std::uint8_t operation, const protocol::IpRangeRecord& range,
+                                      std::string summary) {
+    return sendCommand(client_, protocol::ChangeIpRangeRequest{.operation = operation, .range = range},
+                       std::move(summary));
+}
+
+} // namespace client

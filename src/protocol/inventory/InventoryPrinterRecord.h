@@ -1,0 +1,44 @@
+#pragma once
+
+#include "protocol/WireOrder.h"
+
+namespace protocol {
+
+// A printer or queue of the old estate, with the system's own printer and the plan for it. What has no match is empty.
+struct InventoryPrinterRecord {
+    std::string entryId;
+    wire::WideString windowsName;
+    std::string printerIp;
+    std::string printerPort;
+    wire::WideString location;
+    wire::WideString comment;
+    std::uint32_t clientCount = 0;
+    wire::WideString model;
+    wire::WideString mappedPrinterName;
+    std::string mappedPrinterId;
+    wire::WideString mappedQueueName;
+    std::string mappedQueueId;
+    wire::WideString workstation; // on which it was found
+    wire::WideString migrationPlan;
+    wire::WideString migrationAction;
+    wire::WideString spare; // a console reads and drops it
+
+    static constexpr auto fields = wireOrder(
+        field("entryId", &InventoryPrinterRecord::entryId), field("windowsName", &InventoryPrinterRecord::windowsName),
+        field("printerIp", &InventoryPrinterRecord::printerIp),
+        field("printerPort", &InventoryPrinterRecord::printerPort),
+        field("location", &InventoryPrinterRecord::location), field("comment", &InventoryPrinterRecord::comment),
+        field("clientCount", &InventoryPrinterRecord::clientCount), field("model", &InventoryPrinterRecord::model),
+        field("mappedPrinterName", &InventoryPrinterRecord::mappedPrinterName),
+        field("mappedPrinterId", &InventoryPrinterRecord::mappedPrinterId),
+        field("mappedQueueName", &InventoryPrinterRecord::mappedQueueName),
+        field("mappedQueueId", &InventoryPrinterRecord::mappedQueueId),
+        field("workstation", &InventoryPrinterRecord::workstation),
+        field("migrationPlan", &InventoryPrinterRecord::migrationPlan),
+        field("migrationAction", &InventoryPrinterRecord::migrationAction),
+        field("spare", &InventoryPrinterRecord::spare));
+
+    bool operator==(const InventoryPrinterRecord&) const = default;
+};
+
+} // namespace protocol

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "protocol/WireOrder.h"
+
+namespace protocol {
+
+// Finds queues by a pattern of their name; an empty one finds all.
+struct SearchQueuesRequest {
+    static constexpr std::uint16_t opcode = 39;
+
+    wire::WideString pattern;
+
+    static constexpr auto fields = wireOrder(field("pattern", &SearchQueuesRequest::pattern));
+
+    bool operator==(const SearchQueuesRequest&) const = default;
+};
+
+} // namespace protocol
