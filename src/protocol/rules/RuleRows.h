@@ -1,30 +1,94 @@
 #pragma once
 
 #include "protocol/CatalogueRow.h"
+#include "protocol/rules/AddRuleEntryRequest.h"
+#include "protocol/rules/AddShortIdRequest.h"
+#include "protocol/rules/AffectedRecord.h"
+#include "protocol/rules/DeleteAffectedRequest.h"
+#include "protocol/rules/DeletePageLimitRequest.h"
+#include "protocol/rules/DeletePricePlanRequest.h"
+#include "protocol/rules/DeleteRuleGroupRequest.h"
+#include "protocol/rules/DeleteShortIdRequest.h"
+#include "protocol/rules/DeleteUserMessageRequest.h"
+#include "protocol/rules/GetPageLimitRequest.h"
+#include "protocol/rules/ListAffectedRequest.h"
+#include "protocol/rules/ListPageLimitsRequest.h"
+#include "protocol/rules/ListPriceEntriesRequest.h"
+#include "protocol/rules/ListPricePlansRequest.h"
+#include "protocol/rules/ListRuleEntriesRequest.h"
+#include "protocol/rules/ListRuleGroupsRequest.h"
+#include "protocol/rules/ListShortIdsRequest.h"
+#include "protocol/rules/ListUserMessagesRequest.h"
+#include "protocol/rules/PageLimitName.h"
+#include "protocol/rules/PageLimitRecord.h"
+#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/RemoveRuleEntryRequest.h"
+#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/UpdateRuleEntryRequest.h"
+#include "protocol/rules/UpdateShortIdRequest.h"
+#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/WriteAffectedRequest.h"
+#include "protocol/rules/WritePageLimitRequest.h"
+#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/rules/WriteRuleGroupRequest.h"
+#include "protocol/rules/WriteUserMessageRequest.h"
 
 namespace protocol {
 
 // The commands for rule groups and entries, page limits, price plans, short ids and user messages.
 inline constexpr Command ruleRows[] = {
-    row(57, "ListRuleGroups", "lists the rule groups").list(ReaderForm::plain).leftOpen(),
-    row(58, "WriteRuleGroup", "adds, changes or deletes a rule group"),
-    row(59, "ListAffected", "lists what a rule group affects").list(ReaderForm::plain).leftOpen(),
-    row(60, "WriteAffected", "adds, changes or deletes what a rule group affects"),
-    row(61, "ListRuleEntries", "lists rule entries").list(ReaderForm::middle).leftOpen(),
-    row(62, "RemoveRuleEntry", "removes a rule entry"),
-    row(64, "WriteRuleObject", "adds, changes or deletes a page limit or a rule entry"),
-    row(65, "GetPageLimit", "gets a page limit").single(ReaderForm::plain),
-    row(66, "DeletePageLimit", "deletes a page limit"),
-    row(67, "ListUserMessages", "lists the user messages").list(ReaderForm::middle),
-    row(68, "WriteUserMessage", "adds, changes or deletes a user message"),
-    row(69, "ListPricePlans", "lists the price plans").list(ReaderForm::strict).over(Connection::open),
-    row(70, "WritePricePlan", "adds, changes or deletes a price plan").over(Connection::open),
-    row(71, "ListPriceEntries", "lists the entries of a price plan").list(ReaderForm::strict).over(Connection::open),
-    row(73, "ListPageLimits", "lists the page limits").list(ReaderForm::strict).leftOpen().guarded(),
-    row(81, "ListShortIds", "lists the short ids").list(ReaderForm::strict).over(Connection::open),
-    row(82, "DeleteShortId", "deletes a short id").over(Connection::open),
-    row(83, "AddShortId", "adds a short id").over(Connection::open),
-    row(84, "UpdateShortId", "updates a short id").over(Connection::open),
+    row(57, "ListRuleGroups", "lists the rule groups")
+        .asks<ListRuleGroupsRequest>()
+        .list<RuleGroupRecord>(ReaderForm::plain)
+        .leftOpen(),
+    row(58, "WriteRuleGroup", "adds, changes or deletes a rule group")
+        .asksOneOf<WriteRuleGroupRequest, DeleteRuleGroupRequest>(),
+    row(59, "ListAffected", "lists the users and groups that rule entries can affect")
+        .asks<ListAffectedRequest>()
+        .list<AffectedRecord>(ReaderForm::plain)
+        .leftOpen(),
+    row(60, "WriteAffected", "adds, changes or deletes an affected user or group")
+        .asksOneOf<WriteAffectedRequest, DeleteAffectedRequest>(),
+    row(61, "ListRuleEntries", "lists the rule entries of a rule group, a printer, a queue or a region")
+        .asks<ListRuleEntriesRequest>()
+        .list<RuleEntryRecord>(ReaderForm::middle)
+        .leftOpen(),
+    row(62, "RemoveRuleEntry", "removes a rule entry").asks<RemoveRuleEntryRequest>(),
+    row(64, "WriteRuleObject", "adds or changes a page limit or a rule entry")
+        .asksOneOf<WritePageLimitRequest, AddRuleEntryRequest, UpdateRuleEntryRequest>(),
+    row(65, "GetPageLimit", "gets a page limit").asks<GetPageLimitRequest>().single<PageLimitRecord>(ReaderForm::plain),
+    row(66, "DeletePageLimit", "deletes a page limit").asks<DeletePageLimitRequest>(),
+    row(67, "ListUserMessages", "lists the user messages")
+        .asks<ListUserMessagesRequest>()
+        .list<UserMessageRecord>(ReaderForm::middle),
+    row(68, "WriteUserMessage", "adds, changes or deletes a user message")
+        .asksOneOf<WriteUserMessageRequest, DeleteUserMessageRequest>(),
+    row(69, "ListPricePlans", "lists the price plans, all or one")
+        .asks<ListPricePlansRequest>()
+        .list<PricePlanRecord>(ReaderForm::strict)
+        .over(Connection::open),
+    row(70, "WritePricePlan", "adds, changes or deletes a price plan with its prices")
+        .asksOneOf<WritePricePlanRequest, DeletePricePlanRequest>()
+        .over(Connection::open),
+    row(71, "ListPriceEntries", "lists the prices of a price plan")
+        .asks<ListPriceEntriesRequest>()
+        .list<PriceEntryRecord>(ReaderForm::strict)
+        .over(Connection::open),
+    row(73, "ListPageLimits", "lists the names of the page limits")
+        .asks<ListPageLimitsRequest>()
+        .list<PageLimitName>(ReaderForm::strict)
+        .leftOpen()
+        .guarded(),
+    row(81, "ListShortIds", "lists the short ids")
+        .asks<ListShortIdsRequest>()
+        .list<ShortIdRecord>(ReaderForm::strict)
+        .over(Connection::open),
+    row(82, "DeleteShortId", "deletes a short id").asks<DeleteShortIdRequest>().over(Connection::open),
+    row(83, "AddShortId", "adds a short id").asks<AddShortIdRequest>().over(Connection::open),
+    row(84, "UpdateShortId", "updates a short id").asks<UpdateShortIdRequest>().over(Connection::open),
 };
 
 } // namespace protocol

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "protocol/WireOrder.h"
+
+namespace protocol {
+
+// A rule about the short ids by which users fetch their print jobs: how long one is valid, and for how long it is not
+// given to another job.
+struct ShortIdRecord {
+    wire::Uuid id = {}; // made by the console
+    wire::WideString name;
+    wire::WideString comment;
+    std::optional<wire::Uuid> messageId;          // absent for the default message of the server
+    std::optional<std::uint32_t> validMinutes;    // from the last print
+    std::optional<std::uint32_t> reservedMinutes; // after the valid time
+    std::optional<std::int64_t> reservedUntil;    // seconds since midnight; the wire carries the low 32 bits
+
+    static constexpr auto fields = wireOrder(
+        field("id", &ShortIdRecord::id), field("name", &ShortIdRecord::name), field("comment", &ShortIdRecord::comment),
+        field("messageId", &ShortIdRecord::messageId), field("validMinutes", &ShortIdRecord::validMinutes),
+        field("reservedMinutes", &ShortIdRecord::reservedMinutes),
+        field("reservedUntil", &ShortIdRecord::reservedUntil));
+
+    bool operator==(const ShortIdRecord&) const = default;
+};
+
+} // namespace protocol
