@@ -51,6 +51,8 @@ public:
             put(static_cast<std::uint16_t>(value.size()));
             for (const auto& element : value)
                 put(element);
+        } else if constexpr (std::same_as<Value, std::int64_t>) {
+            bytes_.appendValue(static_cast<std::uint32_t>(value)); // the wire carries the low 32 bits
         } else {
             static_assert(std::is_arithmetic_v<Value>);
             bytes_.appendValue(value);
@@ -82,6 +84,8 @@ private:
             bytes_.appendValue(static_cast<std::uint8_t>(rows.number(column) != 0 ? 1 : 0));
         } else if constexpr (std::same_as<Value, float>) {
             bytes_.appendValue(static_cast<float>(rows.real(column)));
+        } else if constexpr (std::same_as<Value, std::int64_t>) {
+            put(rows.number(column));
         } else {
             static_assert(std::integral<Value>, "a column holds one value");
             bytes_.appendValue(static_cast<Value>(rows.number(column)));

@@ -58,6 +58,8 @@ private:
             // A count is a peer's word: what it announces is not reserved before it has come.
             for (auto left = number<std::uint16_t>(); left > 0; --left)
                 readValue(value.emplace_back());
+        } else if constexpr (std::same_as<Value, std::int64_t>) {
+            value = number<std::int32_t>(); // the wire carries the low 32 bits
         } else {
             static_assert(std::integral<Value>);
             value = number<Value>();
