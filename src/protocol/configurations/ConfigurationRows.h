@@ -1,22 +1,53 @@
 #pragma once
 
 #include "protocol/CatalogueRow.h"
+#include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
+#include "protocol/configurations/ApplyQueueConfigurationRequest.h"
+#include "protocol/configurations/ConfigQueueRecord.h"
+#include "protocol/configurations/ConfigurationRecord.h"
+#include "protocol/configurations/DeleteConfigurationRequest.h"
+#include "protocol/configurations/ListConfigurationChoicesRequest.h"
+#include "protocol/configurations/ListConfigurationQueuesRequest.h"
+#include "protocol/configurations/ListConfigurationsRequest.h"
+#include "protocol/configurations/ListQueueConfigurationsRequest.h"
+#include "protocol/configurations/QueueConfigChoice.h"
+#include "protocol/configurations/QueueConfigEntry.h"
+#include "protocol/configurations/RemoveConfigurationFromQueueRequest.h"
+#include "protocol/configurations/SetConfigurationCommentRequest.h"
 
 namespace protocol {
 
 // The commands for the configurations of driver models and of queues.
 inline constexpr Command configurationRows[] = {
     row(17, "ListQueueConfigurations", "lists the configurations of a queue, all or of one driver")
-        .list(ReaderForm::plain)
+        .asks<ListQueueConfigurationsRequest>()
+        .list<QueueConfigEntry>(ReaderForm::plain)
         .leftOpen(),
-    row(18, "ListConfigurationChoices", "lists the configurations to choose from for a driver").list(ReaderForm::plain).leftOpen(),
-    row(19, "ApplyQueueConfiguration", "applies a configuration to a queue").leftOpen(),
-    row(50, "ListConfigurations", "lists the configurations of a driver model").list(ReaderForm::plain).leftOpen(),
-    row(51, "SetConfigurationComment", "writes the comment of a configuration").leftOpen(),
-    row(52, "DeleteConfiguration", "deletes a configuration").leftOpen(),
-    row(53, "ListConfigurationQueues", "lists the queues that use a configuration").list(ReaderForm::plain).leftOpen(),
-    row(54, "RemoveConfigurationFromQueue", "takes a configuration away from a queue").leftOpen(),
-    row(79, "ApplyConfigurationForDriver", "applies a configuration to a driver").leftOpen(),
+    row(18, "ListConfigurationChoices", "lists the configurations to choose from for a driver")
+        .asks<ListConfigurationChoicesRequest>()
+        .list<QueueConfigChoice>(ReaderForm::plain)
+        .leftOpen(),
+    row(19, "ApplyQueueConfiguration", "applies a configuration to a queue, or takes it away")
+        .asks<ApplyQueueConfigurationRequest>()
+        .leftOpen(),
+    row(50, "ListConfigurations", "lists the configurations of a driver model")
+        .asks<ListConfigurationsRequest>()
+        .list<ConfigurationRecord>(ReaderForm::plain)
+        .leftOpen(),
+    row(51, "SetConfigurationComment", "writes the comment of a configuration")
+        .asks<SetConfigurationCommentRequest>()
+        .leftOpen(),
+    row(52, "DeleteConfiguration", "deletes a configuration").asks<DeleteConfigurationRequest>().leftOpen(),
+    row(53, "ListConfigurationQueues", "lists the queues that use a configuration")
+        .asks<ListConfigurationQueuesRequest>()
+        .list<ConfigQueueRecord>(ReaderForm::plain)
+        .leftOpen(),
+    row(54, "RemoveConfigurationFromQueue", "takes a configuration away from a queue")
+        .asks<RemoveConfigurationFromQueueRequest>()
+        .leftOpen(),
+    row(79, "ApplyConfigurationForDriver", "applies a configuration to a driver")
+        .asks<ApplyConfigurationForDriverRequest>()
+        .leftOpen(),
 };
 
 } // namespace protocol
