@@ -1,16 +1,85 @@
 #pragma once
 
 #include "client/CQVXAdminClass2.h"
+#include "client/RecordCursor.h"
+#include "protocol/drivers/AddDriverDeploymentRequest.h"
+#include "protocol/drivers/CountDeploymentConfigsReply.h"
+#include "protocol/drivers/DriverBrandRecord.h"
+#include "protocol/drivers/DriverDeploymentRecord.h"
+#include "protocol/drivers/DriverList.h"
+#include "protocol/drivers/DriverModelList.h"
+#include "protocol/drivers/DriverModelRecord.h"
+#include "protocol/drivers/DriverRecord.h"
+#include "protocol/drivers/InstallMethod.h"
+#include "protocol/drivers/OperatingSystemRecord.h"
+#include "protocol/drivers/UpdateDriverDeploymentRequest.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace client {
 
-// The part of CQVXAdminClass for brands, models, drivers and deployments.
+// The part of CQVXAdminClass for brands, models, drivers and deployments. Lists come out of their cursors from the last
+// record to the first; the whole lists hold what has not been handed out, in the order of the wire.
 class DriverCommands {
 public:
     explicit DriverCommands(CQVXAdminClass2& client) : client_(client) {}
 
+    bool listDriverBrands();
+    bool nextDriverBrand(protocol::DriverBrandRecord& brand);
+    [[nodiscard]] const std::vector<protocol::DriverBrandRecord>& driverBrands() const { return brands_.records(); }
+
+    // The models of a brand or the alternates of a model, by a protocol::driverModelList, in the order of the wire.
+    // Throws ConnectFailed.
+    [[nodiscard]] std::vector<protocol::DriverModelRecord> listDriverModels(std::uint8_t listKind,
+                                                                            const std::string& parentId);
+
+    bool listOperatingSystems();
+    bool nextOperatingSystem(protocol::OperatingSystemRecord& system);
+    [[nodiscard]] const std::vector<protocol::OperatingSystemRecord>& operatingSystems() const {
+        return systems_.records();
+    }
+
+    // The drivers of a brand or of a model, by a protocol::driverList, with their dates in local form. A short list is
+    // read and then hands out nothing.
+    bool listDrivers(std::uint8_t listKind, const std::string& parentId);
+    bool nextDriver(protocol::DriverRecord& driver);
+    [[nodiscard]] const std::vector<protocol::DriverRecord>& drivers() const { return drivers_.records(); }
+
+    // The deployments of a model, with an empty driver those of all its drivers.
+    bool listDriverDeployments(const std::string& modelId, const std::string& driverId = {});
+    bool nextDriverDeployment(protocol::DriverDeploymentRecord& deployment);
+    [[nodiscard]] const std::vector<protocol::DriverDeploymentRecord>& driverDeployments() const {
+        return deployments_.records();
+    }
+
+    bool deleteDriver(const std::string& driverId);
+    bool addDriverDeployment(const protocol::AddDriverDeploymentRequest& deployment);
+    bool updateDriverDeployment(const protocol::UpdateDriverDeploymentRequest& change);
+    bool removeDriverDeployment(const std::string& deploymentId);
+
+    // Both counts are 0 when this is false.
+    bool countDeploymentConfigs(const std::string& modelId, const std::string& osId, const wire::WideString& locale,
+                                protocol::CountDeploymentConfigsReply& counts);
+
+    bool setDriverModelVisible(const std::string& modelId, bool visible);
+    bool addDriverModel(const std::string& brandId, const wire::WideString& name);
+    bool addBuiltInDriver(const std::string& modelId);
+    bool addAlternateDriver(const std::string& modelId, const std::string& alternateModelId);
+    bool removeAlternateDriver(const std::string& modelId, const std::string& alternateModelId);
+
+    // 0 default, 1 normal, 2 swapped; none when no answer came.
+    bool setModelOctetOrder(const std::string& modelId, std::uint32_t octetOrder);
+    [[nodiscard]] std::optional<std::uint32_t> getModelOctetOrder(const std::string& modelId);
+
 private:
     CQVXAdminClass2& client_;
+    RecordCursor<protocol::DriverBrandRecord> brands_;
+    RecordCursor<protocol::OperatingSystemRecord> systems_;
+    RecordCursor<protocol::DriverRecord> drivers_;
+    RecordCursor<protocol::DriverDeploymentRecord> deployments_;
 };
 
 } // namespace client
