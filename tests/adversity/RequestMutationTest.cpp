@@ -1,0 +1,94 @@
+#include "tests/adversity/AttackedServer.h"
+#include "tests/adversity/Mutations.h"
+#include "tests/adversity/SampleMessages.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+
+namespace adversity {
+namespace {
+
+using support::operator+;
+
+Bytes joined(const std::vector<Bytes>& messages) {
+    Bytes data;
+    for (const auto& message : messages) {
+        data = std::move(data) + message;
+    }
+    return data;
+}
+
+// What the server makes of the data of a frame; whatever it must not do fails the test.
+void attack(AttackedServer& server, const SampleRequest& request, std::size_t count, const Bytes& data,
+            const std::string& what) {
+    try {
+        server.take(static_cast<std::uint8_t>(count), data);
+    } catch (const std::exception& error) {
+        ADD_FAILURE() << request.name() << ": " << what << ": " << error.what() << "\n" << support::toHex(data);
+    } catch (const char* text) {
+        ADD_FAILURE() << request.name() << ": " << what << ": " << text << "\n" << support::toHex(data);
+    }
+}
+
+TEST(RequestMutation, everySampleIsUnderstood) {
+    AttackedServer server;
+    for (const auto& request : sampleRequests()) {
+        const auto messages = request.messages();
+        attack(server, request, messages.size(), joined(messages), "as it is");
+    }
+    EXPECT_EQ(server.unsound(), "");
+}
+
+TEST(RequestMutation, damageInsideOfASoundFrameIsDroppedOrRefusedOrDoneWhole) {
+    AttackedServer server;
+    for (const auto& request : sampleRequests()) {
+        const auto messages = request.messages();
+        forEachMutation(joined(messages), [&](const Bytes& mutated, const std::string& what) {
+            attack(server, request, messages.size(), mutated, what);
+        });
+    }
+    EXPECT_EQ(server.unsound(), "");
+}
+
+// The data message keeps its length right, so that the damage is seen by nobody but the reader of its fields.
+TEST(RequestMutation, damageToTheFieldsAloneIsDroppedOrRefusedOrDoneWhole) {
+    AttackedServer server;
+    for (const auto& request : sampleRequests()) {
+        const auto command = support::commandMessage(request.command->opcode, request.command->version);
+        const auto expectSound = [&](const Bytes& mutated, const std::string& what) {
+            attack(server, request, 2, support::dataMessage(mutated) + command, what);
+        };
+        forEachTruncation(request.fields, expectSound);
+        forEachMissingBeginning(request.fields, expectSound);
+        expectSound(request.fields + Bytes(300, 0xFF), "300 bytes more");
+    }
+    EXPECT_EQ(server.unsound(), "");
+}
+
+TEST(RequestMutation, everyCountOfMessagesIsDroppedOrRefusedOrDoneWhole) {
+    AttackedServer server;
+    for (const auto& request : sampleRequests()) {
+        for (std::size_t count = 0; count < 256; ++count) {
+            attack(server, request, count, joined(request.messages()), "a count of " + std::to_string(count));
+        }
+    }
+    EXPECT_EQ(server.unsound(), "");
+}
+
+// The fields of one command under the number of another.
+TEST(RequestMutation, fieldsOfOtherCommandsAreDroppedOrRefusedOrDoneWhole) {
+    AttackedServer server;
+    const auto requests = sampleRequests();
+    for (const auto& request : requests) {
+        for (const auto& command : protocol::catalogue()) {
+            const auto data =
+                support::dataMessage(request.fields) + support::commandMessage(command.opcode, command.version);
+            attack(server, request, 2, data, "as " + std::string(command.name));
+        }
+    }
+    EXPECT_EQ(server.unsound(), "");
+}
+
+} // namespace
+} // namespace adversity

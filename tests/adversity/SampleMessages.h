@@ -1,0 +1,56 @@
+#pragma once
+
+#include "protocol/Catalogue.h"
+#include "tests/support/Bytes.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// Messages of every kind that the catalogue knows, made from its layouts, so that a command that joins it takes part.
+namespace adversity {
+
+using support::Bytes;
+
+// How much the fields of a sample hold.
+enum class Filling {
+    empty,    // zeros, empty texts and lists, nothing optional
+    ordinary, // small numbers, short texts, lists of one
+    rich,     // large numbers, texts outside of the basic plane and of odd length, lists of three
+};
+
+// The text of a str8 field that a peer would understand, such as an id; empty leaves the choice to the filling.
+using KnownText = std::function<std::string(const protocol::RecordLayout& record, const protocol::FieldInfo& field)>;
+
+// The bytes of a record's fields.
+[[nodiscard]] Bytes sampleFields(const protocol::RecordLayout& layout, Filling filling, const KnownText& known = {});
+
+// One request, as it would be sent.
+struct SampleRequest {
+    const protocol::Command* command = nullptr;
+    const protocol::RecordLayout* layout = nullptr;
+    Bytes fields;
+
+    // The messages of its frame: the fields first when there are any, the command behind them.
+    [[nodiscard]] std::vector<Bytes> messages() const;
+    [[nodiscard]] std::string name() const;
+};
+
+// Every form of every request in every filling; a form that a first byte chooses comes with each byte that the server
+// knows for the opcode.
+[[nodiscard]] std::vector<SampleRequest> sampleRequests(const KnownText& known = {});
+
+// One reply: a message for each of its frames.
+struct SampleReply {
+    const protocol::Command* command = nullptr;
+    const protocol::RecordLayout* layout = nullptr;
+    std::vector<Bytes> messages;
+
+    [[nodiscard]] Bytes frames() const;
+    [[nodiscard]] std::string name() const;
+};
+
+// The reply of every command that has one, in every filling; a list holds a record of each filling, or none.
+[[nodiscard]] std::vector<SampleReply> sampleReplies();
+
+} // namespace adversity
