@@ -1,0 +1,49 @@
+#pragma once
+
+#include "protocol/alarms/AlarmProgramRecord.h"
+#include "protocol/alarms/ListAlarmProgramsRequest.h"
+#include "server/ListQuery.h"
+
+namespace server {
+
+// A program as it is stored: what travels, and its kind of protocol::alarmProgramKind.
+struct StoredProgram {
+    protocol::AlarmProgramRecord record;
+    std::uint8_t kind = 0;
+};
+
+// The alarm programs and counter programs of one connection to the database, and nothing about what is allowed. Throws
+// StoreError.
+class AlarmProgramTable {
+public:
+    explicit AlarmProgramTable(sqlite3* connection);
+
+    [[nodiscard]] std::optional<StoredProgram> find(const std::string& id);
+    // Another program of the kind than this one has the name.
+    [[nodiscard]] bool nameTaken(std::uint8_t kind, const wire::WideString& name, const std::string& except);
+
+    void insert(const StoredProgram& program);
+    // All fields, by the id.
+    void update(const protocol::AlarmProgramRecord& record);
+    // Its actions go too, and printers that point at it point at none.
+    void remove(const std::string& id);
+
+    // Gives most printers an alarm program and a counter program, in turn.
+    void pointPrinters();
+
+    // Those of the kind by name, or the one with the id in the filter.
+    [[nodiscard]] Listing list(const protocol::ListAlarmProgramsRequest& request);
+
+private:
+    Query find_;
+    Query nameTaken_;
+    Query insert_;
+    Query update_;
+    Query forget_;
+    Query remove_;
+    Query pointPrinters_;
+    ListQuery listAll_;
+    ListQuery listOne_;
+};
+
+} // namespace server

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "protocol/alarms/EmailRecipientRecord.h"
+#include "protocol/alarms/ListEmailRecipientsRequest.h"
+#include "server/ListQuery.h"
+
+namespace server {
+
+// The e-mail recipients of one connection to the database, and nothing about what is allowed. Throws StoreError.
+class EmailRecipientTable {
+public:
+    explicit EmailRecipientTable(sqlite3* connection);
+
+    [[nodiscard]] bool exists(const std::string& id);
+    void insert(const protocol::EmailRecipientRecord& recipient);
+    // All fields, by the id.
+    void update(const protocol::EmailRecipientRecord& recipient);
+    void setActive(const std::string& id, bool active);
+    // The actions that go to the recipient go too.
+    void remove(const std::string& id);
+
+    // All by name and then in the order of making, or the one with the id.
+    [[nodiscard]] Listing list(const protocol::ListEmailRecipientsRequest& request);
+
+private:
+    Query exists_;
+    Query insert_;
+    Query update_;
+    Query setActive_;
+    Query remove_;
+    ListQuery listAll_;
+    ListQuery listOne_;
+};
+
+} // namespace server

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "protocol/alarms/AddProgramActionRequest.h"
+#include "protocol/alarms/ListAlarmActionsRequest.h"
+#include "protocol/alarms/ListAlarmDestinationsRequest.h"
+#include "protocol/alarms/ListAlarmEventsRequest.h"
+#include "protocol/alarms/ListProgramActionsRequest.h"
+#include "server/ListQuery.h"
+
+namespace server {
+
+// The actions of alarm programs, and what they can be made of: events, kinds of actions and destinations. Holds nothing
+// about what is allowed. Throws StoreError.
+class ProgramActionTable {
+public:
+    explicit ProgramActionTable(sqlite3* connection);
+
+    [[nodiscard]] bool eventExists(const std::string& id);
+    // Whether an action goes to a recipient; nothing for a code that does not exist.
+    [[nodiscard]] std::optional<bool> needsRecipient(std::uint16_t actionCode);
+    // The program has that action already.
+    [[nodiscard]] bool exists(const protocol::AddProgramActionRequest& action);
+
+    void insert(const std::string& id, const protocol::AddProgramActionRequest& action);
+    // False when there is no such action.
+    bool remove(const std::string& id);
+
+    // In the order of making.
+    [[nodiscard]] Listing list(const protocol::ListProgramActionsRequest& request);
+    [[nodiscard]] Listing list(const protocol::ListAlarmEventsRequest& request);
+    // By code.
+    [[nodiscard]] Listing list(const protocol::ListAlarmActionsRequest& request);
+    // The active recipients by name, for an action that goes to one.
+    [[nodiscard]] Listing list(const protocol::ListAlarmDestinationsRequest& request);
+
+private:
+    Query eventExists_;
+    Query needsRecipient_;
+    Query exists_;
+    Query insert_;
+    Query remove_;
+    ListQuery listOfProgram_;
+    ListQuery listEvents_;
+    ListQuery listActions_;
+    ListQuery listDestinations_;
+    sqlite3* connection_;
+};
+
+} // namespace server
