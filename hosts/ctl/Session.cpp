@@ -29,7 +29,8 @@ Session::Session(const Options& options, std::ostream& errors)
       platform_{.ui = ui_,
                 .settings = settings_,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
-                .productVersion = {}},
+                .productVersion = {},
+                .locale = locale_},
       print_(platform_) {
     observers_.add(failures_);
     if (options.activity) {

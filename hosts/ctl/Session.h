@@ -2,6 +2,7 @@
 
 #include "console/IniSettingsStore.h"
 #include "console/Platform.h"
+#include "console/SystemLocale.h"
 #include "hosts/ctl/Activity.h"
 #include "hosts/ctl/CtlUserInterface.h"
 #include "hosts/ctl/FailureWatch.h"
@@ -54,6 +55,7 @@ private:
     CtlUserInterface ui_;
     shell::RefusalBox refusals_{ui_};
     console::IniSettingsStore settings_;
+    console::SystemLocale locale_;
     console::Platform platform_;
     snapin::Print print_;
     shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn_{print_};

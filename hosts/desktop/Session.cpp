@@ -11,6 +11,7 @@ Session::Session(console::SettingsStore& settings)
     : platform_{.ui = ui_,
                 .settings = settings,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
-                .productVersion = version} {}
+                .productVersion = version,
+                .locale = locale_} {}
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/Platform.h"
+#include "console/SystemLocale.h"
 #include "hosts/desktop/ActivityLog.h"
 #include "hosts/desktop/DesktopUserInterface.h"
 #include "hosts/desktop/ListAge.h"
@@ -35,6 +36,7 @@ private:
     shell::CommandWatch watch_{observers_};
     DesktopUserInterface ui_{tasks_};
     shell::RefusalBox refusals_{ui_};
+    console::SystemLocale locale_;
     console::Platform platform_;
     snapin::Print print_{platform_};
     shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn_{print_};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/ClientHooks.h"
+#include "console/Locale.h"
 #include "console/SettingsStore.h"
 #include "console/UserInterface.h"
 
@@ -16,6 +17,7 @@ struct Platform {
     SettingsStore& settings;
     client::ClientHooks hooks{}; // who watches commands and shows the server's refusals
     std::optional<std::array<std::uint16_t, 4>> productVersion{}; // of the module; empty when it can't be read
+    const Locale& locale = plainLocale;                           // how the user writes numbers
 };
 
 } // namespace console

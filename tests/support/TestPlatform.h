@@ -17,7 +17,8 @@ public:
     FakeUserInterface ui;
     MemorySettingsStore settings;
 
-    TestPlatform() { platform_.hooks.commands = &observer_; }
+    explicit TestPlatform(const console::Locale& locale = console::plainLocale)
+        : platform_{.ui = ui, .settings = settings, .hooks = {.commands = &observer_}, .locale = locale} {}
     TestPlatform(const TestPlatform&) = delete;
     TestPlatform& operator=(const TestPlatform&) = delete;
 
@@ -43,7 +44,7 @@ private:
     };
 
     Observer observer_;
-    console::Platform platform_{.ui = ui, .settings = settings};
+    console::Platform platform_;
 };
 
 } // namespace support

@@ -1,0 +1,102 @@
+#include "rules/PriceText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace rules {
+namespace {
+
+// As "%.Nf" prints it, without a locale.
+std::string printed(double value, int decimals) {
+    // Room for the largest number and the most decimals that a locale can ask for.
+    std::array<char, std::numeric_limits<double>::max_exponent10 + std::numeric_limits<char>::max() + 8> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+    return {text.data(), end.ptr};
+}
+
+// Puts the thousands separators between the digits of a whole number.
+wire::WideString grouped(std::string_view digits, const console::NumberFormat& format) {
+    wire::WideString text;
+    std::size_t group = 0;
+    while (!digits.empty()) {
+        const std::size_t size = format.grouping.empty() ? 0 : format.grouping[group];
+        const std::size_t taken = size == 0 ? digits.size() : std::min(size, digits.size());
+        const std::string_view last = digits.substr(digits.size() - taken);
+        text.insert(0, wire::WideString(last.begin(), last.end()));
+        digits.remove_suffix(taken);
+        if (!digits.empty()) {
+            text.insert(0, format.thousandsSeparator);
+        }
+        group = std::min(group + 1, format.grouping.empty() ? 0 : format.grouping.size() - 1);
+    }
+    return text;
+}
+
+wire::WideString inWayOf(const console::NumberFormat& format, const std::string& number) {
+    const std::size_t sign = number.starts_with('-') ? 1 : 0;
+    const std::size_t whole = std::min(number.find_first_not_of("0123456789", sign), number.size());
+    if (whole == sign) {
+        return {number.begin(), number.end()}; // infinite, or no number
+    }
+    wire::WideString text(sign, u'-');
+    text += grouped(std::string_view(number).substr(sign, whole - sign), format);
+    if (whole < number.size()) {
+        text += format.decimalSeparator;
+        text.append(number.begin() + static_cast<std::ptrdiff_t>(whole) + 1, number.end());
+    }
+    return text;
+}
+
+bool isHexDigit(char character) {
+    return std::string_view("0123456789abcdefABCDEF").find(character) != std::string_view::npos;
+}
+
+// The number at the beginning of a text, as strtod reads it in the plain locale. Words such as "infinity" are none.
+double numberAtStart(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    if (text.empty() || (text[0] != '.' && (text[0] < '0' || text[0] > '9'))) {
+        return 0;
+    }
+    const bool hex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && isHexDigit(text[2]);
+    if (hex) {
+        text.remove_prefix(2);
+    }
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value,
+                    hex ? std::chars_format::hex : std::chars_format::general);
+    return negative ? -value : value;
+}
+
+} // namespace
+
+wire::WideString formatPrice(const console::Locale& locale, double value, int digits) {
+    const auto& format = locale.numberFormat();
+    return inWayOf(format, printed(value, std::max(digits, format.decimals)));
+}
+
+wire::WideString formatAmount(const console::Locale& locale, double value) {
+    return inWayOf(locale.numberFormat(), printed(value, 2));
+}
+
+float parsePrice(const console::Locale& locale, wire::WideStringView text) {
+    const auto& separator = locale.numberFormat().decimalSeparator;
+    wire::WideString number(text);
+    if (const auto place = number.find(separator); place != wire::WideString::npos) {
+        number.replace(place, separator.size(), u".");
+    }
+    std::string plain(number.size(), '?'); // which ends a number
+    std::ranges::transform(number, plain.begin(), [](char16_t unit) { return unit < 0x80 ? char(unit) : '?'; });
+    const auto price = static_cast<float>(numberAtStart(plain));
+    return std::isfinite(price) ? price : 0.0F;
+}
+
+} // namespace rules

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "console/Locale.h"
+
+#include <utility>
+
+namespace support {
+
+// A locale with the number format that a test gives it.
+class FixedLocale final : public console::Locale {
+public:
+    explicit FixedLocale(console::NumberFormat format) : format_(std::move(format)) {}
+
+    const console::NumberFormat& numberFormat() const override { return format_; }
+
+private:
+    console::NumberFormat format_;
+};
+
+// A comma before the decimals and points between the thousands, as in German.
+inline const FixedLocale& germanLocale() {
+    static const FixedLocale locale(
+        {.decimalSeparator = u",", .thousandsSeparator = u".", .grouping = {3, 3}, .decimals = 2});
+    return locale;
+}
+
+// A point before the decimals and commas between the thousands, as in English.
+inline const FixedLocale& englishLocale() {
+    static const FixedLocale locale(
+        {.decimalSeparator = u".", .thousandsSeparator = u",", .grouping = {3, 3}, .decimals = 2});
+    return locale;
+}
+
+} // namespace support
