@@ -16,32 +16,49 @@ std::string_view nameOf(protocol::ReplyShape shape) {
     return names[static_cast<std::size_t>(shape)];
 }
 
-Json fieldsJson(const protocol::RecordLayout* layout) {
-    if (layout == nullptr) {
-        return nullptr;
-    }
-    Json fields = Json::array();
-    for (const auto& field : layout->fields) {
-        Json json{{"name", field.name}, {"kind", nameOf(field.kind)}};
+// One entry for each field; those of a record within the record stand in its place, their names behind its own.
+void addFields(Json& fields, const protocol::RecordLayout& layout, const std::string& before) {
+    for (const auto& field : layout.fields) {
+        const auto name = before + std::string(field.name);
+        if (field.kind == protocol::FieldKind::record) {
+            addFields(fields, *field.element, name + '.');
+            continue;
+        }
+        Json json{{"name", name}, {"kind", nameOf(field.kind)}};
         if (field.kind == protocol::FieldKind::optional || field.kind == protocol::FieldKind::list) {
             json["of"] = nameOf(field.elementKind);
         }
         if (field.element != nullptr) {
             json["record"] = field.element->name;
+            json["fields"] = Json::array();
+            addFields(json["fields"], *field.element, {});
         }
         fields.push_back(std::move(json));
     }
+}
+
+Json fieldsJson(const protocol::RecordLayout* layout) {
+    if (layout == nullptr) {
+        return nullptr;
+    }
+    Json fields = Json::array();
+    addFields(fields, *layout, {});
     return fields;
 }
 
 Json commandJson(const protocol::Command& command) {
-    return {{"opcode", command.opcode},
-            {"version", command.version},
-            {"name", command.name},
-            {"reply", nameOf(command.reply)},
-            {"purpose", command.purpose},
-            {"requestFields", fieldsJson(command.request)},
-            {"replyFields", fieldsJson(command.replyRecord)}};
+    Json json{{"opcode", command.opcode},   {"version", command.version},
+              {"name", command.name},       {"reply", nameOf(command.reply)},
+              {"purpose", command.purpose}, {"requestFields", fieldsJson(command.request)}};
+    for (const auto& form : command.forms) {
+        json["forms"].push_back({{"when", form.when}, {"requestFields", fieldsJson(form.layout)}});
+    }
+    json["replyFields"] = fieldsJson(command.replyRecord);
+    if (command.otherRecord.layout != nullptr) {
+        json["otherRecord"] = {{"firstByte", command.otherRecord.firstByte},
+                               {"replyFields", fieldsJson(command.otherRecord.layout)}};
+    }
+    return json;
 }
 
 } // namespace

@@ -21,7 +21,10 @@ Ends with 0 done, 1 refused or failed, 2 usage, 3 no connection or no login.)";
 // Builds the options of the command line and takes their values.
 class Parser {
 public:
-    Parser() { addAll(); }
+    explicit Parser(Format format) {
+        options_.format = format;
+        addAll();
+    }
 
     std::variant<Options, Information> parse(int count, const char* const* arguments) {
         try {
@@ -57,6 +60,7 @@ private:
         addTreeCommands();
         addChanges();
         addRaw();
+        addScript();
     }
 
     void addGlobal() {
@@ -113,7 +117,9 @@ private:
         addPath(run, true);
         run.add_option("ENTRY", options_.entry, "Text or id of the entry")->required();
         addRow(run);
-        addStep(run, Step::Kind::set, "--set", "LABEL=VALUE: fills a box, or checks one with yes or no");
+        addStep(run, Step::Kind::set, "--set",
+                "LABEL=VALUE: fills a box, checks one with yes or no, or picks\na row of a list; LABEL is \"Group: "
+                "Label\" where several have it");
         addStep(run, Step::Kind::select, "--select", "LABEL=ROW: selects a row of a list");
         addStep(run, Step::Kind::press, "--press",
                 "Presses a button, or \"List: Entry\" of the menu on the selected row");
@@ -129,13 +135,29 @@ private:
 
     void addRaw() {
         auto& call = add(CommandKind::call, "call", "Sends one command of the protocol and prints the reply as JSON",
-                         "call 6 str8: u32:7 u16:0");
+                         "call 6 str8: u32:7 u16:0\n"
+                         "  vantrelctl call WritePricePlan u8:1 ... u16:2 FIELDS-OF-THE-FIRST FIELDS-OF-THE-SECOND");
         call.add_option("OPCODE", options_.opcode, "Number or name of the command; see \"vantrelctl commands\"")
             ->required();
         call.add_option("KIND:VALUE", options_.fields,
-                        "The fields, in order; kinds are u8 u16 u32 f32 bool str8 str16 uuid and none,\n"
-                        "an optional field that is left out");
-        add(CommandKind::commands, "commands", "Prints the commands of the protocol", "commands --format json");
+                        "The fields, in order; kinds are u8 u16 u32 i32 i64 f32 bool str8 str16 uuid and none.\n"
+                        "A record within a record is its fields. An optional field is none when it is left out,\n"
+                        "else bool:1 and then its value. A list is u16:COUNT and then its elements.");
+        auto& commands =
+            add(CommandKind::commands, "commands", "Prints the commands of the protocol", "commands --format json");
+        commands.add_flag("--markdown", options_.asDocument, "With all fields, as chapters of a document");
+    }
+
+    void addScript() {
+        auto& script =
+            add(CommandKind::script, "script", "Carries out many commands over one login",
+                "script new-branch.txt --keep-going\n\n"
+                "One command a line, written as behind \"vantrelctl\", with the quotes of a shell and \"#\"\n"
+                "before comments:\n"
+                "  run Printers \"Create region\" --set \"Region Name=North\" --press OK   # a new region\n"
+                "  show Printers");
+        script.add_option("FILE", options_.script, "The commands; - for standard input")->required();
+        script.add_flag("--keep-going", options_.keepGoing, "Goes on after a command that fails, and sums up");
     }
 
     void addStep(CLI::App& command, Step::Kind kind, const std::string& name, const std::string& does) {
@@ -167,8 +189,8 @@ private:
 
 } // namespace
 
-std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments) {
-    return Parser().parse(count, arguments);
+std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments, Format format) {
+    return Parser(format).parse(count, arguments);
 }
 
 } // namespace ctl

@@ -12,7 +12,9 @@ struct Information {
     std::string text;
 };
 
-// Reads the command line; global options may stand before or after the command. Throws Failure (usage) with one line.
-std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments);
+// Reads the command line; global options may stand before or after the command. The format is what counts when none is
+// given. Throws Failure (usage) with one line.
+std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments,
+                                                    Format format = Format::table);
 
 } // namespace ctl

@@ -1,6 +1,7 @@
 #include "hosts/ctl/Commands.h"
 
 #include "client/CQVXAdminClass.h"
+#include "hosts/ctl/CatalogueDocument.h"
 #include "hosts/ctl/CatalogueTable.h"
 #include "hosts/ctl/Changes.h"
 #include "hosts/ctl/FieldArgument.h"
@@ -136,7 +137,9 @@ void carryOut(const Options& options, Session& session, std::ostream& out) {
     case CommandKind::call:
         return call(options, session, out);
     case CommandKind::commands:
-        return writeCatalogue(out, options.format);
+        return options.asDocument ? writeCatalogueDocument(out) : writeCatalogue(out, options.format);
+    case CommandKind::script:
+        break;
     }
 }
 

@@ -20,6 +20,11 @@ public:
     CtlUserInterface(shell::TaskQueue& tasks, std::ostream& errors) : ShellUserInterface(tasks), errors_(errors) {}
 
     void setSteps(StepList steps) { steps_ = std::move(steps); }
+    // Another command begins: what the one before has left behind is forgotten.
+    void begin() {
+        steps_ = StepList();
+        failure_.reset();
+    }
     // Throws the failure, if there was one, or for steps that were not used.
     void finish();
 

@@ -11,6 +11,7 @@
 namespace ctl {
 namespace {
 
+constexpr auto kinds = "kinds are u8 u16 u32 i32 i64 f32 bool str8 str16 uuid none";
 constexpr std::size_t longestText = 65535; // bytes; the count before a text has 16 bits
 
 [[noreturn]] void refuse(const std::string& field, const std::string& why) {
@@ -68,13 +69,13 @@ protocol::FieldValue parseField(const std::string& text) {
     const auto kind = text.substr(0, colon);
     const auto value = colon < text.size() ? text.substr(colon + 1) : std::string();
     const auto whole = [&]<class T>(T) {
-        return static_cast<T>(number(text, value, 0, std::numeric_limits<T>::max()));
+        return static_cast<T>(number(text, value, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
     };
     if (kind == "none" && value.empty()) {
         return {false}; // what an optional field says when it is left out
     }
     if (colon == text.size()) {
-        refuse(text, "is not KIND:VALUE; kinds are u8 u16 u32 f32 bool str8 str16 uuid none");
+        refuse(text, std::string("is not KIND:VALUE; ") + kinds);
     }
     if (kind == "u8") {
         return {whole(std::uint8_t{})};
@@ -85,6 +86,12 @@ protocol::FieldValue parseField(const std::string& text) {
     if (kind == "u32") {
         return {static_cast<std::uint32_t>(
             number(text, value, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::uint32_t>::max()))};
+    }
+    if (kind == "i32") {
+        return {whole(std::int32_t{})};
+    }
+    if (kind == "i64") {
+        return {whole(std::int64_t{})};
     }
     if (kind == "f32") {
         return {real(text, value)};
@@ -101,7 +108,7 @@ protocol::FieldValue parseField(const std::string& text) {
     if (kind == "uuid") {
         return {uuid(text, value)};
     }
-    refuse(text, "has no kind that is known; kinds are u8 u16 u32 f32 bool str8 str16 uuid none");
+    refuse(text, std::string("has no kind that is known; ") + kinds);
 }
 
 } // namespace ctl

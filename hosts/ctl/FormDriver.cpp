@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -33,7 +34,7 @@ bool takes(const Control* control, Step::Kind kind) {
     using namespace console;
     switch (kind) {
     case Step::Kind::set:
-        return isOneOf<TextControl, CheckBox, DateTimePicker>(control);
+        return isOneOf<TextControl, CheckBox, DateTimePicker, DropList, ListView, TreeView>(control);
     case Step::Kind::select:
         return isOneOf<DropList, ListView, TreeView>(control);
     case Step::Kind::press:
@@ -45,7 +46,8 @@ bool takes(const Control* control, Step::Kind kind) {
 }
 
 std::string_view nameOf(Step::Kind kind) {
-    static constexpr std::array<std::string_view, 4> names{"box to set", "list to select from", "button to press", ""};
+    static constexpr std::array<std::string_view, 4> names{"box or list to set", "list to select from",
+                                                           "button to press", ""};
     return names[static_cast<std::size_t>(kind)];
 }
 
@@ -63,13 +65,61 @@ std::optional<bool> parseChecked(const wire::WideString& value) {
     return std::nullopt;
 }
 
-// A check box and the box beside it may have one name: the value tells which of them is meant. Digits are for the box.
+// The cells of each row in one column that people see.
+Texts cellsOf(const console::ListView& list, std::size_t column) {
+    Texts texts;
+    for (const auto& row : list.rows()) {
+        texts.push_back(column < row.cells.size() ? row.cells[column] : wire::WideString());
+    }
+    return texts;
+}
+
+// What the rows of a list may be called by: the texts of each column that people see.
+std::vector<Texts> rowNames(const Control& control) {
+    std::vector<Texts> names;
+    if (const auto* const drop = dynamic_cast<const console::DropList*>(&control)) {
+        std::ranges::transform(drop->items(), std::back_inserter(names.emplace_back()), &console::DropListItem::text);
+    } else if (const auto* const tree = dynamic_cast<const console::TreeView*>(&control)) {
+        std::ranges::transform(tree->items(), std::back_inserter(names.emplace_back()), &console::TreeItem::text);
+    } else if (const auto* const list = dynamic_cast<const console::ListView*>(&control)) {
+        for (std::size_t column = 0; column < list->columns().size(); ++column) {
+            if (!list->columns()[column].hidden()) {
+                names.push_back(cellsOf(*list, column));
+            }
+        }
+    }
+    return names;
+}
+
+bool hasRow(const Control& control, const wire::WideString& name) {
+    return std::ranges::any_of(rowNames(control), [&](const Texts& names) {
+        return std::ranges::any_of(names, [&](const wire::WideString& text) { return sameWord(text, name); });
+    });
+}
+
+// Whether a value is of the sort that only such a control takes. Digits are for boxes.
+bool isMadeFor(const Control* control, const wire::WideString& value) {
+    using namespace console;
+    if (isOneOf<CheckBox>(control)) {
+        return value != u"0" && value != u"1" && parseChecked(value).has_value();
+    }
+    if (isOneOf<DateTimePicker>(control)) {
+        return parseDateTime(wire::toUtf8(value)).has_value();
+    }
+    return isOneOf<DropList, ListView, TreeView>(control) && hasRow(*control, value);
+}
+
+// A check box, the number beside it and the unit beside that may have one name: the value tells which of them is meant.
 void chooseByValue(std::vector<Control*>& found, const Step& step) {
-    const auto isCheck = [](const Control* control) { return isOneOf<console::CheckBox>(control); };
-    if (step.kind == Step::Kind::set && found.size() == 2 && std::ranges::count_if(found, isCheck) == 1) {
-        const bool isDigit = step.value == u"0" || step.value == u"1";
-        const bool toCheck = !isDigit && parseChecked(step.value).has_value();
-        std::erase_if(found, [&](const Control* control) { return isCheck(control) != toCheck; });
+    if (step.kind != Step::Kind::set || found.size() < 2) {
+        return;
+    }
+    const auto isMeant = [&](const Control* control) { return isMadeFor(control, step.value); };
+    const auto isText = [](const Control* control) { return isOneOf<console::TextControl>(control); };
+    if (std::ranges::count_if(found, isMeant) == 1) {
+        std::erase_if(found, std::not_fn(isMeant));
+    } else if (std::ranges::none_of(found, isMeant) && std::ranges::count_if(found, isText) == 1) {
+        std::erase_if(found, std::not_fn(isText));
     }
 }
 
@@ -121,6 +171,31 @@ void type(console::TextControl& box, const wire::WideString& value) {
     throw refusal(box, options.digitsOnly ? "takes digits only" : "does not take that text");
 }
 
+// The row that is meant: by its text in the first column that has it.
+std::size_t placeAmong(const Control& control, const wire::WideString& value) {
+    const auto columns = rowNames(control);
+    for (const Texts& names : columns) {
+        const auto place = placeOf(value, names, "row in \"" + shown(console::fullName(control)) + "\" called");
+        if (place < names.size()) {
+            return place;
+        }
+    }
+    const bool empty = columns.empty() || columns.front().empty();
+    throw refusal(control, "has no row \"" + shown(value) + '"' +
+                               (empty ? "; it is empty" : "; there is " + listed(columns.front())));
+}
+
+void select(Control& control, const wire::WideString& value) {
+    const auto place = placeAmong(control, value);
+    if (auto* const drop = dynamic_cast<console::DropList*>(&control)) {
+        drop->userSelected(place);
+    } else if (auto* const list = dynamic_cast<console::ListView*>(&control)) {
+        list->userSelected(place);
+    } else if (auto* const tree = dynamic_cast<console::TreeView*>(&control)) {
+        tree->userSelected(place);
+    }
+}
+
 void set(Control& control, const wire::WideString& value) {
     if (auto* const box = dynamic_cast<console::TextControl*>(&control)) {
         type(*box, value);
@@ -132,39 +207,8 @@ void set(Control& control, const wire::WideString& value) {
             throw refusal(control, "takes a day and a time such as \"2024-12-31 23:59:00\"" +
                                        std::string(picker->options().optional ? ", or \"none\"" : ""));
         }
-    }
-}
-
-std::size_t placeAmong(const Control& control, const wire::WideString& value, const Texts& rows) {
-    const auto place = placeOf(value, rows, "row in \"" + shown(console::fullName(control)) + "\" called");
-    if (place == rows.size()) {
-        throw refusal(control, "has no row \"" + shown(value) + '"' +
-                                   (rows.empty() ? "; it is empty" : "; there is " + listed(rows)));
-    }
-    return place;
-}
-
-// The first cell of each row that people see.
-Texts firstCells(const console::ListView& list) {
-    const auto column = static_cast<std::size_t>(
-        std::ranges::find_if(list.columns(), [](const auto& one) { return !one.hidden(); }) - list.columns().begin());
-    Texts texts;
-    for (const auto& row : list.rows()) {
-        texts.push_back(column < row.cells.size() ? row.cells[column] : wire::WideString());
-    }
-    return texts;
-}
-
-void select(Control& control, const wire::WideString& value) {
-    Texts rows;
-    if (auto* const drop = dynamic_cast<console::DropList*>(&control)) {
-        std::ranges::transform(drop->items(), std::back_inserter(rows), &console::DropListItem::text);
-        drop->userSelected(placeAmong(control, value, rows));
-    } else if (auto* const list = dynamic_cast<console::ListView*>(&control)) {
-        list->userSelected(placeAmong(control, value, firstCells(*list)));
-    } else if (auto* const tree = dynamic_cast<console::TreeView*>(&control)) {
-        std::ranges::transform(tree->items(), std::back_inserter(rows), &console::TreeItem::text);
-        tree->userSelected(placeAmong(control, value, rows));
+    } else {
+        select(control, value);
     }
 }
 

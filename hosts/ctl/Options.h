@@ -12,7 +12,7 @@ namespace ctl {
 
 enum class Format : std::uint8_t { table, json, csv };
 
-enum class CommandKind : std::uint8_t { login, tree, show, menu, run, rename, move, call, commands };
+enum class CommandKind : std::uint8_t { login, tree, show, menu, run, rename, move, call, commands, script };
 
 // What the person has typed. Texts are UTF-8.
 struct Options {
@@ -36,6 +36,9 @@ struct Options {
     std::string target; // of a move
     std::string opcode;
     std::vector<std::string> fields; // of a call
+    bool asDocument = false;         // of the list of commands: as chapters of a document
+    std::string script;              // a file, or "-"
+    bool keepGoing = false;
     std::vector<Step> steps;
 };
 

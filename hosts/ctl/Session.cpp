@@ -30,8 +30,7 @@ Session::Session(const Options& options, std::ostream& errors)
                 .settings = settings_,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
                 .productVersion = {},
-                .locale = locale_},
-      print_(platform_) {
+                .locale = locale_} {
     observers_.add(failures_);
     if (options.activity) {
         observers_.add(activity_.emplace(*options.activity));
@@ -62,6 +61,9 @@ StepList Session::loginSteps(const wire::WideString& server, const wire::WideStr
 }
 
 wire::WideString Session::logIn() {
+    if (loggedIn_) {
+        return *loggedIn_;
+    }
     const auto server = value(options_.server, "ServerName", "--server HOST");
     const auto port =
         value(options_.port ? std::optional(std::to_string(*options_.port)) : std::nullopt, "ServerPort", "--port N");
@@ -79,16 +81,25 @@ wire::WideString Session::logIn() {
                       std::string(failure.what()) + " (" + shown(server) + ":" + shown(port) + ")");
     }
     snapin::loginDone = 1;
-    return dialog.statusText();
+    loggedIn_ = dialog.statusText();
+    return *loggedIn_;
 }
 
 shell::Shell& Session::start() {
     logIn();
-    if (!shell_.start()) {
+    console_.reset();
+    tasks_.clear();
+    auto& shell = console_.emplace(platform_, tasks_, observers_).shell;
+    if (!shell.start()) {
         throw Failure(ExitStatus::refused, "The console did not start");
     }
     check();
-    return shell_;
+    return shell;
+}
+
+void Session::beginCommand() {
+    failures_.forget();
+    ui_.begin();
 }
 
 void Session::check() {

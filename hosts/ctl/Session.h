@@ -23,20 +23,22 @@
 
 namespace ctl {
 
-// The console for the length of one command line.
+// The console for the length of one command line, or of one script.
 class Session {
 public:
     // Both outlive it. Throws Failure when the activity file can't be written.
     Session(const Options& options, std::ostream& errors);
 
-    // Logs in with the product's own dialog, and answers the words that go with it. Throws Failure (no connection).
+    // Logs in with the product's own dialog, once, and answers the words that go with it. Throws Failure (no
+    // connection).
     wire::WideString logIn();
-    // Logs in and starts the console.
+    // Logs in and starts a console that knows nothing of earlier ones.
     shell::Shell& start();
+    // Another command of a script begins: what the one before has left behind is forgotten.
+    void beginCommand();
     // Throws Failure when a command has failed, or a question or a step was left over.
     void check();
 
-    shell::Shell& shell() { return shell_; }
     CtlUserInterface& ui() { return ui_; }
     shell::Observers& observers() { return observers_; }
 
@@ -44,6 +46,15 @@ private:
     // What was given, else what the settings have under the name. Throws Failure (no connection) without either.
     wire::WideString value(const std::optional<std::string>& given, std::string_view name,
                            std::string_view option) const;
+    struct Console {
+        Console(console::Platform& platform, shell::TaskQueue& tasks, shell::Observers& observers)
+            : print(platform), shell(snapIn, tasks, observers) {}
+
+        snapin::Print print;
+        shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn{print};
+        shell::Shell shell;
+    };
+
     StepList loginSteps(const wire::WideString& server, const wire::WideString& port) const;
 
     const Options& options_;
@@ -57,9 +68,8 @@ private:
     console::IniSettingsStore settings_;
     console::SystemLocale locale_;
     console::Platform platform_;
-    snapin::Print print_;
-    shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn_{print_};
-    shell::Shell shell_{snapIn_, tasks_, observers_};
+    std::optional<wire::WideString> loggedIn_; // the words of the login
+    std::optional<Console> console_;
 };
 
 } // namespace ctl

@@ -1,6 +1,7 @@
 #include "hosts/ctl/CommandLine.h"
 #include "hosts/ctl/Commands.h"
 #include "hosts/ctl/Failure.h"
+#include "hosts/ctl/Script.h"
 #include "hosts/ctl/Words.h"
 
 #include <clocale>
@@ -21,7 +22,11 @@ int run(int count, const char* const* arguments) {
     } else {
         const auto& options = std::get<ctl::Options>(commandLine);
         ctl::Session session(options, std::cerr);
-        ctl::carryOut(options, session, std::cout);
+        if (options.command == ctl::CommandKind::script) {
+            ctl::runScript(options, session, std::cout, std::cerr);
+        } else {
+            ctl::carryOut(options, session, std::cout);
+        }
     }
     std::cout.flush();
     if (!std::cout) {

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QPushButton>
 
 namespace desktop {
 namespace {
@@ -43,6 +44,7 @@ AboutBox::AboutBox(const snapin::CPrintAbout& about, const QIcon& icon, QWidget*
     description->setMinimumWidth(textWidth);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->button(QDialogButtonBox::Close)->setIcon({}); // the one that a style brings along is dark on dark
 
     auto* const layout = new QGridLayout(this);
     layout->setHorizontalSpacing(18);

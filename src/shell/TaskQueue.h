@@ -31,6 +31,7 @@ public:
     // Two refreshes with nothing in between are one: the second would read the same again.
     void add(Task task);
     std::optional<Task> next();
+    void clear() { tasks_.clear(); }
     bool empty() const { return tasks_.empty(); }
     // The task that comes next; null when there is none.
     const Task* front() const { return tasks_.empty() ? nullptr : &tasks_.front(); }

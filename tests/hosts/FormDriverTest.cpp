@@ -97,6 +97,33 @@ TEST_F(FormDriver, theValueTellsACheckBoxFromTheBoxBesideIt) {
     EXPECT_EQ(form.amount.text(), u"1");
 }
 
+TEST_F(FormDriver, theValueTellsTheUnitBesideANumber) {
+    perform(form, parseStep(Kind::set, "limited to=hours"));
+    perform(form, parseStep(Kind::set, "limited to=3"));
+
+    EXPECT_EQ(form.unit.selectedText(), u"hours");
+    EXPECT_EQ(form.amount.text(), u"3");
+}
+
+TEST_F(FormDriver, setPicksARowOfAListByTheLabelOfItsRadioButton) {
+    perform(form, parseStep(Kind::set, "Paper=A3"));
+
+    EXPECT_EQ(form.paper.selectedText(), u"A3");
+}
+
+TEST_F(FormDriver, theGroupTellsBoxesOfOneLabelApart) {
+    perform(form, parseStep(Kind::set, "copy: b/w=0.1"));
+
+    EXPECT_EQ(form.changed, &form.copyPrice);
+    EXPECT_EQ(form.copyPrice.text(), u"0.1");
+}
+
+TEST_F(FormDriver, aRowIsFoundByItsTextInAnyColumn) {
+    perform(form, parseStep(Kind::select, "Drivers=old"));
+
+    EXPECT_EQ(form.drivers.selection(), 1U);
+}
+
 TEST_F(FormDriver, pressChoosesARadioButton) {
     perform(form, parseStep(Kind::press, "One"));
 

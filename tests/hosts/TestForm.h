@@ -18,13 +18,22 @@ public:
     explicit TestForm(console::Platform& platform) : Form(platform, u"A form") {
         model.addItem(u"Laser");
         model.addItem(u"Ink");
-        drivers.setColumns({{u"Id", 0}, {u"Name", 100}});
-        drivers.setRows({{{u"1", u"First"}, ""}, {{u"2", u"Second"}, ""}});
+        drivers.setColumns({{u"Id", 0}, {u"Name", 100}, {u"Age", 50}});
+        drivers.setRows({{{u"1", u"First", u"new"}, ""}, {{u"2", u"Second", u"old"}, ""}});
         drivers.setRowMenu({u"Edit", u"Delete"});
         drivers.onRowMenu = [this](std::size_t entry) {
             chosen = drivers.selectedRow()->cells[1] + (entry == 1 ? u"-" : u"+");
         };
         amount.setBeside(limited);
+        unit.setBeside(amount);
+        for (const auto* const text : {u"days", u"hours"}) {
+            unit.addItem(text);
+        }
+        paper.addItem(u"A4");
+        paper.addItem(u"A3");
+        for (auto* const price : {&printPrice, &copyPrice}) {
+            price->onChange = [this, price] { changed = price; };
+        }
         ask.onPress = [this] { answer = messageBox(u"Go on?", u"Warning", style); };
     }
 
@@ -41,6 +50,16 @@ public:
 
     console::CheckBox limited{*this, u"Limited to"};
     console::EditBox amount{*this, u""};
+    console::DropList unit{*this, u""};
+
+    console::RadioGroup kind;
+    console::RadioButton ofPaper{*this, kind, u"Paper "};
+    console::DropList paper{*this, u"", {.belongsTo = &ofPaper}};
+    console::Group print{*this, u"Print"};
+    console::EditBox printPrice{print, u"B/W"};
+    console::Group copy{*this, u"Copy"};
+    console::EditBox copyPrice{copy, u"B/W"};
+    const console::EditBox* changed = nullptr;
 
     wire::WideString chosen; // the row and whether its second or first entry was
     std::uint32_t style = console::boxStyle::okCancel;

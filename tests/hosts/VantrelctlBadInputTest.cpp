@@ -193,7 +193,7 @@ TEST_F(VantrelctlAlone, anUnknownOpcodeEndsWith2) {
 }
 
 TEST_F(VantrelctlAlone, aFieldOfNoKindEndsWith2) {
-    expectFailure(ctl({"call", "6", "u9:1"}), 2, "u8 u16 u32 f32 bool str8 str16 uuid none");
+    expectFailure(ctl({"call", "6", "u9:1"}), 2, "u8 u16 u32 i32 i64 f32 bool str8 str16 uuid none");
 }
 
 TEST_F(VantrelctlAlone, anActivityFileThatCantBeWrittenIsAnError) {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <ostream>
+
+namespace ctl {
+
+// The last chapters of the document on the protocol, as Markdown: a table of all commands and one of their records.
+void writeCatalogueDocument(std::ostream& out);
+
+} // namespace ctl
