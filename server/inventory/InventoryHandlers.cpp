@@ -1,9 +1,96 @@
 #include "server/inventory/InventoryHandlers.h"
 
+#include "protocol/inventory/FoundQueueRecord.h"
+#include "protocol/inventory/InventoryModelRecord.h"
+#include "protocol/inventory/InventoryPrinterRecord.h"
+#include "protocol/inventory/ListInventoryModelsRequest.h"
+#include "protocol/inventory/ListInventoryPrintersRequest.h"
+#include "protocol/inventory/ListInventoryReportsRequest.h"
+#include "protocol/inventory/ListIpRangesRequest.h"
+#include "protocol/inventory/ListSchemasRequest.h"
+#include "protocol/inventory/RangeListKind.h"
+#include "protocol/inventory/SchemaListKind.h"
+#include "protocol/inventory/SearchQueuesRequest.h"
+#include "server/inventory/FoundModelList.h"
+#include "server/inventory/FoundPrinterList.h"
+#include "server/inventory/IpRangeRules.h"
+#include "server/inventory/IpRangeTable.h"
+#include "server/inventory/MigrationPlanRules.h"
+#include "server/inventory/MigrationPlanTable.h"
+#include "server/inventory/QueueSearch.h"
+#include "server/inventory/ReportRules.h"
+#include "server/inventory/ReportTable.h"
+
 namespace server {
 
+namespace {
+
+// A table whose queries match names.
+template <class Table>
+Table& matchingTable(Estate& estate) {
+    static_cast<void>(estate.table<NameMatching>());
+    return estate.table<Table>();
+}
+
+Listing listSchemas(Estate& estate, const protocol::ListSchemasRequest& request) {
+    auto& plans = estate.table<MigrationPlanTable>();
+    if (request.listKind == protocol::schemaListKind::one)
+        return plans.find(request.id);
+    if (request.listKind != protocol::schemaListKind::all)
+        return {};
+    if (request.id.empty())
+        return plans.list();
+    const auto report = estate.table<ReportTable>().find(request.id);
+    return report ? plans.listOfReport(*report) : Listing();
+}
+
+Listing searchQueues(Estate& estate, const protocol::SearchQueuesRequest& request) {
+    return matchingTable<QueueSearch>(estate).find(NamePattern(request.pattern));
+}
+
+Listing listReports(Estate& estate, const protocol::ListInventoryReportsRequest&) {
+    return estate.table<ReportTable>().list();
+}
+
+Listing listModels(Estate& estate, const protocol::ListInventoryModelsRequest& request) {
+    const auto report = estate.table<ReportTable>().find(request.id);
+    return report ? estate.table<FoundModelList>().list(request.listKind, *report) : Listing();
+}
+
+// What is no report's id filters the newest report.
+Listing listPrinters(Estate& estate, const protocol::ListInventoryPrintersRequest& request) {
+    auto& reports = estate.table<ReportTable>();
+    auto& printers = matchingTable<FoundPrinterList>(estate);
+    if (const auto report = reports.find(request.id))
+        return printers.list(request.listKind, *report);
+    const auto newest = reports.newest();
+    return newest ? printers.filter(request.listKind, *newest, NamePattern(wire::toWide(request.id))) : Listing();
+}
+
+Listing listRanges(Estate& estate, const protocol::ListIpRangesRequest& request) {
+    auto& ranges = estate.table<IpRangeTable>();
+    if (request.listKind == protocol::rangeListKind::all)
+        return ranges.list();
+    return request.listKind == protocol::rangeListKind::one ? ranges.find(request.id) : Listing();
+}
+
+constexpr Handler handlers[] = {
+    lists<protocol::ListSchemasRequest, protocol::SchemaRecord, listSchemas>,
+    changes<MigrationPlanRules, &MigrationPlanRules::change, protocol::ChangeSchemaRequest>,
+    lists<protocol::SearchQueuesRequest, protocol::FoundQueueRecord, searchQueues>,
+    lists<protocol::ListInventoryReportsRequest, protocol::InventoryReportRecord, listReports>,
+    changes<ReportRules, &ReportRules::create, protocol::CreateInventoryReportRequest>,
+    changes<ReportRules, &ReportRules::remove, protocol::DeleteInventoryReportRequest>,
+    lists<protocol::ListInventoryModelsRequest, protocol::InventoryModelRecord, listModels>,
+    lists<protocol::ListInventoryPrintersRequest, protocol::InventoryPrinterRecord, listPrinters>,
+    lists<protocol::ListIpRangesRequest, protocol::IpRangeRecord, listRanges>,
+    changes<IpRangeRules, &IpRangeRules::change, protocol::ChangeIpRangeRequest>,
+};
+
+} // namespace
+
 std::span<const Handler> inventoryHandlers() {
-    return {};
+    return handlers;
 }
 
 } // namespace server

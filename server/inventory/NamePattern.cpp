@@ -1,0 +1,101 @@
+#include "server/inventory/NamePattern.h"
+
+#include "server/NameKey.h"
+#include "server/StoreError.h"
+
+#include <sqlite3.h>
+
+namespace server {
+
+namespace {
+
+constexpr std::u16string_view blanks = u" \t\r\n";
+
+std::u16string_view trimmed(std::u16string_view text) {
+    text = text.substr(0, text.find(u'\0')); // a text ends there for a console
+    const auto from = text.find_first_not_of(blanks);
+    return from == std::u16string_view::npos ? std::u16string_view()
+                                             : text.substr(from, text.find_last_not_of(blanks) - from + 1);
+}
+
+// The units of a key.
+class Units {
+public:
+    explicit Units(std::span<const std::uint8_t> key) : key_(key) {}
+    [[nodiscard]] std::size_t size() const { return key_.size() / 2; }
+    [[nodiscard]] char16_t operator[](std::size_t index) const {
+        return static_cast<char16_t>(key_[2 * index] << 8 | key_[2 * index + 1]);
+    }
+
+private:
+    std::span<const std::uint8_t> key_;
+};
+
+// After a unit that does not fit, the last star takes one unit more.
+bool fits(const Units& name, const Units& pattern) {
+    constexpr auto none = static_cast<std::size_t>(-1);
+    std::size_t inName = 0;
+    std::size_t inPattern = 0;
+    std::size_t afterStar = none;
+    std::size_t starTakesTo = 0;
+    while (inName < name.size()) {
+        const bool more = inPattern < pattern.size();
+        if (more && pattern[inPattern] == u'*') {
+            afterStar = ++inPattern;
+            starTakesTo = inName;
+        } else if (more && (pattern[inPattern] == u'?' || pattern[inPattern] == name[inName])) {
+            ++inPattern;
+            ++inName;
+        } else if (afterStar != none) {
+            inPattern = afterStar;
+            inName = ++starTakesTo;
+        } else {
+            return false;
+        }
+    }
+    while (inPattern < pattern.size() && pattern[inPattern] == u'*')
+        ++inPattern;
+    return inPattern == pattern.size();
+}
+
+std::span<const std::uint8_t> bytesOf(sqlite3_value* value) {
+    const auto* bytes = static_cast<const std::uint8_t*>(sqlite3_value_blob(value));
+    return {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))};
+}
+
+void matchNames(sqlite3_context* context, int, sqlite3_value** values) noexcept {
+    const bool isText = sqlite3_value_type(values[0]) == SQLITE_TEXT;
+    const auto name = bytesOf(values[0]);
+    const auto pattern = bytesOf(values[1]);
+    try {
+        const auto widened = isText ? nameKey(std::u16string(name.begin(), name.end())) : Bytes();
+        const bool matches = pattern.empty() || fits(isText ? Units(widened) : Units(name), Units(pattern));
+        sqlite3_result_int(context, matches ? 1 : 0);
+    } catch (const std::bad_alloc&) {
+        sqlite3_result_error_nomem(context);
+    }
+}
+
+} // namespace
+
+NamePattern::NamePattern(std::u16string_view typed) {
+    const auto text = trimmed(typed);
+    if (text.empty())
+        return;
+    const bool isPiece = text.find_first_of(u"*?") == std::u16string_view::npos;
+    pattern_ = nameKey(isPiece ? u"*" + std::u16string(text) + u"*" : std::u16string(text));
+}
+
+bool NamePattern::matches(std::span<const std::uint8_t> nameKey) const {
+    return matchesAll() || fits(Units(nameKey), Units(pattern_));
+}
+
+NameMatching::NameMatching(sqlite3* connection) {
+    const int code =
+        sqlite3_create_function_v2(connection, "nameMatches", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS,
+                                   nullptr, &matchNames, nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK)
+        throw StoreError::fromCode(code, sqlite3_errmsg(connection));
+}
+
+} // namespace server

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "server/ListQuery.h"
+#include "server/inventory/NamePattern.h"
+
+namespace server {
+
+// Finds queues and follow-print queues by their names, in the order of names. Throws StoreError.
+class QueueSearch {
+public:
+    // The connection has NameMatching.
+    explicit QueueSearch(sqlite3* connection);
+
+    // Rows of FoundQueueRecord.
+    [[nodiscard]] Listing find(const NamePattern& pattern);
+
+private:
+    ListQuery all_;
+    ListQuery matching_;
+};
+
+} // namespace server
