@@ -61,10 +61,6 @@ Bytes listInOneMessage(const std::vector<Record>& records) {
     return frame({dataMessage(fields)});
 }
 
-bool onlyLists(const std::string& request) {
-    return request.starts_with("0: ") || request.starts_with("6: ");
-}
-
 } // namespace
 
 FakeEstate::FakeEstate(client::ClientHooks hooks)
@@ -90,12 +86,17 @@ std::vector<std::string> FakeEstate::requests(std::size_t count) {
     return requests_;
 }
 
+bool FakeEstate::onlyLists(const std::string& request) const {
+    const auto opcode = static_cast<std::uint16_t>(std::stoul(request));
+    return opcode == listRegions || opcode == listRecords || lists.contains(opcode) || replies.contains(opcode);
+}
+
 std::vector<std::string> FakeEstate::changes(std::size_t count) {
     std::vector<std::string> found;
     std::unique_lock lock(mutex_);
     noted_.wait_for(lock, limit, [&] {
         found = requests_;
-        std::erase_if(found, onlyLists);
+        std::erase_if(found, [this](const std::string& request) { return onlyLists(request); });
         return found.size() >= count;
     });
     return found;
@@ -115,6 +116,12 @@ void FakeEstate::answer(ScriptedServer::Connection& connection) {
         connection.send(countedList(listPrinterRecords(request.message)));
     } else if (request.opcode == updateRecord) {
         connection.send(frame({dataMessage(fieldsOf(updateReply))}));
+    } else if (const auto list = lists.find(request.opcode); list != lists.end()) {
+        connection.send(countedList(list->second(fields)));
+    } else if (const auto reply = replies.find(request.opcode); reply != replies.end()) {
+        if (const Bytes record = reply->second(fields); !record.empty()) {
+            connection.send(frame({dataMessage(record)}));
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <condition_variable>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -30,6 +31,10 @@ public:
     std::vector<protocol::PrinterRecord> followQueues;
     std::map<std::string, std::vector<protocol::PrinterRecord>> queuesOfPrinter;
     protocol::StatusReply updateReply;
+    // What the lists of other commands hold, by opcode: the bytes of each record, from the fields of the request.
+    std::map<std::uint16_t, std::function<std::vector<Bytes>(const Bytes& fields)>> lists;
+    // The same for commands that are answered with one record; no bytes for no answer.
+    std::map<std::uint16_t, std::function<Bytes(const Bytes& fields)>> replies;
 
     // From now on there is nobody to connect to.
     void goOffline();
@@ -41,6 +46,7 @@ public:
 
 private:
     void answer(ScriptedServer::Connection& connection);
+    bool onlyLists(const std::string& request) const;
     std::vector<Bytes> listPrinterRecords(const Bytes& message) const;
 
     std::mutex mutex_;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "protocol/inventory/FoundQueueRecord.h"
+#include "protocol/rules/AffectedRecord.h"
+#include "protocol/rules/PageLimitRecord.h"
+#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/UserMessageRecord.h"
+#include "tests/support/FakeEstate.h"
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace support {
+
+// A FakeEstate that lists the rules which the test puts into it. It changes nothing by itself.
+class RuleEstate {
+public:
+    explicit RuleEstate(client::ClientHooks hooks = {});
+
+    // Set these between commands only.
+    std::vector<protocol::RuleGroupRecord> groups;
+    std::vector<protocol::AffectedRecord> affected;
+    std::map<std::string, std::vector<protocol::RuleEntryRecord>> entries; // by the id of the owner
+    std::map<std::int32_t, std::vector<protocol::RuleEntryRecord>> entriesOfRegion;
+    std::vector<protocol::PageLimitRecord> limits;
+    std::vector<protocol::PricePlanRecord> plans;
+    std::map<std::string, std::vector<protocol::PriceEntryRecord>> prices; // by the id of the plan
+    std::vector<protocol::ShortIdRecord> shortIds;
+    std::vector<protocol::UserMessageRecord> messages;
+    std::vector<protocol::FoundQueueRecord> queues; // found by every search
+
+    void goOffline() { estate_.goOffline(); }
+    // All commands so far, once so many have come, as "45: 05 00 00 00 00" with the bytes of the fields in hex; and the
+    // same without those that only list.
+    std::vector<std::string> requests(std::size_t count) { return estate_.requests(count); }
+    std::vector<std::string> changes(std::size_t count) { return estate_.changes(count); }
+
+    // The last of so many changes; fails the test when its opcode is not that of the request.
+    template <class Request>
+    Request change(std::size_t count) {
+        return decoded<Request>(changes(count), count);
+    }
+
+private:
+    static Bytes fieldsOf(const std::vector<std::string>& changes, std::size_t count, std::uint16_t opcode);
+
+    template <class Request>
+    static Request decoded(const std::vector<std::string>& changes, std::size_t count) {
+        const Bytes message = dataMessage(fieldsOf(changes, count, Request::opcode));
+        wire::Message loaded;
+        loaded.loadMessage(message.data(), static_cast<std::uint32_t>(message.size()));
+        return protocol::read<Request>(loaded);
+    }
+
+    FakeEstate estate_;
+};
+
+} // namespace support
