@@ -135,8 +135,7 @@ private:
 
     void addRaw() {
         auto& call = add(CommandKind::call, "call", "Sends one command of the protocol and prints the reply as JSON",
-                         "call 6 str8: u32:7 u16:0\n"
-                         "  vantrelctl call WritePricePlan u8:1 ... u16:2 FIELDS-OF-THE-FIRST FIELDS-OF-THE-SECOND");
+                         "call 6 str8: u32:7 u16:0");
         call.add_option("OPCODE", options_.opcode, "Number or name of the command; see \"vantrelctl commands\"")
             ->required();
         call.add_option("KIND:VALUE", options_.fields,

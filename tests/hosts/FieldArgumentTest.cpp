@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using ctl::parseField;
@@ -22,8 +24,14 @@ TEST(FieldArgument, aSignedIdGoesAsU32) {
     EXPECT_EQ(value<std::uint32_t>("u32:-1"), 4294967295U);
 }
 
+TEST(FieldArgument, signedKindsTakeNegativeNumbers) {
+    EXPECT_EQ(value<std::int32_t>("i32:-2147483648"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(value<std::int64_t>("i64:-5"), -5);
+}
+
 TEST(FieldArgument, aNumberOutOfRangeIsAnError) {
-    for (const auto* const text : {"u8:256", "u8:-1", "u16:65536", "u32:4294967296", "u8:", "u8:1x", "f32:x"}) {
+    for (const auto* const text : {"i32:2147483648", "i64:9223372036854775808", "u8:256", "u8:-1", "u16:65536",
+                                   "u32:4294967296", "u8:", "u8:1x", "f32:x"}) {
         EXPECT_THROW(parseField(text), ctl::Failure) << text;
     }
 }
