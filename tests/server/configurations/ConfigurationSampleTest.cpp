@@ -1,0 +1,80 @@
+#include "server/configurations/ConfigurationSample.h"
+
+#include "tests/server/TestEstate.h"
+#include "tests/server/configurations/ConfiguredEstate.h"
+
+#include <functional>
+#include <set>
+
+namespace server {
+namespace {
+
+// Two models with drivers of their own, one of them deployed twice, and so many queues of each.
+std::string sampleWith(int queues, int printers, const std::function<void(test::ConfiguredEstate&)>& look) {
+    test::TestEstate place;
+    test::ConfiguredEstate estate(place.estate());
+    place.estate().change([&] {
+        for (const std::string model : {"m1", "m2"}) {
+            estate.addModel(model);
+            estate.deploy(model + "-de", model, u"de");
+            const auto printer = estate.addPrinter(std::u16string(model.begin(), model.end()), model);
+            for (int number = 0; number < queues; ++number) {
+                const auto name = model + "-" + std::to_string(number);
+                estate.addQueue(std::u16string(name.begin(), name.end()), printer);
+            }
+        }
+        estate.deploy("m1-en", "m1", u"en");
+        SampleRandom random(7);
+        addConfigurationSample(place.estate(), random, printers);
+        return true;
+    });
+    if (look)
+        look(estate);
+    std::string all;
+    for (const auto* const model : {"m1", "m2"})
+        for (const auto& record : estate.list(model))
+            all += record.configId + wire::toUtf8(record.date + record.comment) + std::to_string(record.useCount);
+    return all;
+}
+
+TEST(ConfigurationSample, everyModelHasConfigurationsThatNoneOneAndManyQueuesUse) {
+    sampleWith(20, 40, [](auto& estate) {
+        for (const auto* const model : {"m1", "m2"}) {
+            std::multiset<int> counts;
+            for (const auto& record : estate.list(model))
+                counts.insert(record.useCount);
+            EXPECT_GE(counts.count(0), 1U) << model;
+            EXPECT_GE(counts.count(1), 1U) << model;
+            EXPECT_GE(*counts.rbegin(), 2) << model;
+        }
+    });
+}
+
+TEST(ConfigurationSample, severalPeopleHaveUploadedThem) {
+    sampleWith(20, 40, [](auto& estate) {
+        std::set<std::u16string> people;
+        for (const auto* const model : {"m1", "m2"})
+            for (const auto& record : estate.list(model))
+                people.insert(record.uploadedBy);
+        EXPECT_GE(people.size(), 3U);
+    });
+}
+
+TEST(ConfigurationSample, isTheSameEachTime) {
+    EXPECT_EQ(sampleWith(20, 40, nullptr), sampleWith(20, 40, nullptr));
+}
+
+TEST(ConfigurationSample, growsWithThePrinters) {
+    sampleWith(2, 100000, [](auto& estate) { EXPECT_GE(estate.list("m1").size(), 30U); });
+}
+
+TEST(ConfigurationSample, anEstateWithoutQueuesHasSomeAndOneWithoutDriversHasNone) {
+    EXPECT_NE(sampleWith(0, 40, nullptr), "");
+    test::TestEstate place;
+    SampleRandom random;
+    addConfigurationSample(place.estate(), random, 40);
+    EXPECT_EQ(place.estate().table<test::Statements>().number("SELECT count(*) FROM configuration"), 0);
+}
+
+} // namespace
+} // namespace server
