@@ -2,6 +2,7 @@
 
 #include "server/Refusal.h"
 #include "server/ReplyBuffer.h"
+#include "server/drivers/DriverModelTable.h"
 #include "wire/WireUuid.h"
 
 namespace server {
@@ -79,6 +80,11 @@ std::optional<StatusReply> RecordRules::refuse(const PrinterRecord& record) {
     return std::nullopt;
 }
 
+void RecordRules::nameModel(PrinterRecord& record) {
+    if (auto model = estate_.table<DriverModelTable>().find(record.modelId))
+        record.modelName = std::move(model->record.name);
+}
+
 protocol::CreateRecordReply RecordRules::create(const protocol::CreateRecordRequest& request) {
     StoredRecord stored{.record = request.record, .printerId = {}};
     auto& record = stored.record;
@@ -94,6 +100,7 @@ protocol::CreateRecordReply RecordRules::create(const protocol::CreateRecordRequ
         record.regionId = printer->record.regionId;
     }
     record.id = wire::toText(wire::randomUuid());
+    nameModel(record);
     if (const auto refused = refuse(record))
         return {.status = *refused, .id = {}};
     estate_.records().insert(stored);
@@ -108,6 +115,7 @@ StatusReply RecordRules::update(const protocol::UpdateRecordRequest& request) {
     record.recordType = before->record.recordType; // consoles send what they loaded it as
     if (record.recordType == type::queue)
         record.regionId = before->record.regionId; // a queue stands where its printer stands
+    nameModel(record);
     if (const auto refused = refuse(record))
         return *refused;
     const bool moves = record.recordType == type::printer && record.regionId != before->record.regionId;

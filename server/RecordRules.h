@@ -25,6 +25,8 @@ public:
     protocol::StatusReply setOctetOrder(const protocol::SetStatusOctetOrderRequest& request);
 
 private:
+    // A model of the driver catalogue goes by its name there; the name of any other model stays as it came.
+    void nameModel(protocol::PrinterRecord& record);
     [[nodiscard]] std::optional<protocol::StatusReply> refuse(const protocol::PrinterRecord& record);
 
     Estate& estate_;

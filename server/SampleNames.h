@@ -41,6 +41,37 @@ constexpr std::array<Model, 10> models = {{
     {u"Quillmark Dot 24", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1a0a"},
 }};
 
+struct Maker {
+    std::u16string_view name; // begins the names of its models
+    std::string_view id;
+};
+
+constexpr std::array<Maker, 6> makers = {{
+    {u"Halvek", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e101"},
+    {u"Mirado", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e103"},
+    {u"Ørbæk Tryk", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e104"},
+    {u"Quillmark", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e105"},
+    {u"Tessen", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e106"},
+    {u"Kestwick", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e102"}, // without models
+}};
+
+// Models that are known and that no printer of the estate is.
+constexpr std::array<Model, 9> furtherModels = {{
+    {u"Halvek LaserOne 1100", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b01"},
+    {u"Halvek LaserOne 2500", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b02"},
+    {u"Halvek ColorPress C91", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b03"},
+    {u"Mirado Folio 8", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b04"},
+    {u"Mirado Plan A1", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b05"},
+    {u"Ørbæk Tryk Fjord 3", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b06"},
+    {u"Ørbæk Tryk Fjord 5 Farve", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b07"},
+    {u"Quillmark Label 6 Wide", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b08"},
+    {u"Tessen Works 910", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b09"},
+}};
+
+constexpr std::array<std::u16string_view, 8> people = {u"Marta Keller",  u"Jonas Brandt", u"Ewa Nowicka",
+                                                       u"Linnéa Åberg",  u"Tomé Barros",  u"Κώστας Βέργος",
+                                                       u"Aoife Tierney", u"佐伯 直美"};
+
 constexpr std::array<std::u16string_view, 10> rooms = {
     u"Reception",  u"Copy room",    u"Open-plan office", u"Mail room", u"Warehouse",
     u"Laboratory", u"Meeting room", u"Accounts",         u"Personnel", u"Drawing office"};

@@ -1,9 +1,124 @@
 #include "server/drivers/DriverHandlers.h"
 
+#include "protocol/drivers/CountDeploymentConfigsReply.h"
+#include "protocol/drivers/CountDeploymentConfigsRequest.h"
+#include "protocol/drivers/DriverBrandRecord.h"
+#include "protocol/drivers/DriverDeploymentRecord.h"
+#include "protocol/drivers/DriverList.h"
+#include "protocol/drivers/GetModelOctetOrderReply.h"
+#include "protocol/drivers/GetModelOctetOrderRequest.h"
+#include "protocol/drivers/ListDriverBrandsRequest.h"
+#include "protocol/drivers/ListDriverDeploymentsRequest.h"
+#include "protocol/drivers/ListDriverModelsRequest.h"
+#include "protocol/drivers/ListDriversRequest.h"
+#include "protocol/drivers/ListOperatingSystemsRequest.h"
+#include "protocol/drivers/ShortDriverRecord.h"
+#include "server/drivers/DeploymentRules.h"
+#include "server/drivers/DriverRules.h"
+
+#include <algorithm>
+#include <cstring>
+
 namespace server {
 
+namespace {
+
+using namespace protocol; // requests and records
+
+Listing listBrands(Estate& estate, const ListDriverBrandsRequest&) {
+    return estate.table<DriverModelTable>().listBrands();
+}
+
+Listing listModels(Estate& estate, const ListDriverModelsRequest& request) {
+    return estate.table<DriverModelTable>().list(request.listKind, request.parentId);
+}
+
+Listing listSystems(Estate& estate, const ListOperatingSystemsRequest&) {
+    return estate.table<DeploymentTable>().listSystems();
+}
+
+// An unknown kind of list selects nothing.
+Listing listDrivers(Estate& estate, const ListDriversRequest& request) {
+    auto& drivers = estate.table<DriverTable>();
+    if (request.listKind == driverList::ofBrand)
+        return drivers.listOfBrand(request.parentId);
+    return request.listKind == driverList::ofModel ? drivers.listOfModel(request.parentId) : Listing{};
+}
+
+Listing listShortDrivers(Estate& estate, const ListDriversRequest& request) {
+    return estate.table<DriverTable>().listShort(request.parentId);
+}
+
+Listing listDeployments(Estate& estate, const ListDriverDeploymentsRequest& request) {
+    return estate.table<DeploymentTable>().list(request.modelId, request.driverId);
+}
+
+// 0 for a model that is not there.
+std::optional<GetModelOctetOrderReply> tellOctetOrder(Estate& estate, const GetModelOctetOrderRequest& request) {
+    return GetModelOctetOrderReply{.octetOrder =
+                                       estate.table<DriverModelTable>().octetOrder(request.modelId).value_or(0)};
+}
+
+std::optional<CountDeploymentConfigsReply> countConfigurations(Estate& estate,
+                                                               const CountDeploymentConfigsRequest& request) {
+    const Estate::Moment moment(estate);
+    auto& configurations = estate.table<QueueConfigurationTable>();
+    const auto deployed = estate.table<DeploymentTable>().idAt(
+        {.modelId = request.modelId, .osId = request.osId, .locale = request.locale});
+    return CountDeploymentConfigsReply{.queuesWithConfigs =
+                                           deployed ? configurations.queuesWithConfiguration(*deployed) : 0,
+                                       .totalQueues = configurations.queuesOfModel(request.modelId)};
+}
+
+bool asksForShortDrivers(Fields fields) {
+    return !fields.empty() && fields.front() == driverList::shortOfModel;
+}
+
+// A removal is the change with ten zero bytes behind the id; the four zeros of a change that ends the use of a
+// deployment are none.
+bool removesDeployment(Fields fields) {
+    constexpr std::size_t zeros = 10;
+    std::uint16_t idSize = 0;
+    if (fields.size() < sizeof idSize)
+        return false;
+    std::memcpy(&idSize, fields.data(), sizeof idSize);
+    if (fields.size() < sizeof idSize + idSize + zeros)
+        return false;
+    return std::ranges::all_of(fields.subspan(sizeof idSize + idSize, zeros),
+                               [](std::uint8_t byte) { return byte == 0; });
+}
+
+constexpr Handler when(bool (*takes)(Fields), Handler handler) {
+    handler.takes = takes;
+    return handler;
+}
+
+// Of several handlers of one opcode the first one that takes the request answers.
+constexpr Handler handlers[] = {
+    lists<ListDriverBrandsRequest, DriverBrandRecord, listBrands>,
+    lists<ListDriverModelsRequest, DriverModelRecord, listModels>,
+    lists<ListOperatingSystemsRequest, OperatingSystemRecord, listSystems>,
+    when(&asksForShortDrivers, lists<ListDriversRequest, ShortDriverRecord, listShortDrivers>),
+    lists<ListDriversRequest, DriverRecord, listDrivers>,
+    changes<DriverRules, &DriverRules::remove, DeleteDriverRequest>,
+    lists<ListDriverDeploymentsRequest, DriverDeploymentRecord, listDeployments>,
+    changes<DeploymentRules, &DeploymentRules::add, AddDriverDeploymentRequest>,
+    when(&removesDeployment, changes<DeploymentRules, &DeploymentRules::remove, RemoveDriverDeploymentRequest>),
+    changes<DeploymentRules, &DeploymentRules::update, UpdateDriverDeploymentRequest>,
+    changes<DriverRules, &DriverRules::setVisible, SetDriverModelVisibleRequest>,
+    changes<DriverRules, &DriverRules::addModel, AddDriverModelRequest>,
+    changes<DriverRules, &DriverRules::addBuiltIn, AddBuiltInDriverRequest>,
+    changes<DriverRules, &DriverRules::addAlternate, AddAlternateDriverRequest>,
+    changes<DriverRules, &DriverRules::removeAlternate, RemoveAlternateDriverRequest>,
+    changes<DriverRules, &DriverRules::setOctetOrder, SetModelOctetOrderRequest>,
+    answers<GetModelOctetOrderRequest, tellOctetOrder>,
+    answers<CountDeploymentConfigsRequest, countConfigurations>,
+};
+
+} // namespace
+
 std::span<const Handler> driverHandlers() {
-    return {};
+    return handlers;
 }
 
 } // namespace server

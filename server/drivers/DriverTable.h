@@ -1,0 +1,48 @@
+#pragma once
+
+#include "protocol/drivers/DriverRecord.h"
+#include "server/ListQuery.h"
+
+#include <optional>
+#include <string>
+
+namespace server {
+
+// A driver and where it stands. Whether it is in use follows from its deployments.
+struct StoredDriver {
+    protocol::DriverRecord record;
+    std::string modelId;
+    bool builtIn = false; // it comes with the operating system and was not uploaded
+};
+
+// The drivers of all models, for one connection to the database, and nothing about what is allowed. Throws StoreError.
+class DriverTable {
+public:
+    explicit DriverTable(sqlite3* connection);
+
+    // The model has to exist.
+    void insert(const StoredDriver& driver);
+    [[nodiscard]] std::optional<StoredDriver> find(const std::string& id);
+    [[nodiscard]] bool hasBuiltIn(const std::string& modelId);
+
+    // Its deployments go with it.
+    void remove(const std::string& id);
+
+    // DriverRecord, by version.
+    [[nodiscard]] Listing listOfBrand(const std::string& brandId);
+    [[nodiscard]] Listing listOfModel(const std::string& modelId);
+
+    // ShortDriverRecord, by version.
+    [[nodiscard]] Listing listShort(const std::string& modelId);
+
+private:
+    Query insert_;
+    Query find_;
+    Query hasBuiltIn_;
+    Query remove_;
+    ListQuery ofBrand_;
+    ListQuery ofModel_;
+    ListQuery short_;
+};
+
+} // namespace server
