@@ -1,0 +1,56 @@
+#pragma once
+
+#include "client/CQVXAdminClass.h"
+#include "server/SampleEstate.h"
+#include "tests/adversity/Proxy.h"
+#include "tests/client/Recorders.h"
+#include "tests/server/RunningServer.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace adversity {
+
+// A server on the small sample estate, and a bad line to it.
+class ProxiedServer : public testing::Test {
+protected:
+    explicit ProxiedServer(const server::Limits& limits = {}) : server_(limits) {
+        const auto estate = server_.store().openEstate();
+        estate->change([&] {
+            server::SampleEstate(*estate).fillSmall();
+            return 0;
+        });
+        server_.accounts().save(u"admin", u"secret");
+        server_.start();
+        line.emplace(server_.port());
+    }
+
+    // The settings of a console that goes over the bad line, or straight to the server.
+    [[nodiscard]] std::shared_ptr<client::CQVXAdminClassProperties> overLine() { return settingsFor(line->port()); }
+    [[nodiscard]] std::shared_ptr<client::CQVXAdminClassProperties> straight() { return settingsFor(server_.port()); }
+    [[nodiscard]] std::uint16_t serverPort() const { return server_.port(); }
+
+    // Whether the last command that went over the line was reported as a failure.
+    [[nodiscard]] bool isFailureReported() const {
+        return !observer.ended.empty() && observer.ended.back().outcome == client::CommandOutcome::failed &&
+               !observer.ended.back().text.empty();
+    }
+
+    std::optional<Proxy> line;
+    client::RecordingObserver observer;
+
+private:
+    [[nodiscard]] std::shared_ptr<client::CQVXAdminClassProperties> settingsFor(std::uint16_t port) {
+        auto settings = std::make_shared<client::CQVXAdminClassProperties>();
+        settings->connectTimeout = 2;
+        settings->host = "127.0.0.1";
+        settings->port = port;
+        settings->hooks.commands = &observer;
+        return settings;
+    }
+
+    server::test::RunningServer server_;
+};
+
+} // namespace adversity
