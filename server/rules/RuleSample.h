@@ -5,7 +5,8 @@
 
 namespace server {
 
-// Fills in invented rule groups and entries, page limits, price plans, short ids and user messages, in proportion to the printers.
+// Fills in invented rule groups and entries, page limits, price plans, short ids and user messages, in proportion to
+// the printers.
 void addRuleSample(Estate& estate, SampleRandom& random, int printers);
 
 } // namespace server

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "protocol/rules/PriceEntryRecord.h"
+#include "server/ListQuery.h"
+
+#include <span>
+
+namespace server {
+
+// The prices of each plan, in the order in which its console sent them. They go when their plan is deleted. Throws
+// StoreError.
+class PriceEntryTable {
+public:
+    explicit PriceEntryTable(sqlite3* connection);
+
+    // The entries of a plan that is there.
+    void replace(const std::string& planId, std::span<const protocol::PriceEntryRecord> entries);
+    [[nodiscard]] Listing list(const std::string& planId) { return list_.run(planId); }
+
+private:
+    Query clear_;
+    Query insert_;
+    ListQuery list_;
+};
+
+} // namespace server

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "protocol/rules/RuleEntryRecord.h"
+#include "server/ListQuery.h"
+
+#include <optional>
+
+namespace server {
+
+// What a rule entry is placed on: at most one of them, and none for the region 0.
+struct RuleEntryOwner {
+    std::optional<std::string> groupId;
+    std::optional<std::string> recordId; // of a printer or a queue
+    std::optional<std::int32_t> regionId;
+};
+
+// The label of a type; empty for one that does not exist.
+[[nodiscard]] std::u16string_view ruleEntryTypeText(std::uint8_t type);
+
+// The rule entries, and nothing about what is allowed. They go when their owner is deleted. Throws StoreError.
+class RuleEntryTable {
+public:
+    explicit RuleEntryTable(sqlite3* connection);
+
+    [[nodiscard]] bool has(const std::string& id);
+    [[nodiscard]] bool isInGroup(const std::string& id);
+
+    // The text of the type is not stored: a list tells the one that goes with the type.
+    void insert(const protocol::RuleEntryRecord& entry, const RuleEntryOwner& owner);
+    void update(const protocol::RuleEntryRecord& entry);
+    void remove(const std::string& id);
+
+    // In the order of making. With an empty id the entries of the region of that number.
+    [[nodiscard]] Listing list(const std::string& ownerId, std::int32_t ownerNumber);
+
+private:
+    Query has_;
+    Query isInGroup_;
+    Query insert_;
+    Query update_;
+    Query remove_;
+    ListQuery list_;
+};
+
+} // namespace server

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "protocol/rules/RuleWriteAction.h"
+#include "server/Refusal.h"
+#include "server/ReplyBuffer.h"
+#include "wire/WireUuid.h"
+
+#include <optional>
+
+// What is asked of every record of the rules that is written. Its console has made its id. Names may stand twice: no
+// write of these is answered, so that a refusal would silently throw away what an administrator has typed.
+namespace server {
+
+[[nodiscard]] protocol::StatusReply ruleRefused(const wire::WideString& text);
+
+// Something to refuse, or nothing. The word is what a person calls the record ("price plan").
+using Refused = std::optional<protocol::StatusReply>;
+
+[[nodiscard]] Refused refuseId(const wire::WideString& word, const std::string& id);
+[[nodiscard]] Refused refuseId(const wire::WideString& word, const wire::Uuid& id);
+[[nodiscard]] Refused refuseName(const wire::WideString& word, const wire::WideString& name);
+[[nodiscard]] Refused refuseFrameSize(const wire::WideString& word, std::size_t size);
+[[nodiscard]] Refused refuseAction(const wire::WideString& word, std::uint8_t action, bool isThere);
+[[nodiscard]] protocol::StatusReply isGone(const wire::WideString& word);
+
+// What keeps a record with this id from being added or updated, apart from its name and its values.
+template <class Table, protocol::Record R>
+[[nodiscard]] Refused refuseWrite(Table& table, const wire::WideString& word, std::uint8_t action, const R& record) {
+    if (auto refused = refuseId(word, record.id))
+        return refused;
+    if (auto refused = refuseFrameSize(word, frameDataSize(record)))
+        return refused;
+    return refuseAction(word, action, table.find(record.id).has_value());
+}
+
+// The record goes in as new, or in the place of the one that is there.
+template <class Table, protocol::Record R>
+protocol::StatusReply store(Table& table, std::uint8_t action, const R& record) {
+    if (action == protocol::ruleWriteAction::add)
+        table.insert(record);
+    else
+        table.update(record);
+    return done();
+}
+
+template <class Table, class Id>
+protocol::StatusReply removeFrom(Table& table, const wire::WideString& word, const Id& id) {
+    if (!table.find(id))
+        return isGone(word);
+    table.remove(id);
+    return done();
+}
+
+} // namespace server
