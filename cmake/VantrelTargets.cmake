@@ -27,12 +27,13 @@ function(vantrel_program name)
     add_dependencies(programs ${name})
 endfunction()
 
-# vantrel_test(<folder name> SOURCES ... USES ...): the program <folder>_tests, each of its tests known to ctest.
+# vantrel_test(<folder name> SOURCES ... USES ...): the program <folder>_tests, each of its tests known to ctest, with the
+# folder for a label.
 function(vantrel_test folder)
     cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
     add_executable(${folder}_tests ${ARG_SOURCES})
     target_include_directories(${folder}_tests PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${folder}_tests PRIVATE vantrel_options ${ARG_USES} GTest::gmock GTest::gtest_main)
     gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}: " DISCOVERY_MODE PRE_TEST
-                         PROPERTIES TIMEOUT 120)
+                         PROPERTIES TIMEOUT 120 LABELS ${folder})
 endfunction()
