@@ -1,0 +1,166 @@
+#pragma once
+
+#include "protocol/inventory/ReportType.h"
+#include "server/RecordColumns.h"
+#include "server/inventory/FoundModelList.h"
+#include "server/inventory/FoundPrinterList.h"
+#include "server/inventory/IpRangeRules.h"
+#include "server/inventory/IpRangeTable.h"
+#include "server/inventory/MigrationPlanRules.h"
+#include "server/inventory/MigrationPlanTable.h"
+#include "server/inventory/OldEstateTable.h"
+#include "server/inventory/QueueSearch.h"
+#include "server/inventory/ReportRules.h"
+#include "server/inventory/ReportTable.h"
+#include "tests/server/TestEstate.h"
+
+#include "protocol/inventory/FoundQueueRecord.h"
+#include "protocol/inventory/InventoryModelRecord.h"
+#include "protocol/inventory/InventoryPrinterRecord.h"
+
+namespace server::test {
+
+// All records of a list, whose count must be theirs.
+template <protocol::Record R>
+std::vector<R> recordsOf(Listing listing) {
+    std::vector<R> records;
+    while (listing.rows.next())
+        records.push_back(readFields<R>(listing.rows));
+    if (static_cast<std::int64_t>(records.size()) != listing.count)
+        throw std::runtime_error("a list of " + std::to_string(records.size()) + " records announced " +
+                                 std::to_string(listing.count));
+    return records;
+}
+
+// One field of each record.
+template <class R, class Value>
+std::vector<Value> each(const std::vector<R>& records, Value R::*member) {
+    std::vector<Value> values;
+    for (const auto& record : records)
+        values.push_back(record.*member);
+    return values;
+}
+
+// A database with an old estate, and short words for what tests do with it.
+class InventoryPlace : public TestEstate {
+public:
+    [[nodiscard]] OldEstateTable& old() { return estate().table<OldEstateTable>(); }
+
+    // A shared printer of the one print server.
+    std::int64_t addShared(const std::u16string& name, const std::string& ip, const std::u16string& model = u"X5",
+                           const std::string& lastSeen = "2025-06-01 12:00:00") {
+        if (server_ == 0)
+            server_ = old().addServer(u"PRN-1", "10.9.0.1", "2025-06-01 12:00:00");
+        OldPrinter printer;
+        printer.server = server_;
+        printer.windowsName = name;
+        printer.ip = ip;
+        printer.port = "IP_" + ip;
+        printer.model = model;
+        printer.shared = true;
+        printer.lastSeen = lastSeen;
+        return old().addPrinter(printer);
+    }
+
+    // A printer that hangs on a workstation of its own.
+    std::int64_t addLocal(const std::u16string& name, const std::u16string& workstation, const std::string& hostIp,
+                          const std::u16string& model = u"Ink", bool shared = false) {
+        OldPrinter printer;
+        printer.workstation = old().addWorkstation(workstation, hostIp, "2025-06-01 12:00:00");
+        printer.windowsName = name;
+        printer.port = "USB001";
+        printer.model = model;
+        printer.local = true;
+        printer.shared = shared;
+        printer.lastSeen = "2025-06-01 12:00:00";
+        const auto number = old().addPrinter(printer);
+        old().addUse(number, printer.workstation);
+        return number;
+    }
+
+    // A printer of the system.
+    std::string addOwn(const std::u16string& name, const std::string& ip, const std::u16string& model = u"X5") {
+        if (region_ == 0)
+            region_ = addRegion(u"North");
+        protocol::PrinterRecord record;
+        record.name = name;
+        record.ip = ip;
+        record.modelName = model;
+        record.regionId = region_;
+        return recordRules().create({.physicalPrinterId = {}, .record = record}).id;
+    }
+
+    protocol::StatusReply makeReport(const protocol::CreateInventoryReportRequest& request) {
+        return estate().change([&] { return ReportRules(estate()).create(request); });
+    }
+
+    // Its id; empty when it was refused.
+    std::string report(std::uint16_t reportType = 0, const std::string& scope = {}, const std::u16string& dateFrom = {},
+                       const std::u16string& dateTo = {}) {
+        if (!isDone(makeReport({.reportUser = u"eva",
+                                .reportName = u"R",
+                                .comment = {},
+                                .dateFrom = dateFrom,
+                                .dateTo = dateTo,
+                                .ipScope = scope,
+                                .reportType = reportType})))
+            return {};
+        return reports().back().reportId;
+    }
+
+    [[nodiscard]] std::vector<protocol::InventoryReportRecord> reports() {
+        return recordsOf<protocol::InventoryReportRecord>(estate().table<ReportTable>().list());
+    }
+    [[nodiscard]] std::vector<protocol::InventoryPrinterRecord> found(const std::string& reportId,
+                                                                      std::uint16_t listKind = 0) {
+        static_cast<void>(estate().table<NameMatching>());
+        return recordsOf<protocol::InventoryPrinterRecord>(
+            estate().table<FoundPrinterList>().list(listKind, numberOf(reportId)));
+    }
+    [[nodiscard]] std::vector<std::u16string> foundNames(const std::string& reportId, std::uint16_t listKind = 0) {
+        return each(found(reportId, listKind), &protocol::InventoryPrinterRecord::windowsName);
+    }
+    [[nodiscard]] std::vector<protocol::InventoryModelRecord> models(const std::string& reportId,
+                                                                     std::uint16_t listKind = 0) {
+        return recordsOf<protocol::InventoryModelRecord>(
+            estate().table<FoundModelList>().list(listKind, numberOf(reportId)));
+    }
+    [[nodiscard]] std::vector<std::u16string> planNames(const std::string& reportId) {
+        return each(
+            recordsOf<protocol::SchemaRecord>(estate().table<MigrationPlanTable>().listOfReport(numberOf(reportId))),
+            &protocol::SchemaRecord::schemaName);
+    }
+    [[nodiscard]] std::vector<protocol::SchemaRecord> plans() {
+        return recordsOf<protocol::SchemaRecord>(estate().table<MigrationPlanTable>().list());
+    }
+    [[nodiscard]] std::vector<protocol::IpRangeRecord> ranges() {
+        return recordsOf<protocol::IpRangeRecord>(estate().table<IpRangeTable>().list());
+    }
+
+    protocol::StatusReply changePlan(std::uint8_t operation, const protocol::SchemaRecord& plan) {
+        return MigrationPlanRules(estate()).change({.operation = operation, .schema = plan});
+    }
+    protocol::StatusReply changeRange(std::uint8_t operation, const protocol::IpRangeRecord& range) {
+        return IpRangeRules(estate()).change({.operation = operation, .range = range});
+    }
+    // An active one.
+    void addRange(const std::u16string& first, const std::u16string& last, std::int32_t rangeType) {
+        protocol::IpRangeRecord range;
+        range.active = true;
+        range.startIp = first;
+        range.endIp = last;
+        range.rangeType = rangeType;
+        changeRange(1, range);
+    }
+
+    // 0 for one that is not there.
+    [[nodiscard]] std::int64_t numberOf(const std::string& reportId) {
+        return estate().table<ReportTable>().find(reportId).value_or(0);
+    }
+
+private:
+    std::int64_t server_ = 0;
+    std::int32_t region_ = 0;
+};
+
+} // namespace server::test
