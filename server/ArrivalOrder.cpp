@@ -10,10 +10,12 @@ ArrivalOrder::ArrivalOrder(asio::io_context& context, const Limits& limits) : co
 
 ArrivalOrder::Place::Place(ArrivalOrder& order, asio::ip::address address, const PeerStream& peer)
     : order_(order), address_(std::move(address)), peer_(peer), since_(Clock::now()) {
-    auto& line = order_.lines_[address_];
-    if (!line)
-        line = std::make_unique<Line>(order_.context_);
-    position_ = line->places.insert(line->places.end(), this);
+    std::list<Place*> here{this};
+    position_ = here.begin();
+    auto line = order_.lines_.find(address_);
+    if (line == order_.lines_.end())
+        line = order_.lines_.try_emplace(address_, std::make_unique<Line>(order_.context_)).first;
+    line->second->places.splice(line->second->places.end(), here);
 }
 
 ArrivalOrder::Place::~Place() {

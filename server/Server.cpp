@@ -1,5 +1,7 @@
 #include "server/Server.h"
 
+#include "server/MemoryReserve.h"
+
 #include <spdlog/spdlog.h>
 
 #include <algorithm>
@@ -57,8 +59,8 @@ void makeLoginKey(Accounts& accounts) {
 } // namespace
 
 Server::Server(const Store& store, Accounts& accounts, const ServerSettings& settings)
-    : acceptor_(listenOn(context_, settings.listen, settings.port)),
-      services_(context_, store, accounts, settings.limits, settings.loginRequired),
+    : services_(context_, store, accounts, settings.limits, settings.loginRequired),
+      acceptor_(listenOn(context_, settings.listen, settings.port)),
       watch_(context_),
       room_(context_) {}
 
@@ -107,12 +109,24 @@ asio::awaitable<void> Server::waitForRoom() {
     }
 }
 
-void Server::welcome(asio::ip::tcp::socket socket) {
+// A connection for which there is no memory is closed, and those after it are none the worse for it.
+void Server::welcome(asio::ip::tcp::socket socket) noexcept {
+    MemoryReserve::refill();
     error_code error;
     const auto address = socket.remote_endpoint(error).address();
     if (error)
         return; // it is gone already
-    keepWithinShare(address);
+    const auto before = connections_.size();
+    try {
+        keepWithinShare(address);
+        beginServing(std::move(socket), address);
+    } catch (const std::exception& failure) {
+        connections_.resize(before);
+        spdlog::error("a connection could not be served: {}", failure.what());
+    }
+}
+
+void Server::beginServing(asio::ip::tcp::socket socket, const asio::ip::address& address) {
     auto connection = std::make_shared<Connection>(std::move(socket), address, services_);
     connection->peer().endBy(endBy_);
     const auto position = connections_.insert(connections_.end(), connection);

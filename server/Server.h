@@ -40,15 +40,16 @@ private:
     [[nodiscard]] asio::awaitable<void> waitForRoom();
     [[nodiscard]] asio::awaitable<void> watchTimes();
 
-    void welcome(asio::ip::tcp::socket socket);
+    void welcome(asio::ip::tcp::socket socket) noexcept;
+    void beginServing(asio::ip::tcp::socket socket, const asio::ip::address& address);
     void keepWithinShare(const asio::ip::address& address);
     void makeRoom();
     [[nodiscard]] bool isIdle(Connection& connection) const;
     void beginStopping();
 
+    Services services_; // outlives the context, which holds what is left of the connections after a failure
     asio::io_context context_{1};
     asio::ip::tcp::acceptor acceptor_;
-    Services services_;
     asio::steady_timer watch_;
     asio::steady_timer room_;                            // cancelled whenever a connection ends
     std::list<std::shared_ptr<Connection>> connections_; // in the order of their making

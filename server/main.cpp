@@ -1,4 +1,5 @@
 #include "server/Accounts.h"
+#include "server/MemoryReserve.h"
 #include "server/Options.h"
 #include "server/PortFile.h"
 #include "server/SampleEstate.h"
@@ -9,9 +10,13 @@
 #include <spdlog/sinks/stdout_sinks.h>
 #include <spdlog/spdlog.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
+#include <string_view>
 #include <thread>
 
 namespace {
@@ -21,9 +26,19 @@ using namespace server;
 constexpr int failureStatus = 1;
 constexpr rlim_t wantedDescriptors = 4096; // for sockets and for the connections of readers
 
+// Where the libraries cannot pass an exception on, there was no memory: an end like any other failure. What was
+// acknowledged is on the disk.
+[[noreturn]] void endWithoutMemory() {
+    constexpr std::string_view text = "vantreld: there is no memory left\n";
+    [[maybe_unused]] const auto ignored = ::write(STDERR_FILENO, text.data(), text.size());
+    ::_exit(failureStatus);
+}
+
 void prepareProcess() {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error of the write
+    MemoryReserve::install();
+    std::set_terminate(&endWithoutMemory);
     rlimit limit{};
     if (::getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < wantedDescriptors) {
         limit.rlim_cur = std::min(limit.rlim_max, wantedDescriptors);
