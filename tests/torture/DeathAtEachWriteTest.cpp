@@ -1,0 +1,97 @@
+#include "tests/torture/SampleDatabase.h"
+#include "tests/torture/WideCommands.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace torture {
+namespace {
+
+using testing::AnyOf;
+using testing::Eq;
+using testing::IsEmpty;
+
+// One command, and a server that dies at every one of the writes that it takes to carry it out.
+class DeathAtEachWrite : public testing::TestWithParam<WideCommand> {
+protected:
+    // Carries the command out in peace, to know how the database looks then.
+    void SetUp() override {
+        const auto file = sample_.copy();
+        FaultyServer server(file, sample_.shared());
+        (void)server::test::ask(server.waitForPort(), request_);
+        ASSERT_TRUE(server.ends());
+        after_ = contentsOf(file, before_);
+        ASSERT_NE(before_, after_);
+        ASSERT_THAT(damageOf(file), IsEmpty());
+    }
+
+    // Whether the server died before it was through with the command.
+    bool diesDuringCommand(const std::filesystem::path& file, std::uint32_t calls, Effect effect, int before) {
+        FaultyServer server(file, sample_.shared());
+        const auto port = server.waitForPort();
+        arm(sample_.plan(), calls, effect, before);
+        answer_ = server::test::ask(port, request_);
+        const bool died = disarm(sample_.plan());
+        if (died)
+            EXPECT_EQ(server.process().wait(), -SIGKILL);
+        else
+            server.kill();
+        return died;
+    }
+
+    // A server makes what was left of the database whole again, and what stands in it then is looked at.
+    Contents contentsAfterRestart(const std::filesystem::path& file) {
+        FaultyServer server(file, sample_.shared());
+        EXPECT_TRUE(regionsAt(server.waitForPort()).has_value());
+        server.kill();
+        EXPECT_THAT(damageOf(file), IsEmpty());
+        return contentsOf(file, before_);
+    }
+
+    // Returns how many deaths there were.
+    int dieAtEach(std::uint32_t calls, Effect effect, bool powerFails = false) {
+        sample_.plan().keepsSynced = powerFails;
+        for (int before = 0;; ++before) {
+            const auto file = sample_.copy();
+            if (powerFails)
+                std::filesystem::copy_file(file, file.string() + ".synced",
+                                           std::filesystem::copy_options::overwrite_existing);
+            const bool died = diesDuringCommand(file, calls, effect, before);
+            if (powerFails)
+                losePower(file);
+            const auto contents = contentsAfterRestart(file);
+            if (!died) {
+                EXPECT_EQ(contents, after_) << "the command was carried out";
+                return before;
+            }
+            EXPECT_THAT(contents, AnyOf(Eq(before_), Eq(after_))) << "after death number " << before;
+            EXPECT_THAT(answer_, IsEmpty());
+        }
+    }
+
+    Bytes request_;
+    SampleDatabase sample_{[this](std::uint16_t port) { request_ = GetParam().request(port); }};
+    Contents before_ = contentsOf(sample_.file());
+    Contents after_;
+    Bytes answer_;
+};
+
+TEST_P(DeathAtEachWrite, theCommandIsWhollyThereOrWhollyNot) {
+    EXPECT_GT(dieAtEach(changingCalls, Effect::die), 4);
+}
+
+TEST_P(DeathAtEachWrite, theCommandIsWhollyThereOrWhollyNotWhenTheWriteIsTorn) {
+    EXPECT_GT(dieAtEach(bits(Call::write), Effect::writeHalfAndDie), 3);
+}
+
+TEST_P(DeathAtEachWrite, theCommandIsWhollyThereOrWhollyNotWhenThePowerFails) {
+    EXPECT_GE(dieAtEach(bits(Call::sync), Effect::die, true), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, DeathAtEachWrite, testing::ValuesIn(wideCommands()),
+                         [](const auto& instance) { return instance.param.name; });
+
+} // namespace
+} // namespace torture

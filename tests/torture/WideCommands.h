@@ -1,0 +1,21 @@
+#pragma once
+
+#include "tests/support/Bytes.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace torture {
+
+// A command that changes many rows at once.
+struct WideCommand {
+    std::string name;
+    // Looks up what it needs at the port of a server with the small sample estate, makes what is missing, and gives
+    // the request.
+    support::Bytes (*request)(std::uint16_t port);
+};
+
+[[nodiscard]] const std::vector<WideCommand>& wideCommands();
+
+} // namespace torture
