@@ -1,0 +1,93 @@
+#include "server/SampleEstate.h"
+#include "tests/server/rules/RuleEstate.h"
+
+#include <algorithm>
+#include <set>
+
+namespace server {
+namespace {
+
+using test::RuleEstate;
+namespace entryType = protocol::ruleEntryType;
+
+class RuleSample : public testing::Test {
+protected:
+    RuleSample() {
+        place.estate().change([&] {
+            SampleEstate(place.estate()).fillSmall();
+            return true;
+        });
+    }
+
+    template <class Value>
+    std::set<Value> values(const std::string& sql) {
+        auto database = place.store().connect();
+        Query query(database.getHandle(), sql);
+        auto rows = query.run();
+        std::set<Value> found;
+        while (rows.next())
+            found.insert(static_cast<Value>(rows.number(0)));
+        return found;
+    }
+
+    RuleEstate place;
+};
+
+TEST_F(RuleSample, hasSomethingInEveryList) {
+    EXPECT_GE(place.all<protocol::RuleGroupRecord>().size(), 5U);
+    EXPECT_GE(place.all<protocol::AffectedRecord>().size(), 15U);
+    EXPECT_GE(place.all<protocol::PageLimitRecord>().size(), 5U);
+    EXPECT_GE(place.all<protocol::PricePlanRecord>().size(), 5U);
+    EXPECT_GE(place.all<protocol::ShortIdRecord>().size(), 5U);
+    EXPECT_GE(place.all<protocol::UserMessageRecord>().size(), 9U);
+    EXPECT_EQ(place.entries("", 0).size(), 2U);
+}
+
+TEST_F(RuleSample, hasEveryTypeOfEntryAndEveryKindOfOwner) {
+    EXPECT_EQ(values<int>("SELECT type FROM ruleEntry"), (std::set<int>{1, 2, 3, 4, 5, 6, 7, 10}));
+    EXPECT_EQ(values<int>("SELECT DISTINCT recordType FROM ruleEntry JOIN record ON record.id = recordId").size(), 4U);
+    EXPECT_EQ(values<int>("SELECT count(*) > 0 FROM ruleEntry WHERE groupId IS NOT NULL"), std::set<int>{1});
+    EXPECT_EQ(values<int>("SELECT count(DISTINCT regionId) = (SELECT count(*) FROM region) FROM ruleEntry"),
+              std::set<int>{1});
+}
+
+TEST_F(RuleSample, whatAnEntryPointsAtIsThere) {
+    std::set<std::string> targets;
+    for (const auto& group : place.all<protocol::RuleGroupRecord>())
+        targets.insert(group.id);
+    for (const auto& limit : place.all<protocol::PageLimitRecord>())
+        targets.insert(limit.id);
+    for (const auto& plan : place.all<protocol::PricePlanRecord>())
+        targets.insert(plan.id);
+    for (const auto& shortId : place.all<protocol::ShortIdRecord>())
+        targets.insert(wire::toText(shortId.id));
+    for (const auto& entry : place.entries("", 1)) {
+        const bool points = entry.type <= entryType::pricePlan || entry.type == entryType::shortId;
+        EXPECT_EQ(targets.contains(entry.targetId), points) << int{entry.type};
+    }
+}
+
+TEST_F(RuleSample, hasPricesOfPapersAndOfAreas) {
+    EXPECT_EQ(values<int>("SELECT kind FROM priceEntry"), (std::set<int>{0, 1, 2, 3, 5, 6}));
+    EXPECT_EQ(values<int>("SELECT payMethod FROM pricePlan"), (std::set<int>{0, 1, 2, 3}));
+    EXPECT_EQ(values<int>("SELECT action FROM pageLimit"), (std::set<int>{0, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(values<int>("SELECT type FROM userMessage"), (std::set<int>{1, 2, 3}));
+}
+
+TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
+    for (auto plan : place.all<protocol::PricePlanRecord>()) {
+        const auto entries = place.prices(plan.id);
+        EXPECT_TRUE(isDone(place.rules<PricePlanRules>().write({.action = 2, .plan = plan, .entries = entries})));
+    }
+    for (const auto& limit : place.all<protocol::PageLimitRecord>())
+        EXPECT_TRUE(isDone(place.rules<PageLimitRules>().write({.action = 2, .limit = limit})));
+    for (const auto& shortId : place.all<protocol::ShortIdRecord>())
+        EXPECT_TRUE(isDone(place.rules<ShortIdRules>().update({.shortId = shortId})));
+    for (const auto& message : place.all<protocol::UserMessageRecord>())
+        EXPECT_TRUE(isDone(place.rules<UserMessageRules>().write({.action = 2, .message = message})));
+    for (const auto& entry : place.entries("", 0))
+        EXPECT_TRUE(isDone(place.rules<RuleEntryRules>().update({.entry = entry})));
+}
+
+} // namespace
+} // namespace server
