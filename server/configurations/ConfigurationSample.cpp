@@ -35,13 +35,10 @@ constexpr std::array<Package, 12> packages = {{
     {u"Großformat, grau", u"paper=A2; colour=grey"},
 }};
 
-constexpr std::array<std::u16string_view, 7> users = {u"Ines Halder", u"Tomasz Wilk",   u"Aoife Brannigan", u"森田 健",
-                                                      u"Łucja Sowa",  u"Rui Carvalhal", u"administrator"};
-
-constexpr std::size_t usedOnce = 1;      // of the configurations of a model; the one before is not used at all
-constexpr std::size_t mostMaps = 3;      // with so many driver maps at most does a queue use one
-constexpr int printersForOneMore = 1000; // configurations of each model
-constexpr int mostMore = 30;
+constexpr std::size_t usedOnce = 1;          // of the configurations of a model; the one before is not used at all
+constexpr std::size_t mostMaps = 3;          // with so many driver maps at most does a queue use one
+constexpr std::size_t queuesForOneMore = 50; // configurations of a model
+constexpr std::size_t mostMore = 30;
 
 // What the estate has already.
 struct Surroundings {
@@ -71,7 +68,7 @@ protocol::ConfigurationRecord makeConfiguration(SampleRandom& random, std::size_
     const auto date = fmt::format("{}-{:02}-{:02} {:02}:{:02}:{:02}", 2021 + random.below(4), 1 + random.below(12),
                                   1 + random.below(28), 7 + random.below(11), random.below(60), random.below(60));
     return {.configId = random.newId(),
-            .uploadedBy = std::u16string(random.anyOf(users)),
+            .uploadedBy = std::u16string(random.anyOf(sample::people)),
             .date = wire::toWide(date),
             .comment = std::u16string(package.comment) + room,
             .configText = std::u16string(package.settings),
@@ -96,12 +93,12 @@ void applyToQueues(QueueConfigurationTable& table, SampleRandom& random, const s
 
 } // namespace
 
-void addConfigurationSample(Estate& estate, SampleRandom& random, int printers) {
+void addConfigurationSample(Estate& estate, SampleRandom& random, int) {
     auto& surroundings = estate.table<Surroundings>();
     auto& configurations = estate.table<ConfigurationTable>();
     auto queues = readByModel(surroundings.queues);
-    const auto more = static_cast<std::uint32_t>(std::min(printers / printersForOneMore, mostMore));
     for (const auto& [model, maps] : readByModel(surroundings.deployments)) {
+        const auto more = std::min(queues[model].size() / queuesForOneMore, mostMore);
         std::vector<std::string> made(usedOnce + 2 + random.below(4) + more);
         const auto from = random.below(static_cast<std::uint32_t>(packages.size()));
         for (std::size_t number = 0; number < made.size(); ++number) {

@@ -5,7 +5,7 @@
 
 namespace server {
 
-// Fills in invented configurations of driver models and of queues, in proportion to the printers.
-void addConfigurationSample(Estate& estate, SampleRandom& random, int printers);
+// Fills in invented configurations of driver models and of queues, in proportion to the queues that are there.
+void addConfigurationSample(Estate& estate, SampleRandom& random, int);
 
 } // namespace server

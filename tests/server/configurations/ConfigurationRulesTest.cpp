@@ -317,5 +317,16 @@ TEST_F(ConfigurationRulesTest, aQueueWithANewNameStandsInItsNewPlace) {
     EXPECT_EQ(estate.users("c1"), (Names{u"Q2", u"Q3"}));
 }
 
+TEST_F(ConfigurationRulesTest, noListSortsItsRows) {
+    apply(queue, "de", "c1");
+    ASSERT_EQ(estate.entries(queue).size(), 2U);
+    ASSERT_EQ(estate.entries(queue, "en").size(), 1U);
+    ASSERT_EQ(estate.choices("de").size(), 2U);
+    ASSERT_EQ(estate.list("m1").size(), 2U);
+    ASSERT_EQ(estate.users("c1").size(), 1U);
+
+    EXPECT_EQ(estate.sql().sorts(), 0);
+}
+
 } // namespace
 } // namespace server

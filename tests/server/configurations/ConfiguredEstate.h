@@ -9,6 +9,7 @@
 #include "server/configurations/ConfigurationRules.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <string>
 #include <vector>
@@ -31,6 +32,16 @@ public:
         Query query(connection_, sql);
         auto rows = query.run(values...);
         return rows.next() ? rows.number(0) : -1;
+    }
+
+    // How often a statement of the connection has sorted its rows or made an index for itself.
+    [[nodiscard]] int sorts() const {
+        int sorts = 0;
+        for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
+             one = sqlite3_next_stmt(connection_, one))
+            sorts += sqlite3_stmt_status(one, SQLITE_STMTSTATUS_SORT, 0) +
+                     sqlite3_stmt_status(one, SQLITE_STMTSTATUS_AUTOINDEX, 0);
+        return sorts;
     }
 
 private:
