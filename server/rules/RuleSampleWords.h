@@ -81,7 +81,7 @@ constexpr std::array<Plan, 5> plans = {{
 }};
 
 struct Price {
-    std::string_view paper; // in 8-bit text
+    std::string_view paper; // in 8-bit text, which is UTF-8 for consoles on this platform
     std::uint8_t kind;
     std::uint16_t code;
     float base;
@@ -103,8 +103,8 @@ constexpr std::array<Price, 12> prices = {{
     {"A2", 0, 66, 4.0F, 0.0F, 0.0F, 0.0F, 0.0F},
     {"A1", 1, 263, 0.0F, 1.5F, 0.0F, 4.5F, 0.0F},
     {"A0", 1, 262, 0.0F, 3.0F, 0.0F, 9.0F, 0.0F},
-    {"m \xB2", 6, 259, 0.0F, 2.8F, 0.0F, 8.5F, 0.0F},
-    {"dm \xB2", 5, 258, 0.03F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"m ²", 6, 259, 0.0F, 2.8F, 0.0F, 8.5F, 0.0F},
+    {"dm ²", 5, 258, 0.03F, 0.0F, 0.0F, 0.0F, 0.0F},
 }};
 
 struct ShortIds {

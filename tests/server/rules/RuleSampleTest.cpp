@@ -1,8 +1,11 @@
+#include "protocol/rules/PaperCode.h"
 #include "server/SampleEstate.h"
 #include "tests/server/rules/RuleEstate.h"
+#include "wire/Text.h"
 
-#include <algorithm>
+#include <map>
 #include <set>
+#include <span>
 
 namespace server {
 namespace {
@@ -72,6 +75,17 @@ TEST_F(RuleSample, hasPricesOfPapersAndOfAreas) {
     EXPECT_EQ(values<int>("SELECT payMethod FROM pricePlan"), (std::set<int>{0, 1, 2, 3}));
     EXPECT_EQ(values<int>("SELECT action FROM pageLimit"), (std::set<int>{0, 2, 3, 4, 5, 6}));
     EXPECT_EQ(values<int>("SELECT type FROM userMessage"), (std::set<int>{1, 2, 3}));
+}
+
+TEST_F(RuleSample, pricesAreLabelledAsTheirPaperOrArea) {
+    std::map<std::uint16_t, std::string> labels;
+    for (const auto& list : {std::span<const protocol::PaperCode>(protocol::paperSizes),
+                             std::span<const protocol::PaperCode>(protocol::areaUnits)})
+        for (const auto& [code, label] : list)
+            labels[code] = wire::toUtf8(label);
+    for (const auto& plan : place.all<protocol::PricePlanRecord>())
+        for (const auto& price : place.prices(plan.id))
+            EXPECT_EQ(price.paperName, labels[price.paperCode]);
 }
 
 TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
