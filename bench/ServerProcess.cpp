@@ -38,6 +38,21 @@ pid_t spawn(const std::vector<std::string>& words, const std::string& logFile) {
 
 } // namespace
 
+std::uint64_t peakMemoryOf(pid_t process) {
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string word; status >> word;) {
+        std::uint64_t kilobytes = 0;
+        if (word == "VmHWM:" && status >> kilobytes) {
+            return kilobytes * 1024;
+        }
+    }
+    throw std::runtime_error("The system does not tell what memory a process has used");
+}
+
+void forgetPeakMemoryOf(pid_t process) {
+    std::ofstream("/proc/" + std::to_string(process) + "/clear_refs") << "5\n";
+}
+
 ServerProcess::ServerProcess(const std::filesystem::path& database, const std::vector<std::string>& options,
                              const std::vector<std::string>& before) {
     const auto portFile = database.string() + ".port";

@@ -9,6 +9,10 @@
 
 namespace bench {
 
+// The most memory that was resident in a process since the last call of forgetPeakMemory, in bytes.
+[[nodiscard]] std::uint64_t peakMemoryOf(pid_t process);
+void forgetPeakMemoryOf(pid_t process);
+
 // A vantreld of its own process on a free port, asking for no login; it ends with this object.
 class ServerProcess {
 public:
@@ -24,6 +28,8 @@ public:
 
     // Bytes of memory that are resident now.
     [[nodiscard]] std::uint64_t residentMemory() const;
+
+    [[nodiscard]] pid_t process() const { return process_; }
 
     // Ends the server and waits for its end.
     void stop();

@@ -122,7 +122,8 @@ bool isAction(std::uint16_t opcode, std::uint8_t byte) {
 }
 
 void addForm(std::vector<SampleRequest>& requests, const SampleRequest& request) {
-    if (request.command->request != nullptr || request.fields.empty()) {
+    const auto& fields = request.layout->fields;
+    if (request.command->request != nullptr || fields.empty() || fields.front().kind != FieldKind::u8) {
         requests.push_back(request);
         return;
     }
