@@ -1,0 +1,80 @@
+#include "protocol/Catalogue.h"
+#include "server/Handler.h"
+#include "tests/server/QueryPlans.h"
+#include "tests/server/TestClient.h"
+#include "tests/server/TestEstate.h"
+
+#include <gtest/gtest.h>
+
+namespace server {
+namespace {
+
+using protocol::FieldKind;
+using test::Bytes;
+using test::operator+;
+
+// A value of so many bytes, or a text, a list or an optional that is empty.
+Bytes fieldOf(FieldKind kind, std::uint8_t number) {
+    switch (kind) {
+    case FieldKind::u8:
+    case FieldKind::bool8:
+        return test::u8(number);
+    case FieldKind::u16:
+        return test::u16(number);
+    case FieldKind::i64:
+    case FieldKind::u32:
+    case FieldKind::i32:
+    case FieldKind::f32:
+        return test::u32(0);
+    case FieldKind::optional:
+        return test::u8(0);
+    case FieldKind::uuid:
+        return test::str8("5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1a01");
+    default:
+        return test::u16(0);
+    }
+}
+
+// A request in which each kind of list and each mode is this number. A text is empty or, if it is to name something,
+// one letter.
+Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool named) {
+    Bytes fields;
+    for (const auto& field : layout.fields) {
+        const bool isText = field.kind == FieldKind::str8;
+        fields = std::move(fields) + (isText && named ? test::str8("x") : fieldOf(field.kind, number));
+    }
+    return fields;
+}
+
+// Asks for the list and takes its first piece; what no handler takes is passed over.
+void ask(Estate& estate, std::uint16_t opcode, const Bytes& fields) {
+    try {
+        ReplyBuffer buffer;
+        const auto* const handler = findHandler(opcode, fields);
+        ASSERT_NE(handler, nullptr) << opcode;
+        handler->answer(fields, estate)->append(buffer, 1);
+    } catch (const BadRequest&) {
+    }
+}
+
+TEST(Lists, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
+    test::TestEstate place;
+    for (const auto& command : protocol::catalogue())
+        if (command.reply == protocol::ReplyShape::list && command.request != nullptr)
+            for (std::uint8_t number = 0; number <= 10; ++number)
+                for (const bool named : {false, true})
+                    ask(place.estate(), command.opcode, fieldsOf(*command.request, number, named));
+    const auto& plans = place.estate().table<test::QueryPlans>();
+    EXPECT_GE(plans.readingStatements().size(), 30U);
+    EXPECT_EQ(plans.sortingStatements(), "");
+}
+
+TEST(Lists, thatAreSortedWouldBeNoticed) {
+    test::TestEstate place;
+    EXPECT_NE(
+        place.estate().table<test::QueryPlans>().of("SELECT name FROM record ORDER BY comment").find("TEMP B-TREE"),
+        std::string::npos);
+}
+
+} // namespace
+} // namespace server

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "server/Query.h"
+
+#include <sqlite3.h>
+
+#include <string>
+#include <vector>
+
+namespace server::test {
+
+// What SQLite says about the statements of one connection: Estate::table makes it of the connection of the estate.
+class QueryPlans {
+public:
+    explicit QueryPlans(sqlite3* connection) : connection_(connection) {}
+
+    // How a statement is run, one line for each step.
+    [[nodiscard]] std::string of(const std::string& sql) const {
+        Query query(connection_, "EXPLAIN QUERY PLAN " + sql);
+        auto rows = query.run();
+        std::string plan;
+        while (rows.next())
+            plan.append(rows.text(3)).append("\n");
+        return plan;
+    }
+
+    // The statements that the connection has prepared so far and that read.
+    [[nodiscard]] std::vector<std::string> readingStatements() const {
+        std::vector<std::string> statements;
+        for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
+             one = sqlite3_next_stmt(connection_, one))
+            if (std::string sql = sqlite3_sql(one); sql.starts_with("SELECT") || sql.starts_with("WITH"))
+                statements.push_back(std::move(sql));
+        return statements;
+    }
+
+    // Those of them, with their plans, that gather all rows to sort them before the first one goes out.
+    [[nodiscard]] std::string sortingStatements() const {
+        std::string found;
+        for (const auto& sql : readingStatements())
+            if (const auto plan = of(sql); plan.find("TEMP B-TREE") != std::string::npos)
+                found.append(sql).append("\n").append(plan).append("\n");
+        return found;
+    }
+
+private:
+    sqlite3* connection_;
+};
+
+} // namespace server::test
