@@ -89,7 +89,7 @@ TEST_F(RuleSample, pricesAreLabelledAsTheirPaperOrArea) {
 }
 
 TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
-    for (auto plan : place.all<protocol::PricePlanRecord>()) {
+    for (const auto& plan : place.all<protocol::PricePlanRecord>()) {
         const auto entries = place.prices(plan.id);
         EXPECT_TRUE(isDone(place.rules<PricePlanRules>().write({.action = 2, .plan = plan, .entries = entries})));
     }
