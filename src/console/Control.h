@@ -39,7 +39,8 @@ public:
     bool reachable() const;
 
     // What this control stands beside and goes with: a unit beside its number, a list beside its radio button, the
-    // buttons of a list; null for most. Without a label of its own it is called by that of the other.
+    // buttons of a list, a group beside a group; null for most. Without a label of its own it is called by that of the
+    // other.
     const Control* beside() const { return beside_; }
     void setBeside(const Control& other) { beside_ = &other; }
 

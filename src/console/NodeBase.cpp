@@ -303,6 +303,7 @@ Result NodeBase::OnShow(IConsole& console, bool show, int again) {
     if (show) {
         visible_ = true;
         insertColumns(console, titles);
+        readRows();
         insertRows(console);
     }
     if (again == 1) {

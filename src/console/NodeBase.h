@@ -81,6 +81,9 @@ protected:
     virtual std::span<const MenuEntry> menu() const { return {}; }
     // The nodes that stand as rows in this node's result pane, in order.
     virtual std::vector<NodeBase*> rows() const { return {}; }
+    // For a node that reads the server whenever it is shown, and not when it is expanded: fills what rows() gives, once
+    // the columns stand. Leaves no rows when it throws.
+    virtual void readRows() {}
     // In the order in which they are set. The default offers Refresh and nothing else.
     virtual std::span<const VerbChoice> verbs() const;
     // Runs the handler of a menu entry. May throw whatever the client throws: the guard around it reports it, skips the
@@ -140,6 +143,18 @@ protected:
             }
         }
         current = std::move(fresh);
+    }
+    // A row for each record that was read, with what it takes over from the rows of before.
+    template <class Node, class Record>
+    NodeArray<Node> rowsFor(std::vector<Record> records, NodeArray<Node> before) {
+        NodeArray<Node> fresh;
+        fresh.reserve(records.size());
+        for (auto& record : records) {
+            fresh.push_back(std::make_shared<Node>(platform(), std::move(record)));
+            fresh.back()->setParent(*this);
+        }
+        replaceChildren(before, std::move(fresh));
+        return before;
     }
 
 private:

@@ -2,14 +2,23 @@
 
 #include "console/CBaseNodeItem.h"
 
+#include <memory>
+#include <vector>
+
 namespace rules {
 
 // The top of the branch that holds the rules on print jobs.
 class RulesRootNode final : public console::CBaseNodeItem<RulesRootNode> {
 public:
-    static constexpr console::NodeIdentity identity{.displayName = u"Rules", .image = 20, .children = 2};
+    static constexpr console::NodeIdentity identity{
+        .displayName = u"Rules", .image = 20, .children = 2, .viewOptions = 0};
 
     explicit RulesRootNode(console::Platform& platform);
+
+    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+
+private:
+    std::vector<std::shared_ptr<console::NodeBase>> children_; // in the order in which they stand
 };
 
 } // namespace rules

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "console/Group.h"
+#include "protocol/rules/PriceEntryRecord.h"
+#include "rules/PriceBox.h"
+
+namespace rules {
+
+// The four prices of printing or of copying on one paper.
+class FourPrices {
+public:
+    FourPrices(console::Container& container, const console::Locale& locale, std::u16string_view label);
+
+    void show(const protocol::PriceEntryRecord& row);
+    void read(protocol::PriceEntryRecord& row) const;
+    void enableDuplex(bool enabled);
+
+    console::Group group;
+    PriceBox bwSimplex;
+    PriceBox bwDuplex;
+    PriceBox colorSimplex;
+    PriceBox colorDuplex;
+};
+
+} // namespace rules

@@ -1,0 +1,137 @@
+#include "rules/NewPricePlanDlg.h"
+
+#include "client/CQVXAdminClass.h"
+#include "client/rules/NewRecord.h"
+#include "rules/PriceText.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <utility>
+
+namespace rules {
+namespace {
+
+using protocol::PricePlanRecord;
+
+PricePlanRecord newPlan() {
+    auto plan = client::newRecord<PricePlanRecord>();
+    plan.defaultPrice = plan.colorMultiplier = plan.duplexMultiplier = plan.copyMultiplier = 1;
+    plan.vat = 2500;
+    return plan;
+}
+
+} // namespace
+
+NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform)
+    : NewPricePlanDlg(platform, true, newPlan(), std::nullopt) {}
+
+NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, PricePlanRecord plan)
+    : NewPricePlanDlg(platform, false, std::move(plan), std::nullopt) {}
+
+NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, Opener opener)
+    : NewPricePlanDlg(platform, true, newPlan(), std::move(opener)) {}
+
+NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, Opener opener, PricePlanRecord plan)
+    : NewPricePlanDlg(platform, false, std::move(plan), std::move(opener)) {}
+
+NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, bool isNew, PricePlanRecord plan,
+                                 std::optional<Opener> opener)
+    : Form(platform, u"New Price Plan"),
+      isNew_(isNew),
+      plan_(std::move(plan)),
+      opener_(std::move(opener)),
+      knowsPrices_(isNew) {
+    multipliers.setBeside(general);
+    scanMultiplier.box.setLimit(64);
+    papers.onChange = [this] { okButton().setEnabled(knowsPrices_ && !papers.updating()); };
+}
+
+void NewPricePlanDlg::onInitDialog() {
+    for (const auto* const method : {u"Log", u"Wallet", u"External Debit", u"Wallet and external debit"}) {
+        payMethod.addItem(method);
+    }
+    papers.open();
+    showPlan();
+    if (isNew_) {
+        return;
+    }
+    setTitle(u"Edit Priceplan");
+    client::CQVXAdminClass client;
+    std::vector<protocol::PriceEntryRecord> prices;
+    knowsPrices_ = client.listPriceEntries(plan_.id, prices);
+    papers.setRows(std::move(prices));
+}
+
+void NewPricePlanDlg::showPlan() {
+    name.setText(plan_.name);
+    comment.setText(plan_.comment);
+    payMethod.select(plan_.payMethod);
+    defaultPrice.show(plan_.defaultPrice);
+    colorMultiplier.show(plan_.colorMultiplier);
+    duplexMultiplier.show(plan_.duplexMultiplier);
+    copyMultiplier.show(plan_.copyMultiplier);
+    scanMultiplier.show(plan_.scanMultiplier);
+    const auto& locale = platform().locale;
+    std::array<char, 16> percent{};
+    std::snprintf(percent.data(), percent.size(), "%u.%02u", plan_.vat / 100, plan_.vat % 100);
+    shownVat_ = formatAmount(locale, parsePrice(locale, wire::toWide(percent.data())));
+    vat.setText(shownVat_);
+}
+
+void NewPricePlanDlg::onOk() {
+    if (name.text().empty()) {
+        messageBox(u"Name field should not be blank!", u"A required field is empty!", console::boxStyle::iconWarning);
+        name.setFocus();
+        return;
+    }
+    takePlan();
+    client::CQVXAdminClass client;
+    if (isNew_) {
+        client.addPricePlan(plan_, papers.rows());
+    } else {
+        client.updatePricePlan(plan_, papers.rows());
+    }
+    if (opener_) {
+        tellOpener();
+    }
+    EndDialog(console::idOk);
+}
+
+void NewPricePlanDlg::takePlan() {
+    plan_.name = name.text();
+    plan_.comment = comment.text();
+    plan_.payMethod = static_cast<std::uint8_t>(payMethod.selection().value_or(0));
+    plan_.defaultPrice = defaultPrice.priceOr(plan_.defaultPrice);
+    plan_.colorMultiplier = colorMultiplier.priceOr(plan_.colorMultiplier);
+    plan_.duplexMultiplier = duplexMultiplier.priceOr(plan_.duplexMultiplier);
+    plan_.copyMultiplier = copyMultiplier.priceOr(plan_.copyMultiplier);
+    plan_.scanMultiplier = scanMultiplier.priceOr(plan_.scanMultiplier);
+    if (!vat.text().empty() && vat.text() != shownVat_) {
+        plan_.vat = vatTyped();
+    }
+}
+
+// Cut to whole hundredths of a percent, not rounded; this must stay.
+std::uint32_t NewPricePlanDlg::vatTyped() const {
+    constexpr double tooLarge = 9.2e18;
+    const double hundredths = parsePrice(platform().locale, vat.text()) * 100.0;
+    const bool fits = hundredths < tooLarge && hundredths > -tooLarge;
+    return fits ? static_cast<std::uint32_t>(static_cast<std::int64_t>(hundredths)) : 0;
+}
+
+// The entry is updated on the server although it may not be there yet, when the rule is a new one; this must stay.
+void NewPricePlanDlg::tellOpener() {
+    opener_->entry.targetId = plan_.id;
+    client::CQVXAdminClass client;
+    client.updateRuleEntry(opener_->entry);
+    client.listPricePlans(opener_->plans);
+    opener_->saved.name = plan_.name;
+    const auto place = std::ranges::find(opener_->plans, plan_.id, &PricePlanRecord::id);
+    opener_->saved.index.reset();
+    if (place != opener_->plans.end()) {
+        opener_->saved.index = static_cast<std::size_t>(place - opener_->plans.begin());
+    }
+}
+
+} // namespace rules

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "console/Form.h"
+#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/RuleEntryRecord.h"
+#include "rules/PapersGroup.h"
+#include "rules/SavedChoice.h"
+
+#include <optional>
+#include <vector>
+
+namespace rules {
+
+// Makes or edits a price plan: its general figures, and the prices of papers and areas.
+class NewPricePlanDlg final : public console::Form {
+public:
+    // A dialog of a rule, which gets to know what has become of the plans. All of it outlives the form.
+    struct Opener {
+        std::vector<protocol::PricePlanRecord>& plans; // read anew once the plan is written
+        SavedChoice& saved;                            // becomes the plan
+        protocol::RuleEntryRecord entry;               // is made to point at the plan
+    };
+
+    explicit NewPricePlanDlg(console::Platform& platform);
+    NewPricePlanDlg(console::Platform& platform, protocol::PricePlanRecord plan);
+    NewPricePlanDlg(console::Platform& platform, Opener opener);
+    NewPricePlanDlg(console::Platform& platform, Opener opener, protocol::PricePlanRecord plan);
+
+    // As it was sent to the server, once the form has ended with OK.
+    const protocol::PricePlanRecord& plan() const { return plan_; }
+
+    console::Group general{*this, u"Plan"};
+    console::EditBox name{general, u"Name", {.limit = 64}};
+    console::EditBox comment{general, u"Comment", {.limit = 128}};
+    console::DropList payMethod{general, u"Pay method"};
+    PriceBox defaultPrice{general, platform().locale, u"Default price"};
+    console::EditBox vat{general, u"VAT (%)"};
+    console::Group multipliers{*this, u"Multipliers"};
+    PriceBox colorMultiplier{multipliers, platform().locale, u"Color multiplier"};
+    PriceBox duplexMultiplier{multipliers, platform().locale, u"Duplex multiplier"};
+    PriceBox copyMultiplier{multipliers, platform().locale, u"Copy multiplier"};
+    PriceBox scanMultiplier{multipliers, platform().locale, u"Scan multiplier"};
+    PapersGroup papers{*this, platform().locale};
+
+protected:
+    void onInitDialog() override;
+    void onOk() override;
+
+private:
+    NewPricePlanDlg(console::Platform& platform, bool isNew, protocol::PricePlanRecord plan,
+                    std::optional<Opener> opener);
+
+    void showPlan();
+    void takePlan();
+    std::uint32_t vatTyped() const;
+    void tellOpener();
+
+    bool isNew_;
+    protocol::PricePlanRecord plan_;
+    std::optional<Opener> opener_;
+    bool knowsPrices_; // those that the server has: without them a plan would lose them
+    wire::WideString shownVat_;
+};
+
+} // namespace rules

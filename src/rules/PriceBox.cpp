@@ -1,0 +1,21 @@
+#include "rules/PriceBox.h"
+
+#include "rules/PriceText.h"
+
+namespace rules {
+
+PriceBox::PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label)
+    : box(container, label), locale_(locale) {}
+
+void PriceBox::show(float price) {
+    shownText_ = formatPrice(locale_, price);
+    shownPrice_ = price;
+    box.setText(shownText_);
+}
+
+float PriceBox::price() const {
+    const bool leftAlone = !shownText_.empty() && box.text() == shownText_;
+    return leftAlone ? shownPrice_ : parsePrice(locale_, box.text());
+}
+
+} // namespace rules

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "console/EditBox.h"
+#include "console/Locale.h"
+
+namespace rules {
+
+// A box for a price in the user's way of writing. As long as its text is left alone it means the very number that it
+// shows, whatever was rounded or grouped for showing.
+class PriceBox {
+public:
+    PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label);
+
+    void show(float price);
+    bool empty() const { return box.text().empty(); }
+    float price() const;
+    // The same, but that of before where the box is empty.
+    float priceOr(float before) const { return empty() ? before : price(); }
+
+    console::EditBox box;
+
+private:
+    const console::Locale& locale_;
+    wire::WideString shownText_;
+    float shownPrice_ = 0;
+};
+
+} // namespace rules

@@ -1,0 +1,94 @@
+#include "rules/PriceFields.h"
+
+#include "rules/PriceKind.h"
+
+#include <algorithm>
+#include <array>
+
+namespace rules {
+
+PriceFields::PriceFields(console::Container& container, const console::Locale& locale)
+    : basePrice(container, locale, u"Base Price"),
+      print(container, locale, u"Print"),
+      copy(container, locale, u"Copy"),
+      scan(container, locale, u"Scan") {
+    copy.group.setBeside(print.group);
+    scan.group.setBeside(print.group);
+}
+
+void PriceFields::showAbsolute(bool absolute) {
+    basePrice.box.setVisible(!absolute);
+    print.group.setVisible(absolute);
+    copy.group.setVisible(absolute);
+    scan.group.setVisible(absolute);
+}
+
+void PriceFields::enableForAdding(bool area) {
+    print.group.setEnabled(true);
+    print.enableDuplex(!area);
+    copy.group.setEnabled(!area);
+    scan.group.setEnabled(!area);
+}
+
+void PriceFields::enableForUpdate(std::uint8_t kind) {
+    print.group.setEnabled(kind == priceKind::print || kind == priceKind::areaPrint);
+    print.enableDuplex(kind == priceKind::print);
+    copy.group.setEnabled(kind == priceKind::copy);
+    scan.group.setEnabled(kind == priceKind::scan);
+}
+
+void PriceFields::show(const protocol::PriceEntryRecord& row) {
+    switch (row.kind) {
+    case priceKind::multiplier:
+    case priceKind::areaMultiplier:
+        basePrice.show(row.basePrice);
+        break;
+    case priceKind::print:
+    case priceKind::areaPrint:
+        print.show(row);
+        break;
+    case priceKind::copy:
+        copy.show(row);
+        break;
+    case priceKind::scan:
+        scan.show(row);
+        break;
+    default:
+        break;
+    }
+}
+
+void PriceFields::read(protocol::PriceEntryRecord& row) const {
+    row.basePrice = row.bwSimplex = row.bwDuplex = row.colorSimplex = row.colorDuplex = 0;
+    switch (row.kind) {
+    case priceKind::multiplier:
+    case priceKind::areaMultiplier:
+        row.basePrice = basePrice.price();
+        break;
+    case priceKind::print:
+        print.read(row);
+        break;
+    case priceKind::copy:
+        copy.read(row);
+        break;
+    case priceKind::scan:
+        scan.read(row);
+        break;
+    case priceKind::areaPrint:
+        row.bwSimplex = print.bwSimplex.price();
+        row.colorSimplex = print.colorSimplex.price();
+        break;
+    default:
+        break;
+    }
+}
+
+PriceBox* PriceFields::firstEmptyAbsolute() {
+    const std::array boxes{&print.bwSimplex, &print.bwDuplex, &print.colorSimplex, &print.colorDuplex,
+                           &copy.bwSimplex,  &copy.bwDuplex,  &copy.colorSimplex,  &copy.colorDuplex,
+                           &scan.bw,         &scan.color};
+    const auto* const found = std::ranges::find_if(boxes, &PriceBox::empty);
+    return found != boxes.end() ? *found : nullptr;
+}
+
+} // namespace rules

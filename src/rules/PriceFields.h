@@ -1,0 +1,33 @@
+#pragma once
+
+#include "protocol/rules/PriceEntryRecord.h"
+#include "rules/FourPrices.h"
+#include "rules/TwoPrices.h"
+
+namespace rules {
+
+// The boxes for the prices of a paper or an area: one base price, or absolute prices for print, copy and scan.
+class PriceFields {
+public:
+    PriceFields(console::Container& container, const console::Locale& locale);
+
+    // Shows the boxes for absolute prices, or that for the base price.
+    void showAbsolute(bool absolute);
+    // Areas have no prices for duplex, copy and scan.
+    void enableForAdding(bool area);
+    // Only what belongs to the kind of the row.
+    void enableForUpdate(std::uint8_t kind);
+
+    void show(const protocol::PriceEntryRecord& row);
+    // Puts the prices of the row's kind into it and nought into the others.
+    void read(protocol::PriceEntryRecord& row) const;
+    // The first of the ten boxes for absolute prices that is empty; null when all are filled.
+    PriceBox* firstEmptyAbsolute();
+
+    PriceBox basePrice;
+    FourPrices print;
+    FourPrices copy;
+    TwoPrices scan;
+};
+
+} // namespace rules

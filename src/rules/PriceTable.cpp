@@ -1,0 +1,69 @@
+#include "rules/PriceTable.h"
+
+#include "rules/PriceKind.h"
+#include "rules/PriceText.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace rules {
+namespace {
+
+using protocol::PriceEntryRecord;
+
+// The prices of a row in the order of the columns, and which of them have a meaning for its kind.
+struct Shown {
+    std::array<float, 5> prices;
+    std::array<bool, 5> meant;
+};
+
+Shown shownOf(const PriceEntryRecord& row) {
+    const bool base = priceKind::isMultiplier(row.kind);
+    const bool simplex = priceKind::isAbsoluteOfPaper(row.kind) || row.kind == priceKind::areaPrint;
+    const bool duplex = priceKind::isAbsoluteOfPaper(row.kind) && row.kind != priceKind::scan;
+    return {{row.basePrice, row.bwSimplex, row.bwDuplex, row.colorSimplex, row.colorDuplex},
+            {base, simplex, duplex, simplex, duplex}};
+}
+
+bool excludes(const PriceEntryRecord& row, const PriceEntryRecord& added) {
+    const bool ofDifferentKinds =
+        priceKind::isAbsoluteOfPaper(row.kind) && priceKind::isAbsoluteOfPaper(added.kind) && row.kind != added.kind;
+    return row.paperCode == added.paperCode && !ofDifferentKinds;
+}
+
+} // namespace
+
+void PriceTable::add(PriceEntryRecord row) {
+    if (std::ranges::none_of(rows_, [&](const auto& other) { return excludes(other, row); })) {
+        rows_.push_back(std::move(row));
+    }
+}
+
+void PriceTable::replace(std::size_t row, PriceEntryRecord with) {
+    rows_.at(row) = std::move(with);
+}
+
+void PriceTable::removePaper(std::uint16_t paperCode) {
+    std::erase_if(rows_, [&](const auto& row) { return row.paperCode == paperCode; });
+}
+
+std::vector<console::ListColumn> PriceTable::columns() {
+    return {{u"Paper type", 85}, {u"Base price", 85},    {u"B/W Simplex", 85},
+            {u"B/W Duplex", 85}, {u"Color Simplex", 85}, {u"Color Duplex", 87}};
+}
+
+std::vector<console::ListRow> PriceTable::listRows(const console::Locale& locale) const {
+    std::vector<console::ListRow> lines;
+    for (const auto& row : rows_) {
+        console::ListRow line{.cells = {wire::fromCodePage(row.paperName)}, .data = row.id};
+        const Shown shown = shownOf(row);
+        for (std::size_t i = 0; i < shown.prices.size(); ++i) {
+            line.cells.push_back(shown.meant[i] ? formatPrice(locale, shown.prices[i]) : u"N/A");
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+} // namespace rules

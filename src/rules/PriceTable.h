@@ -1,0 +1,33 @@
+#pragma once
+
+#include "console/ListView.h"
+#include "console/Locale.h"
+#include "protocol/rules/PriceEntryRecord.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace rules {
+
+// The rows of a price plan: which of them may stand beside each other, and how they are listed.
+class PriceTable {
+public:
+    const std::vector<protocol::PriceEntryRecord>& rows() const { return rows_; }
+    void setRows(std::vector<protocol::PriceEntryRecord> rows) { rows_ = std::move(rows); }
+
+    // Drops, without a word, a row of a paper or area that is priced already; only absolute prices of a paper may stand
+    // beside those of another kind.
+    void add(protocol::PriceEntryRecord row);
+    // Does not look for duplicates. Throws std::out_of_range for a row that is not there.
+    void replace(std::size_t row, protocol::PriceEntryRecord with);
+    // Removes every row of the paper or area, whatever its kind.
+    void removePaper(std::uint16_t paperCode);
+
+    static std::vector<console::ListColumn> columns();
+    std::vector<console::ListRow> listRows(const console::Locale& locale) const;
+
+private:
+    std::vector<protocol::PriceEntryRecord> rows_;
+};
+
+} // namespace rules
