@@ -2,6 +2,10 @@
 
 #include "server/Query.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 namespace server {
 
 // What a list request selects: how many rows, and the rows. Within one read transaction the two agree.
@@ -13,8 +17,11 @@ struct Listing {
 // A SELECT of which a list needs both.
 class ListQuery {
 public:
-    ListQuery(sqlite3* connection, const std::string& select)
-        : count_(connection, "SELECT count(*) FROM (" + select + ")"), rows_(connection, select) {}
+    ListQuery(sqlite3* connection, const std::string& select) : ListQuery(connection, withoutOrder(select), select) {}
+
+    // With another SELECT of as many rows that is easier to count.
+    ListQuery(sqlite3* connection, const std::string& counted, const std::string& select)
+        : count_(connection, "SELECT count(*) FROM (" + counted + ")"), rows_(connection, select) {}
 
     template <class... Values>
     [[nodiscard]] Listing run(const Values&... values) {
@@ -28,6 +35,14 @@ public:
     }
 
 private:
+    // To count rows that have an order SQLite would make every column of them.
+    [[nodiscard]] static std::string withoutOrder(const std::string& select) {
+        const auto end = std::min(select.rfind(" ORDER BY "), select.size());
+        const auto order = std::string_view(select).substr(end);
+        const bool isOfSubquery = std::ranges::count(order, '(') != std::ranges::count(order, ')');
+        return isOfSubquery ? select : select.substr(0, end);
+    }
+
     Query count_;
     Query rows_;
 };

@@ -27,7 +27,7 @@ std::string selectModels(const std::string& where) {
 } // namespace
 
 FoundModelList::FoundModelList(sqlite3* connection)
-    : all_(connection, selectModels("")),
+    : all_(connection, "SELECT 1 FROM inventoryModel WHERE report = ?", selectModels("")),
       working_(connection, selectModels(" AND model.id IS NOT NULL AND " + hasDriver("model"))),
       missing_(connection, selectModels(" AND NOT (model.id IS NOT NULL AND " + hasDriver("model") + ")")) {}
 
