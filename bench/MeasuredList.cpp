@@ -99,11 +99,10 @@ ListRun list(client::CQVXAdminClass& client, const Request& request) {
     exchange.send(client::dataMessageOf(request));
     auto message = next(exchange);
     const auto count = client::Exchange::readCount(*message);
-    // The regions come in one message as long as they fit into it.
-    const bool allInOne = message->remaining() > 0;
+    run.inOneMessage = message->remaining() > 0;
     records.reserve(count);
     for (std::uint16_t index = 0; index < count; ++index) {
-        message = allInOne ? std::move(message) : next(exchange, std::move(message));
+        message = run.inOneMessage ? std::move(message) : next(exchange, std::move(message));
         read(*message, records.emplace_back());
         run.secondsToFirst = index == 0 ? secondsSince(begin) : run.secondsToFirst;
     }
