@@ -211,7 +211,8 @@ Complaints platformHeadersOutside(const SourceTree& tree) {
                                                                            "tests/hosts/", "bench/desktop/"});
             const bool win32 = isWin32Header(name) && !mayIncludeWin32(file);
             const bool sqlite =
-                isSqliteHeader(name) && !startsWithAny(file.path, {"server/", "tests/server/", "bench/"});
+                isSqliteHeader(name) &&
+                !startsWithAny(file.path, {"server/", "tests/server/", "tests/torture/", "bench/", "fuzz/"});
             if (qt || win32 || sqlite) {
                 complaints.push_back(file.path + ": " + name + " belongs to other folders");
             }

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdlib>
+#include <exception>
+
+namespace fuzz {
+
+// Ends the program when something that must hold does not.
+inline void expect(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+// Runs an action that bad bytes may end with an exception of the standard library or with a plain text; anything else
+// that it throws ends the program.
+template <class Action>
+void tolerate(Action&& action) {
+    try {
+        action();
+    } catch (const std::exception&) {
+        return;
+    } catch (const char*) {
+        return;
+    }
+}
+
+} // namespace fuzz

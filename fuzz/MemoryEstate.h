@@ -1,0 +1,33 @@
+#pragma once
+
+#include "server/Estate.h"
+
+#include <string>
+#include <vector>
+
+namespace fuzz {
+
+// The sample estate in memory, as it was at first for every run.
+class MemoryEstate {
+public:
+    MemoryEstate();
+
+    [[nodiscard]] server::Estate& estate() { return *estate_; }
+
+    // Undoes what the last run has changed.
+    void restore();
+
+    // All ids that stand in the estate, for those that want to name something that is there.
+    [[nodiscard]] std::vector<std::string> ids();
+
+private:
+    SQLite::Database pristine_;
+    sqlite3* connection_ = nullptr; // of the estate
+    std::unique_ptr<server::Estate> estate_;
+    int changes_ = 0;
+};
+
+// The one of this program.
+[[nodiscard]] MemoryEstate& memoryEstate();
+
+} // namespace fuzz

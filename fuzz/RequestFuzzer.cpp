@@ -1,0 +1,71 @@
+#include "fuzz/Expect.h"
+#include "fuzz/Fuzzer.h"
+#include "fuzz/Input.h"
+#include "fuzz/MemoryEstate.h"
+#include "server/Handler.h"
+#include "wire/Frame.h"
+
+#include <spdlog/spdlog.h>
+
+#include <cstring>
+
+// A request, carried out by its handler on the sample estate: an opcode, and the fields. A console can receive whatever
+// is answered.
+
+namespace {
+
+constexpr std::size_t pieceSize = 65536;
+
+// The frames of an answer, each with one Data message.
+void expectFrames(std::span<const std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+        fuzz::expect(bytes.size() >= wire::frameHeaderSize);
+        const auto header = wire::decodeFrameHeader(bytes.first<wire::frameHeaderSize>());
+        bytes = bytes.subspan(wire::frameHeaderSize);
+        fuzz::expect(header.count == 1 && header.size <= bytes.size() && header.size <= server::largestReceivableFrame);
+        const auto data = bytes.first(header.size);
+        fuzz::expect(wire::frameChecksum(data) == header.checksum);
+        wire::Message message;
+        message.loadMessage(data.data(), header.size);
+        fuzz::expect(message.kind() == wire::MessageKind::Data && message.size() == header.size);
+        bytes = bytes.subspan(header.size);
+    }
+}
+
+void carryOut(std::uint8_t opcode, server::Fields fields, server::Estate& estate) {
+    const auto* const handler = server::findHandler(opcode, fields);
+    if (handler == nullptr)
+        return;
+    server::ReplyBuffer reply;
+    if (handler->prepare != nullptr) {
+        const auto change = handler->prepare(fields);
+        static_cast<void>(change.make(estate, reply));
+        fuzz::expect(change.isAnswered == (reply.size() > 0));
+        expectFrames(reply.bytes());
+        return;
+    }
+    const auto answer = handler->answer(fields, estate);
+    for (bool more = true; more;) {
+        reply.clear();
+        more = answer->append(reply, pieceSize);
+        expectFrames(reply.bytes());
+    }
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const bool quiet = (spdlog::set_level(spdlog::level::off), true);
+    fuzz::expect(quiet);
+    fuzz::Input input(data, size);
+    const std::uint8_t opcode = input.byte();
+    auto& place = fuzz::memoryEstate();
+
+    try {
+        carryOut(opcode, input.rest(), place.estate());
+    } catch (const server::BadRequest&) {
+        // The connection would be closed.
+    }
+    place.restore();
+    return 0;
+}
