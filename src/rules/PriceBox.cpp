@@ -2,13 +2,23 @@
 
 #include "rules/PriceText.h"
 
+#include <utility>
+
 namespace rules {
 
 PriceBox::PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label)
     : box(container, label), locale_(locale) {}
 
 void PriceBox::show(float price) {
-    shownText_ = formatPrice(locale_, price);
+    show(price, formatPrice(locale_, price));
+}
+
+void PriceBox::showAmount(float amount) {
+    show(amount, formatAmount(locale_, amount));
+}
+
+void PriceBox::show(float price, wire::WideString text) {
+    shownText_ = std::move(text);
     shownPrice_ = price;
     box.setText(shownText_);
 }

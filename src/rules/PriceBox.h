@@ -12,6 +12,8 @@ public:
     PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label);
 
     void show(float price);
+    // The same with two decimals.
+    void showAmount(float amount);
     bool empty() const { return box.text().empty(); }
     float price() const;
     // The same, but that of before where the box is empty.
@@ -20,6 +22,8 @@ public:
     console::EditBox box;
 
 private:
+    void show(float price, wire::WideString text);
+
     const console::Locale& locale_;
     wire::WideString shownText_;
     float shownPrice_ = 0;

@@ -1,0 +1,40 @@
+#include "rules/SearchDestinationDlg.h"
+
+#include "client/CQVXAdminClass.h"
+
+#include <utility>
+
+namespace rules {
+
+SearchDestinationDlg::SearchDestinationDlg(console::Platform& platform, std::string& destinationId,
+                                           wire::WideString& destinationName)
+    : Form(platform, u"Search Destination"), destinationId_(destinationId), destinationName_(destinationName) {
+    searchButton.setBeside(searchTerms);
+    searchButton.onPress = [this] { search(); };
+}
+
+// What the server found last stands first; this must stay.
+void SearchDestinationDlg::search() {
+    ids_.clear();
+    names_.clear();
+    queue.clear();
+    client::CQVXAdminClass client;
+    client.searchQueues(searchTerms.text());
+    protocol::FoundQueueRecord found;
+    while (client.nextFoundQueue(found)) {
+        queue.addItem(found.queueName);
+        ids_.push_back(std::move(found.queueId));
+        names_.push_back(std::move(found.queueName));
+    }
+    queue.select(0);
+}
+
+// Without a queue there is no destination any more; this must stay.
+void SearchDestinationDlg::onOk() {
+    const auto row = queue.selection();
+    destinationId_ = row ? ids_.at(*row) : std::string();
+    destinationName_ = row ? names_.at(*row) : wire::WideString();
+    EndDialog(console::idOk);
+}
+
+} // namespace rules
