@@ -21,14 +21,18 @@ using support::operator+;
 
 namespace {
 
-constexpr std::array allFillings{Filling::empty, Filling::ordinary, Filling::rich};
+constexpr std::array allFillings{Filling::empty, Filling::plain, Filling::ordinary, Filling::rich};
 
 std::uint32_t numberOf(Filling filling) {
-    return filling == Filling::empty ? 0 : filling == Filling::ordinary ? 1 : 0x87654321;
+    return filling == Filling::empty ? 0 : filling == Filling::rich ? 0x87654321 : 1;
+}
+
+std::uint32_t smallNumberOf(Filling filling) {
+    return filling == Filling::plain ? 0 : numberOf(filling);
 }
 
 Bytes textOf(Filling filling) {
-    return str8(filling == Filling::empty ? "" : filling == Filling::ordinary ? "two" : "a somewhat longer text, \xFF");
+    return str8(filling == Filling::empty ? "" : filling == Filling::rich ? "a somewhat longer text, \xFF" : "two");
 }
 
 Bytes wideTextOf(Filling filling) {
@@ -59,9 +63,9 @@ private:
         switch (kind) {
         case FieldKind::u8:
         case FieldKind::bool8:
-            return add(u8(static_cast<std::uint8_t>(numberOf(filling_))));
+            return add(u8(static_cast<std::uint8_t>(smallNumberOf(filling_))));
         case FieldKind::u16:
-            return add(u16(static_cast<std::uint16_t>(numberOf(filling_))));
+            return add(u16(static_cast<std::uint16_t>(smallNumberOf(filling_))));
         case FieldKind::u32:
         case FieldKind::i32:
         case FieldKind::i64:
@@ -69,11 +73,11 @@ private:
         case FieldKind::f32:
             return add(support::hex("00 00 C0 3F")); // 1.5
         case FieldKind::str8:
-            return writeText(layout, field);
+            return writeText(layout, field, textOf(filling_));
         case FieldKind::str16:
             return add(wideTextOf(filling_));
         case FieldKind::uuid:
-            return add(str8("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480"));
+            return writeText(layout, field, str8("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480"));
         case FieldKind::optional:
             add(u8(filling_ == Filling::empty ? 0 : 1));
             return filling_ == Filling::empty ? void() : write(layout, field, field.elementKind);
@@ -84,13 +88,13 @@ private:
         }
     }
 
-    void writeText(const RecordLayout& layout, const FieldInfo& field) {
+    void writeText(const RecordLayout& layout, const FieldInfo& field, const Bytes& otherwise) {
         const std::string text = known_ && filling_ != Filling::empty ? known_(layout, field) : std::string();
-        add(text.empty() ? textOf(filling_) : str8(text));
+        add(text.empty() ? otherwise : str8(text));
     }
 
     void writeList(const RecordLayout& layout, const FieldInfo& field) {
-        const int count = filling_ == Filling::empty ? 0 : filling_ == Filling::ordinary ? 1 : 3;
+        const int count = filling_ == Filling::empty ? 0 : filling_ == Filling::rich ? 3 : 1;
         add(u16(static_cast<std::uint16_t>(count)));
         for (int index = 0; index < count; ++index) {
             write(layout, field, field.elementKind);
@@ -121,18 +125,22 @@ bool isAction(std::uint16_t opcode, std::uint8_t byte) {
     }
 }
 
+// A request whose first byte says what is meant comes once with each of those that the server knows.
 void addForm(std::vector<SampleRequest>& requests, const SampleRequest& request) {
     const auto& fields = request.layout->fields;
-    if (request.command->request != nullptr || fields.empty() || fields.front().kind != FieldKind::u8) {
+    std::vector<std::uint8_t> actions;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (isAction(request.command->opcode, static_cast<std::uint8_t>(byte))) {
+            actions.push_back(static_cast<std::uint8_t>(byte));
+        }
+    }
+    if (fields.empty() || fields.front().kind != FieldKind::u8 || actions.empty() || actions.size() == 256) {
         requests.push_back(request);
         return;
     }
-    for (int byte = 0; byte < 256; ++byte) {
-        const auto action = static_cast<std::uint8_t>(byte);
-        if (isAction(request.command->opcode, action)) {
-            requests.push_back(request);
-            requests.back().fields.front() = action;
-        }
+    for (const auto action : actions) {
+        requests.push_back(request);
+        requests.back().fields.front() = action;
     }
 }
 

@@ -15,11 +15,12 @@ using support::Bytes;
 // How much the fields of a sample hold.
 enum class Filling {
     empty,    // zeros, empty texts and lists, nothing optional
+    plain,    // as ordinary, but zero in all numbers of one or two bytes, which mostly tell a kind
     ordinary, // small numbers, short texts, lists of one
     rich,     // large numbers, texts outside of the basic plane and of odd length, lists of three
 };
 
-// The text of a str8 field that a peer would understand, such as an id; empty leaves the choice to the filling.
+// The text of a str8 or uuid field that a peer would understand, such as an id; empty leaves the choice to the filling.
 using KnownText = std::function<std::string(const protocol::RecordLayout& record, const protocol::FieldInfo& field)>;
 
 // The bytes of a record's fields.
