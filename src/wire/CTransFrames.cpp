@@ -65,6 +65,7 @@ bool CTrans::sendMessages(const TransLogger& logger) {
     } catch (const std::bad_alloc&) {
         messages_.clear();
         rawBuffer_.clear();
+        closeSocket(); // nobody will answer what was not sent
         return false;
     }
     messages_.clear();

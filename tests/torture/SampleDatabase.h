@@ -31,6 +31,9 @@ public:
     [[nodiscard]] SharedPlan& shared() { return shared_; }
     [[nodiscard]] FaultPlan& plan() { return shared_.plan(); }
 
+    // For whatever else a test needs.
+    [[nodiscard]] std::filesystem::path folder(const std::string& name) const { return makeFolder(folder_ / name); }
+
     // A fresh copy to try things with.
     [[nodiscard]] std::filesystem::path copy() const { return copyDatabase(file_, tries_); }
 

@@ -21,6 +21,16 @@ Result passOrFail(Call call, int error, Result (*next)(Arguments...), Arguments.
     return -1;
 }
 
+// A connection that fails is broken from then on, in both directions.
+template <class... Arguments>
+ssize_t transferOrBreak(Call call, ssize_t (*next)(int, Arguments...), int socket, Arguments... arguments) {
+    if (!fails(call))
+        return next(socket, arguments...);
+    ::shutdown(socket, SHUT_RDWR);
+    errno = ECONNRESET;
+    return -1;
+}
+
 } // namespace
 
 extern "C" {
@@ -42,22 +52,22 @@ int accept(int socket, sockaddr* address, socklen_t* length) {
 
 ssize_t send(int socket, const void* bytes, std::size_t size, int flags) {
     static auto* const next = nextFunction<ssize_t(int, const void*, std::size_t, int)>("send");
-    return passOrFail(Call::send, ECONNRESET, next, socket, bytes, size, flags);
+    return transferOrBreak(Call::send, next, socket, bytes, size, flags);
 }
 
 ssize_t sendmsg(int socket, const msghdr* message, int flags) {
     static auto* const next = nextFunction<ssize_t(int, const msghdr*, int)>("sendmsg");
-    return passOrFail(Call::send, ECONNRESET, next, socket, message, flags);
+    return transferOrBreak(Call::send, next, socket, message, flags);
 }
 
 ssize_t recv(int socket, void* bytes, std::size_t size, int flags) {
     static auto* const next = nextFunction<ssize_t(int, void*, std::size_t, int)>("recv");
-    return passOrFail(Call::receive, ECONNRESET, next, socket, bytes, size, flags);
+    return transferOrBreak(Call::receive, next, socket, bytes, size, flags);
 }
 
 ssize_t recvmsg(int socket, msghdr* message, int flags) {
     static auto* const next = nextFunction<ssize_t(int, msghdr*, int)>("recvmsg");
-    return passOrFail(Call::receive, ECONNRESET, next, socket, message, flags);
+    return transferOrBreak(Call::receive, next, socket, message, flags);
 }
 
 int poll(pollfd* entries, nfds_t count, int timeout) {
