@@ -39,16 +39,6 @@ Json valueJson(const protocol::FieldValue& field) {
         field.value);
 }
 
-Json hexJson(const wire::Message& message) {
-    static constexpr char digits[] = "0123456789abcdef";
-    std::string hex;
-    for (const auto byte : message.bytes()) {
-        hex += digits[byte >> 4U];
-        hex += digits[byte & 0xFU];
-    }
-    return {{"hex", hex}};
-}
-
 } // namespace
 
 Json replyJson(const client::RawReply& reply) {
@@ -56,9 +46,6 @@ Json replyJson(const client::RawReply& reply) {
     Json records = Json::array();
     for (const auto& record : reply.records) {
         records.push_back(recordJson(record));
-    }
-    for (const auto& message : reply.undescribed) {
-        records.push_back(hexJson(*message));
     }
     if (reply.command->reply == protocol::ReplyShape::list) {
         json["records"] = std::move(records);

@@ -9,7 +9,7 @@ namespace ctl {
 using Json = nlohmann::ordered_json;
 
 // {"opcode", "name", "records": [...]} of a list, {"opcode", "name", "reply": {...}} of a single reply, else
-// {"opcode", "name"}. A message that the catalogue does not describe is its bytes in hex.
+// {"opcode", "name"}.
 Json replyJson(const client::RawReply& reply);
 
 // A text with what is not UTF-8 replaced, on one line or (with an indent) on several.

@@ -20,22 +20,15 @@ const protocol::Command& callable(std::uint16_t opcode) {
 }
 
 // What the records of the reply to these fields look like.
-const protocol::RecordLayout* recordLayout(const protocol::Command& command,
+const protocol::RecordLayout& recordLayout(const protocol::Command& command,
                                            std::span<const protocol::FieldValue> fields) {
     const auto* const first = fields.empty() ? nullptr : std::get_if<std::uint8_t>(&fields.front().value);
     if (command.otherRecord.layout != nullptr && first != nullptr && *first == command.otherRecord.firstByte)
-        return command.otherRecord.layout;
-    return command.replyRecord;
+        return *command.otherRecord.layout;
+    return *command.replyRecord;
 }
 
-void take(RawReply& reply, const protocol::RecordLayout* layout, std::unique_ptr<wire::Message> message) {
-    if (layout != nullptr)
-        reply.records.push_back(protocol::readFields(*message, *layout));
-    else
-        reply.undescribed.push_back(std::move(message));
-}
-
-void readList(Exchange& exchange, RawReply& reply, const protocol::RecordLayout* layout) {
+void readList(Exchange& exchange, RawReply& reply, const protocol::RecordLayout& layout) {
     const auto first = exchange.receive();
     if (!first) {
         reply.complete = false;
@@ -46,9 +39,9 @@ void readList(Exchange& exchange, RawReply& reply, const protocol::RecordLayout*
     const bool allInOne = reply.command->opcode == protocol::ListRegionsRequest::opcode && !onlyCount;
     for (std::uint16_t index = 0; index < count && reply.complete; ++index) {
         if (allInOne) {
-            exchange.run([&] { reply.records.push_back(protocol::readFields(*first, *layout)); });
-        } else if (auto message = exchange.receive()) {
-            exchange.run([&] { take(reply, layout, std::move(message)); });
+            exchange.run([&] { reply.records.push_back(protocol::readFields(*first, layout)); });
+        } else if (const auto message = exchange.receive()) {
+            exchange.run([&] { reply.records.push_back(protocol::readFields(*message, layout)); });
         } else {
             reply.complete = false;
             break;
@@ -70,8 +63,8 @@ RawReply CQVXAdminClass::rawCall(std::uint16_t opcode, std::span<const protocol:
     if (reply.command->reply == protocol::ReplyShape::list) {
         readList(exchange, reply, recordLayout(*reply.command, fields));
     } else if (reply.command->reply != protocol::ReplyShape::none) {
-        if (auto message = exchange.receive())
-            exchange.run([&] { take(reply, reply.command->replyRecord, std::move(message)); });
+        if (const auto message = exchange.receive())
+            exchange.run([&] { reply.records.push_back(protocol::readFields(*message, *reply.command->replyRecord)); });
         else
             reply.complete = false;
     }

@@ -2,9 +2,7 @@
 
 #include "protocol/Catalogue.h"
 #include "protocol/FieldValue.h"
-#include "wire/Message.h"
 
-#include <memory>
 #include <vector>
 
 namespace client {
@@ -12,9 +10,8 @@ namespace client {
 // What a command called by its number brought back.
 struct RawReply {
     const protocol::Command* command = nullptr;
-    bool complete = true;                                    // false: the reply did not come, or broke off
-    std::vector<protocol::FieldRecord> records;              // of a list its records, of a single reply one
-    std::vector<std::unique_ptr<wire::Message>> undescribed; // the same when the catalogue has no layout for it
+    bool complete = true;                       // false: the reply did not come, or broke off
+    std::vector<protocol::FieldRecord> records; // of a list its records, of a single reply one
 };
 
 } // namespace client

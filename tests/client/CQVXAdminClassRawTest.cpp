@@ -61,14 +61,14 @@ TEST_F(RawCall, regionsInFramesOfTheirOwnAreRecordsToo) {
     EXPECT_EQ(call(0, {{std::uint8_t{0}}, {std::uint32_t{0}}, {std::uint16_t{0}}}).records.size(), 1U);
 }
 
-TEST_F(RawCall, whatTheCatalogueDoesNotDescribeIsHandedOverAsItCame) {
-    answer({countedList({hex("01 00 61 02 00 62 00")})});
+TEST_F(RawCall, theFirstByteOfARequestMayTellOfOtherRecords) {
+    answer({countedList({hex("01 00 64 02 00 31 00 00 00")}), countedList({hex("01 00 64 02 00 31 00 00 00")})});
 
-    const RawReply reply = call(4);
+    const RawReply shortReply = call(12, {{std::uint8_t{2}}, {std::string("m")}});
 
-    ASSERT_EQ(reply.undescribed.size(), 1U);
-    EXPECT_EQ(reply.undescribed[0]->getString(), "a");
-    EXPECT_EQ(reply.undescribed[0]->getWideString(), u"b");
+    ASSERT_EQ(shortReply.records.size(), 1U);
+    EXPECT_EQ(shortReply.records[0].size(), 3U);
+    EXPECT_THROW((void)call(12, {{std::uint8_t{1}}, {std::string("m")}}), const char*);
 }
 
 TEST_F(RawCall, aListThatBreaksOffIsNotComplete) {

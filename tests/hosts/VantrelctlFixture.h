@@ -40,6 +40,11 @@ protected:
         ASSERT_EQ(server_->wait(), 0);
     }
 
+    void kill() {
+        server_->signal(SIGKILL);
+        ASSERT_EQ(server_->wait(), -SIGKILL);
+    }
+
     Arguments withConnection(const Arguments& command) const {
         Arguments all{
             VANTRELCTL_PROGRAM, "--settings", folder / "settings.ini", "--server",         "127.0.0.1", "--port", port,

@@ -1,5 +1,6 @@
 #include "server/Handler.h"
 
+#include "protocol/Catalogue.h"
 #include "tests/server/TestClient.h"
 #include "tests/server/TestEstate.h"
 
@@ -39,6 +40,21 @@ TEST(Handler, aCommandEitherReadsOrChanges) {
         EXPECT_NE(findHandler(opcode, {})->prepare, nullptr) << opcode;
         EXPECT_EQ(findHandler(opcode, {})->answer, nullptr) << opcode;
     }
+}
+
+TEST(Handler, everyCommandHasOneButThoseOfTheLogin) {
+    for (const auto& command : protocol::catalogue()) {
+        const bool isLogin = command.opcode == 22 || command.opcode == 78;
+        const std::uint8_t action[] = {static_cast<std::uint8_t>(command.opcode == 62 ? 3 : 1)};
+        EXPECT_EQ(findHandler(command.opcode, action) == nullptr, isLogin) << command.name;
+    }
+}
+
+TEST(Handler, anActionThatDoesNotExistIsRefused) {
+    const std::uint8_t action[] = {77};
+    for (const std::uint16_t opcode : {std::uint16_t{58}, std::uint16_t{60}, std::uint16_t{64}, std::uint16_t{68}})
+        EXPECT_THROW((void)findHandler(opcode, action), BadRequest) << opcode;
+    EXPECT_THROW((void)findHandler(58, {}), BadRequest);
 }
 
 TEST(Handler, anOpcodeThatIsNotInUseHasNone) {
