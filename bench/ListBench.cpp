@@ -146,7 +146,8 @@ void measureLists(const Folder& folder, Goals& goals) {
     };
     worst("The slowest list, a record beside one of the printers", 3, "times",
           [&](std::size_t index) { return many[index].perRecord() / many.front().perRecord(); });
-    worst("The list that grows fastest, a record of 30,000 beside one of 1,000", 1.3, "times", [&](std::size_t index) {
+    // 1,000 records fit the processor's own memory and 30,000 do not; work that grows faster than a list is far above.
+    worst("The list that grows fastest, a record of 30,000 beside one of 1,000", 2, "times", [&](std::size_t index) {
         const bool comeAlike = many[index].inOneMessage == few[index].inOneMessage;
         return comeAlike ? many[index].perRecord() / few[index].perRecord() : 0;
     });
