@@ -13,7 +13,7 @@ protected:
 TEST_F(RulesRoot, holdsItsChildrenInTheirOrder) {
     support::expand(console_, *node_, row_);
 
-    EXPECT_EQ(console_.childNames(row_), (Names{u"Price Plans", u"Page Limiters", u"Short Id"}));
+    EXPECT_EQ(console_.childNames(row_), (Names{u"Rule Groups", u"Price Plans", u"Page Limiters", u"Short Id"}));
     EXPECT_TRUE(platform_.commands().empty());
 }
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "console/Form.h"
+#include "rules/RuleEntryFields.h"
+#include "rules/RuleEntryPlace.h"
+
+namespace rules {
+
+// Makes a rule entry inside a rule group, or on a region.
+class AddRuleEntryDlg final : public console::Form {
+public:
+    enum class Mode : std::uint8_t { place, group };
+
+    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place);
+    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, protocol::RuleEntryRecord entry);
+
+    RuleEntryFields fields;
+
+protected:
+    void onInitDialog() override { fields.open(); }
+    void onOk() override;
+
+private:
+    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
+                    protocol::RuleEntryRecord entry);
+    void write(const RuleEntryPlace& place) const;
+
+    Mode mode_;
+    RuleEntryPlace place_;
+    bool editing_;
+};
+
+} // namespace rules

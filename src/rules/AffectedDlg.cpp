@@ -1,0 +1,67 @@
+#include "rules/AffectedDlg.h"
+
+#include "client/CQVXAdminClass.h"
+#include "client/rules/NewRecord.h"
+#include "rules/Questions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace rules {
+namespace {
+
+using protocol::AffectedRecord;
+
+constexpr std::uint8_t user = 1;
+constexpr std::uint8_t group = 2;
+constexpr std::size_t userRow = 1;
+constexpr std::size_t isRow = 1;
+
+} // namespace
+
+AffectedDlg::AffectedDlg(console::Platform& platform, Opener opener)
+    : Form(platform, u"Affected"), editing_(false), opener_(opener), affected_(client::newRecord<AffectedRecord>()) {}
+
+AffectedDlg::AffectedDlg(console::Platform& platform, Opener opener, AffectedRecord affected)
+    : Form(platform, u"Affected"), editing_(true), opener_(opener), affected_(std::move(affected)) {}
+
+void AffectedDlg::onInitDialog() {
+    type.addItem(u"Group");
+    type.addItem(u"User");
+    equals.addItem(u"IS NOT");
+    equals.addItem(u"IS");
+    name.setText(affected_.name);
+    type.select(editing_ && affected_.type == user ? userRow : 0);
+    equals.select(!editing_ || affected_.equals == 1 ? isRow : 0);
+}
+
+void AffectedDlg::onOk() {
+    if (name.text().empty()) {
+        refuseBlank(platform(), u"Name field should not be blank!", name);
+        return;
+    }
+    affected_.name = name.text();
+    affected_.type = type.selection() == userRow ? user : group;
+    affected_.equals = equals.selection() == isRow ? 1 : 0;
+    client::CQVXAdminClass client;
+    if (editing_) {
+        client.updateAffected(affected_);
+    } else {
+        client.addAffected(affected_);
+    }
+    tellOpener();
+    EndDialog(console::idOk);
+}
+
+void AffectedDlg::tellOpener() {
+    client::CQVXAdminClass client;
+    client.listAffected(opener_.list);
+    opener_.saved.name = affected_.name;
+    opener_.saved.index.reset();
+    const auto place = std::ranges::find(opener_.list, affected_.id, &AffectedRecord::id);
+    if (place != opener_.list.end()) {
+        opener_.saved.index = static_cast<std::size_t>(place - opener_.list.begin());
+    }
+}
+
+} // namespace rules

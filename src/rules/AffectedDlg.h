@@ -1,0 +1,41 @@
+#pragma once
+
+#include "console/DropList.h"
+#include "console/EditBox.h"
+#include "console/Form.h"
+#include "protocol/rules/AffectedRecord.h"
+#include "rules/SavedChoice.h"
+
+#include <vector>
+
+namespace rules {
+
+// Makes or edits whom a rule affects: a user, a group, or all but one of these.
+class AffectedDlg final : public console::Form {
+public:
+    // A dialog of a rule, which gets to know what has become of those affected. All of it outlives the form.
+    struct Opener {
+        std::vector<protocol::AffectedRecord>& list; // read anew once the record is written
+        SavedChoice& saved;                          // becomes the record
+    };
+
+    AffectedDlg(console::Platform& platform, Opener opener);
+    AffectedDlg(console::Platform& platform, Opener opener, protocol::AffectedRecord affected);
+
+    console::EditBox name{*this, u"Name"};
+    console::DropList type{*this, u"Type"};
+    console::DropList equals{*this, u"Equals"};
+
+protected:
+    void onInitDialog() override;
+    void onOk() override;
+
+private:
+    void tellOpener();
+
+    bool editing_;
+    Opener opener_;
+    protocol::AffectedRecord affected_;
+};
+
+} // namespace rules

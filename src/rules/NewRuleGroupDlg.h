@@ -1,0 +1,52 @@
+#pragma once
+
+#include "console/Button.h"
+#include "console/EditBox.h"
+#include "console/Form.h"
+#include "console/ListView.h"
+#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/RuleGroupRecord.h"
+#include "rules/RuleEntryPlace.h"
+
+#include <vector>
+
+namespace rules {
+
+// Makes or edits a rule group with its entries. A new group is on the server from the moment when the form opens, since
+// its entries need an owner; until the form ends it is there without a name, for everybody to see.
+class NewRuleGroupDlg final : public console::Form {
+public:
+    explicit NewRuleGroupDlg(console::Platform& platform);
+    NewRuleGroupDlg(console::Platform& platform, protocol::RuleGroupRecord group);
+
+    console::EditBox name{*this, u"Group Name", {.limit = 64}};
+    console::EditBox comment{*this, u"Group Comment", {.limit = 255}};
+    console::ListView entries{*this, u"Rules"};
+    console::Button addButton{*this, u"Add..."};
+    console::Button removeButton{*this, u"Remove"};
+    console::Button editButton{*this, u"Edit..."};
+
+protected:
+    void onInitDialog() override;
+    void onOk() override;
+    void onCancel() override;
+
+private:
+    RuleEntryPlace place() { return {.entries = entries_, .ownerId = group_.id, .ownerNumber = 0, .parentId = {}}; }
+    // Null without a selection, and for an entry without an id.
+    const protocol::RuleEntryRecord* selectedEntry() const;
+    void listEntries();
+    void showEntries();
+    void enableButtons();
+    void add();
+    void remove();
+    void edit();
+    void editPageLimit(const protocol::RuleEntryRecord& entry);
+    void editPricePlan(const protocol::RuleEntryRecord& entry);
+
+    bool isNew_;
+    protocol::RuleGroupRecord group_;
+    std::vector<protocol::RuleEntryRecord> entries_;
+};
+
+} // namespace rules

@@ -1,0 +1,78 @@
+#include "rules/RuleEntryFields.h"
+
+#include "protocol/rules/RuleEntryType.h"
+#include "rules/Questions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace rules {
+namespace {
+
+namespace ruleEntryType = protocol::ruleEntryType;
+
+} // namespace
+
+RuleEntryFields::RuleEntryFields(console::Container& container, console::Platform& platform,
+                                 protocol::RuleEntryRecord entryToShow, Types types)
+    : entry(std::move(entryToShow)),
+      type(container, u"Type"),
+      name(container, u"Name", {.limit = 64}),
+      comment(container, u"Comment", {.limit = 255}),
+      affected(container, platform, AffectedList::EmptyRow::first),
+      object(container, platform, entry),
+      platform_(platform),
+      types_(types) {
+    type.onSelect = [this] { typeChanged(); };
+}
+
+void RuleEntryFields::open() {
+    for (const auto& [value, label] : ruleEntryType::labels) {
+        if (value != ruleEntryType::ruleGroup || types_ == Types::all) {
+            type.addItem(wire::WideString(label));
+            if (value == entry.type) {
+                type.select(type.items().size() - 1);
+            }
+        }
+    }
+    if (!type.selection()) {
+        type.select(0);
+    }
+    name.setText(entry.name);
+    comment.setText(entry.comment);
+    affected.fill();
+    affected.select(entry.affectedId);
+    typeChanged();
+    object.select(entry.targetId);
+}
+
+// A label that is none of the others means "Client billing"; this must stay.
+std::uint8_t RuleEntryFields::chosenType() const {
+    const auto label = type.selectedText();
+    const auto match = std::ranges::find(ruleEntryType::labels, label, &ruleEntryType::Labelled::label);
+    return match != ruleEntryType::labels.end() ? match->type : ruleEntryType::clientBilling;
+}
+
+void RuleEntryFields::typeChanged() {
+    affected.setVisible(chosenType() != ruleEntryType::ruleGroup);
+    object.showType(chosenType());
+}
+
+bool RuleEntryFields::take(std::u16string_view blankNameText) {
+    if (name.text().empty()) {
+        refuseBlank(platform_, blankNameText, name);
+        return false;
+    }
+    entry.name = name.text();
+    // From here on the lists go back to what is called like the entry, which must stay.
+    affected.saveName(entry.name);
+    object.saveName(entry.name);
+    entry.comment = comment.text();
+    entry.type = chosenType();
+    if (entry.type != ruleEntryType::ruleGroup) {
+        affected.take(entry);
+    }
+    return object.take(entry);
+}
+
+} // namespace rules

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "protocol/rules/RuleEntryRecord.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace rules {
+
+// What rule entries belong to, and the list of them that a dialog's opener shows.
+struct RuleEntryPlace {
+    std::vector<protocol::RuleEntryRecord>& entries; // outlives the dialog
+    std::string ownerId;                             // of a rule group, a printer or a queue
+    std::int32_t ownerNumber = 0;                    // of a region
+    std::string parentId;
+};
+
+// Lists the entries of the owner and then those of the parent, each where it has an id and with the number. What comes
+// second takes the place of what came first, which must stay.
+void listAgain(const RuleEntryPlace& place, std::int32_t ownerNumber = 0);
+
+} // namespace rules

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "protocol/rules/AffectedRecord.h"
+#include "protocol/rules/PageLimitRecord.h"
+#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/ShortIdRecord.h"
+
+#include "console/DropList.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Records of the rules with the fields that tests mostly care for.
+namespace samples {
+
+inline protocol::AffectedRecord affected(std::string id, wire::WideString name) {
+    return {.id = std::move(id), .type = 2, .equals = 1, .name = std::move(name)};
+}
+
+inline protocol::RuleGroupRecord group(std::string id, wire::WideString name) {
+    return {.id = std::move(id), .name = name, .comment = u"Comment of " + name, .extra1 = u"one", .extra2 = u"two"};
+}
+
+inline protocol::PageLimitRecord limit(std::string id, wire::WideString name) {
+    protocol::PageLimitRecord record;
+    record.id = std::move(id);
+    record.name = std::move(name);
+    record.priority = 1;
+    return record;
+}
+
+inline protocol::PricePlanRecord plan(std::string id, wire::WideString name) {
+    protocol::PricePlanRecord record;
+    record.id = std::move(id);
+    record.name = std::move(name);
+    return record;
+}
+
+inline protocol::ShortIdRecord shortId(std::string_view id, wire::WideString name) {
+    protocol::ShortIdRecord record;
+    record.id = wire::parseUuid(std::string(id));
+    record.name = std::move(name);
+    return record;
+}
+
+inline protocol::RuleEntryRecord entry(std::string id, std::uint8_t type, wire::WideString name) {
+    protocol::RuleEntryRecord record;
+    record.type = type;
+    record.id = std::move(id);
+    record.typeText = u"Type " + name;
+    record.name = std::move(name);
+    record.affectedName = u"Staff";
+    record.affectedId = "a2";
+    return record;
+}
+
+inline std::vector<wire::WideString> textsOf(const console::DropList& list) {
+    std::vector<wire::WideString> texts;
+    std::ranges::transform(list.items(), std::back_inserter(texts), &console::DropListItem::text);
+    return texts;
+}
+
+// Selects as a person does; fails the test when no row has the text.
+inline void choose(console::DropList& list, std::u16string_view text) {
+    const auto row = std::ranges::find(list.items(), text, &console::DropListItem::text) - list.items().begin();
+    EXPECT_TRUE(list.userSelected(static_cast<std::size_t>(row))) << wire::toUtf8(text);
+    EXPECT_LT(static_cast<std::size_t>(row), list.items().size()) << wire::toUtf8(text);
+}
+
+} // namespace samples
