@@ -7,14 +7,18 @@
 
 namespace rules {
 
-ShortIdDlg::ShortIdDlg(console::Platform& platform) : Form(platform, u"New Short Id Rule"), editing_(false) {}
+ShortIdDlg::ShortIdDlg(console::Platform& platform) : ShortIdDlg(platform, false, {}) {}
 
 ShortIdDlg::ShortIdDlg(console::Platform& platform, protocol::ShortIdRecord shortId)
-    : Form(platform, u"New Short Id Rule"), editing_(true), shortId_(std::move(shortId)) {}
+    : ShortIdDlg(platform, true, std::move(shortId)) {}
 
-void ShortIdDlg::onInitDialog() {
+ShortIdDlg::ShortIdDlg(console::Platform& platform, bool editing, protocol::ShortIdRecord shortId)
+    : Form(platform, u"New Short Id Rule"), editing_(editing), shortId_(std::move(shortId)) {
     timeOfDay.setBeside(reservedUntil);
     eachDay.setBeside(timeOfDay);
+}
+
+void ShortIdDlg::onInitDialog() {
     validFor.onChange = reservedFor.onChoose = reservedUntil.onChoose = [this] { timesClicked(); };
     message.onSelect = [this] { enableTimes(); };
     validTime.open();

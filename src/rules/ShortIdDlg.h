@@ -41,6 +41,8 @@ protected:
     void onOk() override;
 
 private:
+    ShortIdDlg(console::Platform& platform, bool editing, protocol::ShortIdRecord shortId);
+
     void showTimes();
     void enableTimes();
     void timesClicked();

@@ -1,4 +1,7 @@
 #include "regions/CreateRegionDlg.h"
+#include "rules/NewMessageDlg.h"
+#include "rules/NewPricePlanDlg.h"
+#include "rules/ShortIdDlg.h"
 #include "snapin/AuthenticationDlg.h"
 #include "tests/support/FormChecks.h"
 #include "tests/support/TestPlatform.h"
@@ -16,6 +19,9 @@ TEST(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
     forms.push_back(std::make_unique<snapin::AuthenticationDlg>(platform));
     forms.push_back(
         std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree));
+    forms.push_back(std::make_unique<rules::NewMessageDlg>(platform));
+    forms.push_back(std::make_unique<rules::NewPricePlanDlg>(platform));
+    forms.push_back(std::make_unique<rules::ShortIdDlg>(platform));
 
     for (const auto& form : forms) {
         SCOPED_TRACE(wire::toUtf8(form->title()));

@@ -1,14 +1,18 @@
 #include "snapin/Print.h"
 
+#include "client/rules/NewRecord.h"
 #include "printers/PrinterNode.h"
 #include "printers/PrinterRegionNode.h"
 #include "queues/QueueNode.h"
+#include "rules/PricePlansNode.h"
+#include "rules/ShortIdNode.h"
 #include "tests/support/FakeEstate.h"
 #include "tests/support/NodeDriver.h"
 #include "tests/support/TestPlatform.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace {
@@ -17,6 +21,14 @@ using console::Result;
 using Node = std::shared_ptr<console::CSnapInItem>;
 
 constexpr std::int32_t imagesInCommonStrip = 22;
+constexpr std::int32_t imagesInDriverAndShortIdStrip = 17;
+
+template <class Record>
+Record named() {
+    auto record = client::newRecord<Record>();
+    record.name = u"Standard";
+    return record;
+}
 
 // One node of every class of the tree.
 class AllNodes : public ::testing::Test {
@@ -34,14 +46,24 @@ protected:
                                                 queues::QueueMode::queue));
         add(std::make_shared<queues::QueueNode>(platform_, support::printer("q2", 1, u"Anywhere"),
                                                 queues::QueueMode::followPrint));
+        add(std::make_shared<rules::PricePlansNode>(platform_));
+        add(std::make_shared<rules::ShortIdNode>(platform_));
+        addRow(std::make_shared<rules::PricePlanNode>(platform_, named<protocol::PricePlanRecord>()));
+        addRow(std::make_shared<rules::ShortIdResultNode>(platform_, named<protocol::ShortIdRecord>()));
     }
 
     void add(Node node) { nodes_.push_back(std::move(node)); }
+    // One that never stands in the tree.
+    void addRow(const Node& node) {
+        rowsOfLists_.push_back(node);
+        add(node);
+    }
 
     support::TestPlatform platform_;
     support::RecordingConsole console_;
     snapin::Print print_{platform_};
     std::vector<Node> nodes_;
+    std::vector<Node> rowsOfLists_;
 };
 
 TEST_F(AllNodes, haveNames) {
@@ -53,14 +75,19 @@ TEST_F(AllNodes, haveNames) {
     }
 }
 
+// A node with a row in the tree points into the common strip, which is that of the tree; the strip that it sets is for
+// the list of its rows.
 TEST_F(AllNodes, pointIntoTheirStripOfImages) {
     for (const Node& node : nodes_) {
         const auto& identity = node->nodeIdentity();
-        EXPECT_EQ(identity.strip, console::commonStrip) << node->className();
+        const bool ofCommonStrip = identity.strip == console::commonStrip;
+        EXPECT_TRUE(ofCommonStrip || identity.strip == console::driverAndShortIdStrip) << node->className();
+        const bool standsInTree = std::ranges::find(rowsOfLists_, node) == rowsOfLists_.end();
+        const auto images = ofCommonStrip || standsInTree ? imagesInCommonStrip : imagesInDriverAndShortIdStrip;
         EXPECT_GE(identity.image, 0) << node->className();
-        EXPECT_LT(identity.image, imagesInCommonStrip) << node->className();
+        EXPECT_LT(identity.image, images) << node->className();
         EXPECT_GE(identity.openImage, 0) << node->className();
-        EXPECT_LT(identity.openImage, imagesInCommonStrip) << node->className();
+        EXPECT_LT(identity.openImage, images) << node->className();
     }
 }
 

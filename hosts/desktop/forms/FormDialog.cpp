@@ -15,6 +15,20 @@ namespace {
 
 constexpr int narrowest = 360;
 
+// From the inside out: what was measured before the widgets had their style does not count.
+void layOutAnew(QWidget& widget) {
+    widget.ensurePolished();
+    for (QObject* const child : widget.children()) {
+        if (auto* const inner = qobject_cast<QWidget*>(child)) {
+            layOutAnew(*inner);
+        }
+    }
+    if (widget.layout() != nullptr) {
+        widget.layout()->invalidate();
+        widget.layout()->activate();
+    }
+}
+
 QWidget* frontWindow() {
     QWidget* const modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
@@ -65,6 +79,7 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
 
 void FormDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
+        layOutAnew(*scroll_->widget());
         scroll_->updateGeometry();
         resize(sizeHint()); // by itself a dialog takes two thirds of the screen at most
     }

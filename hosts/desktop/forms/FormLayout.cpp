@@ -7,6 +7,7 @@
 #include "console/Page.h"
 #include "console/RadioButton.h"
 #include "console/Tabs.h"
+#include "hosts/desktop/forms/CheckBoxWidget.h"
 #include "hosts/desktop/forms/GroupWidget.h"
 #include "hosts/desktop/forms/LineWidget.h"
 #include "hosts/desktop/forms/RadioButtonWidget.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace desktop {
 namespace {
@@ -45,6 +47,15 @@ void keepAtTop(QBoxLayout& column) {
     if (!(column.expandingDirections() & Qt::Vertical)) {
         column.addStretch(1);
     }
+}
+
+bool isGroup(const console::Control* control) {
+    return dynamic_cast<const console::Group*>(control) != nullptr;
+}
+
+bool growsDownwards(const QWidget& field) {
+    const bool inside = field.layout() != nullptr && (field.layout()->expandingDirections() & Qt::Vertical);
+    return inside || (field.sizePolicy().expandingDirections() & Qt::Vertical);
 }
 
 bool isBox(const ControlWidget& widget) {
@@ -107,9 +118,9 @@ QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidge
 void FormLayout::pairWithNeighbours(Controls controls) {
     for (console::Control* control : controls) {
         const console::Control* const partner = control->beside();
-        const bool holdsOthers = dynamic_cast<const console::Group*>(control) != nullptr ||
-                                 dynamic_cast<const console::Tabs*>(control) != nullptr;
-        if (!holdsOthers && partner != nullptr && partner != control &&
+        const bool holdsOthers = isGroup(control) || dynamic_cast<const console::Tabs*>(control) != nullptr;
+        const bool fits = !holdsOthers || (isGroup(control) && isGroup(partner));
+        if (fits && partner != nullptr && partner != control &&
             std::ranges::find(controls, partner) != controls.end()) {
             beside_[partner].push_back(control);
             shares_.insert(control);
@@ -139,26 +150,53 @@ FormLayout::Controls FormLayout::besideOf(const console::Control& control) const
 }
 
 void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
-    ControlWidget& widget = *widgetOf_(control);
+    std::vector<console::Control*> groups{&control};
+    std::vector<console::Control*> below;
+    std::ranges::partition_copy(besideOf(control), std::back_inserter(groups), std::back_inserter(below), isGroup);
+    const ControlWidget& widget = *widgetOf_(control);
     if (widget.caption() != nullptr) {
         column.addWidget(widget.caption());
     }
-    column.addWidget(widget.field());
-    const auto place = column.count() - 1;
+    const auto place = column.count();
+    if (groups.size() == 1) {
+        column.addWidget(widget.field());
+        layInside(control);
+    } else {
+        column.addLayout(sideBySide(groups));
+    }
+    const bool grows =
+        std::ranges::any_of(groups, [this](const auto* each) { return growsDownwards(*widgetOf_(*each)->field()); });
+    if (grows) {
+        column.setStretch(place, listStretch);
+    }
+    if (!below.empty()) {
+        column.addLayout(lineOf(below));
+    }
+}
+
+QLayout* FormLayout::sideBySide(Controls groups) {
+    auto* const line = new QHBoxLayout;
+    line->setSpacing(gap);
+    for (console::Control* each : groups) {
+        QWidget& field = *widgetOf_(*each)->field();
+        line->addWidget(&field, 1);
+        layInside(*each);
+        if (!growsDownwards(field)) {
+            field.layout()->setAlignment(Qt::AlignTop); // where its neighbour is higher
+        }
+    }
+    return line;
+}
+
+// What stands on the control itself.
+void FormLayout::layInside(console::Control& control) {
+    const ControlWidget& widget = *widgetOf_(control);
     if (const auto* const group = dynamic_cast<const GroupWidget*>(&widget)) {
         layContainer(dynamic_cast<const console::Group&>(control), group->surface());
     } else if (const auto* const tabs = dynamic_cast<const TabsWidget*>(&widget)) {
         for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
             keepAtTop(layContainer(*tabs->tabs().pages()[page], tabs->surface(page)));
         }
-    }
-    const bool growsInside =
-        widget.field()->layout() != nullptr && (widget.field()->layout()->expandingDirections() & Qt::Vertical);
-    if (growsInside || (widget.field()->sizePolicy().expandingDirections() & Qt::Vertical)) {
-        column.setStretch(place, listStretch);
-    }
-    if (const Controls others = besideOf(control); !others.empty()) {
-        column.addLayout(lineOf(others));
     }
 }
 
@@ -189,8 +227,10 @@ void FormLayout::layRow(console::Control& control, QFormLayout& rows, bool withL
     const ControlWidget& widget = *widgetOf_(control);
     const Controls shared = besideOf(control);
     const int row = rows.rowCount();
-    const bool isChoice = dynamic_cast<const RadioButtonWidget*>(&widget) != nullptr;
+    const bool isRadioButton = dynamic_cast<const RadioButtonWidget*>(&widget) != nullptr;
+    const bool isChoice = isRadioButton || dynamic_cast<const CheckBoxWidget*>(&widget) != nullptr;
     if (isChoice && !shared.empty()) {
+        widget.field()->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); // level with what it goes with
         rows.setWidget(row, QFormLayout::LabelRole, widget.field());
         rows.setLayout(row, QFormLayout::FieldRole, lineOf(shared));
         return;
@@ -198,7 +238,7 @@ void FormLayout::layRow(console::Control& control, QFormLayout& rows, bool withL
     if (widget.caption() != nullptr) {
         rows.setWidget(row, QFormLayout::LabelRole, widget.caption());
     }
-    const auto role = isChoice || !withLabels ? QFormLayout::SpanningRole : QFormLayout::FieldRole;
+    const auto role = isRadioButton || !withLabels ? QFormLayout::SpanningRole : QFormLayout::FieldRole;
     if (shared.empty()) {
         rows.setWidget(row, role, widget.field());
     } else {

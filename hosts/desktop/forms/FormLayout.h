@@ -23,8 +23,8 @@ namespace desktop {
 
 class ControlWidget;
 
-// Places the widgets of a form: boxes in aligned rows, lists and groups across the dialog, buttons side by side, the
-// standard buttons at the foot.
+// Places the widgets of a form: boxes in aligned rows, lists and groups across the dialog, buttons and groups that
+// stand beside each other side by side, the standard buttons at the foot.
 class FormLayout {
 public:
     using Finder = std::function<ControlWidget*(const console::Control&)>;
@@ -40,6 +40,8 @@ private:
     void pairWithNeighbours(Controls controls);
     Controls besideOf(const console::Control& control) const;
     void layBlock(console::Control& control, QBoxLayout& column);
+    QLayout* sideBySide(Controls groups);
+    void layInside(console::Control& control);
     void layRows(Controls controls, QBoxLayout& column);
     void layRow(console::Control& control, QFormLayout& rows, bool withLabels);
     // With what stands beside each of them.

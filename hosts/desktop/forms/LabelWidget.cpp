@@ -11,7 +11,7 @@ LabelWidget::LabelWidget(console::Label& label) : ControlWidget(label), label_(l
     text_->setTextFormat(Qt::PlainText);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text_->setFocusPolicy(Qt::NoFocus);
-    text_->setWordWrap(true);
+    text_->setWordWrap(label.beside() == nullptr); // a remark behind a box stays in its line
 }
 
 void LabelWidget::update(console::Aspect aspect) {

@@ -1,12 +1,13 @@
 #include "hosts/desktop/pictures/DialogPictures.h"
 
+#include "client/CQVXAdminClassProperties.h"
 #include "console/IniSettingsStore.h"
-#include "console/TextControl.h"
 #include "hosts/desktop/DesktopUserInterface.h"
 #include "hosts/desktop/PrefilledSettings.h"
 #include "hosts/desktop/forms/FormDialog.h"
 #include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/pictures/Framed.h"
+#include "hosts/desktop/pictures/RuleSamples.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionDeletion.h"
 #include "snapin/AuthenticationDlg.h"
@@ -17,30 +18,10 @@
 
 #include <array>
 #include <filesystem>
-#include <functional>
-#include <memory>
+#include <utility>
 
 namespace desktop {
 namespace {
-
-// A dialog, filled as a person would have it.
-struct Sample {
-    const char* name;
-    std::function<std::unique_ptr<console::Form>(console::Platform&)> make;
-    std::function<void(console::Form&)> fill;
-};
-
-template <class Dialog, class... Arguments>
-Sample sample(const char* name, std::function<void(Dialog&)> fill, Arguments... arguments) {
-    return {name, [=](console::Platform& platform) { return std::make_unique<Dialog>(platform, arguments...); },
-            [fill](console::Form& form) { fill(dynamic_cast<Dialog&>(form)); }};
-}
-
-// Types the text where the picture shows it.
-void enter(console::TextControl& box, const wire::WideString& text) {
-    box.setText(text);
-    box.userTyped(text);
-}
 
 std::vector<Sample> samples() {
     using regions::CreateRegionDlg;
@@ -64,9 +45,7 @@ QImage boxPicture() {
     return image;
 }
 
-} // namespace
-
-std::vector<std::pair<QString, QImage>> dialogPictures() {
+std::vector<std::pair<QString, QImage>> picturesOf(const std::vector<Sample>& samples) {
     const QTemporaryDir folder;
     console::IniSettingsStore store(std::filesystem::path(folder.filePath(QStringLiteral("none.ini")).toStdString()));
     PrefilledSettings settings(store, {{"ServerName", u"print.example.com"},
@@ -80,15 +59,29 @@ std::vector<std::pair<QString, QImage>> dialogPictures() {
                                .productVersion = std::array<std::uint16_t, 4>{
                                    VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0}};
     std::vector<std::pair<QString, QImage>> pictures;
-    for (const Sample& each : samples()) {
+    for (const Sample& each : samples) {
         const auto form = each.make(platform);
         FormDialog dialog(*form);
         each.fill(*form);
         dialog.show();
         pictures.emplace_back(QString::fromLatin1(each.name), framed(dialog));
     }
+    return pictures;
+}
+
+} // namespace
+
+std::vector<std::pair<QString, QImage>> dialogPictures() {
+    auto pictures = picturesOf(samples());
     pictures.emplace_back(QStringLiteral("message-box"), boxPicture());
     return pictures;
+}
+
+std::vector<std::pair<QString, QImage>> serverDialogPictures() {
+    if (client::theProperties != nullptr) {
+        client::theProperties->hooks = {}; // those of the program that has logged in are gone
+    }
+    return picturesOf(ruleSamples());
 }
 
 } // namespace desktop

@@ -8,7 +8,9 @@
 
 namespace desktop {
 
-// Pictures of every dialog of the product and of a message box, each with its name.
+// Pictures of the dialogs that need no server and of a message box, each with its name.
 std::vector<std::pair<QString, QImage>> dialogPictures();
+// Pictures of the dialogs that show what stands on a server, once somebody has logged in to one.
+std::vector<std::pair<QString, QImage>> serverDialogPictures();
 
 } // namespace desktop

@@ -41,5 +41,9 @@ int main(int argc, char** argv) {
     console::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
     const auto menu = desktop::menuPicture(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
     done = save(menu.value_or(QImage()), folder, QStringLiteral("menu"), arguments[1]) && done;
+    // What the menu needed, a login, these need too.
+    for (const auto& [name, image] : desktop::serverDialogPictures()) {
+        done = save(image, folder, name, arguments[1]) && done;
+    }
     return done ? 0 : 1;
 }

@@ -1,10 +1,18 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QTemporaryFile>
 
-// Every test has an application, on no screen.
+// Every test has an application, on a screen that is none but has room for the largest dialog in large letters.
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile screen;
+    if (!screen.open()) {
+        return 1;
+    }
+    screen.write(R"({"screens": [{"name": "none", "x": 0, "y": 0, "width": 2560, "height": 2160,
+                                  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    screen.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
     testing::InitGoogleMock(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
