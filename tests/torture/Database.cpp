@@ -3,11 +3,11 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <functional>
+#include <iterator>
 #include <memory>
-#include <regex>
 #include <set>
 #include <stdexcept>
+#include <string_view>
 
 namespace torture {
 
@@ -52,23 +52,43 @@ private:
     sqlite3* database_ = nullptr;
 };
 
-// A row as text that tells wide text apart too.
+// A row as text that tells wide text apart too. The moment at which a report was made is left out.
 std::string quotedColumns(Connection& connection, const std::string& table) {
     std::string columns;
-    for (const auto& column : connection.ask("SELECT name FROM pragma_table_info('" + table + "')"))
+    for (const auto& column :
+         connection.ask("SELECT name FROM pragma_table_info('" + table + "') WHERE name <> 'reportDate'"))
         columns += (columns.empty() ? "quote(" : " || '|' || quote(") + column[0] + ")";
     return columns;
 }
 
-const std::regex& uuid() {
-    static const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}");
-    return form;
+constexpr std::size_t uuidLength = 36;
+
+bool isUuid(std::string_view text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool isDash = at == 8 || at == 13 || at == 18 || at == 23;
+        if (isDash ? text[at] != '-' : std::string_view("0123456789abcdef").find(text[at]) == std::string_view::npos)
+            return false;
+    }
+    return text.size() == uuidLength;
 }
 
-void eachUuid(std::string& line, const std::function<void(std::size_t, const std::string&)>& found) {
-    const std::string before = line;
-    for (std::sregex_iterator match(before.begin(), before.end(), uuid()), end; match != end; ++match)
-        found(static_cast<std::size_t>(match->position()), match->str());
+// Calls the action with each place where a uuid stands.
+template <class Action>
+void eachUuid(std::string_view line, Action action) {
+    for (std::size_t dash = line.find('-'); dash != std::string_view::npos; dash = line.find('-', dash + 1)) {
+        const std::size_t before = 8;
+        if (dash >= before && isUuid(line.substr(dash - before, uuidLength))) {
+            action(dash - before);
+            dash += uuidLength - before;
+        }
+    }
+}
+
+std::set<std::string> uuidsOf(const Contents& contents) {
+    std::set<std::string> uuids;
+    for (const auto& line : contents)
+        eachUuid(line, [&](std::size_t at) { uuids.insert(line.substr(at, uuidLength)); });
+    return uuids;
 }
 
 } // namespace
@@ -116,9 +136,7 @@ std::string damageOf(const std::filesystem::path& file) {
 }
 
 Contents contentsOf(const std::filesystem::path& file, const Contents& known) {
-    std::set<std::string> knownIds;
-    for (auto line : known)
-        eachUuid(line, [&](std::size_t, const std::string& id) { knownIds.insert(id); });
+    const auto knownIds = uuidsOf(known);
     Connection connection(file);
     Contents contents;
     for (const auto& table : connection.ask("SELECT name FROM sqlite_schema WHERE type = 'table'")) {
@@ -128,14 +146,23 @@ Contents contentsOf(const std::filesystem::path& file, const Contents& known) {
     }
     if (!known.empty()) {
         for (auto& line : contents) {
-            eachUuid(line, [&](std::size_t at, const std::string& id) {
-                if (!knownIds.contains(id))
-                    line.replace(at, id.size(), std::string(id.size() - 5, ' ') + "<new>");
+            eachUuid(std::string(line), [&](std::size_t at) {
+                if (!knownIds.contains(line.substr(at, uuidLength)))
+                    line.replace(at, uuidLength, std::string(uuidLength, '?'));
             });
         }
     }
     std::ranges::sort(contents);
     return contents;
+}
+
+std::string differenceOf(const Contents& one, const Contents& other) {
+    Contents different;
+    std::ranges::set_symmetric_difference(one, other, std::back_inserter(different));
+    std::string text;
+    for (const auto& line : different)
+        text += (std::ranges::binary_search(one, line) ? "+ " : "- ") + line + "\n";
+    return text;
 }
 
 } // namespace torture

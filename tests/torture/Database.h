@@ -19,7 +19,10 @@ void losePower(const std::filesystem::path& file);
 [[nodiscard]] std::string damageOf(const std::filesystem::path& file);
 
 // Every row of every table as a line of text, sorted. Uuids that are not among the known contents, which the server has
-// thought of itself, all read <new>.
+// thought of itself, are not told apart.
 [[nodiscard]] Contents contentsOf(const std::filesystem::path& file, const Contents& known = {});
+
+// The lines of which only one has as many, those of the first after a plus; empty when the two are the same.
+[[nodiscard]] std::string differenceOf(const Contents& one, const Contents& other);
 
 } // namespace torture

@@ -7,6 +7,7 @@
 #include "protocol/PrinterListMode.h"
 #include "protocol/UpdateRecordRequest.h"
 #include "tests/torture/Requests.h"
+#include "tests/torture/WideDomainCommands.h"
 
 namespace torture {
 
@@ -76,6 +77,12 @@ const std::vector<WideCommand>& wideCommands() {
         {"MovePrinterWithQueues", &movePrinterWithQueues},
         {"UpdatePrinterIntoAnotherRegion", &updatePrinterIntoAnotherRegion},
         {"MoveRegion", &moveRegion},
+        {"ReplaceDeployment", &replaceDeployment},
+        {"DeleteUsedConfiguration", &deleteUsedConfiguration},
+        {"RewritePricePlan", &rewritePricePlan},
+        {"DeleteRuleGroup", &deleteRuleGroup},
+        {"DeleteAlarmProgram", &deleteAlarmProgram},
+        {"CreateInventoryReport", &createInventoryReport},
     };
     return commands;
 }
