@@ -1,6 +1,8 @@
 #include "regions/CreateRegionDlg.h"
 #include "rules/NewMessageDlg.h"
 #include "rules/NewPricePlanDlg.h"
+#include "rules/PageLimitDlg.h"
+#include "rules/SearchDestinationDlg.h"
 #include "rules/ShortIdDlg.h"
 #include "snapin/AuthenticationDlg.h"
 #include "tests/support/FormChecks.h"
@@ -9,18 +11,23 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
 
 TEST(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
     support::TestPlatform platform;
+    std::string destinationId;
+    wire::WideString destinationName;
     std::vector<std::unique_ptr<console::Form>> forms;
     forms.push_back(std::make_unique<snapin::AuthenticationDlg>(platform));
     forms.push_back(
         std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree));
     forms.push_back(std::make_unique<rules::NewMessageDlg>(platform));
     forms.push_back(std::make_unique<rules::NewPricePlanDlg>(platform));
+    forms.push_back(std::make_unique<rules::PageLimitDlg>(platform));
+    forms.push_back(std::make_unique<rules::SearchDestinationDlg>(platform, destinationId, destinationName));
     forms.push_back(std::make_unique<rules::ShortIdDlg>(platform));
 
     for (const auto& form : forms) {

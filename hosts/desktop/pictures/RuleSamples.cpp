@@ -3,6 +3,8 @@
 #include "client/CQVXAdminClass.h"
 #include "rules/NewMessageDlg.h"
 #include "rules/NewPricePlanDlg.h"
+#include "rules/PageLimitDlg.h"
+#include "rules/SearchDestinationDlg.h"
 #include "rules/ShortIdDlg.h"
 
 #include <algorithm>
@@ -55,12 +57,37 @@ void warn(rules::NewMessageDlg& dialog) {
     dialog.icon.select(2);
 }
 
+std::unique_ptr<console::Form> limitToEdit(console::Platform& platform) {
+    client::CQVXAdminClass client;
+    std::vector<std::string> ids;
+    std::vector<wire::WideString> names;
+    client.listPageLimits(ids, names);
+    std::vector<protocol::PageLimitRecord> limits;
+    for (const auto& id : ids) {
+        limits.push_back(client.getPageLimit(id).value());
+    }
+    const auto found = std::ranges::find_if(limits, [](const auto& limit) { return !limit.destinationId.empty(); });
+    return std::make_unique<rules::PageLimitDlg>(platform, found != limits.end() ? *found : limits.at(0));
+}
+
+std::unique_ptr<console::Form> searchForQueues(console::Platform& platform) {
+    static std::string id;
+    static wire::WideString name;
+    return std::make_unique<rules::SearchDestinationDlg>(platform, id, name);
+}
+
+void searchAll(console::Form& form) {
+    dynamic_cast<rules::SearchDestinationDlg&>(form).searchButton.userPressed();
+}
+
 } // namespace
 
 std::vector<Sample> ruleSamples() {
     return {
         {"price-plan", planToEdit, [](console::Form&) {}},
         sample<rules::NewPricePlanDlg>("price-plan-absolute", priceAbsolutely),
+        {"page-limit", limitToEdit, [](console::Form&) {}},
+        {"search-destination", searchForQueues, searchAll},
         sample<rules::ShortIdDlg>("short-id", reserveForAWhile),
         sample<rules::NewMessageDlg>("user-message", warn),
     };

@@ -3,6 +3,8 @@
 #include "regions/CreateRegionDlg.h"
 #include "rules/NewMessageDlg.h"
 #include "rules/NewPricePlanDlg.h"
+#include "rules/PageLimitDlg.h"
+#include "rules/SearchDestinationDlg.h"
 #include "rules/ShortIdDlg.h"
 #include "snapin/AuthenticationDlg.h"
 #include "tests/support/TestPlatform.h"
@@ -39,6 +41,13 @@ std::vector<Case> allCases() {
          }},
         {"message", 100, [](auto& platform) { return std::make_unique<rules::NewMessageDlg>(platform); }},
         {"shortId", 100, [](auto& platform) { return std::make_unique<rules::ShortIdDlg>(platform); }},
+        {"pageLimit", 100, [](auto& platform) { return std::make_unique<rules::PageLimitDlg>(platform); }},
+        {"searchDestination", 100,
+         [](auto& platform) {
+             static std::string id;
+             static wire::WideString name;
+             return std::make_unique<rules::SearchDestinationDlg>(platform, id, name);
+         }},
         {"pricePlan", 100, [](auto& platform) { return std::make_unique<rules::NewPricePlanDlg>(platform); }},
     };
     std::vector<Case> cases;
