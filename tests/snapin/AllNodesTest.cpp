@@ -6,6 +6,7 @@
 #include "queues/QueueNode.h"
 #include "rules/PageLimitersNode.h"
 #include "rules/PricePlansNode.h"
+#include "rules/RuleSetNode.h"
 #include "rules/ShortIdNode.h"
 #include "tests/support/FakeEstate.h"
 #include "tests/support/NodeDriver.h"
@@ -47,9 +48,11 @@ protected:
                                                 queues::QueueMode::queue));
         add(std::make_shared<queues::QueueNode>(platform_, support::printer("q2", 1, u"Anywhere"),
                                                 queues::QueueMode::followPrint));
+        add(std::make_shared<rules::RuleSetNode>(platform_));
         add(std::make_shared<rules::PricePlansNode>(platform_));
         add(std::make_shared<rules::PageLimitersNode>(platform_));
         add(std::make_shared<rules::ShortIdNode>(platform_));
+        addRow(std::make_shared<rules::RuleGroupNode>(platform_, named<protocol::RuleGroupRecord>()));
         addRow(std::make_shared<rules::PricePlanNode>(platform_, named<protocol::PricePlanRecord>()));
         addRow(std::make_shared<rules::PageLimitResultNode>(platform_, named<protocol::PageLimitRecord>()));
         addRow(std::make_shared<rules::ShortIdResultNode>(platform_, named<protocol::ShortIdRecord>()));
