@@ -44,7 +44,7 @@ std::span<const Command> catalogue() {
 const Command* findCommand(std::uint16_t opcode) {
     if (opcode >= opcodeCount || rowOfOpcode[opcode] < 0)
         return nullptr;
-    return &commands[rowOfOpcode[opcode]];
+    return &commands[static_cast<std::size_t>(rowOfOpcode[opcode])];
 }
 
 } // namespace protocol
