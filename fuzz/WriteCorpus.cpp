@@ -19,7 +19,7 @@ using support::countedList;
 using support::dataMessage;
 using support::frame;
 using support::hex;
-using support::operator+;
+using support::operator+; // NOLINT(misc-unused-using-decls): by every sum of bytes below
 
 constexpr std::uint8_t firstOperation = 128; // of the client fuzzer
 constexpr std::uint8_t everyAction[] = {0, 1, 2, 3, 88};

@@ -123,6 +123,7 @@ void addProgram(Estate& estate, SampleRandom& random, const Program& program, co
 void addAlarmSample(Estate& estate, SampleRandom& random, int printers) {
     std::vector<std::string> recipients;
     const int recipientCount = std::clamp(printers / printersPerRecipient, fewestRecipients, mostRecipients);
+    recipients.reserve(static_cast<std::size_t>(recipientCount));
     for (int number = 0; number < recipientCount; ++number)
         recipients.push_back(addRecipient(estate, random, number));
     for (const auto& program : programs)
