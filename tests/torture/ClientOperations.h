@@ -3,6 +3,7 @@
 #include "client/CQVXAdminClass.h"
 
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,10 @@ struct ClientOperation {
     std::optional<std::string> (*run)(client::CQVXAdminClass& client);
     bool mayBreakOff = false; // a list that the server breaks off holds what came before
 };
+
+inline std::ostream& operator<<(std::ostream& stream, const ClientOperation& operation) {
+    return stream << operation.name;
+}
 
 [[nodiscard]] const std::vector<ClientOperation>& clientOperations();
 

@@ -18,6 +18,10 @@ struct Fault {
     std::int64_t often = forEver; // how many failures in a row stand for ever, where the server only tries again
 };
 
+std::ostream& operator<<(std::ostream& stream, const Fault& fault) {
+    return stream << fault.name;
+}
+
 // A server of which the calls of one kind fail, one after the other.
 class FaultsOfServer : public testing::Test {
 protected:

@@ -3,6 +3,7 @@
 #include "tests/support/Bytes.h"
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,10 @@ struct WideCommand {
     // the request.
     support::Bytes (*request)(std::uint16_t port);
 };
+
+inline std::ostream& operator<<(std::ostream& stream, const WideCommand& command) {
+    return stream << command.name;
+}
 
 [[nodiscard]] const std::vector<WideCommand>& wideCommands();
 
