@@ -4,7 +4,13 @@
 #include "protocol/DeleteRecordRequest.h"
 #include "protocol/PrinterListMode.h"
 #include "protocol/UpdateRecordRequest.h"
+#include "protocol/rules/ListPriceEntriesRequest.h"
+#include "protocol/rules/ListPricePlansRequest.h"
+#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/WritePricePlanRequest.h"
 #include "wire/Text.h"
+#include "wire/WireUuid.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -41,6 +47,7 @@ public:
             if (round % 3 == 2)
                 deleteQueue(round - 1);
             makeRegion(round);
+            makePricePlan(round);
         }
     }
 
@@ -88,6 +95,20 @@ private:
         server::test::tell(port_, requestOf(request));
         const auto regions = regionsAt(port_).value();
         EXPECT_EQ(std::ranges::count(regions, name, &protocol::RegionRecord::name), 1);
+    }
+
+    // A plan is there with all of its prices or not at all.
+    void makePricePlan(int round) {
+        protocol::WritePricePlanRequest request;
+        request.plan.id = wire::toText(wire::randomUuid());
+        request.plan.name = numbered(name_, round);
+        for (std::uint16_t paper = 0; paper < 5; ++paper)
+            request.entries.push_back({.id = wire::toText(wire::randomUuid()), .paperName = "A4", .paperCode = paper});
+        server::test::tell(port_, requestOf(request));
+        const auto plans = listOf<protocol::PricePlanRecord>(port_, protocol::ListPricePlansRequest{}).value();
+        EXPECT_EQ(std::ranges::count(plans, request.plan.id, &protocol::PricePlanRecord::id), 1);
+        const protocol::ListPriceEntriesRequest question{.planId = request.plan.id};
+        EXPECT_EQ(listOf<protocol::PriceEntryRecord>(port_, question).value().size(), request.entries.size());
     }
 
     [[nodiscard]] protocol::CreateRecordReply create(const wire::WideString& name) const {
