@@ -24,6 +24,11 @@ void ControlWidget::addCaption() {
     }
     caption_ = new QLabel;
     caption_->setTextFormat(Qt::PlainText);
+    // Pairs of letters are measured as standing close ("Ty") and drawn apart where one of them is the access key, which
+    // cut the last letter off.
+    QFont font;
+    font.setKerning(false);
+    caption_->setFont(font);
     caption_->setBuddy(widget_);
 }
 
