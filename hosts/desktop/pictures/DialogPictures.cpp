@@ -7,6 +7,7 @@
 #include "hosts/desktop/forms/FormDialog.h"
 #include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/pictures/Framed.h"
+#include "hosts/desktop/pictures/RuleGroupSamples.h"
 #include "hosts/desktop/pictures/RuleSamples.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionDeletion.h"
@@ -16,8 +17,10 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 namespace desktop {
@@ -81,7 +84,9 @@ std::vector<std::pair<QString, QImage>> serverDialogPictures() {
     if (client::theProperties != nullptr) {
         client::theProperties->hooks = {}; // those of the program that has logged in are gone
     }
-    return picturesOf(ruleSamples());
+    auto all = ruleGroupSamples();
+    std::ranges::move(ruleSamples(), std::back_inserter(all));
+    return picturesOf(all);
 }
 
 } // namespace desktop

@@ -1,8 +1,12 @@
 #include "console/FormWalk.h"
 #include "hosts/desktop/forms/FormDialog.h"
 #include "regions/CreateRegionDlg.h"
+#include "rules/AddRuleEntryDlg.h"
+#include "rules/AffectedDlg.h"
+#include "rules/CNewRuleDialog.h"
 #include "rules/NewMessageDlg.h"
 #include "rules/NewPricePlanDlg.h"
+#include "rules/NewRuleGroupDlg.h"
 #include "rules/PageLimitDlg.h"
 #include "rules/SearchDestinationDlg.h"
 #include "rules/ShortIdDlg.h"
@@ -31,6 +35,22 @@ struct Case {
     std::function<std::unique_ptr<console::Form>(console::Platform&)> make;
 };
 
+rules::RuleEntryPlace inAGroup() {
+    static std::vector<protocol::RuleEntryRecord> entries;
+    return {.entries = entries, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
+}
+
+template <rules::AddRuleEntryDlg::Mode mode>
+std::unique_ptr<console::Form> newEntry(console::Platform& platform) {
+    return std::make_unique<rules::AddRuleEntryDlg>(platform, mode, inAGroup());
+}
+
+std::unique_ptr<console::Form> newAffected(console::Platform& platform) {
+    static std::vector<protocol::AffectedRecord> list;
+    static rules::SavedChoice saved;
+    return std::make_unique<rules::AffectedDlg>(platform, rules::AffectedDlg::Opener{.list = list, .saved = saved});
+}
+
 std::vector<Case> allCases() {
     const std::vector<Case> forms{
         {"login", 100, [](auto& platform) { return std::make_unique<snapin::AuthenticationDlg>(platform); }},
@@ -39,6 +59,11 @@ std::vector<Case> allCases() {
              return std::make_unique<regions::CreateRegionDlg>(platform, 0,
                                                                regions::CreateRegionDlg::Mode::printerTree);
          }},
+        {"ruleGroup", 100, [](auto& platform) { return std::make_unique<rules::NewRuleGroupDlg>(platform); }},
+        {"ruleEntryInGroup", 100, newEntry<rules::AddRuleEntryDlg::Mode::group>},
+        {"ruleEntryOnRegion", 100, newEntry<rules::AddRuleEntryDlg::Mode::place>},
+        {"newRule", 100, [](auto& platform) { return std::make_unique<rules::CNewRuleDialog>(platform, inAGroup()); }},
+        {"affected", 100, newAffected},
         {"message", 100, [](auto& platform) { return std::make_unique<rules::NewMessageDlg>(platform); }},
         {"shortId", 100, [](auto& platform) { return std::make_unique<rules::ShortIdDlg>(platform); }},
         {"pageLimit", 100, [](auto& platform) { return std::make_unique<rules::PageLimitDlg>(platform); }},
