@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace desktop {
 namespace {
 
@@ -92,7 +94,17 @@ void FormDialog::showEvent(QShowEvent* event) {
 void FormDialog::controlChanged(console::Control& control, console::Aspect aspect) {
     if (widgets_ != nullptr) {
         widgets_->controlChanged(control, aspect);
+        if (aspect == console::Aspect::visible && isVisible() && !std::exchange(growsSoon_, true)) {
+            QMetaObject::invokeMethod(this, &FormDialog::growToFit, Qt::QueuedConnection);
+        }
     }
+}
+
+void FormDialog::growToFit() {
+    growsSoon_ = false;
+    layOutAnew(*scroll_->widget());
+    scroll_->updateGeometry();
+    resize(size().expandedTo(sizeHint()));
 }
 
 void FormDialog::titleChanged(console::Form& form) {

@@ -31,12 +31,16 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Once a handler that has made controls visible is through.
+    void growToFit();
+
     void controlChanged(console::Control& control, console::Aspect aspect) override;
     void titleChanged(console::Form& form) override;
     void formEnded(console::Form& form) override;
 
     console::Form& form_;
     FormScroll* scroll_;
+    bool growsSoon_ = false;
     std::unique_ptr<FormWidgets> widgets_;
 };
 

@@ -1,4 +1,7 @@
 #include "hosts/desktop/forms/FormDialog.h"
+#include "console/CheckBox.h"
+#include "console/Group.h"
+#include "console/Label.h"
 #include "tests/desktop/forms/DialogFixture.h"
 
 #include <QApplication>
@@ -196,6 +199,62 @@ TEST_F(FormDialogs, aTallFormStandsInTwoColumnsAndStaysOnTheScreen) {
     EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
     QTest::keyClick(&dialog, Qt::Key_Tab);
     EXPECT_TRUE(dialog.widgetOf(*tall.boxes[1])->hasFocus() || !dialog.isActiveWindow());
+}
+
+// Two groups beside each other, and a check box with its number and a remark.
+class SideBySideForm final : public console::Form {
+public:
+    explicit SideBySideForm(console::Platform& host) : Form(host, u"Side by side") {
+        right.setBeside(left);
+        hours.setBeside(valid);
+        remark.setBeside(hours);
+        right.setVisible(false);
+    }
+    console::EditBox name{*this, u"Name of the rule"};
+    console::CheckBox valid{*this, u"Valid for"};
+    console::EditBox hours{*this, u""};
+    console::Label remark{*this, u"", u"hours from the last print on"};
+    console::Group left{*this, u"Left"};
+    console::EditBox upper{left, u"Upper"};
+    console::EditBox lower{left, u"Lower"};
+    console::Group right{*this, u"Right"};
+    console::EditBox only{right, u"Only"};
+};
+
+TEST_F(FormDialogs, groupsBesideEachOtherShareALineAndTheirFirstBoxesAreLevel) {
+    SideBySideForm pair(platform);
+    FormDialog dialog(pair);
+    dialog.show();
+    settle();
+    const int alone = dialog.widgetOf(pair.left)->width();
+
+    pair.right.setVisible(true);
+    for (int round = 0; round < 4; ++round) {
+        settle(); // from the group to the dialog, each asks the next for more room
+    }
+
+    const auto place = [&](const console::Control& control) {
+        return QRect(dialog.widgetOf(control)->mapTo(&dialog, QPoint()), dialog.widgetOf(control)->size());
+    };
+    EXPECT_LT(place(pair.left).width(), alone);
+    EXPECT_GT(place(pair.right).left(), place(pair.left).right());
+    EXPECT_EQ(place(pair.right).top(), place(pair.left).top());
+    EXPECT_EQ(place(pair.only).top(), place(pair.upper).top());
+    EXPECT_TRUE(dialog.rect().contains(place(pair.right)))
+        << dialog.width() << " by " << dialog.height() << ", but it ends at " << place(pair.right).right() << ", "
+        << place(pair.right).bottom();
+}
+
+TEST_F(FormDialogs, aCheckBoxWithANumberStandsWhereLabelsStandAndItsRemarkInOneLine) {
+    SideBySideForm pair(platform);
+    FormDialog dialog(pair);
+    dialog.show();
+    settle();
+
+    EXPECT_EQ(dialog.widgetOf(pair.hours)->x(), dialog.widgetOf(pair.name)->x());
+    const QWidget* const remark = dialog.widgetOf(pair.remark);
+    EXPECT_LT(remark->height(), 2 * remark->fontMetrics().lineSpacing() + 2);
+    EXPECT_GE(remark->width(), remark->sizeHint().width());
 }
 
 } // namespace
