@@ -11,7 +11,6 @@ namespace {
 
 using protocol::FieldKind;
 using test::Bytes;
-using test::operator+;
 
 // A value of so many bytes, or a text, a list or an optional that is empty.
 Bytes fieldOf(FieldKind kind, std::uint8_t number) {

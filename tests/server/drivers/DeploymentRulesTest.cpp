@@ -19,7 +19,7 @@ protected:
         EXPECT_EQ(reply.style, 0x30U);
         return reply.text;
     }
-    std::u16string refusedAdd(protocol::AddDriverDeploymentRequest request) {
+    std::u16string refusedAdd(const protocol::AddDriverDeploymentRequest& request) {
         return textOf(catalogue.deploymentRules().add(request));
     }
     // A queue of the model that uses a configuration with the deployment.
