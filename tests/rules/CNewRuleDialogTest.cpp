@@ -175,6 +175,19 @@ TEST_F(NewRuleDialog, wantsSomebodyWhomItAffects) {
     EXPECT_EQ(dialog.focus(), &dialog.affected.list);
 }
 
+TEST_F(NewRuleDialog, aHandoverThatNeededOnlyANameWhenItWasMadeNeedsACommentAndSomebodyAffectedNow) {
+    estate_.affected.clear();
+    auto entry = samples::entry("e1", 4, u"At the desk");
+    entry.affectedId.clear();
+    entry.affectedName.clear();
+    CNewRuleDialog dialog(platform_, place(), entry);
+    dialog.open();
+
+    expectRefusal(dialog, u"Comment field shoud not be blank!");
+    dialog.comment.userTyped(u"By the porter");
+    expectRefusal(dialog, u"Affected field should not be blank!");
+}
+
 TEST_F(NewRuleDialog, readsTheEntriesOfTheOwnerAndThenThoseOfTheParentWhichWin) {
     estate_.entries["g1"] = {samples::entry("e1", 7, u"Of the owner")};
     estate_.entries["parent"] = {samples::entry("e2", 7, u"Of the parent")};

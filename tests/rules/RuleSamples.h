@@ -1,13 +1,12 @@
 #pragma once
 
+#include "console/DropList.h"
 #include "protocol/rules/AffectedRecord.h"
 #include "protocol/rules/PageLimitRecord.h"
 #include "protocol/rules/PricePlanRecord.h"
 #include "protocol/rules/RuleEntryRecord.h"
 #include "protocol/rules/RuleGroupRecord.h"
 #include "protocol/rules/ShortIdRecord.h"
-
-#include "console/DropList.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +22,7 @@ inline protocol::AffectedRecord affected(std::string id, wire::WideString name) 
     return {.id = std::move(id), .type = 2, .equals = 1, .name = std::move(name)};
 }
 
-inline protocol::RuleGroupRecord group(std::string id, wire::WideString name) {
+inline protocol::RuleGroupRecord group(std::string id, const wire::WideString& name) {
     return {.id = std::move(id), .name = name, .comment = u"Comment of " + name, .extra1 = u"one", .extra2 = u"two"};
 }
 
