@@ -40,7 +40,8 @@ Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool n
     Bytes fields;
     for (const auto& field : layout.fields) {
         const bool isText = field.kind == FieldKind::str8;
-        fields = std::move(fields) + (isText && named ? test::str8("x") : fieldOf(field.kind, number));
+        const auto value = isText && named ? test::str8("x") : fieldOf(field.kind, number);
+        fields.insert(fields.end(), value.begin(), value.end());
     }
     return fields;
 }
