@@ -57,7 +57,8 @@ private:
             if (next == quote) {
                 return;
             }
-            const bool escapes = next == '\\' && !rest_.empty() && escapable.find(rest_.front()) != escapable.npos;
+            const bool escapes =
+                next == '\\' && !rest_.empty() && escapable.find(rest_.front()) != std::string_view::npos;
             word += escapes ? take() : next;
         }
         throw Failure(ExitStatus::usage, std::string("A ") + quote + " is not closed");
