@@ -65,8 +65,8 @@ Result logIn(CQVXAdminClass& client) {
 }
 
 Result callRaw(CQVXAdminClass& client) {
-    const std::array fields = {protocol::FieldValue(std::uint8_t{0}), protocol::FieldValue(std::uint32_t{0}),
-                               protocol::FieldValue(std::uint16_t{0})};
+    const std::array fields = {protocol::FieldValue{std::uint8_t{0}}, protocol::FieldValue{std::uint32_t{0}},
+                               protocol::FieldValue{std::uint16_t{0}}};
     const auto reply = client.rawCall(0, fields);
     return "came\n";
 }
