@@ -2,10 +2,22 @@
 
 #include "wire/WireUuid.h"
 
+#include <array>
+#include <charconv>
+
 namespace ctl {
 namespace {
 
 Json valueJson(const protocol::FieldValue& field);
+
+// With the digits that tell it from other floats, not those of the double next to it: 0.2 and not 0.20000000298.
+double shortest(float value) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    double number = value;
+    std::from_chars(digits.data(), end, number);
+    return number;
+}
 
 Json recordJson(const protocol::FieldRecord& record) {
     Json json = Json::object();
@@ -24,6 +36,8 @@ Json valueJson(const protocol::FieldValue& field) {
                 return wire::toUtf8(value);
             } else if constexpr (std::is_same_v<T, wire::Uuid>) {
                 return wire::toText(value);
+            } else if constexpr (std::is_same_v<T, float>) {
+                return shortest(value);
             } else if constexpr (std::is_same_v<T, protocol::FieldList>) {
                 Json list = Json::array();
                 for (const auto& element : value) {

@@ -35,6 +35,13 @@ TEST(ReplyJson, aCommandWithoutAReplyIsItsName) {
     EXPECT_EQ(ctl::dump(ctl::replyJson(replyOf(1))), R"({"opcode":1,"name":"CreateRegion"})");
 }
 
+TEST(ReplyJson, aFractionIsWrittenWithItsOwnDigits) {
+    auto reply = replyOf(65);
+    reply.records.push_back(FieldRecord{{"a", {0.2F}}, {"b", {1.0F}}, {"c", {-1234.5F}}, {"d", {3.4028235e38F}}});
+
+    EXPECT_EQ(ctl::replyJson(reply).at("reply").dump(), R"({"a":0.2,"b":1.0,"c":-1234.5,"d":3.4028235e+38})");
+}
+
 TEST(ReplyJson, bytesThatAreNoTextAreReplaced) {
     auto reply = replyOf(76);
     reply.records.push_back(FieldRecord{{"text", {std::string("a\xFF")}}});

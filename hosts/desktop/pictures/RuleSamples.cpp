@@ -63,6 +63,7 @@ std::unique_ptr<console::Form> limitToEdit(console::Platform& platform) {
     std::vector<wire::WideString> names;
     client.listPageLimits(ids, names);
     std::vector<protocol::PageLimitRecord> limits;
+    limits.reserve(ids.size());
     for (const auto& id : ids) {
         limits.push_back(client.getPageLimit(id).value());
     }
