@@ -93,7 +93,7 @@ SystemLocale::SystemLocale() {
     }
     // There is no such number for plain numbers here; that for money comes nearest.
     if (conventions.frac_digits != CHAR_MAX && conventions.frac_digits >= 0) {
-        numberFormat_.decimals = conventions.frac_digits;
+        numberFormat_.decimals = static_cast<unsigned char>(conventions.frac_digits);
     }
 }
 

@@ -27,11 +27,13 @@ static_assert(std::ranges::adjacent_find(commands, {}, &Command::opcode) == comm
 
 constexpr std::size_t opcodeCount = commands.back().opcode + 1U;
 
+constexpr std::size_t noRow = commands.size();
+
 constexpr auto rowOfOpcode = [] {
-    std::array<std::int8_t, opcodeCount> rows{};
-    rows.fill(-1);
-    for (std::size_t row = 0; row < std::size(commands); ++row)
-        rows[commands[row].opcode] = static_cast<std::int8_t>(row);
+    std::array<std::uint8_t, opcodeCount> rows{};
+    rows.fill(noRow);
+    for (std::size_t row = 0; row < commands.size(); ++row)
+        rows[commands[row].opcode] = static_cast<std::uint8_t>(row);
     return rows;
 }();
 
@@ -42,9 +44,9 @@ std::span<const Command> catalogue() {
 }
 
 const Command* findCommand(std::uint16_t opcode) {
-    if (opcode >= opcodeCount || rowOfOpcode[opcode] < 0)
+    if (opcode >= opcodeCount || rowOfOpcode[opcode] == noRow)
         return nullptr;
-    return &commands[static_cast<std::size_t>(rowOfOpcode[opcode])];
+    return &commands[rowOfOpcode[opcode]];
 }
 
 } // namespace protocol
