@@ -9,7 +9,6 @@ namespace adversity {
 namespace {
 
 using namespace server::test; // the words of requests
-using support::operator+;
 using support::toHex;
 
 class FrameMutation : public testing::Test {

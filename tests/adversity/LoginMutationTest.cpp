@@ -14,7 +14,6 @@ namespace {
 
 using namespace server::test; // the words of requests
 using support::hex;
-using support::operator+;
 using support::toHex;
 
 constexpr auto loggedIn = "01 07 00 00 00 09 00 00 00 01 07 00 00 00 01 00";

@@ -8,6 +8,7 @@
 namespace adversity {
 
 using support::Bytes;
+using support::operator+;
 
 // What a hostile or broken line makes of a text of bytes, and words for it ("bit 3 of byte 12 flipped").
 using MutationAction = std::function<void(const Bytes& mutated, const std::string& what)>;

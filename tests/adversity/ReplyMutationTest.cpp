@@ -8,7 +8,6 @@ namespace adversity {
 namespace {
 
 using namespace std::chrono_literals;
-using support::operator+;
 
 // A header's wait and a body's, one after the other, each noticed within a second; a list has one more of each.
 constexpr std::chrono::seconds longestWait = 2 * (15s + 500s + 2s);
@@ -112,7 +111,7 @@ TEST(ReplyMutation, damageThatTheChecksumMissesStaysWithinTheContract) {
     for (const auto& reply : sampleReplies()) {
         const auto sound = reply.frames();
         for (std::size_t first = 0; first < sound.size(); ++first) {
-            for (const std::size_t distance : {1, 2, 3, 7}) {
+            for (const std::size_t distance : std::initializer_list<std::size_t>{1, 2, 3, 7}) {
                 if (first + distance >= sound.size()) {
                     continue;
                 }

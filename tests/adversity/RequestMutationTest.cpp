@@ -13,8 +13,6 @@
 namespace adversity {
 namespace {
 
-using support::operator+;
-
 Bytes joined(const std::vector<Bytes>& messages) {
     Bytes data;
     for (const auto& message : messages) {

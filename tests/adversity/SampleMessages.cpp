@@ -17,7 +17,6 @@ using server::test::str8;
 using server::test::u16;
 using server::test::u32;
 using server::test::u8;
-using support::operator+;
 
 namespace {
 

@@ -11,6 +11,7 @@
 namespace adversity {
 
 using support::Bytes;
+using support::operator+;
 
 // How much the fields of a sample hold.
 enum class Filling {
