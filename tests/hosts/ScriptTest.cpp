@@ -11,7 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 std::vector<ctl::ScriptLine> read(const std::string& text, ctl::Format format = ctl::Format::table) {
     std::istringstream stream(text);
