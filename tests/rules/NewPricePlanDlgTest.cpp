@@ -11,7 +11,6 @@
 namespace {
 
 using console::Answer;
-using protocol::PriceEntryRecord;
 using protocol::PricePlanRecord;
 using protocol::WritePricePlanRequest;
 using rules::NewPricePlanDlg;

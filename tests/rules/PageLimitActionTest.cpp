@@ -39,10 +39,10 @@ TEST_F(PageLimitAction, divertHasTheNumberFiveInTheLastRowAndThePinSixInTheOneBe
 }
 
 TEST_F(PageLimitAction, allOtherActionsHaveTheNumbersOfTheirRows) {
-    for (const std::size_t row : {0, 1, 2, 3, 4}) {
+    for (const std::size_t row : {0U, 1U, 2U, 3U, 4U}) {
         EXPECT_EQ(actionShownFor(static_cast<std::uint8_t>(row)).first, row);
     }
-    for (const std::size_t row : {0, 1, 2, 4}) {
+    for (const std::size_t row : {0U, 1U, 2U, 4U}) {
         EXPECT_EQ(actionTakenFrom(row), row);
     }
 }
@@ -69,7 +69,7 @@ TEST_F(PageLimitAction, aMoveWithoutADestinationIsRefused) {
 
 TEST_F(PageLimitAction, everyOtherActionGoesWithoutADestination) {
     std::size_t sent = 0;
-    for (const std::size_t row : {0, 1, 2, 4, 5, 6}) {
+    for (const std::size_t row : {0U, 1U, 2U, 4U, 5U, 6U}) {
         actionTakenFrom(row);
         EXPECT_EQ(written(1, ++sent).destinationId, "");
     }

@@ -8,7 +8,6 @@
 
 namespace {
 
-using protocol::PriceEntryRecord;
 using rules::PapersGroup;
 
 constexpr std::size_t multiplier = 0;
