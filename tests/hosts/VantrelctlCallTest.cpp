@@ -116,8 +116,9 @@ TEST_F(VantrelctlCall, aRecordThatCameGoesBackFieldByField) {
 }
 
 TEST_F(VantrelctlCall, whatListsHoldInsteadHasNamesToo) {
-    for (const auto& record :
-         call({"ListDrivers", "u8:2", "str8:5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1a01"}).at("records")) {
+    const auto reply = call({"ListDrivers", "u8:2", "str8:5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1a01"});
+    ASSERT_FALSE(reply.at("records").empty());
+    for (const auto& record : reply.at("records")) {
         EXPECT_EQ(record.size(), 3U);
         EXPECT_TRUE(record.contains("version"));
     }
