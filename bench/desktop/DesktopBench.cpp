@@ -1,7 +1,7 @@
 #include "bench/Goals.h"
 #include "bench/desktop/BareList.h"
 #include "console/IConsole.h"
-#include "hosts/desktop/ListView.h"
+#include "hosts/desktop/list/ListView.h"
 #include "shell/ShellUserInterface.h"
 #include "tests/shell/TestSnapIn.h"
 #include "tests/support/MemorySettingsStore.h"
@@ -22,11 +22,11 @@ constexpr int repetitions = 5;
 class NoPerson final : public shell::ShellUserInterface {
 public:
     using ShellUserInterface::ShellUserInterface;
-    console::Answer messageBox(console::WindowHandle, const wire::WideString&, const wire::WideString&,
-                               std::uint32_t) override {
-        return console::Answer::ok;
+    platform::Answer messageBox(platform::WindowHandle, const wire::WideString&, const wire::WideString&,
+                                std::uint32_t) override {
+        return platform::Answer::ok;
     }
-    int runModal(console::Form&, console::WindowHandle) override { return 2; }
+    int runModal(forms::Form&, platform::WindowHandle) override { return 2; }
 };
 
 std::size_t memory() {
@@ -39,7 +39,7 @@ struct OurList {
     shell::TaskQueue tasks;
     NoPerson ui{tasks};
     support::MemorySettingsStore settings;
-    console::Platform platform{.ui = ui, .settings = settings};
+    platform::Platform platform{.ui = ui, .settings = settings};
     shelltest::TestSnapIn snapIn{std::make_shared<Top>(platform)};
     shell::Shell shell{snapIn, tasks, observers};
     desktop::Operations operations{shell, tasks};

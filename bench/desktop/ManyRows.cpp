@@ -9,7 +9,7 @@ std::u16string cellText(std::size_t row, std::size_t column) {
     return wire::toWide("Cell " + std::to_string(column) + " of printer " + std::to_string(scattered));
 }
 
-OneRow::OneRow(console::Platform& platform, std::size_t number) : CBaseNodeItem(platform), number_(number) {
+OneRow::OneRow(platform::Platform& platform, std::size_t number) : CBaseNodeItem(platform), number_(number) {
     for (std::size_t column = 0; column < columnCount; ++column) {
         cells_[column] = cellText(number, column);
     }
@@ -25,7 +25,7 @@ void OneRow::renew() {
     }
 }
 
-ManyRows::ManyRows(console::Platform& platform) : CBaseNodeItem(platform) {
+ManyRows::ManyRows(platform::Platform& platform) : CBaseNodeItem(platform) {
     rows_.reserve(rowCount);
     for (std::size_t row = 0; row < rowCount; ++row) {
         rows_.push_back(std::make_shared<OneRow>(platform, row));
@@ -59,7 +59,7 @@ std::vector<console::NodeBase*> ManyRows::rows() const {
     return nodes;
 }
 
-Top::Top(console::Platform& platform) : CBaseNodeItem(platform), many_(std::make_shared<ManyRows>(platform)) {}
+Top::Top(platform::Platform& platform) : CBaseNodeItem(platform), many_(std::make_shared<ManyRows>(platform)) {}
 
 console::Result Top::OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) {
     if (beginExpand(code, console, scopeId)) {

@@ -20,7 +20,7 @@ std::u16string cellText(std::size_t row, std::size_t column);
 class OneRow final : public console::CBaseNodeItem<OneRow> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Row", .image = 3};
-    OneRow(console::Platform& platform, std::size_t number);
+    OneRow(platform::Platform& platform, std::size_t number);
 
     std::string refreshKey() const override { return std::to_string(number_); }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
@@ -36,7 +36,7 @@ private:
 class ManyRows final : public console::CBaseNodeItem<ManyRows> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Many", .openImage = 1, .children = 1};
-    explicit ManyRows(console::Platform& platform);
+    explicit ManyRows(platform::Platform& platform);
 
     console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 
@@ -52,7 +52,7 @@ private:
 class Top final : public console::CBaseNodeItem<Top> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Top", .children = 1};
-    explicit Top(console::Platform& platform);
+    explicit Top(platform::Platform& platform);
 
     console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 

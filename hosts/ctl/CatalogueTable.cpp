@@ -1,8 +1,8 @@
 #include "hosts/ctl/CatalogueTable.h"
 
 #include "hosts/ctl/Failure.h"
+#include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
-#include "hosts/ctl/Words.h"
 #include "shell/ListExport.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "hosts/ctl/Changes.h"
 
 #include "hosts/ctl/NodeFinder.h"
-#include "hosts/ctl/SilentRefusal.h"
-#include "hosts/ctl/Words.h"
+#include "hosts/ctl/PrintableText.h"
+#include "hosts/ctl/WriteCheck.h"
 
 #include <algorithm>
 #include <charconv>
@@ -88,7 +88,7 @@ void runEntry(const Options& options, Session& session) {
     }
     const ScopeId item = target.row != 0 ? itemOf(shell, target) : target.scope;
     session.check();
-    SilentRefusal refusal(shell, session.observers(), item);
+    WriteCheck refusal(shell, session.observers(), item);
     session.ui().setSteps(StepList(options.steps));
     shell.invoke(entry->id, target);
     session.check();

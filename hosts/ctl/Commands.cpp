@@ -7,9 +7,9 @@
 #include "hosts/ctl/FieldArgument.h"
 #include "hosts/ctl/MenuWriter.h"
 #include "hosts/ctl/NodeFinder.h"
+#include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
 #include "hosts/ctl/TreeWriter.h"
-#include "hosts/ctl/Words.h"
 #include "shell/ListExport.h"
 
 #include <algorithm>

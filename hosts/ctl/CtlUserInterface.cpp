@@ -1,8 +1,8 @@
 #include "hosts/ctl/CtlUserInterface.h"
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "hosts/ctl/FormDriver.h"
-#include "hosts/ctl/Words.h"
+#include "hosts/ctl/PrintableText.h"
 
 #include <algorithm>
 #include <string_view>
@@ -11,8 +11,8 @@
 namespace ctl {
 namespace {
 
-using console::Answer;
-namespace style = console::boxStyle;
+using platform::Answer;
+namespace style = platform::boxStyle;
 
 struct Buttons {
     std::string_view words; // as --answer takes them
@@ -50,7 +50,7 @@ void CtlUserInterface::finish() {
     }
 }
 
-Answer CtlUserInterface::messageBox(console::WindowHandle /*owner*/, const wire::WideString& text,
+Answer CtlUserInterface::messageBox(platform::WindowHandle /*owner*/, const wire::WideString& text,
                                     const wire::WideString& caption, std::uint32_t boxStyle) {
     const Buttons buttons = buttonsOf(boxStyle);
     const std::string line = shown(caption) + ": " + shown(text.substr(0, text.find_last_not_of(u' ') + 1));
@@ -81,7 +81,7 @@ Answer CtlUserInterface::statement(const std::string& line, std::uint32_t icon) 
     return Answer::ok;
 }
 
-int CtlUserInterface::runModal(console::Form& form, console::WindowHandle /*owner*/) {
+int CtlUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {
     form.open();
     try {
         while (!form.ended() && !failure_) {
@@ -96,7 +96,7 @@ int CtlUserInterface::runModal(console::Form& form, console::WindowHandle /*owne
     return form.result();
 }
 
-void CtlUserInterface::drive(console::Form& form) {
+void CtlUserInterface::drive(forms::Form& form) {
     const Step* const step = steps_.next();
     if (step == nullptr) {
         throw Failure(ExitStatus::refused, "The form \"" + shown(form.title()) +

@@ -28,14 +28,14 @@ public:
     // Throws the failure, if there was one, or for steps that were not used.
     void finish();
 
-    console::Answer messageBox(console::WindowHandle owner, const wire::WideString& text,
-                               const wire::WideString& caption, std::uint32_t style) override;
-    int runModal(console::Form& form, console::WindowHandle owner) override;
+    platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
+                                const wire::WideString& caption, std::uint32_t style) override;
+    int runModal(forms::Form& form, platform::WindowHandle owner) override;
 
 private:
     void fail(const Failure& failure);
-    console::Answer statement(const std::string& line, std::uint32_t icon);
-    void drive(console::Form& form);
+    platform::Answer statement(const std::string& line, std::uint32_t icon);
+    void drive(forms::Form& form);
 
     std::ostream& errors_;
     StepList steps_;

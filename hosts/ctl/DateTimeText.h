@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/DateTimePicker.h"
+#include "forms/DateTimePicker.h"
 
 #include <optional>
 #include <string>
@@ -9,6 +9,6 @@ namespace ctl {
 
 // Reads "2024-12-31", "23:59", "23:59:30", "2024-12-31 23:59" and the like with seconds; "none" is no value. The outer
 // optional is empty for anything else. Parts that are not given are those of DateTime.
-std::optional<std::optional<console::DateTime>> parseDateTime(const std::string& text);
+std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& text);
 
 } // namespace ctl

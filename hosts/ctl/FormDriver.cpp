@@ -1,17 +1,17 @@
 #include "hosts/ctl/FormDriver.h"
 
-#include "console/CheckBox.h"
-#include "console/DropList.h"
-#include "console/FormWalk.h"
-#include "console/ListView.h"
-#include "console/MultiLineEdit.h"
-#include "console/RadioButton.h"
-#include "console/TextControl.h"
-#include "console/TreeView.h"
+#include "forms/CheckBox.h"
+#include "forms/DropList.h"
+#include "forms/FormWalk.h"
+#include "forms/ListView.h"
+#include "forms/MultiLineEdit.h"
+#include "forms/RadioButton.h"
+#include "forms/TextControl.h"
+#include "forms/TreeView.h"
 #include "hosts/ctl/DateTimeText.h"
 #include "hosts/ctl/Failure.h"
-#include "hosts/ctl/RowEntry.h"
-#include "hosts/ctl/Words.h"
+#include "hosts/ctl/PrintableText.h"
+#include "hosts/ctl/RowMenuEntry.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +22,7 @@
 namespace ctl {
 namespace {
 
-using console::Control;
+using forms::Control;
 using Texts = std::vector<wire::WideString>;
 
 template <class... Kinds>
@@ -31,7 +31,7 @@ bool isOneOf(const Control* control) {
 }
 
 bool takes(const Control* control, Step::Kind kind) {
-    using namespace console;
+    using namespace forms;
     switch (kind) {
     case Step::Kind::set:
         return isOneOf<TextControl, CheckBox, DateTimePicker, DropList, ListView, TreeView>(control);
@@ -66,7 +66,7 @@ std::optional<bool> parseChecked(const wire::WideString& value) {
 }
 
 // The cells of each row in one column that people see.
-Texts cellsOf(const console::ListView& list, std::size_t column) {
+Texts cellsOf(const forms::ListView& list, std::size_t column) {
     Texts texts;
     for (const auto& row : list.rows()) {
         texts.push_back(column < row.cells.size() ? row.cells[column] : wire::WideString());
@@ -77,11 +77,11 @@ Texts cellsOf(const console::ListView& list, std::size_t column) {
 // What the rows of a list may be called by: the texts of each column that people see.
 std::vector<Texts> rowNames(const Control& control) {
     std::vector<Texts> names;
-    if (const auto* const drop = dynamic_cast<const console::DropList*>(&control)) {
-        std::ranges::transform(drop->items(), std::back_inserter(names.emplace_back()), &console::DropListItem::text);
-    } else if (const auto* const tree = dynamic_cast<const console::TreeView*>(&control)) {
-        std::ranges::transform(tree->items(), std::back_inserter(names.emplace_back()), &console::TreeItem::text);
-    } else if (const auto* const list = dynamic_cast<const console::ListView*>(&control)) {
+    if (const auto* const drop = dynamic_cast<const forms::DropList*>(&control)) {
+        std::ranges::transform(drop->items(), std::back_inserter(names.emplace_back()), &forms::DropListItem::text);
+    } else if (const auto* const tree = dynamic_cast<const forms::TreeView*>(&control)) {
+        std::ranges::transform(tree->items(), std::back_inserter(names.emplace_back()), &forms::TreeItem::text);
+    } else if (const auto* const list = dynamic_cast<const forms::ListView*>(&control)) {
         for (std::size_t column = 0; column < list->columns().size(); ++column) {
             if (!list->columns()[column].hidden()) {
                 names.push_back(cellsOf(*list, column));
@@ -99,7 +99,7 @@ bool hasRow(const Control& control, const wire::WideString& name) {
 
 // Whether a value is of the sort that only such a control takes. Digits are for boxes.
 bool isMadeFor(const Control* control, const wire::WideString& value) {
-    using namespace console;
+    using namespace forms;
     if (isOneOf<CheckBox>(control)) {
         return value != u"0" && value != u"1" && parseChecked(value).has_value();
     }
@@ -115,7 +115,7 @@ void chooseByValue(std::vector<Control*>& found, const Step& step) {
         return;
     }
     const auto isMeant = [&](const Control* control) { return isMadeFor(control, step.value); };
-    const auto isText = [](const Control* control) { return isOneOf<console::TextControl>(control); };
+    const auto isText = [](const Control* control) { return isOneOf<forms::TextControl>(control); };
     if (std::ranges::count_if(found, isMeant) == 1) {
         std::erase_if(found, std::not_fn(isMeant));
     } else if (std::ranges::none_of(found, isMeant) && std::ranges::count_if(found, isText) == 1) {
@@ -123,22 +123,22 @@ void chooseByValue(std::vector<Control*>& found, const Step& step) {
     }
 }
 
-Control& findControl(console::Form& form, const Step& step) {
-    auto found = console::findControls(form, step.label);
+Control& findControl(forms::Form& form, const Step& step) {
+    auto found = forms::findControls(form, step.label);
     std::erase_if(found, [&](const Control* control) { return !takes(control, step.kind); });
     chooseByValue(found, step);
     if (found.size() == 1) {
         return *found.front();
     }
     Texts choices;
-    for (const Control* control : found.empty() ? console::controlsOf(form) : found) {
+    for (const Control* control : found.empty() ? forms::controlsOf(form) : found) {
         if (takes(control, step.kind) && control->visible()) {
-            choices.push_back(console::fullName(*control));
+            choices.push_back(forms::fullName(*control));
         }
     }
     if (step.kind == Step::Kind::press && found.empty()) {
         std::ranges::transform(rowEntriesOf(form), std::back_inserter(choices),
-                               [](const RowEntry& entry) { return fullName(entry); });
+                               [](const RowMenuEntry& entry) { return fullName(entry); });
     }
     const std::string title = "The form \"" + shown(form.title()) + "\" has ";
     throw Failure(ExitStatus::refused, (found.empty() ? title + "no " : title + "more than one ") +
@@ -147,7 +147,7 @@ Control& findControl(console::Form& form, const Step& step) {
 }
 
 Failure refusal(const Control& control, const std::string& why) {
-    return {ExitStatus::refused, '"' + shown(console::fullName(control)) + "\" " + why};
+    return {ExitStatus::refused, '"' + shown(forms::fullName(control)) + "\" " + why};
 }
 
 bool checkedOrRefused(const Control& control, const wire::WideString& value) {
@@ -157,7 +157,7 @@ bool checkedOrRefused(const Control& control, const wire::WideString& value) {
     throw refusal(control, "takes yes or no, not \"" + shown(value) + '"');
 }
 
-void type(console::TextControl& box, const wire::WideString& value) {
+void type(forms::TextControl& box, const wire::WideString& value) {
     const auto& options = box.options();
     if (box.userTyped(value)) {
         return;
@@ -175,7 +175,7 @@ void type(console::TextControl& box, const wire::WideString& value) {
 std::size_t placeAmong(const Control& control, const wire::WideString& value) {
     const auto columns = rowNames(control);
     for (const Texts& names : columns) {
-        const auto place = placeOf(value, names, "row in \"" + shown(console::fullName(control)) + "\" called");
+        const auto place = placeOf(value, names, "row in \"" + shown(forms::fullName(control)) + "\" called");
         if (place < names.size()) {
             return place;
         }
@@ -187,21 +187,21 @@ std::size_t placeAmong(const Control& control, const wire::WideString& value) {
 
 void select(Control& control, const wire::WideString& value) {
     const auto place = placeAmong(control, value);
-    if (auto* const drop = dynamic_cast<console::DropList*>(&control)) {
+    if (auto* const drop = dynamic_cast<forms::DropList*>(&control)) {
         drop->userSelected(place);
-    } else if (auto* const list = dynamic_cast<console::ListView*>(&control)) {
+    } else if (auto* const list = dynamic_cast<forms::ListView*>(&control)) {
         list->userSelected(place);
-    } else if (auto* const tree = dynamic_cast<console::TreeView*>(&control)) {
+    } else if (auto* const tree = dynamic_cast<forms::TreeView*>(&control)) {
         tree->userSelected(place);
     }
 }
 
 void set(Control& control, const wire::WideString& value) {
-    if (auto* const box = dynamic_cast<console::TextControl*>(&control)) {
+    if (auto* const box = dynamic_cast<forms::TextControl*>(&control)) {
         type(*box, value);
-    } else if (auto* const check = dynamic_cast<console::CheckBox*>(&control)) {
+    } else if (auto* const check = dynamic_cast<forms::CheckBox*>(&control)) {
         check->userChecked(checkedOrRefused(control, value));
-    } else if (auto* const picker = dynamic_cast<console::DateTimePicker*>(&control)) {
+    } else if (auto* const picker = dynamic_cast<forms::DateTimePicker*>(&control)) {
         const auto picked = parseDateTime(wire::toUtf8(value));
         if (!picked || !picker->userPicked(*picked)) {
             throw refusal(control, "takes a day and a time such as \"2024-12-31 23:59:00\"" +
@@ -213,16 +213,16 @@ void set(Control& control, const wire::WideString& value) {
 }
 
 void press(Control& control) {
-    if (auto* const button = dynamic_cast<console::Button*>(&control)) {
+    if (auto* const button = dynamic_cast<forms::Button*>(&control)) {
         button->userPressed();
-    } else if (auto* const radio = dynamic_cast<console::RadioButton*>(&control)) {
+    } else if (auto* const radio = dynamic_cast<forms::RadioButton*>(&control)) {
         radio->userChose();
     }
 }
 
-void chooseFromRowMenu(const RowEntry& entry) {
-    console::ListView& list = *entry.list;
-    if (!console::reveal(list) || !list.reachable()) {
+void chooseFromRowMenu(const RowMenuEntry& entry) {
+    forms::ListView& list = *entry.list;
+    if (!forms::reveal(list) || !list.reachable()) {
         throw refusal(list, list.enabled() ? "can't be reached now" : "is disabled");
     }
     if (!list.selection()) {
@@ -233,18 +233,18 @@ void chooseFromRowMenu(const RowEntry& entry) {
 
 } // namespace
 
-void perform(console::Form& form, const Step& step) {
+void perform(forms::Form& form, const Step& step) {
     if (step.kind == Step::Kind::press) {
         // A button of that name comes first.
-        const auto entries = console::findControls(form, step.label).empty() ? findRowEntries(form, step.label)
-                                                                             : std::vector<RowEntry>();
+        const auto entries = forms::findControls(form, step.label).empty() ? findRowEntries(form, step.label)
+                                                                           : std::vector<RowMenuEntry>();
         if (entries.size() == 1) {
             chooseFromRowMenu(entries.front());
             return;
         }
     }
     Control& control = findControl(form, step);
-    if (!console::reveal(control) || !control.reachable()) {
+    if (!forms::reveal(control) || !control.reachable()) {
         throw refusal(control, control.enabled() ? "can't be reached now" : "is disabled");
     }
     switch (step.kind) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "hosts/ctl/Step.h"
 
 namespace ctl {
@@ -8,6 +8,6 @@ namespace ctl {
 // Does with a form what a step says: types into a box, checks, picks, selects a row, presses a button. Throws Failure
 // (refused) with what there is to choose from when there is no such control or row, when it is disabled, or when it
 // does not take the value.
-void perform(console::Form& form, const Step& step);
+void perform(forms::Form& form, const Step& step);
 
 } // namespace ctl

@@ -1,7 +1,7 @@
 #include "hosts/ctl/NodeFinder.h"
 
 #include "hosts/ctl/Failure.h"
-#include "hosts/ctl/Words.h"
+#include "hosts/ctl/PrintableText.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "hosts/ctl/Session.h"
 
 #include "hosts/ctl/Password.h"
+#include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/QuietOutput.h"
-#include "hosts/ctl/Words.h"
 #include "snapin/AuthenticationDlg.h"
 #include "snapin/LoginThread.h"
 
@@ -25,7 +25,7 @@ wire::WideString checked(wire::WideString credential, const std::string& what) {
 Session::Session(const Options& options, std::ostream& errors)
     : options_(options),
       ui_(tasks_, errors),
-      settings_(options.settings ? *options.settings : console::IniSettingsStore::defaultPath()),
+      settings_(options.settings ? *options.settings : common::IniSettingsStore::defaultPath()),
       platform_{.ui = ui_,
                 .settings = settings_,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "console/IniSettingsStore.h"
-#include "console/Platform.h"
-#include "console/SystemLocale.h"
+#include "hosts/common/IniSettingsStore.h"
+#include "hosts/common/SystemLocale.h"
+#include "hosts/common/TwoSidedSnapIn.h"
 #include "hosts/ctl/Activity.h"
 #include "hosts/ctl/CtlUserInterface.h"
 #include "hosts/ctl/FailureWatch.h"
 #include "hosts/ctl/Options.h"
+#include "platform/Platform.h"
+#include "platform/RefusalBox.h"
 #include "shell/CommandWatch.h"
 #include "shell/Observers.h"
-#include "shell/RefusalBox.h"
 #include "shell/Shell.h"
-#include "shell/SnapInOf.h"
 #include "shell/TaskQueue.h"
 #include "snapin/CPrintComponent.h"
 #include "snapin/Print.h"
@@ -47,11 +47,11 @@ private:
     wire::WideString value(const std::optional<std::string>& given, std::string_view name,
                            std::string_view option) const;
     struct Console {
-        Console(console::Platform& platform, shell::TaskQueue& tasks, shell::Observers& observers)
+        Console(platform::Platform& platform, shell::TaskQueue& tasks, shell::Observers& observers)
             : print(platform), shell(snapIn, tasks, observers) {}
 
         snapin::Print print;
-        shell::SnapInOf<snapin::Print, snapin::CPrintComponent> snapIn{print};
+        common::TwoSidedSnapIn<snapin::Print, snapin::CPrintComponent> snapIn{print};
         shell::Shell shell;
     };
 
@@ -64,10 +64,10 @@ private:
     FailureWatch failures_;
     shell::CommandWatch watch_{observers_};
     CtlUserInterface ui_;
-    shell::RefusalBox refusals_{ui_};
-    console::IniSettingsStore settings_;
-    console::SystemLocale locale_;
-    console::Platform platform_;
+    platform::RefusalBox refusals_{ui_};
+    common::IniSettingsStore settings_;
+    common::SystemLocale locale_;
+    platform::Platform platform_;
     std::optional<wire::WideString> loggedIn_; // the words of the login
     std::optional<Console> console_;
 };

@@ -1,7 +1,7 @@
 #include "hosts/ctl/Step.h"
 
 #include "hosts/ctl/Failure.h"
-#include "hosts/ctl/Words.h"
+#include "hosts/ctl/PrintableText.h"
 
 #include <array>
 #include <utility>
@@ -11,12 +11,13 @@ namespace {
 
 constexpr std::array<std::string_view, 4> optionNames{"--set", "--select", "--press", "--answer"};
 
-constexpr std::array<std::pair<std::u16string_view, console::Answer>, 4> answers{{{u"ok", console::Answer::ok},
-                                                                                  {u"cancel", console::Answer::cancel},
-                                                                                  {u"yes", console::Answer::yes},
-                                                                                  {u"no", console::Answer::no}}};
+constexpr std::array<std::pair<std::u16string_view, platform::Answer>, 4> answers{
+    {{u"ok", platform::Answer::ok},
+     {u"cancel", platform::Answer::cancel},
+     {u"yes", platform::Answer::yes},
+     {u"no", platform::Answer::no}}};
 
-console::Answer parseAnswer(std::string_view text) {
+platform::Answer parseAnswer(std::string_view text) {
     for (const auto& [name, answer] : answers) {
         if (sameWord(name, wire::toWide(text))) {
             return answer;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/UserInterface.h"
+#include "platform/UserInterface.h"
 #include "wire/Text.h"
 
 #include <cstdint>
@@ -16,7 +16,7 @@ struct Step {
     Kind kind = Kind::press;
     wire::WideString label{}; // of the control
     wire::WideString value{}; // to set or select
-    console::Answer answer = console::Answer::ok;
+    platform::Answer answer = platform::Answer::ok;
     std::string written; // as it stood on the command line, for messages
 };
 

@@ -1,8 +1,8 @@
 #include "hosts/ctl/TreeWriter.h"
 
 #include "hosts/ctl/NodePath.h"
+#include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
-#include "hosts/ctl/Words.h"
 #include "shell/ListExport.h"
 
 #include <array>

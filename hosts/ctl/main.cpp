@@ -1,8 +1,8 @@
 #include "hosts/ctl/CommandLine.h"
 #include "hosts/ctl/Commands.h"
 #include "hosts/ctl/Failure.h"
+#include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/Script.h"
-#include "hosts/ctl/Words.h"
 
 #include <clocale>
 #include <iostream>

@@ -1,5 +1,5 @@
-#include "hosts/desktop/Application.h"
-#include "hosts/desktop/Program.h"
+#include "hosts/desktop/window/Application.h"
+#include "hosts/desktop/window/Program.h"
 
 #include <cstdio>
 

@@ -2,6 +2,6 @@
 
 namespace alarms {
 
-AlarmRootNode::AlarmRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+AlarmRootNode::AlarmRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 } // namespace alarms

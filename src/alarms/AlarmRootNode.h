@@ -9,7 +9,7 @@ class AlarmRootNode final : public console::CBaseNodeItem<AlarmRootNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Alarms", .image = 16, .children = 2};
 
-    explicit AlarmRootNode(console::Platform& platform);
+    explicit AlarmRootNode(platform::Platform& platform);
 };
 
 } // namespace alarms

@@ -32,7 +32,7 @@ public:
     }
 
 protected:
-    explicit CBaseNodeItem(Platform& platform) : NodeBase(platform, T::identity) {}
+    explicit CBaseNodeItem(platform::Platform& platform) : NodeBase(platform, T::identity) {}
 };
 
 } // namespace console

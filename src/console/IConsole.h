@@ -2,8 +2,7 @@
 
 #include "console/ItemFields.h"
 #include "console/Result.h"
-
-#include <cstdint>
+#include "platform/WindowHandle.h"
 
 namespace console {
 
@@ -12,9 +11,6 @@ class IConsoleVerb;
 class IHeaderCtrl;
 class IImageList;
 class IResultData;
-
-// A window of the host, only ever passed back to it; 0 is none.
-using WindowHandle = std::intptr_t;
 
 // The console as a node sees it. The accessors give the console's other faces, which live as long as it does.
 class IConsole {
@@ -30,7 +26,7 @@ public:
     virtual Result QueryScopeImageList(IImageList*& images) = 0;
     // May be acted on once the running handler has returned.
     virtual Result SelectScopeItem(ScopeId scopeId) = 0;
-    virtual Result GetMainWindow(WindowHandle& window) = 0;
+    virtual Result GetMainWindow(platform::WindowHandle& window) = 0;
 };
 
 // The snap-in's scope side, of which a node needs only the console.

@@ -1,9 +1,9 @@
 #include "console/NodeBase.h"
 
-#include "console/Guard.h"
 #include "console/IConsoleNameSpace.h"
 #include "console/IHeaderCtrl.h"
 #include "console/IResultData.h"
+#include "platform/Guard.h"
 
 #include <array>
 
@@ -61,7 +61,7 @@ std::string placeOf(const std::string& className, std::string_view doing, std::u
 
 } // namespace
 
-NodeBase::NodeBase(Platform& platform, const NodeIdentity& identity)
+NodeBase::NodeBase(platform::Platform& platform, const NodeIdentity& identity)
     : platform_(platform), m_bstrDisplayName(identity.displayName) {
     scope_.nImage = identity.image;
     scope_.nOpenImage = identity.openImage;
@@ -77,7 +77,7 @@ Result NodeBase::Notify(const Notification& notification) {
     const auto place = [&] {
         return placeOf(className(), "notification", static_cast<std::uint32_t>(notification.event));
     };
-    guarded(platform_, place, [&] {
+    platform::guarded(platform_, place, [&] {
         IConsole* const console = consoleOf(notification);
         result = console != nullptr ? dispatch(notification, *console) : Result::unexpected;
     });
@@ -147,7 +147,7 @@ Result NodeBase::refresh(const Notification& notification, IConsole& console) {
     }
     // A row has no list of its own to read. Tab takes the keyboard to the scope tree, so that F5 refreshes the node
     // that owns the row.
-    press({Key::tab, Key::f5});
+    press({platform::Key::tab, platform::Key::f5});
     return shown;
 }
 
@@ -215,7 +215,7 @@ Result NodeBase::Command(std::int32_t commandId, DataObjectType type) {
     const auto keptAlive = weak_from_this().lock(); // "Delete" removes the node's own row
     auto result = Result::notDone;
     const auto place = [&] { return placeOf(className(), "command", static_cast<std::uint32_t>(commandId)); };
-    const bool finished = guarded(platform_, place, [&] {
+    const bool finished = platform::guarded(platform_, place, [&] {
         result = runCommand(commandId, type == DataObjectType::scope ? CommandOrigin::scope : CommandOrigin::result);
         for (int i = 0; i < refreshesAfterCommand(); ++i) {
             PressRefreshKey();
@@ -399,27 +399,28 @@ void NodeBase::insertRows(IConsole& console) const {
 }
 
 bool NodeBase::confirm(const wire::WideString& question) const {
-    return messageBox(question, u"Warning", boxStyle::okCancel) == Answer::ok;
+    return messageBox(question, u"Warning", platform::boxStyle::okCancel) == platform::Answer::ok;
 }
 
-Answer NodeBase::messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style) const {
+platform::Answer NodeBase::messageBox(const wire::WideString& text, const wire::WideString& caption,
+                                      std::uint32_t style) const {
     return platform_.ui.messageBox(0, text, caption, style);
 }
 
-int NodeBase::runModal(Form& form) const {
+int NodeBase::runModal(forms::Form& form) const {
     return platform_.ui.runModal(form, platform_.ui.activeWindow());
 }
 
-void NodeBase::press(std::initializer_list<Key> keys) const {
+void NodeBase::press(std::initializer_list<platform::Key> keys) const {
     platform_.ui.press({keys.begin(), keys.size()});
 }
 
 void NodeBase::PressRefreshKey() const {
-    press({Key::f5});
+    press({platform::Key::f5});
 }
 
 void NodeBase::PressTabKey() const {
-    press({Key::tab});
+    press({platform::Key::tab});
 }
 
 void NodeBase::takeOver(const NodeBase& old, CarryOver what) {

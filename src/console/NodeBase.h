@@ -4,7 +4,7 @@
 #include "console/IConsole.h"
 #include "console/IConsoleVerb.h"
 #include "console/NodeIdentity.h"
-#include "console/Platform.h"
+#include "platform/Platform.h"
 
 #include <initializer_list>
 #include <memory>
@@ -75,7 +75,7 @@ public:
     virtual Result OnShow(IConsole& console, bool show, int again);
 
 protected:
-    NodeBase(Platform& platform, const NodeIdentity& identity);
+    NodeBase(platform::Platform& platform, const NodeIdentity& identity);
 
     virtual std::span<const Column> columns() const { return {}; }
     virtual std::span<const MenuEntry> menu() const { return {}; }
@@ -98,7 +98,7 @@ protected:
     virtual Result OnQueryPaste(const CSnapInItem& source);
     virtual Result OnCutOrMove(CSnapInItem& source);
 
-    Platform& platform() const { return platform_; }
+    platform::Platform& platform() const { return platform_; }
     // The component data and its console as Notify saw them last, the console also as OnExpand did; null before.
     IComponentData* componentData() const { return componentData_; }
     IConsole* console() const { return console_; }
@@ -119,9 +119,10 @@ protected:
 
     // Asks as every destructive command does: caption "Warning", OK and Cancel. True on OK.
     bool confirm(const wire::WideString& question) const;
-    Answer messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style) const;
-    int runModal(Form& form) const;
-    void press(std::initializer_list<Key> keys) const;
+    platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption,
+                                std::uint32_t style) const;
+    int runModal(forms::Form& form) const;
+    void press(std::initializer_list<platform::Key> keys) const;
     void PressRefreshKey() const;
     void PressTabKey() const;
 
@@ -164,7 +165,7 @@ private:
     Result paste(const Notification& notification, IConsole& console);
     Result refresh(const Notification& notification, IConsole& console);
 
-    Platform& platform_;
+    platform::Platform& platform_;
     wire::WideString m_bstrDisplayName;
     ScopeItemFields scope_;
     ResultItemFields result_;

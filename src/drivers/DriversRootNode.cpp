@@ -2,6 +2,6 @@
 
 namespace drivers {
 
-DriversRootNode::DriversRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+DriversRootNode::DriversRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 } // namespace drivers

@@ -9,7 +9,7 @@ class DriversRootNode final : public console::CBaseNodeItem<DriversRootNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Drivers", .image = 11, .children = 2};
 
-    explicit DriversRootNode(console::Platform& platform);
+    explicit DriversRootNode(platform::Platform& platform);
 };
 
 } // namespace drivers

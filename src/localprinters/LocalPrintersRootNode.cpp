@@ -2,6 +2,6 @@
 
 namespace localprinters {
 
-LocalPrintersRootNode::LocalPrintersRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+LocalPrintersRootNode::LocalPrintersRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 } // namespace localprinters

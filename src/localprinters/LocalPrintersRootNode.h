@@ -9,7 +9,7 @@ class LocalPrintersRootNode final : public console::CBaseNodeItem<LocalPrintersR
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Local Printers", .image = 10, .children = 2};
 
-    explicit LocalPrintersRootNode(console::Platform& platform);
+    explicit LocalPrintersRootNode(platform::Platform& platform);
 };
 
 } // namespace localprinters

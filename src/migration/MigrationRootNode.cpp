@@ -2,6 +2,6 @@
 
 namespace migration {
 
-MigrationRootNode::MigrationRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+MigrationRootNode::MigrationRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 } // namespace migration

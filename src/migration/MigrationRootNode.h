@@ -9,7 +9,7 @@ class MigrationRootNode final : public console::CBaseNodeItem<MigrationRootNode>
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Migration", .image = 21, .children = 2};
 
-    explicit MigrationRootNode(console::Platform& platform);
+    explicit MigrationRootNode(platform::Platform& platform);
 };
 
 } // namespace migration

@@ -18,7 +18,7 @@ constexpr std::int32_t deletePrinterCommand = 293;
 
 } // namespace
 
-PrinterNode::PrinterNode(console::Platform& platform, protocol::PrinterRecord record)
+PrinterNode::PrinterNode(platform::Platform& platform, protocol::PrinterRecord record)
     : CBaseNodeItem(platform),
       id_(std::move(record.id)),
       modelName_(std::move(record.modelName)),

@@ -14,7 +14,7 @@ class PrinterNode final : public console::CBaseNodeItem<PrinterNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Printer", .image = 2, .children = 2};
 
-    PrinterNode(console::Platform& platform, protocol::PrinterRecord record);
+    PrinterNode(platform::Platform& platform, protocol::PrinterRecord record);
 
     const std::string& id() const { return id_; }
     std::string refreshKey() const override { return id_; }

@@ -17,7 +17,7 @@ constexpr std::int32_t deleteRegionCommand = 302;
 
 } // namespace
 
-PrinterRegionNode::PrinterRegionNode(console::Platform& platform, protocol::RegionRecord record)
+PrinterRegionNode::PrinterRegionNode(platform::Platform& platform, protocol::RegionRecord record)
     : CBaseNodeItem(platform), regionId_(record.id) {
     setDisplayName(std::move(record.name));
 }
@@ -117,11 +117,11 @@ console::Result PrinterRegionNode::runCommand(std::int32_t commandId, console::C
 
 console::Result PrinterRegionNode::createRegion(console::CommandOrigin origin) {
     regions::CreateRegionDlg dialog(platform(), regionId_, regions::CreateRegionDlg::Mode::printerTree);
-    if (runModal(dialog) != console::idOk) {
+    if (runModal(dialog) != forms::idOk) {
         return console::Result::notDone;
     }
     if (origin == console::CommandOrigin::result) {
-        press({console::Key::tab, console::Key::tab});
+        press({platform::Key::tab, platform::Key::tab});
     } else if (console() == nullptr) {
         return console::Result::ok;
     } else if (dialog.newRegionId != 0) {
@@ -148,7 +148,7 @@ console::Result PrinterRegionNode::deleteRegion() {
     client::CQVXAdminClass client;
     const auto contents = regions::readRegionContents(client, regionId_);
     if (contents == regions::RegionContents::something) {
-        messageBox(regions::regionNotEmptyText, u"Information", console::boxStyle::iconInformation);
+        messageBox(regions::regionNotEmptyText, u"Information", platform::boxStyle::iconInformation);
     }
     if (contents != regions::RegionContents::empty ||
         !client.deleteRegion(protocol::RegionKind::printersAndQueues, regionId_)) {

@@ -15,7 +15,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Region", .image = 0, .openImage = 1, .children = 2};
 
-    PrinterRegionNode(console::Platform& platform, protocol::RegionRecord record);
+    PrinterRegionNode(platform::Platform& platform, protocol::RegionRecord record);
 
     std::int32_t regionId() const { return regionId_; }
     std::string refreshKey() const override;

@@ -16,7 +16,7 @@ constexpr std::int32_t topOfTheTree = 0;
 
 } // namespace
 
-PrintersRootNode::PrintersRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+PrintersRootNode::PrintersRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 console::Result PrintersRootNode::OnExpand(console::ExpandCode code, console::IConsole& console,
                                            console::ScopeId scopeId) {
@@ -56,11 +56,11 @@ console::Result PrintersRootNode::runCommand(std::int32_t commandId, console::Co
 
 console::Result PrintersRootNode::createRegion(console::CommandOrigin origin) {
     regions::CreateRegionDlg dialog(platform(), topOfTheTree, regions::CreateRegionDlg::Mode::printerTree);
-    if (runModal(dialog) != console::idOk) {
+    if (runModal(dialog) != forms::idOk) {
         return console::Result::notDone;
     }
     if (origin == console::CommandOrigin::result) {
-        press({console::Key::tab, console::Key::tab});
+        press({platform::Key::tab, platform::Key::tab});
     } else if (console() != nullptr) {
         console()->SelectScopeItem(row());
         PressRefreshKey();

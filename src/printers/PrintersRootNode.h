@@ -11,7 +11,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Printers", .nodeType = console::folderNodeType, .image = 7, .children = 1};
 
-    explicit PrintersRootNode(console::Platform& platform);
+    explicit PrintersRootNode(platform::Platform& platform);
 
     console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 

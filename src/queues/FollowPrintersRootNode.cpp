@@ -2,6 +2,6 @@
 
 namespace queues {
 
-FollowPrintersRootNode::FollowPrintersRootNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+FollowPrintersRootNode::FollowPrintersRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 } // namespace queues

@@ -9,7 +9,7 @@ class FollowPrintersRootNode final : public console::CBaseNodeItem<FollowPrinter
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Follow Print", .image = 9, .children = 2};
 
-    explicit FollowPrintersRootNode(console::Platform& platform);
+    explicit FollowPrintersRootNode(platform::Platform& platform);
 };
 
 } // namespace queues

@@ -14,7 +14,7 @@ constexpr std::array followPrintMenu{
 
 } // namespace
 
-QueueNode::QueueNode(console::Platform& platform, protocol::PrinterRecord record, QueueMode mode)
+QueueNode::QueueNode(platform::Platform& platform, protocol::PrinterRecord record, QueueMode mode)
     : CBaseNodeItem(platform),
       mode_(mode),
       id_(std::move(record.id)),
@@ -67,7 +67,7 @@ console::Result QueueNode::deleteQueue() {
     }
     client::CQVXAdminClass client;
     const bool sent = client.deleteQueue(id_);
-    press({console::Key::deleteKey, console::Key::f5, console::Key::f5});
+    press({platform::Key::deleteKey, platform::Key::f5, platform::Key::f5});
     return sent ? console::Result::ok : console::Result::notDone;
 }
 

@@ -16,7 +16,7 @@ class QueueNode final : public console::CBaseNodeItem<QueueNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Queue", .image = 3};
 
-    QueueNode(console::Platform& platform, protocol::PrinterRecord record, QueueMode mode);
+    QueueNode(platform::Platform& platform, protocol::PrinterRecord record, QueueMode mode);
 
     const std::string& id() const { return id_; }
     std::string refreshKey() const override { return id_; }

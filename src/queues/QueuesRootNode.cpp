@@ -4,7 +4,7 @@ namespace queues {
 
 QueuesRootNode* QueuesRootNode::instance_ = nullptr;
 
-QueuesRootNode::QueuesRootNode(console::Platform& platform) : CBaseNodeItem(platform) {
+QueuesRootNode::QueuesRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {
     instance_ = this;
 }
 

@@ -11,7 +11,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Queues", .nodeType = console::folderNodeType, .image = 8, .children = 2};
 
-    explicit QueuesRootNode(console::Platform& platform);
+    explicit QueuesRootNode(platform::Platform& platform);
     ~QueuesRootNode() override;
 
     // Null while no tree stands.

@@ -4,7 +4,7 @@
 
 namespace regions {
 
-CreateRegionDlg::CreateRegionDlg(console::Platform& platform, std::int32_t parentId, Mode mode)
+CreateRegionDlg::CreateRegionDlg(platform::Platform& platform, std::int32_t parentId, Mode mode)
     : Form(platform, u"Create Region"), parentId_(parentId), mode_(mode) {
     name.onChange = [this] { okButton().setEnabled(true); };
 }
@@ -19,7 +19,7 @@ void CreateRegionDlg::onOk() {
         mode_ == Mode::printerTree ? protocol::RegionKind::printersAndQueues : protocol::RegionKind::localPrinters;
     client::CQVXAdminClass client;
     client.createRegion(kind, parentId_, name.text());
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 } // namespace regions

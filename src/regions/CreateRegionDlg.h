@@ -1,25 +1,25 @@
 #pragma once
 
-#include "console/EditBox.h"
-#include "console/Form.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
 
 #include <cstdint>
 
 namespace regions {
 
 // Names a new region and makes it on the server.
-class CreateRegionDlg final : public console::Form {
+class CreateRegionDlg final : public forms::Form {
 public:
     // Which tree the region is for. These are not the numbers that the server knows the trees by.
     enum class Mode : std::int32_t { printerTree = 1, localPrinterTree = 2 };
 
-    CreateRegionDlg(console::Platform& platform, std::int32_t parentId, Mode mode);
+    CreateRegionDlg(platform::Platform& platform, std::int32_t parentId, Mode mode);
 
     // The id of the region made; 0 while it is not known. The server's answer does not tell it, so that the tree is
     // read again instead.
     std::int32_t newRegionId = 0;
 
-    console::EditBox name{*this, u"Region Name"};
+    forms::EditBox name{*this, u"Region Name"};
 
 protected:
     void onInitDialog() override;

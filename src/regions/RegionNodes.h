@@ -19,7 +19,7 @@ bool readRegionsBelow(client::CQVXAdminClass& client, protocol::RegionKind kind,
 
 // A node for each region, made as Node(platform, region, more...) and placed under its parent.
 template <class Node, class... More>
-console::NodeArray<Node> makeRegionNodes(console::Platform& platform, const console::NodeBase& parent,
+console::NodeArray<Node> makeRegionNodes(platform::Platform& platform, const console::NodeBase& parent,
                                          std::vector<protocol::RegionRecord> regions, const More&... more) {
     console::NodeArray<Node> nodes;
     nodes.reserve(regions.size());

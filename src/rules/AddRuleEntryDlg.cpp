@@ -10,15 +10,15 @@ namespace rules {
 
 using protocol::RuleEntryRecord;
 
-AddRuleEntryDlg::AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place)
+AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place)
     : AddRuleEntryDlg(platform, mode, std::move(place), false, client::newRecord<RuleEntryRecord>()) {
     fields.entry.parentId = place_.parentId;
 }
 
-AddRuleEntryDlg::AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, RuleEntryRecord entry)
+AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, RuleEntryRecord entry)
     : AddRuleEntryDlg(platform, mode, std::move(place), true, std::move(entry)) {}
 
-AddRuleEntryDlg::AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
+AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
                                  RuleEntryRecord entry)
     : Form(platform, u"Add Rule"),
       fields(*this, platform, std::move(entry),
@@ -39,7 +39,7 @@ void AddRuleEntryDlg::onOk() {
     }
     write(place);
     listAgain(place);
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 void AddRuleEntryDlg::write(const RuleEntryPlace& place) const {

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "rules/RuleEntryFields.h"
 #include "rules/RuleEntryPlace.h"
 
 namespace rules {
 
 // Makes a rule entry inside a rule group, or on a region.
-class AddRuleEntryDlg final : public console::Form {
+class AddRuleEntryDlg final : public forms::Form {
 public:
     enum class Mode : std::uint8_t { place, group };
 
-    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place);
-    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, protocol::RuleEntryRecord entry);
+    AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place);
+    AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, protocol::RuleEntryRecord entry);
 
     RuleEntryFields fields;
 
@@ -21,7 +21,7 @@ protected:
     void onOk() override;
 
 private:
-    AddRuleEntryDlg(console::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
+    AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
                     protocol::RuleEntryRecord entry);
     void write(const RuleEntryPlace& place) const;
 

@@ -19,10 +19,10 @@ constexpr std::size_t isRow = 1;
 
 } // namespace
 
-AffectedDlg::AffectedDlg(console::Platform& platform, Opener opener)
+AffectedDlg::AffectedDlg(platform::Platform& platform, Opener opener)
     : Form(platform, u"Affected"), editing_(false), opener_(opener), affected_(client::newRecord<AffectedRecord>()) {}
 
-AffectedDlg::AffectedDlg(console::Platform& platform, Opener opener, AffectedRecord affected)
+AffectedDlg::AffectedDlg(platform::Platform& platform, Opener opener, AffectedRecord affected)
     : Form(platform, u"Affected"), editing_(true), opener_(opener), affected_(std::move(affected)) {}
 
 void AffectedDlg::onInitDialog() {
@@ -50,7 +50,7 @@ void AffectedDlg::onOk() {
         client.addAffected(affected_);
     }
     tellOpener();
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 void AffectedDlg::tellOpener() {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Form.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
 #include "protocol/rules/AffectedRecord.h"
 #include "rules/SavedChoice.h"
 
@@ -11,7 +11,7 @@
 namespace rules {
 
 // Makes or edits whom a rule affects: a user, a group, or all but one of these.
-class AffectedDlg final : public console::Form {
+class AffectedDlg final : public forms::Form {
 public:
     // A dialog of a rule, which gets to know what has become of those affected. All of it outlives the form.
     struct Opener {
@@ -19,12 +19,12 @@ public:
         SavedChoice& saved;                          // becomes the record
     };
 
-    AffectedDlg(console::Platform& platform, Opener opener);
-    AffectedDlg(console::Platform& platform, Opener opener, protocol::AffectedRecord affected);
+    AffectedDlg(platform::Platform& platform, Opener opener);
+    AffectedDlg(platform::Platform& platform, Opener opener, protocol::AffectedRecord affected);
 
-    console::EditBox name{*this, u"Name"};
-    console::DropList type{*this, u"Type"};
-    console::DropList equals{*this, u"Equals"};
+    forms::EditBox name{*this, u"Name"};
+    forms::DropList type{*this, u"Type"};
+    forms::DropList equals{*this, u"Equals"};
 
 protected:
     void onInitDialog() override;

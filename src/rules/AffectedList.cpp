@@ -11,7 +11,7 @@ namespace rules {
 
 using protocol::AffectedRecord;
 
-AffectedList::AffectedList(console::Container& container, console::Platform& platform, EmptyRow emptyRow)
+AffectedList::AffectedList(forms::Container& container, platform::Platform& platform, EmptyRow emptyRow)
     : list(container, u"Affected"),
       editButton(container, u"Edit..."),
       deleteButton(container, u"Delete"),

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/Platform.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "platform/Platform.h"
 #include "protocol/rules/AffectedRecord.h"
 #include "protocol/rules/RuleEntryRecord.h"
 #include "rules/SavedChoice.h"
@@ -20,7 +20,7 @@ public:
     // Whether an empty row stands above the records, so that a rule may affect everybody.
     enum class EmptyRow : std::uint8_t { none, first };
 
-    AffectedList(console::Container& container, console::Platform& platform, EmptyRow emptyRow);
+    AffectedList(forms::Container& container, platform::Platform& platform, EmptyRow emptyRow);
 
     // Reads the records anew and goes back to the saved choice, else to the first row. The buttons can be pressed
     // after that, whatever is selected; this must stay.
@@ -35,9 +35,9 @@ public:
     void saveName(const wire::WideString& name) { saved_.name = name; }
     void setVisible(bool visible);
 
-    console::DropList list;
-    console::Button editButton;
-    console::Button deleteButton;
+    forms::DropList list;
+    forms::Button editButton;
+    forms::Button deleteButton;
 
 private:
     std::size_t rowsAbove() const { return emptyRow_ == EmptyRow::first ? 1 : 0; }
@@ -50,7 +50,7 @@ private:
     void remove();
     void enableButtons(bool enabled);
 
-    console::Platform& platform_;
+    platform::Platform& platform_;
     EmptyRow emptyRow_;
     std::vector<protocol::AffectedRecord> records_;
     SavedChoice saved_;

@@ -23,7 +23,7 @@ constexpr std::size_t clientBillingRow = 4;
 
 } // namespace
 
-CNewRuleDialog::CNewRuleDialog(console::Platform& platform, RuleEntryPlace place)
+CNewRuleDialog::CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place)
     : Form(platform, u"New Rule"),
       place_(std::move(place)),
       editing_(false),
@@ -31,7 +31,7 @@ CNewRuleDialog::CNewRuleDialog(console::Platform& platform, RuleEntryPlace place
     entry_.parentId = place_.parentId;
 }
 
-CNewRuleDialog::CNewRuleDialog(console::Platform& platform, RuleEntryPlace place, RuleEntryRecord entry)
+CNewRuleDialog::CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place, RuleEntryRecord entry)
     : Form(platform, u"New Rule"), place_(std::move(place)), editing_(true), entry_(std::move(entry)) {}
 
 // The type of an entry is not shown: an edited one becomes "Client billing" unless the person chooses another type.
@@ -60,7 +60,7 @@ void CNewRuleDialog::onOk() {
         client.addRuleEntry(0, place_.parentId, place_.ownerId, entry_);
     }
     listAgain(place_);
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 // "shoud" must stay, and so must the comment that has to be there although most rules need none.

@@ -1,21 +1,21 @@
 #pragma once
 
-#include "console/EditBox.h"
-#include "console/Form.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
 #include "rules/AffectedList.h"
 #include "rules/RuleEntryPlace.h"
 
 namespace rules {
 
 // Edits a rule entry of a rule group that points at nothing that could be edited instead, or makes one.
-class CNewRuleDialog final : public console::Form {
+class CNewRuleDialog final : public forms::Form {
 public:
-    CNewRuleDialog(console::Platform& platform, RuleEntryPlace place);
-    CNewRuleDialog(console::Platform& platform, RuleEntryPlace place, protocol::RuleEntryRecord entry);
+    CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place);
+    CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place, protocol::RuleEntryRecord entry);
 
-    console::DropList type{*this, u"Type"};
-    console::EditBox name{*this, u"Name", {.limit = 64}};
-    console::EditBox comment{*this, u"Comment", {.limit = 255}};
+    forms::DropList type{*this, u"Type"};
+    forms::EditBox name{*this, u"Name", {.limit = 64}};
+    forms::EditBox comment{*this, u"Comment", {.limit = 255}};
     AffectedList affected{*this, platform(), AffectedList::EmptyRow::none};
 
 protected:

@@ -2,7 +2,7 @@
 
 namespace rules {
 
-FourPrices::FourPrices(console::Container& container, const console::Locale& locale, std::u16string_view label)
+FourPrices::FourPrices(forms::Container& container, const platform::Locale& locale, std::u16string_view label)
     : group(container, label),
       bwSimplex(group, locale, u"B/W Simplex"),
       bwDuplex(group, locale, u"B/W Duplex"),

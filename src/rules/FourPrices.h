@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Group.h"
+#include "forms/Group.h"
 #include "protocol/rules/PriceEntryRecord.h"
 #include "rules/PriceBox.h"
 
@@ -9,13 +9,13 @@ namespace rules {
 // The four prices of printing or of copying on one paper.
 class FourPrices {
 public:
-    FourPrices(console::Container& container, const console::Locale& locale, std::u16string_view label);
+    FourPrices(forms::Container& container, const platform::Locale& locale, std::u16string_view label);
 
     void show(const protocol::PriceEntryRecord& row);
     void read(protocol::PriceEntryRecord& row) const;
     void enableDuplex(bool enabled);
 
-    console::Group group;
+    forms::Group group;
     PriceBox bwSimplex;
     PriceBox bwDuplex;
     PriceBox colorSimplex;

@@ -8,7 +8,7 @@
 
 namespace rules {
 
-MessageControl::MessageControl(console::Container& container, console::Platform& platform,
+MessageControl::MessageControl(forms::Container& container, platform::Platform& platform,
                                std::vector<wire::WideString> extraItems)
     : list(container, u"Message"),
       editButton(container, u"Edit"),
@@ -74,7 +74,7 @@ void MessageControl::selected() {
 
 void MessageControl::makeMessage() {
     NewMessageDlg dialog(platform_);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == console::idOk) {
+    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk) {
         fill(dialog.message().id);
     }
 }
@@ -85,7 +85,7 @@ void MessageControl::editMessage() {
         return;
     }
     NewMessageDlg dialog(platform_, *message);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == console::idOk) {
+    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk) {
         fill(dialog.message().id);
     }
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/Platform.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "platform/Platform.h"
 #include "protocol/rules/UserMessageRecord.h"
 
 #include <functional>
@@ -18,8 +18,7 @@ public:
     static constexpr std::u16string_view defaultItem = u"<Default>";
 
     // The extra items stand below the messages, the last of them first, and offer nothing to edit or delete.
-    MessageControl(console::Container& container, console::Platform& platform,
-                   std::vector<wire::WideString> extraItems);
+    MessageControl(forms::Container& container, platform::Platform& platform, std::vector<wire::WideString> extraItems);
 
     // Reads the messages anew and selects the one with the id, else the last. Without any message nothing is selected,
     // and the buttons stay as they are.
@@ -34,9 +33,9 @@ public:
     // The person has selected something, and a new message, if that was asked for, stands in the list.
     std::function<void()> onSelect;
 
-    console::DropList list;
-    console::Button editButton;
-    console::Button deleteButton;
+    forms::DropList list;
+    forms::Button editButton;
+    forms::Button deleteButton;
 
 private:
     // Null where there is nothing to edit or delete.
@@ -46,7 +45,7 @@ private:
     void editMessage();
     void deleteMessage();
 
-    console::Platform& platform_;
+    platform::Platform& platform_;
     std::vector<wire::WideString> extraItems_;
     std::vector<protocol::UserMessageRecord> messages_;
 };

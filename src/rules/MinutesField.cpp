@@ -27,7 +27,7 @@ std::size_t unitFor(std::uint32_t length) {
 
 } // namespace
 
-MinutesField::MinutesField(console::Container& container, const console::Control& owner, std::u16string_view remarkText)
+MinutesField::MinutesField(forms::Container& container, const forms::Control& owner, std::u16string_view remarkText)
     : number(container, u"", {.digitsOnly = true}), unit(container, u""), remark(container, u"", remarkText) {
     number.setBeside(owner);
     unit.setBeside(number);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Label.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Label.h"
 
 #include <cstdint>
 #include <optional>
@@ -12,7 +12,7 @@ namespace rules {
 // A length of time as a number and its unit, beside the control that says what it is of.
 class MinutesField {
 public:
-    MinutesField(console::Container& container, const console::Control& owner, std::u16string_view remark);
+    MinutesField(forms::Container& container, const forms::Control& owner, std::u16string_view remark);
 
     // Fills the list of units; before that there are none to choose.
     void open();
@@ -24,9 +24,9 @@ public:
     std::optional<std::uint32_t> minutes() const;
     void setEnabled(bool enabled);
 
-    console::EditBox number;
-    console::DropList unit;
-    console::Label remark;
+    forms::EditBox number;
+    forms::DropList unit;
+    forms::Label remark;
 };
 
 } // namespace rules

@@ -14,10 +14,10 @@ constexpr std::uint32_t lastIcon = 3;
 
 } // namespace
 
-NewMessageDlg::NewMessageDlg(console::Platform& platform)
+NewMessageDlg::NewMessageDlg(platform::Platform& platform)
     : Form(platform, u"New message"), editing_(false), message_(client::newRecord<protocol::UserMessageRecord>()) {}
 
-NewMessageDlg::NewMessageDlg(console::Platform& platform, protocol::UserMessageRecord message)
+NewMessageDlg::NewMessageDlg(platform::Platform& platform, protocol::UserMessageRecord message)
     : Form(platform, u"New message"), editing_(true), message_(std::move(message)) {}
 
 void NewMessageDlg::onInitDialog() {
@@ -85,7 +85,7 @@ void NewMessageDlg::onOk() {
     } else {
         client.addUserMessage(message_);
     }
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 // A web page keeps the caption that it had as something else. A message with a caption alone is called by it.
@@ -108,7 +108,7 @@ bool NewMessageDlg::takeNames() {
 }
 
 void NewMessageDlg::refuse(const wire::WideString& why) {
-    messageBox(why, u"A required field is empty!", console::boxStyle::iconWarning);
+    messageBox(why, u"A required field is empty!", platform::boxStyle::iconWarning);
     name.setFocus();
 }
 

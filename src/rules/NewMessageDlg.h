@@ -1,28 +1,28 @@
 #pragma once
 
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Form.h"
-#include "console/MultiLineEdit.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
+#include "forms/MultiLineEdit.h"
 #include "protocol/rules/UserMessageRecord.h"
 
 namespace rules {
 
 // Makes or edits what a person who prints gets to see: a message box, a balloon or a web page.
-class NewMessageDlg final : public console::Form {
+class NewMessageDlg final : public forms::Form {
 public:
-    explicit NewMessageDlg(console::Platform& platform);
-    NewMessageDlg(console::Platform& platform, protocol::UserMessageRecord message);
+    explicit NewMessageDlg(platform::Platform& platform);
+    NewMessageDlg(platform::Platform& platform, protocol::UserMessageRecord message);
 
     // As it was sent to the server, once the form has ended with OK.
     const protocol::UserMessageRecord& message() const { return message_; }
 
-    console::EditBox name{*this, u"Message name"};
-    console::DropList type{*this, u"Type"};
-    console::EditBox caption{*this, u"Caption"};
-    console::MultiLineEdit text{*this, u"Text"};
-    console::DropList icon{*this, u"Icon"};
-    console::EditBox url{*this, u"Url"};
+    forms::EditBox name{*this, u"Message name"};
+    forms::DropList type{*this, u"Type"};
+    forms::EditBox caption{*this, u"Caption"};
+    forms::MultiLineEdit text{*this, u"Text"};
+    forms::DropList icon{*this, u"Icon"};
+    forms::EditBox url{*this, u"Url"};
 
 protected:
     void onInitDialog() override;

@@ -23,19 +23,19 @@ PricePlanRecord newPlan() {
 
 } // namespace
 
-NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform)
+NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform)
     : NewPricePlanDlg(platform, true, newPlan(), std::nullopt) {}
 
-NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, PricePlanRecord plan)
+NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform, PricePlanRecord plan)
     : NewPricePlanDlg(platform, false, std::move(plan), std::nullopt) {}
 
-NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, Opener opener)
+NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform, Opener opener)
     : NewPricePlanDlg(platform, true, newPlan(), std::move(opener)) {}
 
-NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, Opener opener, PricePlanRecord plan)
+NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform, Opener opener, PricePlanRecord plan)
     : NewPricePlanDlg(platform, false, std::move(plan), std::move(opener)) {}
 
-NewPricePlanDlg::NewPricePlanDlg(console::Platform& platform, bool isNew, PricePlanRecord plan,
+NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform, bool isNew, PricePlanRecord plan,
                                  std::optional<Opener> opener)
     : Form(platform, u"New Price Plan"),
       isNew_(isNew),
@@ -81,7 +81,7 @@ void NewPricePlanDlg::showPlan() {
 
 void NewPricePlanDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field should not be blank!", u"A required field is empty!", console::boxStyle::iconWarning);
+        messageBox(u"Name field should not be blank!", u"A required field is empty!", platform::boxStyle::iconWarning);
         name.setFocus();
         return;
     }
@@ -95,7 +95,7 @@ void NewPricePlanDlg::onOk() {
     if (opener_) {
         tellOpener();
     }
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 void NewPricePlanDlg::takePlan() {

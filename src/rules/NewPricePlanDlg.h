@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "protocol/rules/PricePlanRecord.h"
 #include "protocol/rules/RuleEntryRecord.h"
 #include "rules/PapersGroup.h"
@@ -12,7 +12,7 @@
 namespace rules {
 
 // Makes or edits a price plan: its general figures, and the prices of papers and areas.
-class NewPricePlanDlg final : public console::Form {
+class NewPricePlanDlg final : public forms::Form {
 public:
     // A dialog of a rule, which gets to know what has become of the plans. All of it outlives the form.
     struct Opener {
@@ -21,21 +21,21 @@ public:
         protocol::RuleEntryRecord entry;               // is made to point at the plan
     };
 
-    explicit NewPricePlanDlg(console::Platform& platform);
-    NewPricePlanDlg(console::Platform& platform, protocol::PricePlanRecord plan);
-    NewPricePlanDlg(console::Platform& platform, Opener opener);
-    NewPricePlanDlg(console::Platform& platform, Opener opener, protocol::PricePlanRecord plan);
+    explicit NewPricePlanDlg(platform::Platform& platform);
+    NewPricePlanDlg(platform::Platform& platform, protocol::PricePlanRecord plan);
+    NewPricePlanDlg(platform::Platform& platform, Opener opener);
+    NewPricePlanDlg(platform::Platform& platform, Opener opener, protocol::PricePlanRecord plan);
 
     // As it was sent to the server, once the form has ended with OK.
     const protocol::PricePlanRecord& plan() const { return plan_; }
 
-    console::Group general{*this, u"Plan"};
-    console::EditBox name{general, u"Name", {.limit = 64}};
-    console::EditBox comment{general, u"Comment", {.limit = 128}};
-    console::DropList payMethod{general, u"Pay method"};
+    forms::Group general{*this, u"Plan"};
+    forms::EditBox name{general, u"Name", {.limit = 64}};
+    forms::EditBox comment{general, u"Comment", {.limit = 128}};
+    forms::DropList payMethod{general, u"Pay method"};
     PriceBox defaultPrice{general, platform().locale, u"Default price"};
-    console::EditBox vat{general, u"VAT (%)"};
-    console::Group multipliers{*this, u"Multipliers"};
+    forms::EditBox vat{general, u"VAT (%)"};
+    forms::Group multipliers{*this, u"Multipliers"};
     PriceBox colorMultiplier{multipliers, platform().locale, u"Color multiplier"};
     PriceBox duplexMultiplier{multipliers, platform().locale, u"Duplex multiplier"};
     PriceBox copyMultiplier{multipliers, platform().locale, u"Copy multiplier"};
@@ -47,7 +47,7 @@ protected:
     void onOk() override;
 
 private:
-    NewPricePlanDlg(console::Platform& platform, bool isNew, protocol::PricePlanRecord plan,
+    NewPricePlanDlg(platform::Platform& platform, bool isNew, protocol::PricePlanRecord plan,
                     std::optional<Opener> opener);
 
     void showPlan();

@@ -16,10 +16,10 @@ namespace rules {
 
 using protocol::RuleEntryRecord;
 
-NewRuleGroupDlg::NewRuleGroupDlg(console::Platform& platform)
+NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform)
     : Form(platform, u"New Rule Group"), isNew_(true), group_(client::newRecord<protocol::RuleGroupRecord>()) {}
 
-NewRuleGroupDlg::NewRuleGroupDlg(console::Platform& platform, protocol::RuleGroupRecord group)
+NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform, protocol::RuleGroupRecord group)
     : Form(platform, u"New Rule Group"), isNew_(false), group_(std::move(group)) {}
 
 void NewRuleGroupDlg::onInitDialog() {
@@ -43,7 +43,7 @@ void NewRuleGroupDlg::onInitDialog() {
 void NewRuleGroupDlg::onOk() {
     if (name.text().empty()) {
         messageBox(u"Group name can not be empty, please provide a group name", u"Required field is empty",
-                   console::boxStyle::iconWarning);
+                   platform::boxStyle::iconWarning);
         name.setFocus();
         return;
     }
@@ -51,7 +51,7 @@ void NewRuleGroupDlg::onOk() {
     group_.comment = comment.text();
     client::CQVXAdminClass client;
     client.updateRuleGroup(group_);
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 // The server removes the entries with their group. The result is that of OK, which must stay.
@@ -60,7 +60,7 @@ void NewRuleGroupDlg::onCancel() {
         client::CQVXAdminClass client;
         client.deleteRuleGroup(group_.id);
     }
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 const RuleEntryRecord* NewRuleGroupDlg::selectedEntry() const {
@@ -75,7 +75,7 @@ void NewRuleGroupDlg::listEntries() {
 }
 
 void NewRuleGroupDlg::showEntries() {
-    std::vector<console::ListRow> rows;
+    std::vector<forms::ListRow> rows;
     rows.reserve(entries_.size());
     for (const auto& entry : entries_) {
         rows.push_back({.cells = {entry.typeText, entry.name, entry.affectedName}, .data = entry.id});

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/EditBox.h"
-#include "console/Form.h"
-#include "console/ListView.h"
+#include "forms/Button.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
+#include "forms/ListView.h"
 #include "protocol/rules/RuleEntryRecord.h"
 #include "protocol/rules/RuleGroupRecord.h"
 #include "rules/RuleEntryPlace.h"
@@ -14,17 +14,17 @@ namespace rules {
 
 // Makes or edits a rule group with its entries. A new group is on the server from the moment when the form opens, since
 // its entries need an owner; until the form ends it is there without a name, for everybody to see.
-class NewRuleGroupDlg final : public console::Form {
+class NewRuleGroupDlg final : public forms::Form {
 public:
-    explicit NewRuleGroupDlg(console::Platform& platform);
-    NewRuleGroupDlg(console::Platform& platform, protocol::RuleGroupRecord group);
+    explicit NewRuleGroupDlg(platform::Platform& platform);
+    NewRuleGroupDlg(platform::Platform& platform, protocol::RuleGroupRecord group);
 
-    console::EditBox name{*this, u"Group Name", {.limit = 64}};
-    console::EditBox comment{*this, u"Group Comment", {.limit = 255}};
-    console::ListView entries{*this, u"Rules"};
-    console::Button addButton{*this, u"Add..."};
-    console::Button removeButton{*this, u"Remove"};
-    console::Button editButton{*this, u"Edit..."};
+    forms::EditBox name{*this, u"Group Name", {.limit = 64}};
+    forms::EditBox comment{*this, u"Group Comment", {.limit = 255}};
+    forms::ListView entries{*this, u"Rules"};
+    forms::Button addButton{*this, u"Add..."};
+    forms::Button removeButton{*this, u"Remove"};
+    forms::Button editButton{*this, u"Edit..."};
 
 protected:
     void onInitDialog() override;

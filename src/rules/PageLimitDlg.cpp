@@ -42,7 +42,7 @@ PageLimitRecord newLimit() {
     return limit;
 }
 
-void fill(console::DropList& list, std::initializer_list<std::u16string_view> items, std::size_t selected = 0) {
+void fill(forms::DropList& list, std::initializer_list<std::u16string_view> items, std::size_t selected = 0) {
     for (const auto item : items) {
         list.addItem(wire::WideString(item));
     }
@@ -50,11 +50,11 @@ void fill(console::DropList& list, std::initializer_list<std::u16string_view> it
 }
 
 // Of a list that begins with "Any" and has two more items, whose numbers are those of their rows.
-void selectOneOfThree(console::DropList& list, std::uint8_t value) {
+void selectOneOfThree(forms::DropList& list, std::uint8_t value) {
     list.select(value <= 2 ? value : 0);
 }
 
-std::uint8_t oneOfThree(const console::DropList& list) {
+std::uint8_t oneOfThree(const forms::DropList& list) {
     return static_cast<std::uint8_t>(std::min<std::size_t>(list.selection().value_or(2), 2));
 }
 
@@ -76,18 +76,19 @@ std::uint16_t numberAtStart(wire::WideStringView text) {
 
 } // namespace
 
-PageLimitDlg::PageLimitDlg(console::Platform& platform) : PageLimitDlg(platform, true, newLimit(), std::nullopt) {}
+PageLimitDlg::PageLimitDlg(platform::Platform& platform) : PageLimitDlg(platform, true, newLimit(), std::nullopt) {}
 
-PageLimitDlg::PageLimitDlg(console::Platform& platform, PageLimitRecord limit)
+PageLimitDlg::PageLimitDlg(platform::Platform& platform, PageLimitRecord limit)
     : PageLimitDlg(platform, false, std::move(limit), std::nullopt) {}
 
-PageLimitDlg::PageLimitDlg(console::Platform& platform, Opener opener)
+PageLimitDlg::PageLimitDlg(platform::Platform& platform, Opener opener)
     : PageLimitDlg(platform, true, newLimit(), std::move(opener)) {}
 
-PageLimitDlg::PageLimitDlg(console::Platform& platform, Opener opener, PageLimitRecord limit)
+PageLimitDlg::PageLimitDlg(platform::Platform& platform, Opener opener, PageLimitRecord limit)
     : PageLimitDlg(platform, false, std::move(limit), std::move(opener)) {}
 
-PageLimitDlg::PageLimitDlg(console::Platform& platform, bool isNew, PageLimitRecord limit, std::optional<Opener> opener)
+PageLimitDlg::PageLimitDlg(platform::Platform& platform, bool isNew, PageLimitRecord limit,
+                           std::optional<Opener> opener)
     : Form(platform, u"New Page Limit Rule"), isNew_(isNew), limit_(std::move(limit)), opener_(std::move(opener)) {
     maximum.setBeside(jobs);
     searchButton.setBeside(destination);
@@ -181,14 +182,14 @@ void PageLimitDlg::actionSelected() {
 
 void PageLimitDlg::searchDestination() {
     SearchDestinationDlg dialog(platform(), pickedId_, pickedName_);
-    if (runModal(dialog) == console::idOk) {
+    if (runModal(dialog) == forms::idOk) {
         destination.setText(pickedName_);
     }
 }
 
 void PageLimitDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field shoud not be blank!", wire::WideString(missingField), console::boxStyle::iconWarning);
+        messageBox(u"Name field shoud not be blank!", wire::WideString(missingField), platform::boxStyle::iconWarning);
         name.setFocus();
         return;
     }
@@ -212,7 +213,7 @@ void PageLimitDlg::onOk() {
     if (opener_) {
         tellOpener();
     }
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 void PageLimitDlg::takeJobs() {
@@ -235,7 +236,7 @@ bool PageLimitDlg::takeDestination() {
     const bool none = destination.text().empty();
     if (none && limit_.action == move) {
         messageBox(u"Destination field should not be blank, when Move action is selected!",
-                   wire::WideString(missingField), console::boxStyle::ok);
+                   wire::WideString(missingField), platform::boxStyle::ok);
         destination.setFocus();
         return false;
     }
@@ -246,7 +247,7 @@ bool PageLimitDlg::takeDestination() {
 bool PageLimitDlg::takePriority() {
     limit_.priority = numberAtStart(priority.text());
     if (priority.text().empty()) {
-        messageBox(u"Prio field should not be blank!", wire::WideString(missingField), console::boxStyle::ok);
+        messageBox(u"Prio field should not be blank!", wire::WideString(missingField), platform::boxStyle::ok);
         return false;
     }
     return true;

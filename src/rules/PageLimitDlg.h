@@ -1,10 +1,10 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Form.h"
-#include "console/Group.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
+#include "forms/Group.h"
 #include "protocol/rules/PageLimitRecord.h"
 #include "protocol/rules/RuleEntryRecord.h"
 #include "rules/MessageControl.h"
@@ -18,7 +18,7 @@
 namespace rules {
 
 // Makes or edits a page limit: which print jobs it is for, how much they may print, and what becomes of a job beyond.
-class PageLimitDlg final : public console::Form {
+class PageLimitDlg final : public forms::Form {
 public:
     // A dialog of a rule, which gets to know what has become of the limits. All of it outlives the form.
     struct Opener {
@@ -28,31 +28,31 @@ public:
         protocol::RuleEntryRecord entry;      // unlike with a price plan, it isn't made to point at the limit
     };
 
-    explicit PageLimitDlg(console::Platform& platform);
-    PageLimitDlg(console::Platform& platform, protocol::PageLimitRecord limit);
-    PageLimitDlg(console::Platform& platform, Opener opener);
-    PageLimitDlg(console::Platform& platform, Opener opener, protocol::PageLimitRecord limit);
+    explicit PageLimitDlg(platform::Platform& platform);
+    PageLimitDlg(platform::Platform& platform, protocol::PageLimitRecord limit);
+    PageLimitDlg(platform::Platform& platform, Opener opener);
+    PageLimitDlg(platform::Platform& platform, Opener opener, protocol::PageLimitRecord limit);
 
     // As it was sent to the server, once the form has ended with OK.
     const protocol::PageLimitRecord& limit() const { return limit_; }
 
-    console::Group general{*this, u"Rule"};
-    console::EditBox name{general, u"Name", {.limit = 64}};
-    console::EditBox comment{general, u"Comment", {.limit = 255}};
-    console::Group jobs{*this, u"Print jobs"};
-    console::EditBox document{jobs, u"Document"};
-    console::DropList format{jobs, u"Format"};
-    console::DropList color{jobs, u"Color"};
-    console::DropList duplex{jobs, u"Duplex"};
-    console::Group maximum{*this, u"Limit"};
-    console::EditBox maxPages{maximum, u"Max pages"};
+    forms::Group general{*this, u"Rule"};
+    forms::EditBox name{general, u"Name", {.limit = 64}};
+    forms::EditBox comment{general, u"Comment", {.limit = 255}};
+    forms::Group jobs{*this, u"Print jobs"};
+    forms::EditBox document{jobs, u"Document"};
+    forms::DropList format{jobs, u"Format"};
+    forms::DropList color{jobs, u"Color"};
+    forms::DropList duplex{jobs, u"Duplex"};
+    forms::Group maximum{*this, u"Limit"};
+    forms::EditBox maxPages{maximum, u"Max pages"};
     PriceBox maxCost{maximum, platform().locale, u"Max cost"};
-    console::DropList enforce{maximum, u"Enforce"};
-    console::EditBox priority{maximum, u"Prio"};
-    console::Group beyond{*this, u"Beyond the limit"};
-    console::DropList action{beyond, u"Action"};
-    console::EditBox destination{beyond, u"Destination", {.readOnly = true}};
-    console::Button searchButton{beyond, u"..."};
+    forms::DropList enforce{maximum, u"Enforce"};
+    forms::EditBox priority{maximum, u"Prio"};
+    forms::Group beyond{*this, u"Beyond the limit"};
+    forms::DropList action{beyond, u"Action"};
+    forms::EditBox destination{beyond, u"Destination", {.readOnly = true}};
+    forms::Button searchButton{beyond, u"..."};
     MessageControl message{beyond, platform(), {wire::WideString(MessageControl::newItem)}};
 
 protected:
@@ -60,7 +60,7 @@ protected:
     void onOk() override;
 
 private:
-    PageLimitDlg(console::Platform& platform, bool isNew, protocol::PageLimitRecord limit,
+    PageLimitDlg(platform::Platform& platform, bool isNew, protocol::PageLimitRecord limit,
                  std::optional<Opener> opener);
 
     void fillLists();

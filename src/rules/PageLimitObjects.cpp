@@ -12,7 +12,7 @@ void PageLimitObjects::read() {
 
 bool PageLimitObjects::make(const protocol::RuleEntryRecord& entry) {
     PageLimitDlg dialog(platform_, PageLimitDlg::Opener{.ids = ids_, .names = names_, .saved = saved, .entry = entry});
-    return platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == console::idOk;
+    return platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk;
 }
 
 void PageLimitObjects::edit(std::size_t row, const protocol::RuleEntryRecord& entry) {

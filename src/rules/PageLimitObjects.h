@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Platform.h"
+#include "platform/Platform.h"
 #include "rules/RuleObjects.h"
 
 #include <vector>
@@ -10,7 +10,7 @@ namespace rules {
 // The page limits that an entry can apply.
 class PageLimitObjects final : public EditableRuleObjects {
 public:
-    explicit PageLimitObjects(console::Platform& platform) : platform_(platform) {}
+    explicit PageLimitObjects(platform::Platform& platform) : platform_(platform) {}
 
     std::u16string_view label() const override { return u"Limits"; }
     std::u16string_view blankText() const override { return u"Limit field should not be blank!"; }
@@ -29,7 +29,7 @@ public:
     void remove(std::size_t row) override;
 
 private:
-    console::Platform& platform_;
+    platform::Platform& platform_;
     std::vector<std::string> ids_;
     std::vector<wire::WideString> names_;
 };

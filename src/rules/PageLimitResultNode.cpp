@@ -14,7 +14,7 @@ constexpr std::int32_t removeCommand = 373;
 
 } // namespace
 
-PageLimitResultNode::PageLimitResultNode(console::Platform& platform, protocol::PageLimitRecord limit)
+PageLimitResultNode::PageLimitResultNode(platform::Platform& platform, protocol::PageLimitRecord limit)
     : CBaseNodeItem(platform), limit_(std::move(limit)) {
     setDisplayName(limit_.name);
 }
@@ -49,7 +49,7 @@ console::Result PageLimitResultNode::edit() {
     runModal(dialog);
     if (console() != nullptr) {
         console()->SelectScopeItem(parentRow());
-        press({console::Key::f5, console::Key::f5});
+        press({platform::Key::f5, platform::Key::f5});
     }
     return console::Result::ok;
 }
@@ -60,7 +60,7 @@ console::Result PageLimitResultNode::remove() {
     }
     client::CQVXAdminClass client;
     client.deletePageLimit(limit_.id);
-    press({console::Key::tab, console::Key::up, console::Key::down, console::Key::f5});
+    press({platform::Key::tab, platform::Key::up, platform::Key::down, platform::Key::f5});
     return console::Result::ok;
 }
 

@@ -13,7 +13,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Page Limit", .image = 10, .strip = console::driverAndShortIdStrip};
 
-    PageLimitResultNode(console::Platform& platform, protocol::PageLimitRecord limit);
+    PageLimitResultNode(platform::Platform& platform, protocol::PageLimitRecord limit);
 
     std::string refreshKey() const override { return limit_.id; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;

@@ -15,7 +15,7 @@ constexpr std::int32_t newLimitCommand = 381;
 
 } // namespace
 
-PageLimitersNode::PageLimitersNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+PageLimitersNode::PageLimitersNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 std::span<const console::Column> PageLimitersNode::columns() const {
     static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3}};
@@ -63,7 +63,7 @@ console::Result PageLimitersNode::runCommand(std::int32_t commandId, console::Co
     if (console() != nullptr) {
         console()->SelectScopeItem(row());
     }
-    press({console::Key::up, console::Key::down, console::Key::f5, console::Key::f5});
+    press({platform::Key::up, platform::Key::down, platform::Key::f5, platform::Key::f5});
     return console::Result::ok;
 }
 

@@ -11,7 +11,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Page Limiters", .image = 20, .strip = console::driverAndShortIdStrip};
 
-    explicit PageLimitersNode(console::Platform& platform);
+    explicit PageLimitersNode(platform::Platform& platform);
 
 protected:
     std::span<const console::Column> columns() const override;

@@ -13,7 +13,7 @@ using protocol::PriceEntryRecord;
 
 // A code that nothing in the list has selects nothing.
 template <class Codes>
-void selectCode(console::DropList& list, const Codes& codes, std::uint16_t code) {
+void selectCode(forms::DropList& list, const Codes& codes, std::uint16_t code) {
     const auto found = std::ranges::find(codes, code, &protocol::PaperCode::code);
     list.select(static_cast<std::size_t>(found - codes.begin()));
 }
@@ -24,7 +24,7 @@ bool canBeEdited(std::uint8_t kind) {
 
 } // namespace
 
-PapersGroup::PapersGroup(console::Container& container, const console::Locale& locale)
+PapersGroup::PapersGroup(forms::Container& container, const platform::Locale& locale)
     : group(container, u"Papers"), fields(group, locale), locale_(locale) {
     unselectButton.setBeside(prices);
     addButton.setBeside(prices);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/Group.h"
-#include "console/ListView.h"
-#include "console/RadioButton.h"
-#include "console/RadioGroup.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "forms/Group.h"
+#include "forms/ListView.h"
+#include "forms/RadioButton.h"
+#include "forms/RadioGroup.h"
 #include "protocol/rules/PaperCode.h"
 #include "rules/PriceFields.h"
 #include "rules/PriceTable.h"
@@ -18,7 +18,7 @@ namespace rules {
 // The prices of a plan by paper and area: the list of them, and the boxes with which they are added and updated.
 class PapersGroup {
 public:
-    PapersGroup(console::Container& container, const console::Locale& locale);
+    PapersGroup(forms::Container& container, const platform::Locale& locale);
 
     // Fills the lists to choose from; before that nothing can be chosen.
     void open();
@@ -30,18 +30,18 @@ public:
     // updating may have changed.
     std::function<void()> onChange;
 
-    console::Group group;
-    console::ListView prices{group, u"Prices"};
-    console::Button unselectButton{group, u"Unselect"};
-    console::Button addButton{group, u"Add"};
-    console::Button removeButton{group, u"Remove"};
-    console::Group type{group, u"Type"};
-    console::RadioGroup paperOrArea;
-    console::RadioButton paper{type, paperOrArea, u"Paper "}; // the blank behind the label is part of it
-    console::DropList paperList{type, u"", {.sorted = false, .belongsTo = &paper}};
-    console::RadioButton area{type, paperOrArea, u"Area"};
-    console::DropList areaList{type, u"", {.sorted = false, .belongsTo = &area}};
-    console::DropList multiplierType{group, u"Multiplier type"};
+    forms::Group group;
+    forms::ListView prices{group, u"Prices"};
+    forms::Button unselectButton{group, u"Unselect"};
+    forms::Button addButton{group, u"Add"};
+    forms::Button removeButton{group, u"Remove"};
+    forms::Group type{group, u"Type"};
+    forms::RadioGroup paperOrArea;
+    forms::RadioButton paper{type, paperOrArea, u"Paper "}; // the blank behind the label is part of it
+    forms::DropList paperList{type, u"", {.sorted = false, .belongsTo = &paper}};
+    forms::RadioButton area{type, paperOrArea, u"Area"};
+    forms::DropList areaList{type, u"", {.sorted = false, .belongsTo = &area}};
+    forms::DropList multiplierType{group, u"Multiplier type"};
     PriceFields fields;
 
 private:
@@ -63,7 +63,7 @@ private:
     // Brings all controls in line with what is chosen and selected.
     void follow();
 
-    const console::Locale& locale_;
+    const platform::Locale& locale_;
     PriceTable table_;
     std::optional<std::size_t> updated_; // the row that is being updated
 };

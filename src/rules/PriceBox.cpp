@@ -6,7 +6,7 @@
 
 namespace rules {
 
-PriceBox::PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label)
+PriceBox::PriceBox(forms::Container& container, const platform::Locale& locale, std::u16string_view label)
     : box(container, label), locale_(locale) {}
 
 void PriceBox::show(float price) {

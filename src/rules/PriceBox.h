@@ -1,7 +1,7 @@
 #pragma once
 
-#include "console/EditBox.h"
-#include "console/Locale.h"
+#include "forms/EditBox.h"
+#include "platform/Locale.h"
 
 namespace rules {
 
@@ -9,7 +9,7 @@ namespace rules {
 // shows, whatever was rounded or grouped for showing.
 class PriceBox {
 public:
-    PriceBox(console::Container& container, const console::Locale& locale, std::u16string_view label);
+    PriceBox(forms::Container& container, const platform::Locale& locale, std::u16string_view label);
 
     void show(float price);
     // The same with two decimals.
@@ -19,12 +19,12 @@ public:
     // The same, but that of before where the box is empty.
     float priceOr(float before) const { return empty() ? before : price(); }
 
-    console::EditBox box;
+    forms::EditBox box;
 
 private:
     void show(float price, wire::WideString text);
 
-    const console::Locale& locale_;
+    const platform::Locale& locale_;
     wire::WideString shownText_;
     float shownPrice_ = 0;
 };

@@ -7,7 +7,7 @@
 
 namespace rules {
 
-PriceFields::PriceFields(console::Container& container, const console::Locale& locale)
+PriceFields::PriceFields(forms::Container& container, const platform::Locale& locale)
     : basePrice(container, locale, u"Base Price"),
       print(container, locale, u"Print"),
       copy(container, locale, u"Copy"),

@@ -9,7 +9,7 @@ namespace rules {
 // The boxes for the prices of a paper or an area: one base price, or absolute prices for print, copy and scan.
 class PriceFields {
 public:
-    PriceFields(console::Container& container, const console::Locale& locale);
+    PriceFields(forms::Container& container, const platform::Locale& locale);
 
     // Shows the boxes for absolute prices, or that for the base price.
     void showAbsolute(bool absolute);

@@ -20,7 +20,7 @@ const char16_t* payMethodText(std::uint8_t payMethod) {
 
 } // namespace
 
-PricePlanNode::PricePlanNode(console::Platform& platform, protocol::PricePlanRecord plan)
+PricePlanNode::PricePlanNode(platform::Platform& platform, protocol::PricePlanRecord plan)
     : CBaseNodeItem(platform), plan_(std::move(plan)) {
     setDisplayName(plan_.name);
 }
@@ -57,7 +57,7 @@ console::Result PricePlanNode::edit() {
     runModal(dialog);
     if (console() != nullptr) {
         console()->SelectScopeItem(parentRow());
-        press({console::Key::f5, console::Key::f5});
+        press({platform::Key::f5, platform::Key::f5});
     }
     return console::Result::ok;
 }
@@ -68,7 +68,7 @@ console::Result PricePlanNode::remove() {
     }
     client::CQVXAdminClass client;
     client.deletePricePlan(plan_.id);
-    press({console::Key::tab, console::Key::up, console::Key::down, console::Key::f5});
+    press({platform::Key::tab, platform::Key::up, platform::Key::down, platform::Key::f5});
     return console::Result::ok;
 }
 

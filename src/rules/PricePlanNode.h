@@ -13,7 +13,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Price Plan", .image = 12, .strip = console::driverAndShortIdStrip};
 
-    PricePlanNode(console::Platform& platform, protocol::PricePlanRecord plan);
+    PricePlanNode(platform::Platform& platform, protocol::PricePlanRecord plan);
 
     std::string refreshKey() const override { return plan_.id; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;

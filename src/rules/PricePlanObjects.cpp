@@ -13,7 +13,7 @@ void PricePlanObjects::read() {
 
 bool PricePlanObjects::make(const protocol::RuleEntryRecord& entry) {
     NewPricePlanDlg dialog(platform_, NewPricePlanDlg::Opener{.plans = plans_, .saved = saved, .entry = entry});
-    return platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == console::idOk;
+    return platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk;
 }
 
 void PricePlanObjects::edit(std::size_t row, const protocol::RuleEntryRecord& entry) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Platform.h"
+#include "platform/Platform.h"
 #include "protocol/rules/PricePlanRecord.h"
 #include "rules/RuleObjects.h"
 
@@ -11,7 +11,7 @@ namespace rules {
 // The price plans that an entry can apply.
 class PricePlanObjects final : public EditableRuleObjects {
 public:
-    explicit PricePlanObjects(console::Platform& platform) : platform_(platform) {}
+    explicit PricePlanObjects(platform::Platform& platform) : platform_(platform) {}
 
     std::u16string_view label() const override { return u"Plans"; }
     std::u16string_view blankText() const override { return u"Plan field should not be blank!"; }
@@ -29,7 +29,7 @@ public:
     void remove(std::size_t row) override;
 
 private:
-    console::Platform& platform_;
+    platform::Platform& platform_;
     std::vector<protocol::PricePlanRecord> plans_;
 };
 

@@ -14,7 +14,7 @@ constexpr std::int32_t newPlanCommand = 375;
 
 } // namespace
 
-PricePlansNode::PricePlansNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+PricePlansNode::PricePlansNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 std::span<const console::Column> PricePlansNode::columns() const {
     static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3},
@@ -49,7 +49,7 @@ console::Result PricePlansNode::runCommand(std::int32_t commandId, console::Comm
     if (console() != nullptr) {
         console()->SelectScopeItem(row());
     }
-    press({console::Key::up, console::Key::down, console::Key::f5, console::Key::f5});
+    press({platform::Key::up, platform::Key::down, platform::Key::f5, platform::Key::f5});
     return console::Result::ok;
 }
 

@@ -11,7 +11,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Price Plans", .image = 20, .strip = console::driverAndShortIdStrip};
 
-    explicit PricePlansNode(console::Platform& platform);
+    explicit PricePlansNode(platform::Platform& platform);
 
 protected:
     std::span<const console::Column> columns() const override;

@@ -48,15 +48,15 @@ void PriceTable::removePaper(std::uint16_t paperCode) {
     std::erase_if(rows_, [&](const auto& row) { return row.paperCode == paperCode; });
 }
 
-std::vector<console::ListColumn> PriceTable::columns() {
+std::vector<forms::ListColumn> PriceTable::columns() {
     return {{u"Paper type", 85}, {u"Base price", 85},    {u"B/W Simplex", 85},
             {u"B/W Duplex", 85}, {u"Color Simplex", 85}, {u"Color Duplex", 87}};
 }
 
-std::vector<console::ListRow> PriceTable::listRows(const console::Locale& locale) const {
-    std::vector<console::ListRow> lines;
+std::vector<forms::ListRow> PriceTable::listRows(const platform::Locale& locale) const {
+    std::vector<forms::ListRow> lines;
     for (const auto& row : rows_) {
-        console::ListRow line{.cells = {wire::fromCodePage(row.paperName)}, .data = row.id};
+        forms::ListRow line{.cells = {wire::fromCodePage(row.paperName)}, .data = row.id};
         const Shown shown = shownOf(row);
         for (std::size_t i = 0; i < shown.prices.size(); ++i) {
             line.cells.push_back(shown.meant[i] ? formatPrice(locale, shown.prices[i]) : u"N/A");

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "console/ListView.h"
-#include "console/Locale.h"
+#include "forms/ListView.h"
+#include "platform/Locale.h"
 #include "protocol/rules/PriceEntryRecord.h"
 
 #include <cstddef>
@@ -23,8 +23,8 @@ public:
     // Removes every row of the paper or area, whatever its kind.
     void removePaper(std::uint16_t paperCode);
 
-    static std::vector<console::ListColumn> columns();
-    std::vector<console::ListRow> listRows(const console::Locale& locale) const;
+    static std::vector<forms::ListColumn> columns();
+    std::vector<forms::ListRow> listRows(const platform::Locale& locale) const;
 
 private:
     std::vector<protocol::PriceEntryRecord> rows_;

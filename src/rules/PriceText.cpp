@@ -20,7 +20,7 @@ std::string printed(double value, int decimals) {
 }
 
 // Puts the thousands separators between the digits of a whole number.
-wire::WideString grouped(std::string_view digits, const console::NumberFormat& format) {
+wire::WideString grouped(std::string_view digits, const platform::NumberFormat& format) {
     wire::WideString text;
     std::size_t group = 0;
     while (!digits.empty()) {
@@ -37,7 +37,7 @@ wire::WideString grouped(std::string_view digits, const console::NumberFormat& f
     return text;
 }
 
-wire::WideString inWayOf(const console::NumberFormat& format, const std::string& number) {
+wire::WideString inWayOf(const platform::NumberFormat& format, const std::string& number) {
     const std::size_t sign = number.starts_with('-') ? 1 : 0;
     const std::size_t whole = std::min(number.find_first_not_of("0123456789", sign), number.size());
     if (whole == sign) {
@@ -78,16 +78,16 @@ double numberAtStart(std::string_view text) {
 
 } // namespace
 
-wire::WideString formatPrice(const console::Locale& locale, double value, int digits) {
+wire::WideString formatPrice(const platform::Locale& locale, double value, int digits) {
     const auto& format = locale.numberFormat();
     return inWayOf(format, printed(value, std::max(digits, format.decimals)));
 }
 
-wire::WideString formatAmount(const console::Locale& locale, double value) {
+wire::WideString formatAmount(const platform::Locale& locale, double value) {
     return inWayOf(locale.numberFormat(), printed(value, 2));
 }
 
-float parsePrice(const console::Locale& locale, wire::WideStringView text) {
+float parsePrice(const platform::Locale& locale, wire::WideStringView text) {
     const auto& separator = locale.numberFormat().decimalSeparator;
     wire::WideString number(text);
     if (const auto place = number.find(separator); place != wire::WideString::npos) {

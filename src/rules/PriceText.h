@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Locale.h"
+#include "platform/Locale.h"
 #include "wire/Text.h"
 
 namespace rules {
@@ -9,14 +9,14 @@ namespace rules {
 constexpr int priceDigits = 4;
 
 // A number in the user's way of writing, with so many decimals, or with as many as the locale has where those are more.
-[[nodiscard]] wire::WideString formatPrice(const console::Locale& locale, double value, int digits = priceDigits);
+[[nodiscard]] wire::WideString formatPrice(const platform::Locale& locale, double value, int digits = priceDigits);
 
 // The same with two decimals, whatever the locale has.
-[[nodiscard]] wire::WideString formatAmount(const console::Locale& locale, double value);
+[[nodiscard]] wire::WideString formatAmount(const platform::Locale& locale, double value);
 
 // The number at the beginning of a text in which the user's decimal separator or a point stands before the decimals;
 // what follows the number is not looked at. A text that is no number, or none that a price can hold, reads as 0.
 // Thousands separators are not understood: "1.234,5" is 1.234 where the comma separates. That must stay.
-[[nodiscard]] float parsePrice(const console::Locale& locale, wire::WideStringView text);
+[[nodiscard]] float parsePrice(const platform::Locale& locale, wire::WideStringView text);
 
 } // namespace rules

@@ -2,14 +2,14 @@
 
 namespace rules {
 
-bool confirmDelete(console::Platform& platform, std::u16string_view question) {
+bool confirmDelete(platform::Platform& platform, std::u16string_view question) {
     return platform.ui.messageBox(platform.ui.activeWindow(), wire::WideString(question), u"Warning",
-                                  console::boxStyle::okCancel) == console::Answer::ok;
+                                  platform::boxStyle::okCancel) == platform::Answer::ok;
 }
 
-void refuseBlank(console::Platform& platform, std::u16string_view text, console::Control& field) {
+void refuseBlank(platform::Platform& platform, std::u16string_view text, forms::Control& field) {
     platform.ui.messageBox(platform.ui.activeWindow(), wire::WideString(text), u"Required field is Empty!",
-                           console::boxStyle::iconWarning);
+                           platform::boxStyle::iconWarning);
     field.setFocus();
 }
 

@@ -13,7 +13,7 @@ namespace ruleEntryType = protocol::ruleEntryType;
 
 } // namespace
 
-RuleEntryFields::RuleEntryFields(console::Container& container, console::Platform& platform,
+RuleEntryFields::RuleEntryFields(forms::Container& container, platform::Platform& platform,
                                  protocol::RuleEntryRecord entryToShow, Types types)
     : entry(std::move(entryToShow)),
       type(container, u"Type"),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/EditBox.h"
+#include "forms/EditBox.h"
 #include "rules/AffectedList.h"
 #include "rules/RuleObjectList.h"
 
@@ -16,7 +16,7 @@ public:
     // Where an entry is placed: groups do not nest, so within one there is no type "Rule group".
     enum class Types : std::uint8_t { all, withinGroup };
 
-    RuleEntryFields(console::Container& container, console::Platform& platform, protocol::RuleEntryRecord entryToShow,
+    RuleEntryFields(forms::Container& container, platform::Platform& platform, protocol::RuleEntryRecord entryToShow,
                     Types types);
 
     // Fills the lists and shows the entry; one without a type gets the first.
@@ -26,9 +26,9 @@ public:
     [[nodiscard]] bool take(std::u16string_view blankNameText);
 
     protocol::RuleEntryRecord entry;
-    console::DropList type;
-    console::EditBox name;
-    console::EditBox comment;
+    forms::DropList type;
+    forms::EditBox name;
+    forms::EditBox comment;
     AffectedList affected;
     RuleObjectList object;
 
@@ -36,7 +36,7 @@ private:
     std::uint8_t chosenType() const;
     void typeChanged();
 
-    console::Platform& platform_;
+    platform::Platform& platform_;
     Types types_;
 };
 

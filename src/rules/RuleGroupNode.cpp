@@ -14,7 +14,7 @@ constexpr std::int32_t removeCommand = 373;
 
 } // namespace
 
-RuleGroupNode::RuleGroupNode(console::Platform& platform, protocol::RuleGroupRecord group)
+RuleGroupNode::RuleGroupNode(platform::Platform& platform, protocol::RuleGroupRecord group)
     : CBaseNodeItem(platform), group_(std::move(group)) {
     setDisplayName(group_.name);
 }
@@ -49,7 +49,7 @@ console::Result RuleGroupNode::edit() {
     runModal(dialog);
     if (console() != nullptr) {
         console()->SelectScopeItem(parentRow());
-        press({console::Key::f5, console::Key::f5});
+        press({platform::Key::f5, platform::Key::f5});
     }
     return console::Result::ok;
 }
@@ -61,7 +61,7 @@ console::Result RuleGroupNode::remove() {
     }
     client::CQVXAdminClass client;
     client.deleteRuleGroup(group_.id);
-    press({console::Key::tab, console::Key::up, console::Key::down, console::Key::f5});
+    press({platform::Key::tab, platform::Key::up, platform::Key::down, platform::Key::f5});
     return console::Result::ok;
 }
 

@@ -12,7 +12,7 @@ class RuleGroupNode final : public console::CBaseNodeItem<RuleGroupNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Rule Group", .image = 19};
 
-    RuleGroupNode(console::Platform& platform, protocol::RuleGroupRecord group);
+    RuleGroupNode(platform::Platform& platform, protocol::RuleGroupRecord group);
 
     std::string refreshKey() const override { return group_.id; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;

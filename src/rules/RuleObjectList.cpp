@@ -6,7 +6,7 @@
 
 namespace rules {
 
-RuleObjectList::RuleObjectList(console::Container& container, console::Platform& platform,
+RuleObjectList::RuleObjectList(forms::Container& container, platform::Platform& platform,
                                const protocol::RuleEntryRecord& entry)
     : list(container, u"Rule group"),
       editButton(container, u"Edit..."),

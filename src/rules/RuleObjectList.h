@@ -1,8 +1,8 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/Platform.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "platform/Platform.h"
 #include "rules/PageLimitObjects.h"
 #include "rules/PricePlanObjects.h"
 #include "rules/RuleGroupObjects.h"
@@ -19,7 +19,7 @@ namespace rules {
 class RuleObjectList {
 public:
     // The entry is the one that the dialog is about; it outlives the list.
-    RuleObjectList(console::Container& container, console::Platform& platform, const protocol::RuleEntryRecord& entry);
+    RuleObjectList(forms::Container& container, platform::Platform& platform, const protocol::RuleEntryRecord& entry);
 
     // Lists what entries of the type point at, as the server has it now, or hides all for a type that points at
     // nothing.
@@ -32,9 +32,9 @@ public:
     // What a later filling goes back to where no row is saved.
     void saveName(const wire::WideString& name);
 
-    console::DropList list;
-    console::Button editButton;
-    console::Button deleteButton;
+    forms::DropList list;
+    forms::Button editButton;
+    forms::Button deleteButton;
 
 private:
     RuleObjects* objectsOf(std::uint8_t type);
@@ -49,7 +49,7 @@ private:
     void remove();
     void enableButtons();
 
-    console::Platform& platform_;
+    platform::Platform& platform_;
     const protocol::RuleEntryRecord& entry_;
     RuleGroupObjects groups_;
     PageLimitObjects limits_;

@@ -14,7 +14,7 @@ constexpr std::int32_t newGroupCommand = 374;
 
 } // namespace
 
-RuleSetNode::RuleSetNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+RuleSetNode::RuleSetNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 std::span<const console::Column> RuleSetNode::columns() const {
     static constexpr std::array titles{console::Column{u"Rule Group Name", 2},
@@ -49,7 +49,7 @@ console::Result RuleSetNode::runCommand(std::int32_t commandId, console::Command
     if (console() != nullptr) {
         console()->SelectScopeItem(row());
     }
-    press({console::Key::up, console::Key::down, console::Key::f5, console::Key::f5});
+    press({platform::Key::up, platform::Key::down, platform::Key::f5, platform::Key::f5});
     return console::Result::ok;
 }
 

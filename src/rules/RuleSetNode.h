@@ -10,7 +10,7 @@ class RuleSetNode final : public console::CBaseNodeItem<RuleSetNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Rule Groups", .image = 20};
 
-    explicit RuleSetNode(console::Platform& platform);
+    explicit RuleSetNode(platform::Platform& platform);
 
 protected:
     std::span<const console::Column> columns() const override;

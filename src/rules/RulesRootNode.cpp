@@ -7,7 +7,7 @@
 
 namespace rules {
 
-RulesRootNode::RulesRootNode(console::Platform& platform)
+RulesRootNode::RulesRootNode(platform::Platform& platform)
     : CBaseNodeItem(platform),
       children_{std::make_shared<RuleSetNode>(platform), std::make_shared<PricePlansNode>(platform),
                 std::make_shared<PageLimitersNode>(platform), std::make_shared<ShortIdNode>(platform)} {}

@@ -13,7 +13,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Rules", .image = 20, .children = 2, .viewOptions = 0};
 
-    explicit RulesRootNode(console::Platform& platform);
+    explicit RulesRootNode(platform::Platform& platform);
 
     console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 

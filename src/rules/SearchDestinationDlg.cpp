@@ -6,7 +6,7 @@
 
 namespace rules {
 
-SearchDestinationDlg::SearchDestinationDlg(console::Platform& platform, std::string& destinationId,
+SearchDestinationDlg::SearchDestinationDlg(platform::Platform& platform, std::string& destinationId,
                                            wire::WideString& destinationName)
     : Form(platform, u"Search Destination"), destinationId_(destinationId), destinationName_(destinationName) {
     searchButton.setBeside(searchTerms);
@@ -34,7 +34,7 @@ void SearchDestinationDlg::onOk() {
     const auto row = queue.selection();
     destinationId_ = row ? ids_.at(*row) : std::string();
     destinationName_ = row ? names_.at(*row) : wire::WideString();
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 } // namespace rules

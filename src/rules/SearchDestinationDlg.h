@@ -1,9 +1,9 @@
 #pragma once
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Form.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
 
 #include <string>
 #include <vector>
@@ -11,14 +11,14 @@
 namespace rules {
 
 // Finds the queue to which print jobs are to go.
-class SearchDestinationDlg final : public console::Form {
+class SearchDestinationDlg final : public forms::Form {
 public:
     // OK puts the queue that was chosen into the two, which outlive the form.
-    SearchDestinationDlg(console::Platform& platform, std::string& destinationId, wire::WideString& destinationName);
+    SearchDestinationDlg(platform::Platform& platform, std::string& destinationId, wire::WideString& destinationName);
 
-    console::EditBox searchTerms{*this, u"Search terms"};
-    console::Button searchButton{*this, u"Search", true};
-    console::DropList queue{*this, u"Queue"};
+    forms::EditBox searchTerms{*this, u"Search terms"};
+    forms::Button searchButton{*this, u"Search", true};
+    forms::DropList queue{*this, u"Queue"};
 
 protected:
     void onOk() override;

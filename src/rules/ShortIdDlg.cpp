@@ -7,12 +7,12 @@
 
 namespace rules {
 
-ShortIdDlg::ShortIdDlg(console::Platform& platform) : ShortIdDlg(platform, false, {}) {}
+ShortIdDlg::ShortIdDlg(platform::Platform& platform) : ShortIdDlg(platform, false, {}) {}
 
-ShortIdDlg::ShortIdDlg(console::Platform& platform, protocol::ShortIdRecord shortId)
+ShortIdDlg::ShortIdDlg(platform::Platform& platform, protocol::ShortIdRecord shortId)
     : ShortIdDlg(platform, true, std::move(shortId)) {}
 
-ShortIdDlg::ShortIdDlg(console::Platform& platform, bool editing, protocol::ShortIdRecord shortId)
+ShortIdDlg::ShortIdDlg(platform::Platform& platform, bool editing, protocol::ShortIdRecord shortId)
     : Form(platform, u"New Short Id Rule"), editing_(editing), shortId_(std::move(shortId)) {
     timeOfDay.setBeside(reservedUntil);
     eachDay.setBeside(timeOfDay);
@@ -41,7 +41,7 @@ void ShortIdDlg::showTimes() {
     validFor.setChecked(shortId_.validMinutes || shortId_.reservedMinutes || shortId_.reservedUntil);
     validTime.show(shortId_.validMinutes);
     reservedTime.show(shortId_.reservedMinutes);
-    console::DateTime time{.year = 2000, .month = 1, .day = 1};
+    forms::DateTime time{.year = 2000, .month = 1, .day = 1};
     if (shortId_.reservedUntil) {
         const auto seconds = static_cast<std::uint32_t>(*shortId_.reservedUntil);
         time.hour = static_cast<std::int8_t>(seconds / 3600 % 24);
@@ -84,7 +84,7 @@ void ShortIdDlg::timesClicked() {
 
 void ShortIdDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field shoud not be blank!", u"Required field is empty", console::boxStyle::iconWarning);
+        messageBox(u"Name field shoud not be blank!", u"Required field is empty", platform::boxStyle::iconWarning);
         name.setFocus();
         return;
     }
@@ -99,7 +99,7 @@ void ShortIdDlg::onOk() {
         client::giveNewId(shortId_.id);
         client.addShortId(shortId_);
     }
-    EndDialog(console::idOk);
+    EndDialog(forms::idOk);
 }
 
 // Without a time for which it is valid, a short id has no other times either.

@@ -14,7 +14,7 @@ constexpr std::int32_t newRuleCommand = 465;
 
 } // namespace
 
-ShortIdNode::ShortIdNode(console::Platform& platform) : CBaseNodeItem(platform) {}
+ShortIdNode::ShortIdNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
 std::span<const console::Column> ShortIdNode::columns() const {
     static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3}};
@@ -44,14 +44,14 @@ console::Result ShortIdNode::runCommand(std::int32_t commandId, console::Command
         return console::Result::notDone;
     }
     ShortIdDlg dialog(platform());
-    if (runModal(dialog) == console::idOk) {
+    if (runModal(dialog) == forms::idOk) {
         shortIds_.push_back(std::make_shared<ShortIdResultNode>(platform(), dialog.shortId()));
         shortIds_.back()->setParent(*this);
     }
     if (console() != nullptr) {
         console()->SelectScopeItem(row());
     }
-    press({console::Key::up, console::Key::down, console::Key::f5, console::Key::f5});
+    press({platform::Key::up, platform::Key::down, platform::Key::f5, platform::Key::f5});
     return console::Result::ok;
 }
 

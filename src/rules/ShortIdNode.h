@@ -11,7 +11,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Short Id", .image = 20, .strip = console::driverAndShortIdStrip};
 
-    explicit ShortIdNode(console::Platform& platform);
+    explicit ShortIdNode(platform::Platform& platform);
 
 protected:
     std::span<const console::Column> columns() const override;

@@ -15,7 +15,7 @@ void ShortIdObjects::read() {
 
 bool ShortIdObjects::make(const protocol::RuleEntryRecord& /*entry*/) {
     ShortIdDlg dialog(platform_);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) != console::idOk) {
+    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) != forms::idOk) {
         return false;
     }
     saveChoice(dialog.shortId());
@@ -24,7 +24,7 @@ bool ShortIdObjects::make(const protocol::RuleEntryRecord& /*entry*/) {
 
 void ShortIdObjects::edit(std::size_t row, const protocol::RuleEntryRecord& /*entry*/) {
     ShortIdDlg dialog(platform_, shortIds_[row]);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == console::idOk) {
+    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk) {
         saveChoice(dialog.shortId());
     }
 }

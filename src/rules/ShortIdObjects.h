@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Platform.h"
+#include "platform/Platform.h"
 #include "protocol/rules/ShortIdRecord.h"
 #include "rules/RuleObjects.h"
 
@@ -11,7 +11,7 @@ namespace rules {
 // The rules about short ids that an entry can apply.
 class ShortIdObjects final : public EditableRuleObjects {
 public:
-    explicit ShortIdObjects(console::Platform& platform) : platform_(platform) {}
+    explicit ShortIdObjects(platform::Platform& platform) : platform_(platform) {}
 
     std::u16string_view label() const override { return u"Short Ids"; }
     std::u16string_view blankText() const override { return u"Short id field should not be blank!"; }
@@ -32,7 +32,7 @@ private:
     // The dialog does not say where the list has it: it is found once the list is read anew.
     void saveChoice(const protocol::ShortIdRecord& shortId);
 
-    console::Platform& platform_;
+    platform::Platform& platform_;
     std::vector<protocol::ShortIdRecord> shortIds_;
 };
 

@@ -14,7 +14,7 @@ constexpr std::int32_t removeCommand = 373;
 
 } // namespace
 
-ShortIdResultNode::ShortIdResultNode(console::Platform& platform, protocol::ShortIdRecord shortId)
+ShortIdResultNode::ShortIdResultNode(platform::Platform& platform, protocol::ShortIdRecord shortId)
     : CBaseNodeItem(platform), shortId_(std::move(shortId)) {
     setDisplayName(shortId_.name);
 }
@@ -54,7 +54,7 @@ console::Result ShortIdResultNode::edit() {
     runModal(dialog);
     if (console() != nullptr) {
         console()->SelectScopeItem(parentRow());
-        press({console::Key::f5, console::Key::f5});
+        press({platform::Key::f5, platform::Key::f5});
     }
     return console::Result::ok;
 }
@@ -65,7 +65,7 @@ console::Result ShortIdResultNode::remove() {
     }
     client::CQVXAdminClass client;
     client.deleteShortId(shortId_.id);
-    press({console::Key::tab, console::Key::up, console::Key::down, console::Key::f5});
+    press({platform::Key::tab, platform::Key::up, platform::Key::down, platform::Key::f5});
     return console::Result::ok;
 }
 

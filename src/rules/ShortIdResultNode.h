@@ -13,7 +13,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Short Id", .image = 14, .strip = console::driverAndShortIdStrip};
 
-    ShortIdResultNode(console::Platform& platform, protocol::ShortIdRecord shortId);
+    ShortIdResultNode(platform::Platform& platform, protocol::ShortIdRecord shortId);
 
     std::string refreshKey() const override;
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;

@@ -2,7 +2,7 @@
 
 namespace rules {
 
-TwoPrices::TwoPrices(console::Container& container, const console::Locale& locale, std::u16string_view label)
+TwoPrices::TwoPrices(forms::Container& container, const platform::Locale& locale, std::u16string_view label)
     : group(container, label), bw(group, locale, u"B/W"), color(group, locale, u"Color") {}
 
 void TwoPrices::show(const protocol::PriceEntryRecord& row) {

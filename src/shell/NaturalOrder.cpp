@@ -1,7 +1,7 @@
 #include "shell/NaturalOrder.h"
 
-#include "console/CaseFold.h"
 #include "shell/BaseLetter.h"
+#include "wire/CaseFold.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ char16_t plainLetter(char16_t unit) {
     if (unit < 0x80) { // nearly all of them
         return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
     }
-    return baseLetter(console::foldCase(unit));
+    return baseLetter(wire::foldCase(unit));
 }
 
 char16_t* writeKey(wire::WideStringView text, char16_t* out) {

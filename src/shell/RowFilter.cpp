@@ -1,6 +1,6 @@
 #include "shell/RowFilter.h"
 
-#include "console/CaseFold.h"
+#include "wire/CaseFold.h"
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ char16_t lowerCase(char16_t unit) {
     if (unit < 0x80) { // nearly all of them
         return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
     }
-    return console::foldCase(unit);
+    return wire::foldCase(unit);
 }
 
 } // namespace

@@ -372,7 +372,7 @@ Result Shell::SelectScopeItem(ScopeId scopeId) {
     return Result::ok;
 }
 
-Result Shell::GetMainWindow(console::WindowHandle& window) {
+Result Shell::GetMainWindow(platform::WindowHandle& window) {
     window = mainWindow_;
     return Result::ok;
 }

@@ -91,7 +91,7 @@ public:
     bool drain();
 
     // The owner of the snap-in's dialogs.
-    void setMainWindow(console::WindowHandle window) { mainWindow_ = window; }
+    void setMainWindow(platform::WindowHandle window) { mainWindow_ = window; }
     // For automatic column widths; see ColumnHeader.
     void setMeasure(std::function<std::int32_t(wire::WideStringView)> measure) {
         view_.header.measure = std::move(measure);
@@ -105,7 +105,7 @@ public:
     console::Result QueryScopeImageList(console::IImageList*& images) override;
     // Done when the running handler has returned.
     console::Result SelectScopeItem(console::ScopeId scopeId) override;
-    console::Result GetMainWindow(console::WindowHandle& window) override;
+    console::Result GetMainWindow(platform::WindowHandle& window) override;
 
 private:
     bool operate(const std::function<bool()>& work);
@@ -128,7 +128,7 @@ private:
     ImageStrips scopeImages_;
     ViewHistory history_;
     std::shared_ptr<console::CSnapInItem> clipboard_;
-    console::WindowHandle mainWindow_ = 1;
+    platform::WindowHandle mainWindow_ = 1;
     bool running_ = false;
     bool started_ = false;
 };

@@ -5,8 +5,8 @@
 
 namespace shell {
 
-void ShellUserInterface::press(std::span<const console::Key> keys) {
-    if (std::ranges::find(keys, console::Key::f5) != keys.end()) {
+void ShellUserInterface::press(std::span<const platform::Key> keys) {
+    if (std::ranges::find(keys, platform::Key::f5) != keys.end()) {
         tasks_.add({.kind = Task::Kind::refresh});
     }
 }
@@ -15,7 +15,7 @@ void ShellUserInterface::startThread(std::function<void()> work) {
     tasks_.add({.kind = Task::Kind::work, .work = std::move(work)});
 }
 
-void ShellUserInterface::close(console::WindowHandle /*window*/) {
+void ShellUserInterface::close(platform::WindowHandle /*window*/) {
     tasks_.add({.kind = Task::Kind::close});
 }
 

@@ -9,9 +9,9 @@
 namespace snapin {
 namespace {
 
-namespace style = console::boxStyle;
+namespace style = platform::boxStyle;
 
-wire::WideString versionLine(const console::Platform& platform) {
+wire::WideString versionLine(const platform::Platform& platform) {
     if (!platform.productVersion) {
         return u"VantrelAdmin MMC Version"; // without the blank and the colon of the other line
     }
@@ -33,7 +33,7 @@ bool isDigit(char16_t unit) {
 
 } // namespace
 
-AuthenticationDlg::AuthenticationDlg(console::Platform& platform)
+AuthenticationDlg::AuthenticationDlg(platform::Platform& platform)
     : Form(platform, u"Connect to Vantrel Print Management Server", {.okLabel = u"Login"}) {
     port.onLeave = [this] { checkPort(); };
 }
@@ -62,7 +62,7 @@ void AuthenticationDlg::checkPort() {
     }
 }
 
-bool AuthenticationDlg::fits(const console::EditBox& box) {
+bool AuthenticationDlg::fits(const forms::EditBox& box) {
     if (wire::toCodePage(box.text()).size() <= maximumBytes) {
         return true;
     }
@@ -95,7 +95,7 @@ void AuthenticationDlg::showStatus(std::uint16_t loginStatus) {
         status_ = AuthenticationStatus::connected;
         statusText_ = u"Connected to Vantrel Print Management Server";
         storeSettings();
-        EndDialog(console::idOk);
+        EndDialog(forms::idOk);
         break;
     case protocol::loginStatus::wrongCredentials:
         fail(AuthenticationStatus::badCredentials, u"Invalid username or password!", u"Login Failed", style::iconStop);
@@ -131,7 +131,7 @@ void AuthenticationDlg::fail(AuthenticationStatus status, const wire::WideString
 void AuthenticationDlg::onCancel() {
     status_ = AuthenticationStatus::cancelled;
     statusText_ = u"Try Again";
-    EndDialog(console::idCancel);
+    EndDialog(forms::idCancel);
 }
 
 } // namespace snapin

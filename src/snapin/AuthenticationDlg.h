@@ -1,10 +1,10 @@
 #pragma once
 
-#include "console/EditBox.h"
-#include "console/Form.h"
-#include "console/Group.h"
-#include "console/Label.h"
-#include "console/PasswordBox.h"
+#include "forms/EditBox.h"
+#include "forms/Form.h"
+#include "forms/Group.h"
+#include "forms/Label.h"
+#include "forms/PasswordBox.h"
 
 #include <cstdint>
 
@@ -21,25 +21,25 @@ enum class AuthenticationStatus : std::int32_t {
 };
 
 // Asks for server, user and password, logs in, and makes the settings that all commands go by.
-class AuthenticationDlg final : public console::Form {
+class AuthenticationDlg final : public forms::Form {
 public:
     // A host or a port of more bytes than this is refused.
     static constexpr std::size_t maximumBytes = 124;
 
-    explicit AuthenticationDlg(console::Platform& platform);
+    explicit AuthenticationDlg(platform::Platform& platform);
 
     AuthenticationStatus status() const { return status_; }
     // The words that go with the status.
     const wire::WideString& statusText() const { return statusText_; }
 
     // The blanks behind the labels are part of them.
-    console::Group userAuthentication{*this, u"User Authentication"};
-    console::EditBox serverName{userAuthentication, u"Server Name       "};
-    console::EditBox port{userAuthentication, u"Port                     "};
-    console::EditBox userName{userAuthentication, u"User Name          "};
-    console::PasswordBox password{userAuthentication, u"Password            "};
-    console::EditBox domain{userAuthentication, u"Domain                "};
-    console::Label version{*this, u"", u"VERSION"};
+    forms::Group userAuthentication{*this, u"User Authentication"};
+    forms::EditBox serverName{userAuthentication, u"Server Name       "};
+    forms::EditBox port{userAuthentication, u"Port                     "};
+    forms::EditBox userName{userAuthentication, u"User Name          "};
+    forms::PasswordBox password{userAuthentication, u"Password            "};
+    forms::EditBox domain{userAuthentication, u"Domain                "};
+    forms::Label version{*this, u"", u"VERSION"};
 
 protected:
     void onInitDialog() override;
@@ -51,7 +51,7 @@ private:
     void storeSettings();
     void checkPort();
     // False, with a message, when the text is too long to be sent to the system.
-    bool fits(const console::EditBox& box);
+    bool fits(const forms::EditBox& box);
     void showStatus(std::uint16_t loginStatus);
     void fail(AuthenticationStatus status, const wire::WideString& text, const wire::WideString& caption,
               std::uint32_t icon);

@@ -25,7 +25,7 @@ console::Result CPrintComponent::Initialize(console::IConsole& console) {
 // The F5 of a click on the fourth column must stay, whatever the list holds. Such a click brings no data object.
 console::Result CPrintComponent::Notify(console::CSnapInItem* dataObject, console::Notification notification) {
     if (notification.event == console::Event::columnClick && notification.arg == fourthColumn) {
-        print_.platform().ui.press(std::array{console::Key::f5});
+        print_.platform().ui.press(std::array{platform::Key::f5});
     }
     console::CSnapInItem* const node =
         notification.event == console::Event::cutOrMove ? notification.source : dataObject;

@@ -1,6 +1,6 @@
 #include "snapin/LoginThread.h"
 
-#include "console/Guard.h"
+#include "platform/Guard.h"
 #include "snapin/AuthenticationDlg.h"
 
 #include <array>
@@ -8,15 +8,15 @@
 namespace snapin {
 namespace {
 
-using console::Key;
+using platform::Key;
 
 // These keys carry their scan codes and the flag of an extended key, unlike those that nodes press; only a host that
 // injects keys can tell the difference.
-void press(console::Platform& platform, Key key) {
+void press(platform::Platform& platform, Key key) {
     platform.ui.press(std::array{key});
 }
 
-void logIn(console::Platform& platform, console::WindowHandle mainWindow) {
+void logIn(platform::Platform& platform, platform::WindowHandle mainWindow) {
     AuthenticationDlg dialog(platform);
     platform.ui.runModal(dialog, mainWindow);
     loginDone = 1;
@@ -26,13 +26,13 @@ void logIn(console::Platform& platform, console::WindowHandle mainWindow) {
     }
     platform.ui.setForeground(mainWindow);
     press(platform, Key::up);
-    platform.ui.messageBox(mainWindow, dialog.statusText(), u"Success!", console::boxStyle::iconInformation);
+    platform.ui.messageBox(mainWindow, dialog.statusText(), u"Success!", platform::boxStyle::iconInformation);
 }
 
 } // namespace
 
-void runLoginThread(console::Platform& platform, console::WindowHandle mainWindow) {
-    console::guarded(
+void runLoginThread(platform::Platform& platform, platform::WindowHandle mainWindow) {
+    platform::guarded(
         platform, [] { return std::string("login"); },
         [&] {
             if (loginDone == 0) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Platform.h"
+#include "platform/Platform.h"
 
 #include <atomic>
 #include <cstdint>
@@ -13,6 +13,6 @@ inline std::atomic<std::uint32_t> loginDone{0};
 // What the thread does that is started with the console: logs in, once in a process, and then makes the console show
 // what stands on the server. A login that does not succeed closes the console's main window, since without a server
 // there is nothing to administer. Keeps nothing of the snap-in but the window's handle, and lets no exception out.
-void runLoginThread(console::Platform& platform, console::WindowHandle mainWindow);
+void runLoginThread(platform::Platform& platform, platform::WindowHandle mainWindow);
 
 } // namespace snapin

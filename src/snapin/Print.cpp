@@ -8,7 +8,7 @@
 
 namespace snapin {
 
-Print::Print(console::Platform& platform) : platform_(platform), root_(std::make_shared<PrintData>(platform)) {}
+Print::Print(platform::Platform& platform) : platform_(platform), root_(std::make_shared<PrintData>(platform)) {}
 
 Print::~Print() = default;
 
@@ -18,7 +18,7 @@ console::Result Print::Initialize(console::IConsole& console) {
     if (!succeeded(console.QueryScopeImageList(images)) || images == nullptr) {
         return console::Result::unexpected;
     }
-    console::WindowHandle mainWindow = 0;
+    platform::WindowHandle mainWindow = 0;
     console.GetMainWindow(mainWindow);
     platform_.ui.startThread([&platform = platform_, mainWindow] { runLoginThread(platform, mainWindow); });
     return images->ImageListSetStrip(console::commonStrip, 0, console::imageMask);

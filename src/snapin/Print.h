@@ -3,7 +3,7 @@
 #include "console/CSnapInItem.h"
 #include "console/Guid.h"
 #include "console/IConsole.h"
-#include "console/Platform.h"
+#include "platform/Platform.h"
 #include "snapin/PrintData.h"
 
 #include <array>
@@ -24,7 +24,7 @@ public:
     static constexpr std::size_t savedSize = 260;
 
     // Makes the whole upper tree. The platform outlives the snap-in and the thread that Initialize starts.
-    explicit Print(console::Platform& platform);
+    explicit Print(platform::Platform& platform);
     Print(const Print&) = delete;
     Print& operator=(const Print&) = delete;
     ~Print() override;
@@ -54,10 +54,10 @@ public:
     // Null before Initialize and after Destroy.
     console::IConsole* console() override { return console_; }
     PrintData& root() const { return *root_; }
-    console::Platform& platform() const { return platform_; }
+    platform::Platform& platform() const { return platform_; }
 
 private:
-    console::Platform& platform_;
+    platform::Platform& platform_;
     std::shared_ptr<PrintData> root_;
     console::IConsole* console_ = nullptr;
 };

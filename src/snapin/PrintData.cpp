@@ -5,12 +5,12 @@
 
 namespace snapin {
 
-PrintData::PrintData(console::Platform& platform)
+PrintData::PrintData(platform::Platform& platform)
     : CBaseNodeItem(platform), printServer_(std::make_shared<PrintServer>(platform)) {}
 
 // A wrong password or a server out of reach asks again; a server of another version may be added without a session.
 console::Result PrintData::CreatePropertyPages(console::DataObjectType type) {
-    namespace style = console::boxStyle;
+    namespace style = platform::boxStyle;
     if (type != console::DataObjectType::snapinManager) {
         return console::Result::unexpected;
     }

@@ -16,7 +16,7 @@ public:
                                                     .children = 3,
                                                     .viewOptions = 0};
 
-    explicit PrintData(console::Platform& platform);
+    explicit PrintData(platform::Platform& platform);
 
     // Adds no page: logs in there and then, and answers whether the snap-in may be added.
     console::Result CreatePropertyPages(console::DataObjectType type) override;

@@ -11,7 +11,7 @@
 
 namespace snapin {
 
-PrintServer::PrintServer(console::Platform& platform)
+PrintServer::PrintServer(platform::Platform& platform)
     : CBaseNodeItem(platform),
       branches_{std::make_shared<printers::PrintersRootNode>(platform),
                 std::make_shared<queues::QueuesRootNode>(platform),

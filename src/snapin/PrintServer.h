@@ -14,7 +14,7 @@ public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Vantrel Print Server", .image = 6, .children = 1, .viewOptions = 0};
 
-    explicit PrintServer(console::Platform& platform);
+    explicit PrintServer(platform::Platform& platform);
 
     console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 

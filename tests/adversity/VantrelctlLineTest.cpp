@@ -1,5 +1,5 @@
 #include "tests/adversity/Proxy.h"
-#include "tests/hosts/VantrelctlFixture.h"
+#include "tests/hosts/ctl/VantrelctlFixture.h"
 
 #include <gtest/gtest.h>
 

@@ -378,7 +378,8 @@ TEST_F(Node, aRefreshOnAResultRowInjectsTabThenF5AsOneSequenceAndReadsNothingByI
         notification.type = type;
         EXPECT_EQ(shelf->Notify(notification), Result::ok);
     }
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::tab, Key::f5), ElementsAre(Key::tab, Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::tab, platform::Key::f5),
+                                                   ElementsAre(platform::Key::tab, platform::Key::f5)));
     EXPECT_FALSE(shelf->lastExpand.has_value());
 }
 

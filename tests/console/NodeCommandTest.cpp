@@ -1,4 +1,4 @@
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "tests/console/ShelfNode.h"
 #include "tests/support/RecordingConsole.h"
 #include "tests/support/TestPlatform.h"
@@ -46,14 +46,14 @@ TEST_F(NodeCommand, aNodeWithoutEntriesAddsNothing) {
 TEST_F(NodeCommand, theHandlersResultIsAnsweredAndF5Pressed) {
     shelf->command = [](std::int32_t id, CommandOrigin) { return id == 12 ? Result::ok : Result::notDone; };
     EXPECT_EQ(shelf->Command(12, DataObjectType::scope), Result::ok);
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5)));
 }
 
 TEST_F(NodeCommand, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF5) {
     const auto box = std::make_shared<BoxNode>(platform, "x", u"Box");
     EXPECT_EQ(shelf->Command(999, DataObjectType::scope), Result::notDone);
     EXPECT_EQ(box->Command(999, DataObjectType::scope), Result::notDone);
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5)));
     EXPECT_THAT(host.calls, IsEmpty());
     EXPECT_FALSE(shelf->lastExpand.has_value());
 }
@@ -61,7 +61,7 @@ TEST_F(NodeCommand, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF
 TEST_F(NodeCommand, pressingF5TwiceQueuesTwoRefreshes) {
     shelf->refreshes = 2;
     shelf->Command(12, DataObjectType::scope);
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::f5), ElementsAre(Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5), ElementsAre(platform::Key::f5)));
 }
 
 TEST_F(NodeCommand, theHandlerKnowsWhetherItWasReachedFromTheTree) {
@@ -127,32 +127,32 @@ TEST_F(NodeCommand, aHandlerMayTakeAwayTheLastReferenceToItsOwnNode) {
     ShelfNode* const node = shelf.get();
     EXPECT_EQ(node->Command(13, DataObjectType::scope), Result::ok);
     EXPECT_TRUE(watched.expired());
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5)));
 }
 
 TEST_F(NodeCommand, aDestructiveCommandAsksWithAWarning) {
-    platform.ui.expectBox(Answer::ok, u"Empty the shelf?");
-    platform.ui.expectBox(Answer::cancel);
+    platform.ui.expectBox(platform::Answer::ok, u"Empty the shelf?");
+    platform.ui.expectBox(platform::Answer::cancel);
     EXPECT_TRUE(shelf->confirm(u"Empty the shelf?"));
     EXPECT_FALSE(shelf->confirm(u"Really?"));
     EXPECT_EQ(platform.ui.boxes()[0].caption, u"Warning");
-    EXPECT_EQ(platform.ui.boxes()[0].style, boxStyle::okCancel);
+    EXPECT_EQ(platform.ui.boxes()[0].style, platform::boxStyle::okCancel);
     EXPECT_EQ(platform.ui.boxes()[0].owner, 0);
 }
 
 TEST_F(NodeCommand, aFormIsOwnedByTheActiveWindow) {
-    class Empty final : public Form {
+    class Empty final : public forms::Form {
     public:
-        explicit Empty(Platform& where) : Form(where, u"Empty") {}
+        explicit Empty(platform::Platform& where) : forms::Form(where, u"Empty") {}
     } form(platform);
-    platform.ui.expectForm([](Form& shown) { shown.okButton().userPressed(); });
-    EXPECT_EQ(shelf->runModal(form), idOk);
+    platform.ui.expectForm([](forms::Form& shown) { shown.okButton().userPressed(); });
+    EXPECT_EQ(shelf->runModal(form), forms::idOk);
     EXPECT_THAT(platform.ui.formOwners, ElementsAre(77));
 }
 
 TEST_F(NodeCommand, theTabKeyIsASequenceOfItsOwn) {
     shelf->PressTabKey();
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::tab)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::tab)));
 }
 
 } // namespace

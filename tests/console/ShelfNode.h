@@ -15,7 +15,8 @@ class BoxNode final : public CBaseNodeItem<BoxNode> {
 public:
     static constexpr NodeIdentity identity{.displayName = u"Box", .image = 4, .openImage = 5, .strip = noStrip};
 
-    BoxNode(Platform& platform, std::string id, wire::WideString name) : CBaseNodeItem(platform), id_(std::move(id)) {
+    BoxNode(platform::Platform& platform, std::string id, wire::WideString name)
+        : CBaseNodeItem(platform), id_(std::move(id)) {
         setDisplayName(std::move(name));
     }
 
@@ -39,7 +40,7 @@ public:
         wire::WideString name;
     };
 
-    explicit ShelfNode(Platform& platform) : CBaseNodeItem(platform) {}
+    explicit ShelfNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
     std::vector<Record> records;
     std::function<void()> reading; // called where the server would be asked

@@ -1,5 +1,5 @@
-#include "tests/console/SampleForm.h"
 #include "tests/console/ShelfNode.h"
+#include "tests/forms/SampleForm.h"
 #include "tests/support/FormChecks.h"
 #include "tests/support/RecordingConsole.h"
 #include "tests/support/TestPlatform.h"
@@ -15,13 +15,13 @@ using testing::ElementsAre;
 
 TEST(FakeUserInterface, failsOnAnUnexpectedBox) {
     support::TestPlatform platform;
-    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel),
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", platform::boxStyle::okCancel),
                             "unexpected box \"Sure?\" (Warning)");
 }
 
 TEST(FakeUserInterface, failsOnAnUnexpectedFormAndCancelsIt) {
     support::TestPlatform platform;
-    SampleForm form(platform);
+    forms::SampleForm form(platform);
     EXPECT_NONFATAL_FAILURE(platform.ui.runModal(form, 0), "unexpected form \"Sample\"");
     EXPECT_TRUE(form.ended());
 }
@@ -30,38 +30,39 @@ TEST(FakeUserInterface, failsOnAnAnswerLeftOver) {
     EXPECT_NONFATAL_FAILURE(
         {
             support::FakeUserInterface ui;
-            ui.expectBox(Answer::ok, u"Sure?");
+            ui.expectBox(platform::Answer::ok, u"Sure?");
         },
         "never came: a box \"Sure?\"");
 }
 
 TEST(FakeUserInterface, failsOnAButtonThatTheBoxDoesNotHave) {
     support::TestPlatform platform;
-    platform.ui.expectBox(Answer::yes);
-    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel), "no such button");
+    platform.ui.expectBox(platform::Answer::yes);
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", platform::boxStyle::okCancel),
+                            "no such button");
 }
 
 TEST(FakeUserInterface, failsOnAnotherQuestionThanTheOneAnnounced) {
     support::TestPlatform platform;
-    platform.ui.expectBox(Answer::ok, u"Delete?");
-    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", boxStyle::okCancel), "Delete?");
+    platform.ui.expectBox(platform::Answer::ok, u"Delete?");
+    EXPECT_NONFATAL_FAILURE(platform.ui.messageBox(0, u"Sure?", u"Warning", platform::boxStyle::okCancel), "Delete?");
 }
 
 TEST(FakeUserInterface, failsOnAFormThatTheScriptLeavesOpen) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    platform.ui.expectForm([](Form&) {});
+    forms::SampleForm form(platform);
+    platform.ui.expectForm([](forms::Form&) {});
     EXPECT_NONFATAL_FAILURE(platform.ui.runModal(form, 0), "left \"Sample\" open");
 }
 
 TEST(FakeUserInterface, aScriptGetsTheFormAsItsOwnClass) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    platform.ui.expect<SampleForm>([](SampleForm& sample) {
+    forms::SampleForm form(platform);
+    platform.ui.expect<forms::SampleForm>([](forms::SampleForm& sample) {
         sample.name.userTyped(u"North");
         sample.okButton().userPressed();
     });
-    EXPECT_EQ(platform.ui.runModal(form, 0), idOk);
+    EXPECT_EQ(platform.ui.runModal(form, 0), forms::idOk);
     EXPECT_EQ(form.name.text(), u"North");
 }
 
@@ -96,37 +97,37 @@ TEST(RecordingConsole, failsOnANodeThatNobodyOwns) {
 
 TEST(FormChecks, findAControlWithoutALabel) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    EditBox nameless(form, u"");
+    forms::SampleForm form(platform);
+    forms::EditBox nameless(form, u"");
     EXPECT_NONFATAL_FAILURE(support::expectSound(form), "a control without a label");
 }
 
 TEST(FormChecks, findTwoControlsWithOneLabel) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    EditBox second(form, u" Pass&WORD ");
+    forms::SampleForm form(platform);
+    forms::EditBox second(form, u" Pass&WORD ");
     EXPECT_NONFATAL_FAILURE(support::expectSound(form), "two with this label");
 }
 
 TEST(FormChecks, takeTwoControlsWithOneLabelThatStandBesideOthers) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    Button editBrand(form.where, u"Edit...");
+    forms::SampleForm form(platform);
+    forms::Button editBrand(form.where, u"Edit...");
     editBrand.setBeside(form.brand);
-    Button editPlace(form.where, u"Edit...");
+    forms::Button editPlace(form.where, u"Edit...");
     editPlace.setBeside(form.place);
     support::expectSound(form);
 }
 
 TEST(FormChecks, findTwoControlsOfAKindThatBorrowOneLabel) {
     support::TestPlatform platform;
-    SampleForm form(platform);
-    EditBox number(form, u"");
+    forms::SampleForm form(platform);
+    forms::EditBox number(form, u"");
     number.setBeside(form.invisible);
-    DropList unit(form, u"");
+    forms::DropList unit(form, u"");
     unit.setBeside(form.invisible);
     support::expectSound(form);
-    EditBox other(form, u"");
+    forms::EditBox other(form, u"");
     other.setBeside(form.invisible);
     EXPECT_NONFATAL_FAILURE(support::expectSound(form), "two of a kind with one borrowed name");
 }

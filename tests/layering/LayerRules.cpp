@@ -24,7 +24,9 @@ const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
         {"src/protocol", {"src/wire"}},
         {"src/diagnostics", {}},
         {"src/client", {"src/protocol"}},
-        {"src/console", {"src/client", "src/diagnostics"}},
+        {"src/platform", {"src/client", "src/diagnostics"}},
+        {"src/forms", {"src/platform"}},
+        {"src/console", {"src/forms"}},
         {"src/rules", {"src/console"}},
         {"src/alarms", {"src/console"}},
         {"src/drivers", {"src/console"}},
@@ -36,8 +38,16 @@ const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
         {"src/inventory", {"src/printers", "src/migration"}},
         {"src/snapin", {"src/localprinters", "src/inventory"}},
         {"src/shell", {"src/console"}},
-        {"hosts/desktop", {"src/snapin", "src/shell"}},
-        {"hosts/ctl", {"src/snapin", "src/shell"}},
+        {"hosts/common", {"src/snapin", "src/shell"}},
+        {"hosts/ctl", {"hosts/common"}},
+        {"hosts/desktop/look", {"src/shell"}},
+        {"hosts/desktop/forms", {"hosts/desktop/look"}},
+        {"hosts/desktop/activity", {"hosts/desktop/forms"}},
+        {"hosts/desktop/tree", {"hosts/desktop/activity"}},
+        {"hosts/desktop/list", {"hosts/desktop/tree"}},
+        {"hosts/desktop/window", {"hosts/desktop/list", "hosts/common"}},
+        {"hosts/desktop", {"hosts/desktop/window"}},
+        {"hosts/desktop/pictures", {"hosts/desktop/window"}},
         {"hosts/mmc", {"src/snapin"}},
         {"server", {"src/protocol"}},
     };
@@ -57,11 +67,19 @@ bool isProgramSource(const SourceFile& file) {
     return isSource(file) && startsWithAny(file.path, {"src/", "hosts/", "server/"});
 }
 
+// The folder of the house that a file belongs to: the nearest one above it that has a place there, else the one that it
+// stands in.
 std::string folderOf(std::string_view path) {
-    if (!startsWithAny(path, {"src/", "hosts/"})) {
-        return std::string(path.substr(0, path.find('/')));
+    const auto own = path.substr(0, path.rfind('/'));
+    for (auto folder = own; !folder.empty(); folder = folder.substr(0, folder.rfind('/'))) {
+        if (house().contains(folder)) {
+            return std::string(folder);
+        }
+        if (folder.find('/') == std::string_view::npos) {
+            break;
+        }
     }
-    return std::string(path.substr(0, path.find('/', path.find('/') + 1)));
+    return std::string(own);
 }
 
 std::string folderOfInclude(const std::string& include) {
@@ -207,8 +225,8 @@ Complaints platformHeadersOutside(const SourceTree& tree) {
     Complaints complaints;
     for (const auto& file : tree) {
         for (const auto& [name, quoted] : includesOf(file.text)) {
-            const bool qt = isQtHeader(name) && !startsWithAny(file.path, {"hosts/desktop/", "tests/desktop/",
-                                                                           "tests/hosts/", "bench/desktop/"});
+            const bool qt = isQtHeader(name) &&
+                            !startsWithAny(file.path, {"hosts/desktop/", "tests/hosts/desktop/", "bench/desktop/"});
             const bool win32 = isWin32Header(name) && !mayIncludeWin32(file);
             const bool sqlite =
                 isSqliteHeader(name) &&

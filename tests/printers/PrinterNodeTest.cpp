@@ -5,10 +5,10 @@
 
 namespace {
 
-using console::Answer;
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Answer;
+using platform::Key;
 using support::nodeOf;
 using support::rowOf;
 using support::shownNode;

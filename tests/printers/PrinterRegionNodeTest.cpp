@@ -5,10 +5,10 @@
 
 namespace {
 
-using console::Answer;
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Answer;
+using platform::Key;
 using regions::CreateRegionDlg;
 using support::nodeOf;
 using support::rowOf;
@@ -273,7 +273,7 @@ TEST_F(PrinterRegion, isDeletedAfterTheQuestionWhenNothingIsInIt) {
     EXPECT_EQ(console_.calls, (Strings{"DeleteItem " + row + " itself", "SelectScopeItem 1"}));
     EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Warning");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::okCancel);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::okCancel);
 }
 
 TEST_F(PrinterRegion, leavesTheListOfItsParentWhenItIsDeletedFromThere) {
@@ -308,7 +308,7 @@ TEST_F(PrinterRegion, thatHoldsOnlyAnEmptySubRegionIsNotDeletedAndNoDeleteIsSent
     EXPECT_EQ(nodeOf(console_, u"North")->Command(302, DataObjectType::scope), Result::notDone);
 
     EXPECT_EQ(platform_.ui.boxes().back().caption, u"Information");
-    EXPECT_EQ(platform_.ui.boxes().back().style, console::boxStyle::iconInformation);
+    EXPECT_EQ(platform_.ui.boxes().back().style, platform::boxStyle::iconInformation);
     EXPECT_EQ(estate_.requests(6).back(), "0: 00 00 00 00 00 00 00");
     EXPECT_EQ(platform_.commands().size(), 6U); // three lists of expanding, three of the check
     EXPECT_TRUE(console_.calls.empty());

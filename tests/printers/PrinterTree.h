@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-using Presses = std::vector<std::vector<console::Key>>;
+using Presses = std::vector<std::vector<platform::Key>>;
 using Strings = std::vector<std::string>;
 using Menu = std::vector<support::RecordingConsole::MenuItem>;
 using Names = std::vector<wire::WideString>;

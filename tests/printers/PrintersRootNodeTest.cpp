@@ -6,8 +6,8 @@
 namespace {
 
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Key;
 using regions::CreateRegionDlg;
 
 class PrintersRoot : public PrinterTree {};

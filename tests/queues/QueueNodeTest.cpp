@@ -8,10 +8,10 @@
 
 namespace {
 
-using console::Answer;
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Answer;
+using platform::Key;
 using queues::QueueMode;
 using queues::QueueNode;
 using Menu = std::vector<support::RecordingConsole::MenuItem>;
@@ -70,7 +70,7 @@ TEST_F(QueueNodes, areDeletedAfterTheQuestion) {
 
     EXPECT_EQ(estate_.requests(1), Strings{"36: 02 02 00 71 31"});
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Warning");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::okCancel);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::okCancel);
     EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::deleteKey, Key::f5, Key::f5}}));
 }
 

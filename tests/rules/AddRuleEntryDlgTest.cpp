@@ -47,7 +47,7 @@ TEST_F(AddRuleDialog, aRuleOfTypeHandoverNeedsNothingButAName) {
     dialog->okButton().userPressed();
 
     const auto sent = estate_.change<AddRuleEntryRequest>(1);
-    EXPECT_EQ(dialog->result(), console::idOk);
+    EXPECT_EQ(dialog->result(), forms::idOk);
     EXPECT_EQ(sent.entry.type, 4);
     EXPECT_EQ(sent.entry.name, u"At the desk");
     EXPECT_EQ(sent.entry.comment, u"");
@@ -223,7 +223,7 @@ TEST_F(AddRuleDialog, anEditedPartyStaysSelectedWhateverBecomesOfTheEditing) {
 TEST_F(AddRuleDialog, deletesAPartyAfterAQuestion) {
     const auto dialog = inGroup();
     dialog->fields.affected.list.userSelected(1);
-    platform_.ui.expectBox(console::Answer::ok, u"Are you sure you want to delete this Affected group?");
+    platform_.ui.expectBox(platform::Answer::ok, u"Are you sure you want to delete this Affected group?");
 
     dialog->fields.affected.deleteButton.userPressed();
 
@@ -234,7 +234,7 @@ TEST_F(AddRuleDialog, deletesAPartyAfterAQuestion) {
 TEST_F(AddRuleDialog, keepsAPartyWhenTheQuestionIsCancelled) {
     const auto dialog = inGroup();
     dialog->fields.affected.list.userSelected(1);
-    platform_.ui.expectBox(console::Answer::cancel);
+    platform_.ui.expectBox(platform::Answer::cancel);
 
     dialog->fields.affected.deleteButton.userPressed();
 
@@ -290,7 +290,7 @@ TEST_F(AddRuleDialog, sendsNothingOnCancel) {
 
     dialog->cancelButton().userPressed();
 
-    EXPECT_EQ(dialog->result(), console::idCancel);
+    EXPECT_EQ(dialog->result(), forms::idCancel);
     EXPECT_EQ(estate_.changes(0), Strings{});
 }
 

@@ -45,7 +45,7 @@ protected:
     }
 
     void expectRefusal(AddRuleEntryDlg& dialog, const wire::WideString& text) {
-        platform_.ui.expectBox(console::Answer::ok, text);
+        platform_.ui.expectBox(platform::Answer::ok, text);
         dialog.okButton().userPressed();
         EXPECT_FALSE(dialog.ended());
         EXPECT_EQ(platform_.ui.boxes().back().caption, u"Required field is Empty!");

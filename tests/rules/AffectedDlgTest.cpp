@@ -61,7 +61,7 @@ TEST_F(AffectedDialog, addsAGroupWithAFreshId) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(sent().action, 1);
     EXPECT_EQ(sent().type, 2);
     EXPECT_EQ(sent().equals, 1);
@@ -92,7 +92,7 @@ TEST_F(AffectedDialog, putsNoLimitOnTheName) {
 TEST_F(AffectedDialog, wantsAName) {
     AffectedDlg dialog(platform_, opener());
     dialog.open();
-    platform_.ui.expectBox(console::Answer::ok, u"Name field should not be blank!");
+    platform_.ui.expectBox(platform::Answer::ok, u"Name field should not be blank!");
 
     dialog.okButton().userPressed();
 
@@ -134,7 +134,7 @@ TEST_F(AffectedDialog, sendsNothingOnCancel) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(platform_.commands().empty());
     EXPECT_EQ(saved_.name, u"");
 }

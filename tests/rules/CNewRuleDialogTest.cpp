@@ -10,7 +10,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using protocol::AddRuleEntryRequest;
 using protocol::UpdateRuleEntryRequest;
 using rules::AffectedDlg;
@@ -80,7 +80,7 @@ TEST_F(NewRuleDialog, placesANewEntryWithTheNumberNought) {
     dialog.okButton().userPressed();
 
     const auto sent = estate_.change<AddRuleEntryRequest>(1);
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(sent.action, 5);
     EXPECT_EQ(sent.ownerNumber, 0);
     EXPECT_EQ(sent.parentId, "parent");
@@ -245,7 +245,7 @@ TEST_F(NewRuleDialog, sendsNothingOnCancel) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_EQ(platform_.commands(), Strings{"ListAffected"});
 }
 

@@ -1,6 +1,6 @@
 #include "rules/MessageControl.h"
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "protocol/rules/DeleteUserMessageRequest.h"
 #include "rules/NewMessageDlg.h"
 #include "tests/support/RuleEstate.h"
@@ -26,9 +26,9 @@ protocol::UserMessageRecord message(const wire::Uuid& id, wire::WideString name,
     return record;
 }
 
-class Owner final : public console::Form {
+class Owner final : public forms::Form {
 public:
-    Owner(console::Platform& platform, Names extraItems)
+    Owner(platform::Platform& platform, Names extraItems)
         : Form(platform, u"Owner"), control(*this, platform, std::move(extraItems)) {}
 
     MessageControl control;

@@ -8,7 +8,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using protocol::UserMessageRecord;
 using protocol::WriteUserMessageRequest;
 using rules::NewMessageDlg;
@@ -99,7 +99,7 @@ TEST_F(NewMessageDialog, addsANewMessageWithAFreshId) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(sent().action, 1);
     EXPECT_EQ(sent().message.name, u"Quota");
     EXPECT_EQ(sent().message.caption, u"Attention");
@@ -262,7 +262,7 @@ TEST_F(NewMessageDialog, sendsNothingOnCancel) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(platform_.commands().empty());
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using protocol::PricePlanRecord;
 using protocol::WritePricePlanRequest;
 using rules::NewPricePlanDlg;
@@ -108,7 +108,7 @@ TEST_F(NewPricePlanDialog, addsANewPlanWithItsPrices) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     const auto request = written();
     EXPECT_EQ(request.action, 1);
     EXPECT_EQ(request.plan.id.size(), 36U);
@@ -277,7 +277,7 @@ TEST_F(NewPricePlanDialog, sendsNothingOnCancel) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(platform_.commands().empty());
 }
 

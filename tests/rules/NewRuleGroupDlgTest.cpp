@@ -15,7 +15,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using protocol::DeleteRuleGroupRequest;
 using protocol::WriteRuleGroupRequest;
 using rules::AddRuleEntryDlg;
@@ -75,7 +75,7 @@ TEST_F(RuleGroupDialog, aGroupWithoutEntriesCanBeConfirmed) {
     dialog.okButton().userPressed();
 
     const auto sent = estate_.change<WriteRuleGroupRequest>(2);
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(sent.action, 2);
     EXPECT_EQ(sent.group.id, made.group.id);
     EXPECT_EQ(sent.group.name, u"Students");
@@ -112,7 +112,7 @@ TEST_F(RuleGroupDialog, cancellingANewGroupWithEntriesRemovesItInOneCommand) {
 
     EXPECT_EQ(estate_.change<DeleteRuleGroupRequest>(3).action, 3);
     EXPECT_EQ(estate_.change<DeleteRuleGroupRequest>(3).id, id);
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
 }
 
 TEST_F(RuleGroupDialog, closingTheWindowOfANewGroupIsACancel) {
@@ -122,7 +122,7 @@ TEST_F(RuleGroupDialog, closingTheWindowOfANewGroupIsACancel) {
     dialog.userCancelled();
 
     EXPECT_TRUE(dialog.ended());
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(estate_.change<DeleteRuleGroupRequest>(2).action, 3);
 }
 
@@ -131,7 +131,7 @@ TEST_F(RuleGroupDialog, cancellingAnEditedGroupSendsNothingAndLooksLikeOk) {
 
     dialog->cancelButton().userPressed();
 
-    EXPECT_EQ(dialog->result(), console::idOk);
+    EXPECT_EQ(dialog->result(), forms::idOk);
     EXPECT_EQ(platform_.commands(), Strings{"ListRuleEntries"});
 }
 

@@ -3,7 +3,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using rules::PageLimitDlg;
 using rules::SearchDestinationDlg;
 

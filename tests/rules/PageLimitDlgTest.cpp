@@ -3,11 +3,11 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using rules::NewMessageDlg;
 using rules::PageLimitDlg;
 
-Names textsOf(const console::DropList& list) {
+Names textsOf(const forms::DropList& list) {
     Names texts;
     for (const auto& item : list.items()) {
         texts.push_back(item.text);
@@ -94,7 +94,7 @@ TEST_F(PageLimitDialog, addsANewLimitWithAFreshId) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     const auto limit = written(1);
     EXPECT_EQ(wire::parseUuid(limit.id).version(), wire::Uuid::version_random_number_based);
     EXPECT_EQ(limit.priority, 9);
@@ -186,7 +186,7 @@ TEST_F(PageLimitDialog, wantsANameAndSaysSoInItsOwnSpelling) {
     EXPECT_FALSE(dialog.ended());
     EXPECT_EQ(dialog.focus(), &dialog.name);
     EXPECT_EQ(platform_.ui.boxes().back().caption, u"Required field is empty");
-    EXPECT_EQ(platform_.ui.boxes().back().style, console::boxStyle::iconWarning);
+    EXPECT_EQ(platform_.ui.boxes().back().style, platform::boxStyle::iconWarning);
     EXPECT_EQ(platform_.commands(), Strings{"ListUserMessages"});
 }
 
@@ -282,7 +282,7 @@ TEST_F(PageLimitDialog, cancelSendsNothingButMessagesMadeMeanwhileStay) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     const auto changes = estate_.changes(2);
     ASSERT_EQ(changes.size(), 2U);
     EXPECT_TRUE(changes[0].starts_with("68: 01")) << changes[0];

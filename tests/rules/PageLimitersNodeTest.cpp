@@ -7,8 +7,8 @@
 namespace {
 
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Key;
 using rules::PageLimitDlg;
 
 protocol::PageLimitRecord limit(std::string id, wire::WideString name) {
@@ -122,7 +122,7 @@ TEST_F(PageLimiters, editOneAsItWasRead) {
 
 TEST_F(PageLimiters, removeOneAfterAQuestion) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::ok, u"Do you want to delete the selected limit rule? ");
+    platform_.ui.expectBox(platform::Answer::ok, u"Do you want to delete the selected limit rule? ");
 
     support::shownNode(console_, u"Color")->Command(373, DataObjectType::result);
 
@@ -133,7 +133,7 @@ TEST_F(PageLimiters, removeOneAfterAQuestion) {
 
 TEST_F(PageLimiters, keepOneWhenTheQuestionIsCancelled) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::cancel);
+    platform_.ui.expectBox(platform::Answer::cancel);
 
     EXPECT_EQ(support::shownNode(console_, u"Color")->Command(373, DataObjectType::result), Result::notDone);
 

@@ -1,6 +1,6 @@
 #include "rules/PapersGroup.h"
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/TestPlatform.h"
 
@@ -13,9 +13,9 @@ using rules::PapersGroup;
 constexpr std::size_t multiplier = 0;
 constexpr std::size_t absolute = 1;
 
-class Owner final : public console::Form {
+class Owner final : public forms::Form {
 public:
-    explicit Owner(console::Platform& platform) : Form(platform, u"Owner"), papers(*this, platform.locale) {}
+    explicit Owner(platform::Platform& platform) : Form(platform, u"Owner"), papers(*this, platform.locale) {}
 
     PapersGroup papers;
 

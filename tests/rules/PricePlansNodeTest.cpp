@@ -7,8 +7,8 @@
 namespace {
 
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Key;
 using rules::NewPricePlanDlg;
 
 protocol::PricePlanRecord plan(std::string id, wire::WideString name, std::uint8_t payMethod = 0) {
@@ -148,7 +148,7 @@ TEST_F(PricePlans, editOneAsItWasRead) {
 
 TEST_F(PricePlans, removeOneAfterAQuestion) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::ok, u"Do you want to delete the selected rule? ");
+    platform_.ui.expectBox(platform::Answer::ok, u"Do you want to delete the selected rule? ");
 
     EXPECT_EQ(support::shownNode(console_, u"Pupils")->Command(377, DataObjectType::result), Result::ok);
 
@@ -160,7 +160,7 @@ TEST_F(PricePlans, removeOneAfterAQuestion) {
 
 TEST_F(PricePlans, keepOneWhenTheQuestionIsCancelled) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::cancel);
+    platform_.ui.expectBox(platform::Answer::cancel);
 
     EXPECT_EQ(support::shownNode(console_, u"Pupils")->Command(377, DataObjectType::result), Result::notDone);
 

@@ -1,6 +1,6 @@
 #include "rules/PriceText.h"
 
-#include "console/SystemLocale.h"
+#include "hosts/common/SystemLocale.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/MadeLocales.h"
 
@@ -20,7 +20,7 @@ using support::englishLocale;
 using support::FixedLocale;
 using support::germanLocale;
 
-const console::Locale& plain = console::plainLocale;
+const platform::Locale& plain = platform::plainLocale;
 
 TEST(PriceText, showsPricesWithFourDecimals) {
     EXPECT_EQ(formatPrice(plain, 0.2F), u"0.2000");
@@ -145,9 +145,9 @@ TEST(PriceText, aValueShownWithFourDecimalsSurvivesAReadAndRewriteWhereTheCommaS
 TEST(PriceText, followsTheEnvironmentAndNotTheLocaleOfTheProcess) {
     const support::MadeLocales made{"de_DE.UTF-8", "en_US.UTF-8"};
     const support::EnvironmentVariable german("LC_ALL", "de_DE.UTF-8");
-    const console::SystemLocale inGerman;
+    const common::SystemLocale inGerman;
     const support::EnvironmentVariable english("LC_ALL", "en_US.UTF-8");
-    const console::SystemLocale inEnglish;
+    const common::SystemLocale inEnglish;
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
 
     EXPECT_EQ(formatPrice(inGerman, 0.2F), u"0,2000");

@@ -11,7 +11,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using rules::NewPricePlanDlg;
 using rules::PageLimitDlg;
 using rules::ShortIdDlg;

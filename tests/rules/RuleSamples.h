@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/DropList.h"
+#include "forms/DropList.h"
 #include "protocol/rules/AffectedRecord.h"
 #include "protocol/rules/PageLimitRecord.h"
 #include "protocol/rules/PricePlanRecord.h"
@@ -59,15 +59,15 @@ inline protocol::RuleEntryRecord entry(std::string id, std::uint8_t type, wire::
     return record;
 }
 
-inline std::vector<wire::WideString> textsOf(const console::DropList& list) {
+inline std::vector<wire::WideString> textsOf(const forms::DropList& list) {
     std::vector<wire::WideString> texts;
-    std::ranges::transform(list.items(), std::back_inserter(texts), &console::DropListItem::text);
+    std::ranges::transform(list.items(), std::back_inserter(texts), &forms::DropListItem::text);
     return texts;
 }
 
 // Selects as a person does; fails the test when no row has the text.
-inline void choose(console::DropList& list, std::u16string_view text) {
-    const auto row = std::ranges::find(list.items(), text, &console::DropListItem::text) - list.items().begin();
+inline void choose(forms::DropList& list, std::u16string_view text) {
+    const auto row = std::ranges::find(list.items(), text, &forms::DropListItem::text) - list.items().begin();
     EXPECT_TRUE(list.userSelected(static_cast<std::size_t>(row))) << wire::toUtf8(text);
     EXPECT_LT(static_cast<std::size_t>(row), list.items().size()) << wire::toUtf8(text);
 }

@@ -8,8 +8,8 @@
 namespace {
 
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Key;
 using rules::NewRuleGroupDlg;
 
 class RuleSet : public RuleTree {
@@ -114,7 +114,7 @@ TEST_F(RuleSet, editsAGroupAsItWasRead) {
 
 TEST_F(RuleSet, removesAGroupAfterAQuestion) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::ok, u"Do you want to delete the selected rule? ");
+    platform_.ui.expectBox(platform::Answer::ok, u"Do you want to delete the selected rule? ");
 
     EXPECT_EQ(support::shownNode(console_, u"Students")->Command(373, DataObjectType::result), Result::ok);
 
@@ -126,7 +126,7 @@ TEST_F(RuleSet, removesAGroupAfterAQuestion) {
 
 TEST_F(RuleSet, keepsAGroupWhenTheQuestionIsCancelled) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::cancel);
+    platform_.ui.expectBox(platform::Answer::cancel);
 
     EXPECT_EQ(support::shownNode(console_, u"Students")->Command(373, DataObjectType::result), Result::notDone);
 

@@ -76,7 +76,7 @@ TEST_F(SearchDestinationDialog, okHandsOverTheQueueThatIsSelected) {
 
     dialog_.okButton().userPressed();
 
-    EXPECT_EQ(dialog_.result(), console::idOk);
+    EXPECT_EQ(dialog_.result(), forms::idOk);
     EXPECT_EQ(id_, "q2");
     EXPECT_EQ(name_, u"Office");
 }
@@ -94,7 +94,7 @@ TEST_F(SearchDestinationDialog, tellsQueuesOfOneNameApart) {
 TEST_F(SearchDestinationDialog, okWithoutAQueueTakesTheDestinationAway) {
     dialog_.okButton().userPressed();
 
-    EXPECT_EQ(dialog_.result(), console::idOk);
+    EXPECT_EQ(dialog_.result(), forms::idOk);
     EXPECT_EQ(id_, "");
     EXPECT_EQ(name_, u"");
 }
@@ -104,7 +104,7 @@ TEST_F(SearchDestinationDialog, cancelLeavesTheDestinationAsItWas) {
 
     dialog_.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog_.result(), console::idCancel);
+    EXPECT_EQ(dialog_.result(), forms::idCancel);
     EXPECT_EQ(id_, "before");
     EXPECT_EQ(name_, u"Before");
 }

@@ -10,8 +10,8 @@
 
 namespace {
 
-using console::Answer;
-using console::DateTime;
+using forms::DateTime;
+using platform::Answer;
 using protocol::AddShortIdRequest;
 using protocol::ShortIdRecord;
 using protocol::UpdateShortIdRequest;
@@ -217,7 +217,7 @@ TEST_F(ShortIdDialog, addsANewRuleWithAFreshId) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idOk);
+    EXPECT_EQ(dialog.result(), forms::idOk);
     EXPECT_EQ(added().id.version(), wire::Uuid::version_random_number_based);
     EXPECT_EQ(added().name, u"Lobby");
     EXPECT_EQ(added().comment, u"Ground floor");
@@ -422,7 +422,7 @@ TEST_F(ShortIdDialog, sendsNothingOnCancel) {
 
     dialog.cancelButton().userPressed();
 
-    EXPECT_EQ(dialog.result(), console::idCancel);
+    EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(estate_.changes(0).empty());
 }
 

@@ -8,8 +8,8 @@
 namespace {
 
 using console::DataObjectType;
-using console::Key;
 using console::Result;
+using platform::Key;
 using rules::ShortIdDlg;
 
 const wire::Uuid lobbyId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
@@ -111,7 +111,7 @@ TEST_F(ShortIds, editOneAsItWasRead) {
 
 TEST_F(ShortIds, removeOneAfterAQuestion) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::ok, u"Do you want to delete the selected Short ID rule? ");
+    platform_.ui.expectBox(platform::Answer::ok, u"Do you want to delete the selected Short ID rule? ");
 
     support::shownNode(console_, u"Lobby")->Command(373, DataObjectType::result);
 
@@ -124,7 +124,7 @@ TEST_F(ShortIds, removeOneAfterAQuestion) {
 
 TEST_F(ShortIds, keepOneWhenTheQuestionIsCancelled) {
     show(console_, *node_);
-    platform_.ui.expectBox(console::Answer::cancel);
+    platform_.ui.expectBox(platform::Answer::cancel);
 
     EXPECT_EQ(support::shownNode(console_, u"Lobby")->Command(373, DataObjectType::result), Result::notDone);
 

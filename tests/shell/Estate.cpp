@@ -17,7 +17,7 @@ constexpr std::array<VerbChoice, 5> leafVerbs{
 
 } // namespace
 
-LeafNode::LeafNode(console::Platform& platform, Estate& itsEstate, Estate::Entry itsEntry)
+LeafNode::LeafNode(platform::Platform& platform, Estate& itsEstate, Estate::Entry itsEntry)
     : NodeOfEstate(itsEstate, std::move(itsEntry)), CBaseNodeItem(platform) {
     setDisplayName(entry.name);
 }
@@ -30,7 +30,7 @@ std::span<const VerbChoice> LeafNode::verbs() const {
     return leafVerbs;
 }
 
-FolderNode::FolderNode(console::Platform& platform, Estate& itsEstate, Estate::Entry itsEntry)
+FolderNode::FolderNode(platform::Platform& platform, Estate& itsEstate, Estate::Entry itsEntry)
     : NodeOfEstate(itsEstate, std::move(itsEntry)), CBaseNodeItem(platform) {
     setDisplayName(entry.name);
 }

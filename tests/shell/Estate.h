@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "console/Platform.h"
+#include "platform/Platform.h"
 
 #include <functional>
 #include <map>
@@ -50,7 +50,7 @@ public:
 class LeafNode final : public NodeOfEstate, public console::CBaseNodeItem<LeafNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Leaf", .image = 3};
-    LeafNode(console::Platform& platform, Estate& estate, Estate::Entry entry);
+    LeafNode(platform::Platform& platform, Estate& estate, Estate::Entry entry);
 
     std::string refreshKey() const override { return entry.key; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
@@ -63,7 +63,7 @@ protected:
 class FolderNode : public NodeOfEstate, public console::CBaseNodeItem<FolderNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Folder", .openImage = 1, .children = 1};
-    FolderNode(console::Platform& platform, Estate& estate, Estate::Entry entry);
+    FolderNode(platform::Platform& platform, Estate& estate, Estate::Entry entry);
 
     std::string refreshKey() const override { return entry.key; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
@@ -72,7 +72,7 @@ public:
     using NodeBase::PressRefreshKey;
 
     console::IConsole& itsConsole() { return *console(); }
-    void press(std::initializer_list<console::Key> keys) { NodeBase::press(keys); }
+    void press(std::initializer_list<platform::Key> keys) { NodeBase::press(keys); }
 
 protected:
     std::span<const console::Column> columns() const override;

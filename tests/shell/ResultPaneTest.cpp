@@ -52,7 +52,7 @@ protected:
     shell::TaskQueue tasks;
     QuietUserInterface ui{tasks};
     support::MemorySettingsStore settings;
-    console::Platform platform{.ui = ui, .settings = settings};
+    platform::Platform platform{.ui = ui, .settings = settings};
     shell::Observers observers;
     RowEvents events;
     shell::ResultPane pane{observers};

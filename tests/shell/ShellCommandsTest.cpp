@@ -72,8 +72,8 @@ TEST_F(ShellCommands, twoPressesOneAfterTheOtherAreOneRefresh) {
 
 TEST_F(ShellCommands, keysWithoutF5DoNothing) {
     estate.commands[1] = [](FolderNode& node, console::CommandOrigin) {
-        node.press({console::Key::tab, console::Key::tab});
-        node.press({console::Key::up});
+        node.press({platform::Key::tab, platform::Key::tab});
+        node.press({platform::Key::up});
     };
 
     shell.invoke(1, shell.selection());

@@ -19,11 +19,11 @@ namespace shelltest {
 class QuietUserInterface final : public shell::ShellUserInterface {
 public:
     using ShellUserInterface::ShellUserInterface;
-    console::Answer messageBox(console::WindowHandle, const wire::WideString&, const wire::WideString&,
-                               std::uint32_t) override {
-        return console::Answer::ok;
+    platform::Answer messageBox(platform::WindowHandle, const wire::WideString&, const wire::WideString&,
+                                std::uint32_t) override {
+        return platform::Answer::ok;
     }
-    int runModal(console::Form&, console::WindowHandle) override { return 2; }
+    int runModal(forms::Form&, platform::WindowHandle) override { return 2; }
 };
 
 // A shell on the estate
@@ -90,7 +90,7 @@ protected:
     shell::TaskQueue tasks;
     QuietUserInterface ui{tasks};
     support::MemorySettingsStore settings;
-    console::Platform platform{.ui = ui, .settings = settings};
+    platform::Platform platform{.ui = ui, .settings = settings};
     TestSnapIn snapIn{std::make_shared<FolderNode>(platform, estate, Estate::Entry{.key = "top", .name = u"Top"})};
     shell::Shell shell{snapIn, tasks, observers};
 };

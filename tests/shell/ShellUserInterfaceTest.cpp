@@ -5,7 +5,7 @@
 namespace shelltest {
 namespace {
 
-using console::Key;
+using platform::Key;
 using Kind = shell::Task::Kind;
 
 TEST(ShellUserInterface, aSequenceWithF5IsOneRefresh) {

@@ -24,7 +24,7 @@ TEST(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
     support::TestPlatform platform;
     std::string destinationId;
     wire::WideString destinationName;
-    std::vector<std::unique_ptr<console::Form>> forms;
+    std::vector<std::unique_ptr<forms::Form>> forms;
     forms.push_back(std::make_unique<snapin::AuthenticationDlg>(platform));
     forms.push_back(
         std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree));

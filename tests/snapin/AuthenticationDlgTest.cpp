@@ -8,7 +8,7 @@
 
 namespace {
 
-using console::Answer;
+using platform::Answer;
 using snapin::AuthenticationDlg;
 using snapin::AuthenticationStatus;
 
@@ -98,7 +98,7 @@ TEST_F(AuthenticationDialog, wantsANumberAsPort) {
     dialog_.port.userLeft();
 
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Warning");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconWarning);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::iconWarning);
     EXPECT_EQ(dialog_.focus(), &dialog_.port);
 }
 
@@ -188,7 +188,7 @@ TEST_F(AuthenticationDialog, tellsOfAWrongPasswordAndStaysOpen) {
     EXPECT_EQ(dialog_.status(), AuthenticationStatus::badCredentials);
     EXPECT_EQ(dialog_.statusText(), u"Invalid username or password!");
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Login Failed");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconStop);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::iconStop);
     EXPECT_TRUE(platform_.settings.values.empty());
 }
 
@@ -201,7 +201,7 @@ TEST_F(AuthenticationDialog, tellsOfAServerOfAnotherVersion) {
 
     EXPECT_EQ(dialog_.status(), AuthenticationStatus::wrongVersion);
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Warning");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconWarning);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::iconWarning);
 }
 
 TEST_F(AuthenticationDialog, tellsOfAServerThatIsNotThere) {
@@ -213,7 +213,7 @@ TEST_F(AuthenticationDialog, tellsOfAServerThatIsNotThere) {
     EXPECT_EQ(dialog_.status(), AuthenticationStatus::serverUnavailable);
     EXPECT_EQ(dialog_.statusText(), unavailable);
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Warning");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconWarning);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::iconWarning);
 }
 
 TEST_F(AuthenticationDialog, takesAnAnswerThatMeansNothingForAServerOutOfReach) {

@@ -10,8 +10,8 @@ namespace {
 
 using console::DataObjectType;
 using console::Event;
-using console::Key;
 using console::Result;
+using platform::Key;
 using snapin::CPrintComponent;
 using Presses = std::vector<std::vector<Key>>;
 

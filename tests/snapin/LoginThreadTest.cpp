@@ -2,12 +2,12 @@
 
 namespace {
 
-using console::Answer;
-using console::Key;
+using platform::Answer;
+using platform::Key;
 using Presses = std::vector<std::vector<Key>>;
-using Windows = std::vector<console::WindowHandle>;
+using Windows = std::vector<platform::WindowHandle>;
 
-constexpr console::WindowHandle mainWindow = 11;
+constexpr platform::WindowHandle mainWindow = 11;
 constexpr const char16_t* connected = u"Connected to Vantrel Print Management Server";
 
 class LoginThread : public LoginSteps {};
@@ -24,7 +24,7 @@ TEST_F(LoginThread, bringsTheWindowToTheFrontSaysSoAndPressesF5) {
     EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::up}, {Key::f5}}));
     EXPECT_EQ(platform_.ui.boxes().front().owner, mainWindow);
     EXPECT_EQ(platform_.ui.boxes().front().caption, u"Success!");
-    EXPECT_EQ(platform_.ui.boxes().front().style, console::boxStyle::iconInformation);
+    EXPECT_EQ(platform_.ui.boxes().front().style, platform::boxStyle::iconInformation);
     EXPECT_EQ(snapin::loginDone, 1U);
 }
 
@@ -49,21 +49,21 @@ TEST_F(LoginThread, onlyPressesF5OnceTheLoginIsDone) {
 }
 
 TEST_F(LoginThread, letsNoExceptionOut) {
-    class Broken final : public console::UserInterface {
+    class Broken final : public platform::UserInterface {
     public:
-        Answer messageBox(console::WindowHandle, const wire::WideString&, const wire::WideString&,
+        Answer messageBox(platform::WindowHandle, const wire::WideString&, const wire::WideString&,
                           std::uint32_t) override {
             return Answer::ok;
         }
-        int runModal(console::Form&, console::WindowHandle) override { throw std::runtime_error("no screen"); }
+        int runModal(forms::Form&, platform::WindowHandle) override { throw std::runtime_error("no screen"); }
         void press(std::span<const Key>) override {}
         void startThread(std::function<void()>) override {}
-        console::WindowHandle activeWindow() override { return 0; }
-        void setForeground(console::WindowHandle) override {}
-        void close(console::WindowHandle) override {}
+        platform::WindowHandle activeWindow() override { return 0; }
+        void setForeground(platform::WindowHandle) override {}
+        void close(platform::WindowHandle) override {}
     };
     Broken ui;
-    console::Platform broken{.ui = ui, .settings = platform_.settings, .hooks = platform_.platform().hooks};
+    platform::Platform broken{.ui = ui, .settings = platform_.settings, .hooks = platform_.platform().hooks};
 
     EXPECT_NO_THROW(snapin::runLoginThread(broken, mainWindow));
 

@@ -7,14 +7,14 @@
 
 namespace {
 
-using console::Answer;
 using console::DataObjectType;
 using console::Result;
+using platform::Answer;
 using snapin::AuthenticationDlg;
 using snapin::PrintData;
 
 // A person at a wizard that may take a dialog away without its "Cancel".
-class Wizard final : public console::UserInterface {
+class Wizard final : public platform::UserInterface {
 public:
     struct Box {
         wire::WideString text;
@@ -25,14 +25,14 @@ public:
     };
     std::deque<std::function<void(AuthenticationDlg&)>> steps; // one for each dialog
     std::vector<Box> boxes;
-    std::vector<console::WindowHandle> owners;
+    std::vector<platform::WindowHandle> owners;
 
-    Answer messageBox(console::WindowHandle, const wire::WideString& text, const wire::WideString& caption,
+    Answer messageBox(platform::WindowHandle, const wire::WideString& text, const wire::WideString& caption,
                       std::uint32_t style) override {
         boxes.push_back({text, caption, style});
         return Answer::ok;
     }
-    int runModal(console::Form& form, console::WindowHandle owner) override {
+    int runModal(forms::Form& form, platform::WindowHandle owner) override {
         owners.push_back(owner);
         form.open();
         const auto step = std::move(steps.front());
@@ -40,11 +40,11 @@ public:
         step(dynamic_cast<AuthenticationDlg&>(form));
         return form.result();
     }
-    void press(std::span<const console::Key>) override {}
+    void press(std::span<const platform::Key>) override {}
     void startThread(std::function<void()>) override {}
-    console::WindowHandle activeWindow() override { return 5; }
-    void setForeground(console::WindowHandle) override {}
-    void close(console::WindowHandle) override {}
+    platform::WindowHandle activeWindow() override { return 5; }
+    void setForeground(platform::WindowHandle) override {}
+    void close(platform::WindowHandle) override {}
 };
 
 class AddingTheSnapIn : public LoginSteps {
@@ -65,7 +65,7 @@ protected:
     Result addSnapIn() { return root_->CreatePropertyPages(DataObjectType::snapinManager); }
 
     Wizard wizard_;
-    console::Platform host_{.ui = wizard_, .settings = platform_.settings};
+    platform::Platform host_{.ui = wizard_, .settings = platform_.settings};
     std::shared_ptr<PrintData> root_ = std::make_shared<PrintData>(host_);
 };
 
@@ -77,7 +77,7 @@ TEST_F(AddingTheSnapIn, logsInAndSaysSo) {
 
     EXPECT_EQ(wizard_.boxes,
               (std::vector<Wizard::Box>{{u"Connected to Vantrel Print Management Server", u"Success!", 0x40}}));
-    EXPECT_EQ(wizard_.owners, std::vector<console::WindowHandle>{5});
+    EXPECT_EQ(wizard_.owners, std::vector<platform::WindowHandle>{5});
     EXPECT_EQ(snapin::loginDone, 1U);
 }
 

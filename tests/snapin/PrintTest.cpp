@@ -12,8 +12,8 @@ namespace {
 
 using console::DataObjectType;
 using console::Event;
-using console::Key;
 using console::Result;
+using platform::Key;
 using snapin::Print;
 using Presses = std::vector<std::vector<Key>>;
 using Strings = std::vector<std::string>;
@@ -34,7 +34,7 @@ TEST_F(PrintSnapIn, startsTheLoginAndThenSetsTheImages) {
     EXPECT_EQ(print_.console(), &console_);
     expectCancel();
     platform_.ui.runThreads();
-    EXPECT_EQ(platform_.ui.closed, std::vector<console::WindowHandle>{console_.mainWindow});
+    EXPECT_EQ(platform_.ui.closed, std::vector<platform::WindowHandle>{console_.mainWindow});
 }
 
 TEST_F(PrintSnapIn, doesNotStartWithoutAListOfImages) {
@@ -49,7 +49,7 @@ TEST_F(PrintSnapIn, doesNotStartWithoutAListOfImages) {
 TEST_F(PrintSnapIn, inTheSameProcessAsAnotherFindsTheLoginDoneAndOnlyPressesF5) {
     support::FakeLoginServer server({1});
     expectLogin(server);
-    platform_.ui.expectBox(console::Answer::ok);
+    platform_.ui.expectBox(platform::Answer::ok);
     print_.Initialize(console_);
     Print second(platform_);
 

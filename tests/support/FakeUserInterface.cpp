@@ -1,6 +1,6 @@
 #include "tests/support/FakeUserInterface.h"
 
-#include "console/Form.h"
+#include "forms/Form.h"
 
 #include <gtest/gtest.h>
 
@@ -10,49 +10,49 @@
 namespace support {
 namespace {
 
-bool offers(std::uint32_t style, console::Answer answer) {
-    using console::Answer;
-    switch (style & console::boxStyle::buttonMask) {
-    case console::boxStyle::ok:
+bool offers(std::uint32_t style, platform::Answer answer) {
+    using platform::Answer;
+    switch (style & platform::boxStyle::buttonMask) {
+    case platform::boxStyle::ok:
         return answer == Answer::ok;
-    case console::boxStyle::okCancel:
+    case platform::boxStyle::okCancel:
         return answer == Answer::ok || answer == Answer::cancel;
-    case console::boxStyle::yesNo:
+    case platform::boxStyle::yesNo:
         return answer == Answer::yes || answer == Answer::no;
-    case console::boxStyle::yesNoCancel:
+    case platform::boxStyle::yesNoCancel:
         return answer != Answer::ok;
     default:
         return false;
     }
 }
 
-console::Answer escape(std::uint32_t style) {
-    switch (style & console::boxStyle::buttonMask) {
-    case console::boxStyle::ok:
-        return console::Answer::ok;
-    case console::boxStyle::yesNo:
-        return console::Answer::no;
+platform::Answer escape(std::uint32_t style) {
+    switch (style & platform::boxStyle::buttonMask) {
+    case platform::boxStyle::ok:
+        return platform::Answer::ok;
+    case platform::boxStyle::yesNo:
+        return platform::Answer::no;
     default:
-        return console::Answer::cancel;
+        return platform::Answer::cancel;
     }
 }
 
 // Sees to it that a form ends once and that its controls are told apart from those of other forms.
-class Watcher final : public console::FormObserver {
+class Watcher final : public forms::FormObserver {
 public:
-    explicit Watcher(const console::Form& form) : form_(form) {}
+    explicit Watcher(const forms::Form& form) : form_(form) {}
 
-    void controlChanged(console::Control& control, console::Aspect /*aspect*/) override {
+    void controlChanged(forms::Control& control, forms::Aspect /*aspect*/) override {
         EXPECT_EQ(&control.form(), &form_) << "a control of another form";
     }
-    void titleChanged(console::Form& form) override { EXPECT_EQ(&form, &form_); }
-    void formEnded(console::Form& form) override {
+    void titleChanged(forms::Form& form) override { EXPECT_EQ(&form, &form_); }
+    void formEnded(forms::Form& form) override {
         EXPECT_EQ(&form, &form_);
         EXPECT_FALSE(std::exchange(ended_, true)) << "ended twice";
     }
 
 private:
-    const console::Form& form_;
+    const forms::Form& form_;
     bool ended_ = false;
 };
 
@@ -68,11 +68,11 @@ FakeUserInterface::~FakeUserInterface() {
     }
 }
 
-void FakeUserInterface::expectBox(console::Answer answer, std::optional<wire::WideString> text) {
+void FakeUserInterface::expectBox(platform::Answer answer, std::optional<wire::WideString> text) {
     expected_.push_back({answer, std::move(text), nullptr});
 }
 
-void FakeUserInterface::expectForm(std::function<void(console::Form&)> script) {
+void FakeUserInterface::expectForm(std::function<void(forms::Form&)> script) {
     expected_.push_back({std::nullopt, std::nullopt, std::move(script)});
 }
 
@@ -84,8 +84,8 @@ void FakeUserInterface::runThreads() {
     }
 }
 
-console::Answer FakeUserInterface::messageBox(console::WindowHandle owner, const wire::WideString& text,
-                                              const wire::WideString& caption, std::uint32_t style) {
+platform::Answer FakeUserInterface::messageBox(platform::WindowHandle owner, const wire::WideString& text,
+                                               const wire::WideString& caption, std::uint32_t style) {
     boxes_.push_back({owner, text, caption, style});
     if (expected_.empty() || !expected_.front().answer) {
         ADD_FAILURE() << "unexpected box \"" << wire::toUtf8(text) << "\" (" << wire::toUtf8(caption) << ")";
@@ -100,7 +100,7 @@ console::Answer FakeUserInterface::messageBox(console::WindowHandle owner, const
     return *next.answer;
 }
 
-int FakeUserInterface::runModal(console::Form& form, console::WindowHandle owner) {
+int FakeUserInterface::runModal(forms::Form& form, platform::WindowHandle owner) {
     formOwners.push_back(owner);
     Watcher watcher(form);
     form.setObserver(&watcher);
@@ -128,7 +128,7 @@ int FakeUserInterface::runModal(console::Form& form, console::WindowHandle owner
     return form.result();
 }
 
-void FakeUserInterface::press(std::span<const console::Key> keys) {
+void FakeUserInterface::press(std::span<const platform::Key> keys) {
     presses_.emplace_back(keys.begin(), keys.end());
 }
 

@@ -1,20 +1,20 @@
 #pragma once
 
-#include "console/Locale.h"
+#include "platform/Locale.h"
 
 #include <utility>
 
 namespace support {
 
 // A locale with the number format that a test gives it.
-class FixedLocale final : public console::Locale {
+class FixedLocale final : public platform::Locale {
 public:
-    explicit FixedLocale(console::NumberFormat format) : format_(std::move(format)) {}
+    explicit FixedLocale(platform::NumberFormat format) : format_(std::move(format)) {}
 
-    const console::NumberFormat& numberFormat() const override { return format_; }
+    const platform::NumberFormat& numberFormat() const override { return format_; }
 
 private:
-    console::NumberFormat format_;
+    platform::NumberFormat format_;
 };
 
 // A comma before the decimals and points between the thousands, as in German.

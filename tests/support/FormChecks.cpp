@@ -1,23 +1,23 @@
 #include "tests/support/FormChecks.h"
 
-#include "console/Button.h"
-#include "console/CaseFold.h"
-#include "console/CheckBox.h"
-#include "console/ControlVisitor.h"
-#include "console/DateTimePicker.h"
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/FormWalk.h"
-#include "console/Group.h"
-#include "console/Label.h"
-#include "console/ListView.h"
-#include "console/MultiLineEdit.h"
-#include "console/Page.h"
-#include "console/PasswordBox.h"
-#include "console/RadioButton.h"
-#include "console/RadioGroup.h"
-#include "console/Tabs.h"
-#include "console/TreeView.h"
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ControlVisitor.h"
+#include "forms/DateTimePicker.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/FormWalk.h"
+#include "forms/Group.h"
+#include "forms/Label.h"
+#include "forms/ListView.h"
+#include "forms/MultiLineEdit.h"
+#include "forms/Page.h"
+#include "forms/PasswordBox.h"
+#include "forms/RadioButton.h"
+#include "forms/RadioGroup.h"
+#include "forms/Tabs.h"
+#include "forms/TreeView.h"
+#include "wire/CaseFold.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@
 #include <utility>
 
 namespace support {
-using namespace console;
+using namespace forms;
 
 namespace {
 
@@ -64,7 +64,7 @@ public:
 };
 
 wire::WideString withoutCase(wire::WideString text) {
-    std::ranges::transform(text, text.begin(), foldCase);
+    std::ranges::transform(text, text.begin(), wire::foldCase);
     return text;
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "console/Form.h"
+#include "forms/Form.h"
 
 namespace support {
 
 // Fails the running test unless every host can draw the form and a person can tell its parts apart: a title, a label on
 // every control that needs one, labels unique within their group, pages with titles, and a name that finds each
 // control.
-void expectSound(console::Form& form);
+void expectSound(forms::Form& form);
 
 } // namespace support

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/SettingsStore.h"
+#include "platform/SettingsStore.h"
 
 #include <map>
 #include <string>
@@ -8,7 +8,7 @@
 namespace support {
 
 // Settings that a test sets up and looks at.
-class MemorySettingsStore final : public console::SettingsStore {
+class MemorySettingsStore final : public platform::SettingsStore {
 public:
     std::map<std::string, wire::WideString, std::less<>> values;
     bool opens = true;  // false: there is no store to read

@@ -111,7 +111,7 @@ Result RecordingConsole::SelectScopeItem(ScopeId scopeId) {
     return Result::ok;
 }
 
-Result RecordingConsole::GetMainWindow(console::WindowHandle& window) {
+Result RecordingConsole::GetMainWindow(platform::WindowHandle& window) {
     window = mainWindow;
     return Result::ok;
 }

@@ -70,7 +70,7 @@ public:
     std::int32_t automaticColumnWidth = 100;
     bool hasVerbs = true;
     bool hasImages = true;
-    console::WindowHandle mainWindow = 11;
+    platform::WindowHandle mainWindow = 11;
 
     // Puts a node into the tree, as the console does with the root, without noting it down.
     console::ScopeId addScopeRow(const NodePointer& node, console::ScopeId parent = 0);
@@ -89,7 +89,7 @@ public:
     console::Result QueryConsoleVerb(console::IConsoleVerb*& verb) override;
     console::Result QueryScopeImageList(console::IImageList*& images) override;
     console::Result SelectScopeItem(console::ScopeId scopeId) override;
-    console::Result GetMainWindow(console::WindowHandle& window) override;
+    console::Result GetMainWindow(platform::WindowHandle& window) override;
 
     console::Result InsertItem(console::ScopeItemFields& row) override;
     console::Result SetItem(console::ScopeId scopeId, std::u16string_view text) override;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "client/CommandObserver.h"
-#include "console/Platform.h"
+#include "platform/Platform.h"
 #include "tests/support/FakeUserInterface.h"
 #include "tests/support/MemorySettingsStore.h"
 
@@ -17,13 +17,13 @@ public:
     FakeUserInterface ui;
     MemorySettingsStore settings;
 
-    explicit TestPlatform(const console::Locale& locale = console::plainLocale)
+    explicit TestPlatform(const platform::Locale& locale = platform::plainLocale)
         : platform_{.ui = ui, .settings = settings, .hooks = {.commands = &observer_}, .locale = locale} {}
     TestPlatform(const TestPlatform&) = delete;
     TestPlatform& operator=(const TestPlatform&) = delete;
 
-    operator console::Platform&() { return platform_; } // NOLINT(google-explicit-constructor): stands in for one
-    console::Platform& platform() { return platform_; }
+    operator platform::Platform&() { return platform_; } // NOLINT(google-explicit-constructor): stands in for one
+    platform::Platform& platform() { return platform_; }
 
     // What the guards of nodes and forms have stopped, as "where: what".
     const std::vector<std::string>& failures() const { return observer_.failures; }
@@ -44,7 +44,7 @@ private:
     };
 
     Observer observer_;
-    console::Platform platform_;
+    platform::Platform platform_;
 };
 
 } // namespace support

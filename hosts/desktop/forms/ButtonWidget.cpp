@@ -1,10 +1,10 @@
 #include "hosts/desktop/forms/ButtonWidget.h"
 
-#include "console/Button.h"
+#include "forms/Button.h"
 
 namespace desktop {
 
-ButtonWidget::ButtonWidget(console::Button& button) : ControlWidget(button), button_(new QPushButton) {
+ButtonWidget::ButtonWidget(forms::Button& button) : ControlWidget(button), button_(new QPushButton) {
     setUp(button_);
     connect(button_, &QPushButton::clicked, this, [&button] { button.userPressed(); });
 }

@@ -4,16 +4,16 @@
 
 #include <QPushButton>
 
-namespace console {
+namespace forms {
 class Button;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A push button of a form.
 class ButtonWidget final : public ControlWidget {
 public:
-    explicit ButtonWidget(console::Button& button);
+    explicit ButtonWidget(forms::Button& button);
 
     Place place() const override { return Place::button; }
     bool takesAccessKey() const override { return true; }
@@ -22,7 +22,7 @@ public:
     void showAsDefault(bool isDefault) { button_->setDefault(isDefault); }
 
 protected:
-    void update(console::Aspect /*aspect*/) override {}
+    void update(forms::Aspect /*aspect*/) override {}
 
 private:
     QPushButton* button_;

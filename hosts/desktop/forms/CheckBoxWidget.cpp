@@ -1,19 +1,19 @@
 #include "hosts/desktop/forms/CheckBoxWidget.h"
 
-#include "console/CheckBox.h"
+#include "forms/CheckBox.h"
 
 namespace desktop {
 
-CheckBoxWidget::CheckBoxWidget(console::CheckBox& checkBox)
+CheckBoxWidget::CheckBoxWidget(forms::CheckBox& checkBox)
     : ControlWidget(checkBox), checkBox_(checkBox), box_(new QCheckBox) {
     setUp(box_);
     connect(box_, &QCheckBox::clicked, this, [this](bool checked) {
         checkBox_.userChecked(checked);
-        mirror(console::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // as it stands, should it have been refused
     });
 }
 
-void CheckBoxWidget::update(console::Aspect /*aspect*/) {
+void CheckBoxWidget::update(forms::Aspect /*aspect*/) {
     box_->setChecked(checkBox_.checked());
 }
 

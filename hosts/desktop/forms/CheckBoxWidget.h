@@ -4,26 +4,26 @@
 
 #include <QCheckBox>
 
-namespace console {
+namespace forms {
 class CheckBox;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A check box of a form.
 class CheckBoxWidget final : public ControlWidget {
 public:
-    explicit CheckBoxWidget(console::CheckBox& checkBox);
+    explicit CheckBoxWidget(forms::CheckBox& checkBox);
 
     Place place() const override { return Place::field; }
     bool takesAccessKey() const override { return true; }
     void showLabel(const QString& text) override { box_->setText(text); }
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
-    console::CheckBox& checkBox_;
+    forms::CheckBox& checkBox_;
     QCheckBox* box_;
 };
 

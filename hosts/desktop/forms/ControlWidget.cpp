@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/ControlWidget.h"
 
-#include "console/FormWalk.h"
+#include "forms/FormWalk.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QFocusEvent>
@@ -38,27 +38,27 @@ void ControlWidget::showLabel(const QString& text) {
     }
 }
 
-void ControlWidget::mirror(console::Aspect aspect) {
+void ControlWidget::mirror(forms::Aspect aspect) {
     mirrored([&] {
         switch (aspect) {
-        case console::Aspect::enabled:
+        case forms::Aspect::enabled:
             enable(control_.enabled());
             if (caption_ != nullptr) {
                 caption_->setEnabled(control_.enabled());
             }
             break;
-        case console::Aspect::visible:
+        case forms::Aspect::visible:
             field_->setVisible(control_.visible());
             if (caption_ != nullptr) {
                 caption_->setVisible(control_.visible());
             }
             break;
-        case console::Aspect::label:
+        case forms::Aspect::label:
             for (QWidget* stop : tabStops()) {
                 stop->setAccessibleName(shownLine(spokenName()));
             }
             break;
-        case console::Aspect::focus:
+        case forms::Aspect::focus:
             if (widget_->isVisible() && control_.reachable()) {
                 widget_->window()->activateWindow();
                 widget_->setFocus(Qt::TabFocusReason);
@@ -78,15 +78,15 @@ int ControlWidget::comfortableWidth() const {
 }
 
 wire::WideString ControlWidget::spokenName() const {
-    const console::Control* named = &control_;
+    const forms::Control* named = &control_;
     while (named->label().empty() && named->beside() != nullptr) {
         named = named->beside();
     }
-    return console::readableLabel(named->label());
+    return forms::readableLabel(named->label());
 }
 
 void ControlWidget::mirrorAll() {
-    using enum console::Aspect;
+    using enum forms::Aspect;
     for (const auto aspect : {label, columns, limits, items, text, selection, enabled}) {
         mirror(aspect);
     }
@@ -121,7 +121,7 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::Show && watched == widget_) {
         // A list has its size from now on, and can bring its selected row in sight.
-        QTimer::singleShot(0, this, [this] { mirror(console::Aspect::selection); });
+        QTimer::singleShot(0, this, [this] { mirror(forms::Aspect::selection); });
     }
     if (event->type() == QEvent::FocusOut && watched == widget_) {
         const auto reason = static_cast<const QFocusEvent*>(event)->reason();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/Control.h"
+#include "forms/Control.h"
 
 #include <QLabel>
 
@@ -39,21 +39,21 @@ public:
     // The label, trimmed, with its access key marked.
     virtual void showLabel(const QString& text);
     // The form has changed this about the control.
-    void mirror(console::Aspect aspect);
+    void mirror(forms::Aspect aspect);
     // Brings everything to the screen.
     void mirrorAll();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    explicit ControlWidget(console::Control& control) : control_(control) {}
+    explicit ControlWidget(forms::Control& control) : control_(control) {}
 
     // Once, by the constructor. With a caption when the control has a label that the widget does not show itself.
     void setUp(QWidget* widget, QWidget* field = nullptr);
     void addCaption();
     // Of a box that a person reads and writes texts in: about thirty characters.
     int comfortableWidth() const;
-    virtual void update(console::Aspect aspect) = 0;
+    virtual void update(forms::Aspect aspect) = 0;
     // What a screen reader calls it: a box without a label like what it stands beside.
     virtual wire::WideString spokenName() const;
     virtual void enable(bool enabled) { field_->setEnabled(enabled); }
@@ -71,7 +71,7 @@ protected:
 private:
     void refillNow();
 
-    console::Control& control_;
+    forms::Control& control_;
     QWidget* widget_ = nullptr;
     QWidget* field_ = nullptr;
     QLabel* caption_ = nullptr;

@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/DateTimeWidget.h"
 
-#include "console/DateTimePicker.h"
+#include "forms/DateTimePicker.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -11,7 +11,7 @@ namespace desktop {
 namespace {
 
 // The form that is asked for, else the locale's short one, with all digits of the year and with seconds.
-QString displayFormat(const console::DateTimeOptions& options) {
+QString displayFormat(const forms::DateTimeOptions& options) {
     if (!options.format.empty()) {
         return QString::fromUtf16(options.format.data(), static_cast<qsizetype>(options.format.size()));
     }
@@ -30,11 +30,11 @@ QString displayFormat(const console::DateTimeOptions& options) {
     return options.date ? date : time;
 }
 
-QDateTime toQt(const console::DateTime& value) {
+QDateTime toQt(const forms::DateTime& value) {
     return {QDate(value.year, value.month, value.day), QTime(value.hour, value.minute, value.second), Qt::UTC};
 }
 
-console::DateTime fromQt(const QDateTime& value) {
+forms::DateTime fromQt(const QDateTime& value) {
     const QDate date = value.date();
     const QTime time = value.time();
     return {.year = static_cast<std::int16_t>(date.year()),
@@ -53,7 +53,7 @@ QDateTime now() {
 
 } // namespace
 
-DateTimeWidget::DateTimeWidget(console::DateTimePicker& picker)
+DateTimeWidget::DateTimeWidget(forms::DateTimePicker& picker)
     : ControlWidget(picker), picker_(picker), edit_(new QDateTimeEdit(now())) {
     edit_->setTimeSpec(Qt::UTC);
     edit_->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
@@ -89,11 +89,11 @@ std::vector<QWidget*> DateTimeWidget::tabStops() const {
 void DateTimeWidget::picked() {
     const bool has = set_ == nullptr || set_->isChecked();
     picker_.userPicked(has ? std::optional(fromQt(edit_->dateTime())) : std::nullopt);
-    mirror(console::Aspect::text); // as it stands, should it have been refused
+    mirror(forms::Aspect::text); // as it stands, should it have been refused
 }
 
-void DateTimeWidget::update(console::Aspect aspect) {
-    if (aspect != console::Aspect::text) {
+void DateTimeWidget::update(forms::Aspect aspect) {
+    if (aspect != forms::Aspect::text) {
         return;
     }
     const auto& value = picker_.value();

@@ -5,27 +5,27 @@
 #include <QCheckBox>
 #include <QDateTimeEdit>
 
-namespace console {
+namespace forms {
 class DateTimePicker;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A box in which a day, a time or both are picked; one that may have no value has a check box in front.
 class DateTimeWidget final : public ControlWidget {
 public:
-    explicit DateTimeWidget(console::DateTimePicker& picker);
+    explicit DateTimeWidget(forms::DateTimePicker& picker);
 
     std::vector<QWidget*> tabStops() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
     void picked();
 
-    console::DateTimePicker& picker_;
+    forms::DateTimePicker& picker_;
     QDateTimeEdit* edit_;
     QCheckBox* set_ = nullptr; // null where there is always a value
 };

@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/DropListWidget.h"
 
-#include "console/DropList.h"
+#include "forms/DropList.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 namespace desktop {
@@ -11,7 +11,7 @@ constexpr int rowsAtOnce = 15;
 
 } // namespace
 
-DropListWidget::DropListWidget(console::DropList& list) : ControlWidget(list), list_(list), box_(new QComboBox) {
+DropListWidget::DropListWidget(forms::DropList& list) : ControlWidget(list), list_(list), box_(new QComboBox) {
     setUp(box_);
     addCaption();
     box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -21,14 +21,14 @@ DropListWidget::DropListWidget(console::DropList& list) : ControlWidget(list), l
         if (!stale() && row >= 0) {
             list_.userSelected(static_cast<std::size_t>(row));
         }
-        mirror(console::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // as it stands, should it have been refused
     });
 }
 
-void DropListWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::items) {
+void DropListWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::items) {
         refillSoon();
-    } else if (aspect == console::Aspect::selection && !stale()) {
+    } else if (aspect == forms::Aspect::selection && !stale()) {
         showSelection();
     }
 }

@@ -4,27 +4,27 @@
 
 #include <QComboBox>
 
-namespace console {
+namespace forms {
 class DropList;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A drop list of a form.
 class DropListWidget final : public ControlWidget {
 public:
-    explicit DropListWidget(console::DropList& list);
+    explicit DropListWidget(forms::DropList& list);
 
-    console::DropList& list() const { return list_; }
+    forms::DropList& list() const { return list_; }
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
     void refill() override;
 
 private:
     void showSelection();
 
-    console::DropList& list_;
+    forms::DropList& list_;
     QComboBox* box_;
 };
 

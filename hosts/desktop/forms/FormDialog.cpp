@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/FormDialog.h"
 
-#include "console/Form.h"
+#include "forms/Form.h"
 #include "hosts/desktop/forms/FormScroll.h"
 #include "hosts/desktop/forms/FormWidgets.h"
 #include "hosts/desktop/forms/ShownText.h"
@@ -38,7 +38,7 @@ QWidget* frontWindow() {
 
 } // namespace
 
-FormDialog::FormDialog(console::Form& form, QWidget* owner)
+FormDialog::FormDialog(forms::Form& form, QWidget* owner)
     : QDialog(owner != nullptr ? owner : frontWindow()), form_(form), scroll_(new FormScroll(this)) {
     form_.setObserver(this);
     form_.open(); // while nothing is drawn, so that what it fills is drawn once
@@ -55,7 +55,7 @@ FormDialog::~FormDialog() {
     form_.setObserver(nullptr);
 }
 
-QWidget* FormDialog::widgetOf(const console::Control& control) const {
+QWidget* FormDialog::widgetOf(const forms::Control& control) const {
     const ControlWidget* const widget = widgets_->find(control);
     return widget != nullptr ? widget->widget() : nullptr;
 }
@@ -91,10 +91,10 @@ void FormDialog::showEvent(QShowEvent* event) {
     }
 }
 
-void FormDialog::controlChanged(console::Control& control, console::Aspect aspect) {
+void FormDialog::controlChanged(forms::Control& control, forms::Aspect aspect) {
     if (widgets_ != nullptr) {
         widgets_->controlChanged(control, aspect);
-        if (aspect == console::Aspect::visible && isVisible() && !std::exchange(growsSoon_, true)) {
+        if (aspect == forms::Aspect::visible && isVisible() && !std::exchange(growsSoon_, true)) {
             QMetaObject::invokeMethod(this, &FormDialog::growToFit, Qt::QueuedConnection);
         }
     }
@@ -107,16 +107,16 @@ void FormDialog::growToFit() {
     resize(size().expandedTo(sizeHint()));
 }
 
-void FormDialog::titleChanged(console::Form& form) {
+void FormDialog::titleChanged(forms::Form& form) {
     // A window would take "[*]" for the place of a mark of its own.
     setWindowTitle(shownLine(form.title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
-void FormDialog::formEnded(console::Form& form) {
+void FormDialog::formEnded(forms::Form& form) {
     done(form.result());
 }
 
-int runForm(console::Form& form, QWidget* owner) {
+int runForm(forms::Form& form, QWidget* owner) {
     FormDialog dialog(form, owner);
     if (!form.ended()) {
         dialog.exec();

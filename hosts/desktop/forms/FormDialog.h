@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/FormObserver.h"
+#include "forms/FormObserver.h"
 
 #include <QDialog>
 
@@ -13,15 +13,15 @@ class FormWidgets;
 
 // A form of the console as a dialog, drawn from its controls alone. Attaches itself as the form's observer, opens the
 // form, and closes once the form has ended. The form outlives it.
-class FormDialog final : public QDialog, private console::FormObserver {
+class FormDialog final : public QDialog, private forms::FormObserver {
 public:
-    explicit FormDialog(console::Form& form, QWidget* owner = nullptr);
+    explicit FormDialog(forms::Form& form, QWidget* owner = nullptr);
     FormDialog(const FormDialog&) = delete;
     FormDialog& operator=(const FormDialog&) = delete;
     ~FormDialog() override;
 
     // The widget that stands for a control: the box, list or button itself, not its label.
-    QWidget* widgetOf(const console::Control& control) const;
+    QWidget* widgetOf(const forms::Control& control) const;
 
     // Escape and the closing cross: the form decides, as it does about its Cancel button.
     void reject() override;
@@ -34,11 +34,11 @@ private:
     // Once a handler that has made controls visible is through.
     void growToFit();
 
-    void controlChanged(console::Control& control, console::Aspect aspect) override;
-    void titleChanged(console::Form& form) override;
-    void formEnded(console::Form& form) override;
+    void controlChanged(forms::Control& control, forms::Aspect aspect) override;
+    void titleChanged(forms::Form& form) override;
+    void formEnded(forms::Form& form) override;
 
-    console::Form& form_;
+    forms::Form& form_;
     FormScroll* scroll_;
     bool growsSoon_ = false;
     std::unique_ptr<FormWidgets> widgets_;
@@ -46,6 +46,6 @@ private:
 
 // Shows the form over its owner until it ends, by the person or by its own code, and answers its result. Forms nest: a
 // null owner means the front-most dialog. A program that quits meanwhile ends it as cancelled.
-int runForm(console::Form& form, QWidget* owner = nullptr);
+int runForm(forms::Form& form, QWidget* owner = nullptr);
 
 } // namespace desktop

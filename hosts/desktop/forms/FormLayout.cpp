@@ -1,12 +1,12 @@
 #include "hosts/desktop/forms/FormLayout.h"
 
-#include "console/Button.h"
-#include "console/DropList.h"
-#include "console/Form.h"
-#include "console/Group.h"
-#include "console/Page.h"
-#include "console/RadioButton.h"
-#include "console/Tabs.h"
+#include "forms/Button.h"
+#include "forms/DropList.h"
+#include "forms/Form.h"
+#include "forms/Group.h"
+#include "forms/Page.h"
+#include "forms/RadioButton.h"
+#include "forms/Tabs.h"
 #include "hosts/desktop/forms/CheckBoxWidget.h"
 #include "hosts/desktop/forms/GroupWidget.h"
 #include "hosts/desktop/forms/LineWidget.h"
@@ -49,8 +49,8 @@ void keepAtTop(QBoxLayout& column) {
     }
 }
 
-bool isGroup(const console::Control* control) {
-    return dynamic_cast<const console::Group*>(control) != nullptr;
+bool isGroup(const forms::Control* control) {
+    return dynamic_cast<const forms::Group*>(control) != nullptr;
 }
 
 bool growsDownwards(const QWidget& field) {
@@ -64,26 +64,26 @@ bool isBox(const ControlWidget& widget) {
 
 } // namespace
 
-void FormLayout::lay(console::Form& form, QWidget& surface) {
+void FormLayout::lay(forms::Form& form, QWidget& surface) {
     QBoxLayout& column = layContainer(form, surface);
     keepAtTop(column);
     auto* const foot = new QHBoxLayout;
     foot->addStretch(1);
-    for (console::Button* button : {&form.okButton(), &form.cancelButton()}) {
+    for (forms::Button* button : {&form.okButton(), &form.cancelButton()}) {
         foot->addWidget(widgetOf_(*button)->field());
     }
     column.addSpacing(gap);
     column.addLayout(foot);
 }
 
-QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidget& surface) {
+QBoxLayout& FormLayout::layContainer(const forms::Container& container, QWidget& surface) {
     auto* const column = new QVBoxLayout(&surface);
     column->setSpacing(gap);
     const Controls controls(container.controls());
     pairWithNeighbours(controls);
 
-    std::vector<console::Control*> rows;
-    std::vector<console::Control*> buttons;
+    std::vector<forms::Control*> rows;
+    std::vector<forms::Control*> buttons;
     const auto layWhatWaits = [&] {
         layRows(rows, *column);
         if (!buttons.empty()) {
@@ -92,7 +92,7 @@ QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidge
         rows.clear();
         buttons.clear();
     };
-    for (console::Control* control : controls) {
+    for (forms::Control* control : controls) {
         const ControlWidget& widget = *widgetOf_(*control);
         if (shares_.contains(control)) {
             continue;
@@ -116,9 +116,9 @@ QBoxLayout& FormLayout::layContainer(const console::Container& container, QWidge
 
 // What goes with another control shares its line, and buttons that of a box that they fill or act on.
 void FormLayout::pairWithNeighbours(Controls controls) {
-    for (console::Control* control : controls) {
-        const console::Control* const partner = control->beside();
-        const bool holdsOthers = isGroup(control) || dynamic_cast<const console::Tabs*>(control) != nullptr;
+    for (forms::Control* control : controls) {
+        const forms::Control* const partner = control->beside();
+        const bool holdsOthers = isGroup(control) || dynamic_cast<const forms::Tabs*>(control) != nullptr;
         const bool fits = !holdsOthers || (isGroup(control) && isGroup(partner));
         if (fits && partner != nullptr && partner != control &&
             std::ranges::find(controls, partner) != controls.end()) {
@@ -126,8 +126,8 @@ void FormLayout::pairWithNeighbours(Controls controls) {
             shares_.insert(control);
         }
     }
-    const console::Control* box = nullptr;
-    for (console::Control* control : controls) {
+    const forms::Control* box = nullptr;
+    for (forms::Control* control : controls) {
         const ControlWidget& widget = *widgetOf_(*control);
         if (widget.place() == Place::button && shares_.contains(control)) {
             continue;
@@ -139,19 +139,19 @@ void FormLayout::pairWithNeighbours(Controls controls) {
         }
         const auto* const line = dynamic_cast<const LineWidget*>(&widget);
         const bool isFilledByButtons =
-            dynamic_cast<const console::DropList*>(control) != nullptr || (line != nullptr && line->filledByForm());
+            dynamic_cast<const forms::DropList*>(control) != nullptr || (line != nullptr && line->filledByForm());
         box = isFilledByButtons ? control : nullptr;
     }
 }
 
-FormLayout::Controls FormLayout::besideOf(const console::Control& control) const {
+FormLayout::Controls FormLayout::besideOf(const forms::Control& control) const {
     const auto found = beside_.find(&control);
     return found != beside_.end() ? Controls(found->second) : Controls();
 }
 
-void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
-    std::vector<console::Control*> groups{&control};
-    std::vector<console::Control*> below;
+void FormLayout::layBlock(forms::Control& control, QBoxLayout& column) {
+    std::vector<forms::Control*> groups{&control};
+    std::vector<forms::Control*> below;
     std::ranges::partition_copy(besideOf(control), std::back_inserter(groups), std::back_inserter(below), isGroup);
     const ControlWidget& widget = *widgetOf_(control);
     if (widget.caption() != nullptr) {
@@ -177,7 +177,7 @@ void FormLayout::layBlock(console::Control& control, QBoxLayout& column) {
 QLayout* FormLayout::sideBySide(Controls groups) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(gap);
-    for (console::Control* each : groups) {
+    for (forms::Control* each : groups) {
         QWidget& field = *widgetOf_(*each)->field();
         line->addWidget(&field, 1);
         layInside(*each);
@@ -189,10 +189,10 @@ QLayout* FormLayout::sideBySide(Controls groups) {
 }
 
 // What stands on the control itself.
-void FormLayout::layInside(console::Control& control) {
+void FormLayout::layInside(forms::Control& control) {
     const ControlWidget& widget = *widgetOf_(control);
     if (const auto* const group = dynamic_cast<const GroupWidget*>(&widget)) {
-        layContainer(dynamic_cast<const console::Group&>(control), group->surface());
+        layContainer(dynamic_cast<const forms::Group&>(control), group->surface());
     } else if (const auto* const tabs = dynamic_cast<const TabsWidget*>(&widget)) {
         for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
             keepAtTop(layContainer(*tabs->tabs().pages()[page], tabs->surface(page)));
@@ -213,7 +213,7 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
     for (const Controls part : {controls.first(half), controls.subspan(half)}) {
         if (!part.empty()) {
             auto* const rows = newRows();
-            for (console::Control* control : part) {
+            for (forms::Control* control : part) {
                 layRow(*control, *rows, withLabels);
             }
             columns->addLayout(rows, 1);
@@ -223,7 +223,7 @@ void FormLayout::layRows(Controls controls, QBoxLayout& column) {
     column.addLayout(columns, grows ? textStretch : 0);
 }
 
-void FormLayout::layRow(console::Control& control, QFormLayout& rows, bool withLabels) {
+void FormLayout::layRow(forms::Control& control, QFormLayout& rows, bool withLabels) {
     const ControlWidget& widget = *widgetOf_(control);
     const Controls shared = besideOf(control);
     const int row = rows.rowCount();
@@ -250,7 +250,7 @@ QLayout* FormLayout::lineOf(Controls controls) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(gap);
     bool grows = false;
-    const std::function<void(const console::Control*)> add = [&](const console::Control* control) {
+    const std::function<void(const forms::Control*)> add = [&](const forms::Control* control) {
         const ControlWidget& widget = *widgetOf_(*control);
         if (shares_.contains(control) && widget.caption() != nullptr) {
             line->addWidget(widget.caption());

@@ -12,12 +12,12 @@ class QFormLayout;
 class QLayout;
 class QWidget;
 
-namespace console {
+namespace forms {
 class Container;
 class Control;
 class DropList;
 class Form;
-} // namespace console
+} // namespace forms
 
 namespace desktop {
 
@@ -27,30 +27,30 @@ class ControlWidget;
 // stand beside each other side by side, the standard buttons at the foot.
 class FormLayout {
 public:
-    using Finder = std::function<ControlWidget*(const console::Control&)>;
+    using Finder = std::function<ControlWidget*(const forms::Control&)>;
 
     explicit FormLayout(Finder widgetOf) : widgetOf_(std::move(widgetOf)) {}
 
-    void lay(console::Form& form, QWidget& surface);
+    void lay(forms::Form& form, QWidget& surface);
 
 private:
-    using Controls = std::span<console::Control* const>;
+    using Controls = std::span<forms::Control* const>;
 
-    QBoxLayout& layContainer(const console::Container& container, QWidget& surface);
+    QBoxLayout& layContainer(const forms::Container& container, QWidget& surface);
     void pairWithNeighbours(Controls controls);
-    Controls besideOf(const console::Control& control) const;
-    void layBlock(console::Control& control, QBoxLayout& column);
+    Controls besideOf(const forms::Control& control) const;
+    void layBlock(forms::Control& control, QBoxLayout& column);
     QLayout* sideBySide(Controls groups);
-    void layInside(console::Control& control);
+    void layInside(forms::Control& control);
     void layRows(Controls controls, QBoxLayout& column);
-    void layRow(console::Control& control, QFormLayout& rows, bool withLabels);
+    void layRow(forms::Control& control, QFormLayout& rows, bool withLabels);
     // With what stands beside each of them.
     QLayout* lineOf(Controls controls);
 
     Finder widgetOf_;
-    std::map<const console::Control*, std::vector<console::Control*>>
-        beside_;                               // what shares a line with it, or stands below it
-    std::set<const console::Control*> shares_; // what stands in another's line
+    std::map<const forms::Control*, std::vector<forms::Control*>>
+        beside_;                             // what shares a line with it, or stands below it
+    std::set<const forms::Control*> shares_; // what stands in another's line
 };
 
 } // namespace desktop

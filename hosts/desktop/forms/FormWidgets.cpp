@@ -1,10 +1,10 @@
 #include "hosts/desktop/forms/FormWidgets.h"
 
-#include "console/Button.h"
-#include "console/Form.h"
-#include "console/FormWalk.h"
-#include "console/Page.h"
-#include "console/Tabs.h"
+#include "forms/Button.h"
+#include "forms/Form.h"
+#include "forms/FormWalk.h"
+#include "forms/Page.h"
+#include "forms/Tabs.h"
 #include "hosts/desktop/forms/AccessKeys.h"
 #include "hosts/desktop/forms/ButtonWidget.h"
 #include "hosts/desktop/forms/FormLayout.h"
@@ -23,15 +23,15 @@ constexpr std::size_t standardButtons = 2;
 
 } // namespace
 
-FormWidgets::FormWidgets(console::Form& form, QWidget& surface) : form_(form) {
+FormWidgets::FormWidgets(forms::Form& form, QWidget& surface) : form_(form) {
     WidgetMaker maker(surface);
-    for (console::Control* control : console::controlsOf(form)) {
+    for (forms::Control* control : forms::controlsOf(form)) {
         auto widget = maker.make(*control);
         inOrder_.push_back(widget.get());
         widgets_.emplace(control, std::move(widget));
     }
     giveAccessKeys();
-    FormLayout([this](const console::Control& control) { return find(control); }).lay(form, surface);
+    FormLayout([this](const forms::Control& control) { return find(control); }).lay(form, surface);
     for (ControlWidget* widget : inOrder_) {
         widget->mirrorAll();
     }
@@ -41,28 +41,27 @@ FormWidgets::FormWidgets(console::Form& form, QWidget& surface) : form_(form) {
 
 FormWidgets::~FormWidgets() = default;
 
-ControlWidget* FormWidgets::find(const console::Control& control) const {
+ControlWidget* FormWidgets::find(const forms::Control& control) const {
     const auto found = widgets_.find(&control);
     return found != widgets_.end() ? found->second.get() : nullptr;
 }
 
-void FormWidgets::controlChanged(console::Control& control, console::Aspect aspect) {
+void FormWidgets::controlChanged(forms::Control& control, forms::Aspect aspect) {
     ControlWidget* const widget = find(control);
     if (widget == nullptr) {
         return;
     }
-    if (aspect == console::Aspect::label) {
+    if (aspect == forms::Aspect::label) {
         giveAccessKeys();
     }
     widget->mirror(aspect);
-    if (aspect == console::Aspect::enabled || aspect == console::Aspect::visible ||
-        aspect == console::Aspect::selection) {
+    if (aspect == forms::Aspect::enabled || aspect == forms::Aspect::visible || aspect == forms::Aspect::selection) {
         showDefaultButton();
     }
 }
 
 ControlWidget* FormWidgets::first() const {
-    const auto canTakeIt = [this](console::Control& control) {
+    const auto canTakeIt = [this](forms::Control& control) {
         const auto* const widget = find(control);
         return widget != nullptr && control.reachable() && !widget->tabStops().empty() &&
                widget->widget()->focusPolicy() != Qt::NoFocus;
@@ -70,7 +69,7 @@ ControlWidget* FormWidgets::first() const {
     if (form_.focus() != nullptr && canTakeIt(*form_.focus())) {
         return find(*form_.focus());
     }
-    const auto all = console::controlsOf(form_);
+    const auto all = forms::controlsOf(form_);
     const auto found = std::ranges::find_if(all, [&](auto* control) { return canTakeIt(*control); });
     return found != all.end() ? find(**found) : nullptr;
 }
@@ -84,9 +83,9 @@ void FormWidgets::giveAccessKeys() {
         keys.add(exactText(label), isStandard ? AccessKeys::Claim::keeps : AccessKeys::Claim::givesWay);
         takers.push_back(std::move(taker));
     };
-    auto controls = console::controlsOf(form_);
+    auto controls = forms::controlsOf(form_);
     std::rotate(controls.begin(), controls.end() - standardButtons, controls.end());
-    for (console::Control* control : controls) {
+    for (forms::Control* control : controls) {
         ControlWidget* const widget = find(*control);
         if (auto* const tabs = dynamic_cast<TabsWidget*>(widget)) {
             for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
@@ -96,7 +95,7 @@ void FormWidgets::giveAccessKeys() {
         } else if (widget->takesAccessKey()) {
             add(control->label(), [widget](const QString& label) { widget->showLabel(label); });
         } else {
-            widget->showLabel(withoutAccessKey(shownLine(console::readableLabel(control->label()))));
+            widget->showLabel(withoutAccessKey(shownLine(forms::readableLabel(control->label()))));
         }
     }
     const auto texts = keys.assign();
@@ -107,8 +106,8 @@ void FormWidgets::giveAccessKeys() {
 
 void FormWidgets::showDefaultButton() {
     bool found = false;
-    for (console::Control* control : console::controlsOf(form_)) {
-        if (const auto* const button = dynamic_cast<const console::Button*>(control)) {
+    for (forms::Control* control : forms::controlsOf(form_)) {
+        if (const auto* const button = dynamic_cast<const forms::Button*>(control)) {
             const bool isIt = !found && button->isDefault() && button->reachable();
             static_cast<ButtonWidget*>(find(*control))->showAsDefault(isIt);
             found = found || isIt;

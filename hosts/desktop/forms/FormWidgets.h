@@ -1,15 +1,15 @@
 #pragma once
 
-#include "console/Control.h"
+#include "forms/Control.h"
 #include "hosts/desktop/forms/ControlWidget.h"
 
 #include <map>
 #include <memory>
 #include <vector>
 
-namespace console {
+namespace forms {
 class Form;
-} // namespace console
+} // namespace forms
 
 namespace desktop {
 
@@ -17,13 +17,13 @@ namespace desktop {
 class FormWidgets {
 public:
     // On an empty surface, which owns the widgets.
-    FormWidgets(console::Form& form, QWidget& surface);
+    FormWidgets(forms::Form& form, QWidget& surface);
     FormWidgets(const FormWidgets&) = delete;
     FormWidgets& operator=(const FormWidgets&) = delete;
     ~FormWidgets();
 
-    ControlWidget* find(const console::Control& control) const;
-    void controlChanged(console::Control& control, console::Aspect aspect);
+    ControlWidget* find(const forms::Control& control) const;
+    void controlChanged(forms::Control& control, forms::Aspect aspect);
     // What the keyboard begins on: where the form has set the focus, or else the first that takes it; null for none.
     ControlWidget* first() const;
 
@@ -32,8 +32,8 @@ private:
     void showDefaultButton();
     void orderTabStops();
 
-    console::Form& form_;
-    std::map<const console::Control*, std::unique_ptr<ControlWidget>> widgets_;
+    forms::Form& form_;
+    std::map<const forms::Control*, std::unique_ptr<ControlWidget>> widgets_;
     std::vector<ControlWidget*> inOrder_;
 };
 

@@ -1,10 +1,10 @@
 #include "hosts/desktop/forms/GroupWidget.h"
 
-#include "console/Group.h"
+#include "forms/Group.h"
 
 namespace desktop {
 
-GroupWidget::GroupWidget(console::Group& group) : ControlWidget(group), box_(new QGroupBox) {
+GroupWidget::GroupWidget(forms::Group& group) : ControlWidget(group), box_(new QGroupBox) {
     setUp(box_);
 }
 

@@ -4,23 +4,23 @@
 
 #include <QGroupBox>
 
-namespace console {
+namespace forms {
 class Group;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A frame with a caption around controls that belong together.
 class GroupWidget final : public ControlWidget {
 public:
-    explicit GroupWidget(console::Group& group);
+    explicit GroupWidget(forms::Group& group);
 
     QWidget& surface() const { return *box_; }
     Place place() const override { return Place::block; }
     void showLabel(const QString& text) override { box_->setTitle(text); }
 
 protected:
-    void update(console::Aspect /*aspect*/) override {}
+    void update(forms::Aspect /*aspect*/) override {}
 
 private:
     QGroupBox* box_;

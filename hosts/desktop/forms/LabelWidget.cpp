@@ -1,11 +1,11 @@
 #include "hosts/desktop/forms/LabelWidget.h"
 
-#include "console/Label.h"
+#include "forms/Label.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 namespace desktop {
 
-LabelWidget::LabelWidget(console::Label& label) : ControlWidget(label), label_(label), text_(new QLabel) {
+LabelWidget::LabelWidget(forms::Label& label) : ControlWidget(label), label_(label), text_(new QLabel) {
     setUp(text_);
     addCaption();
     text_->setTextFormat(Qt::PlainText);
@@ -14,8 +14,8 @@ LabelWidget::LabelWidget(console::Label& label) : ControlWidget(label), label_(l
     text_->setWordWrap(label.beside() == nullptr); // a remark behind a box stays in its line
 }
 
-void LabelWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::text) {
+void LabelWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::text) {
         const QString shown = shownText(label_.text());
         const QString name = shownLine(spokenName());
         text_->setText(shown);

@@ -2,26 +2,26 @@
 
 #include "hosts/desktop/forms/ControlWidget.h"
 
-namespace console {
+namespace forms {
 class Label;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A text that is only shown.
 class LabelWidget final : public ControlWidget {
 public:
-    explicit LabelWidget(console::Label& label);
+    explicit LabelWidget(forms::Label& label);
 
     Place place() const override { return caption() != nullptr ? Place::row : Place::block; }
     bool takesAccessKey() const override { return false; }
     std::vector<QWidget*> tabStops() const override { return {}; }
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
-    console::Label& label_;
+    forms::Label& label_;
     QLabel* text_;
 };
 

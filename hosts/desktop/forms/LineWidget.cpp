@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/LineWidget.h"
 
-#include "console/TextControl.h"
+#include "forms/TextControl.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QGuiApplication>
@@ -20,7 +20,7 @@ QString digitsOf(const QString& text) {
 
 } // namespace
 
-LineWidget::LineWidget(console::TextControl& box, QLineEdit::EchoMode echo)
+LineWidget::LineWidget(forms::TextControl& box, QLineEdit::EchoMode echo)
     : ControlWidget(box), box_(box), line_(new QLineEdit) {
     setUp(line_);
     addCaption();
@@ -45,19 +45,19 @@ void LineWidget::typed(const QString& text) {
     const int cursor = line_->cursorPosition();
     const QString digits = digitsOf(text);
     if (box_.options().digitsOnly && exactText(digits) != box_.text() && box_.userTyped(exactText(digits))) {
-        mirror(console::Aspect::text);
+        mirror(forms::Aspect::text);
         line_->setCursorPosition(static_cast<int>(digitsOf(text.left(cursor)).size()));
         return;
     }
     const auto added = text.size() - static_cast<qsizetype>(box_.text().size());
-    mirror(console::Aspect::text);
+    mirror(forms::Aspect::text);
     line_->setCursorPosition(cursor - static_cast<int>(std::max<qsizetype>(added, 0)));
 }
 
-void LineWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::text) {
+void LineWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::text) {
         showText();
-    } else if (aspect == console::Aspect::limits) {
+    } else if (aspect == forms::Aspect::limits) {
         showLimits();
     }
 }

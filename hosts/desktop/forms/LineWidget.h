@@ -4,22 +4,22 @@
 
 #include <QLineEdit>
 
-namespace console {
+namespace forms {
 class TextControl;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A box for one line of text, or for a password.
 class LineWidget final : public ControlWidget {
 public:
-    LineWidget(console::TextControl& box, QLineEdit::EchoMode echo);
+    LineWidget(forms::TextControl& box, QLineEdit::EchoMode echo);
 
     // Nobody types into it: buttons beside it do that.
     bool filledByForm() const;
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
     void typed(const QString& text);
@@ -27,7 +27,7 @@ private:
     void showLimits();
     void setMaxLength(int length);
 
-    console::TextControl& box_;
+    forms::TextControl& box_;
     QLineEdit* line_;
 };
 

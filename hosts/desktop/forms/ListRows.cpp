@@ -1,11 +1,11 @@
 #include "hosts/desktop/forms/ListRows.h"
 
-#include "console/ListView.h"
+#include "forms/ListView.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 namespace desktop {
 
-ListRows::ListRows(const console::ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
+ListRows::ListRows(const forms::ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
 void ListRows::refresh() {
     beginResetModel();

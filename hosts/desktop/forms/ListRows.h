@@ -2,16 +2,16 @@
 
 #include <QAbstractTableModel>
 
-namespace console {
+namespace forms {
 class ListView;
-}
+} // namespace forms
 
 namespace desktop {
 
 // The rows and columns of a list of a form, in the form's order.
 class ListRows final : public QAbstractTableModel {
 public:
-    explicit ListRows(const console::ListView& list, QObject* parent);
+    explicit ListRows(const forms::ListView& list, QObject* parent);
 
     // Takes over what the list holds now.
     void refresh();
@@ -22,7 +22,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    const console::ListView& list_;
+    const forms::ListView& list_;
     int rows_ = 0;
     int columns_ = 0;
 };

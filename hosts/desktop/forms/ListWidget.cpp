@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/ListWidget.h"
 
-#include "console/ListView.h"
+#include "forms/ListView.h"
 #include "hosts/desktop/forms/ListRows.h"
 #include "hosts/desktop/forms/NaturalOrder.h"
 #include "hosts/desktop/forms/RoomyView.h"
@@ -16,7 +16,7 @@
 
 namespace desktop {
 
-ListWidget::ListWidget(console::ListView& list)
+ListWidget::ListWidget(forms::ListView& list)
     : ControlWidget(list),
       list_(list),
       view_(new RoomyView),
@@ -53,7 +53,7 @@ void ListWidget::selected() {
     if (!stale()) {
         list_.userSelected(rows.isEmpty() ? std::nullopt : rowAt(rows.front()));
     }
-    mirror(console::Aspect::selection); // as it stands, should it have been refused
+    mirror(forms::Aspect::selection); // as it stands, should it have been refused
 }
 
 void ListWidget::open(const QModelIndex& shown) {
@@ -103,11 +103,11 @@ bool ListWidget::eventFilter(QObject* watched, QEvent* event) {
     return ControlWidget::eventFilter(watched, event);
 }
 
-void ListWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::items || aspect == console::Aspect::columns) {
-        newColumns_ = newColumns_ || aspect == console::Aspect::columns;
+void ListWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::items || aspect == forms::Aspect::columns) {
+        newColumns_ = newColumns_ || aspect == forms::Aspect::columns;
         refillSoon();
-    } else if (aspect == console::Aspect::selection && !stale()) {
+    } else if (aspect == forms::Aspect::selection && !stale()) {
         showSelection();
     }
 }

@@ -7,9 +7,9 @@
 
 #include <optional>
 
-namespace console {
+namespace forms {
 class ListView;
-}
+} // namespace forms
 
 namespace desktop {
 
@@ -19,13 +19,13 @@ class ListRows;
 // and Enter do what a double click does; the right button and the menu key open the menu of a row.
 class ListWidget final : public ControlWidget {
 public:
-    explicit ListWidget(console::ListView& list);
+    explicit ListWidget(forms::ListView& list);
 
     Place place() const override { return Place::block; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
     void refill() override;
 
 private:
@@ -36,7 +36,7 @@ private:
     void showRowMenu(const QModelIndex& shown, const QPoint& place);
     std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
 
-    console::ListView& list_;
+    forms::ListView& list_;
     QTreeView* view_;
     ListRows* rows_;
     QSortFilterProxyModel* sorted_;

@@ -1,7 +1,7 @@
 #include "hosts/desktop/forms/MessageBox.h"
 
-#include "hosts/desktop/SvgIcon.h"
 #include "hosts/desktop/forms/ShownText.h"
+#include "hosts/desktop/look/SvgIcon.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,8 +13,8 @@
 namespace desktop {
 namespace {
 
-using console::Answer;
-namespace boxStyle = console::boxStyle;
+using platform::Answer;
+namespace boxStyle = platform::boxStyle;
 
 struct Choice {
     QMessageBox::StandardButton button;

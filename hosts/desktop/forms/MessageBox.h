@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/UserInterface.h"
+#include "platform/UserInterface.h"
 
 class QWidget;
 
@@ -10,7 +10,7 @@ namespace desktop {
 // that it is the second. Nothing else of the program can be used meanwhile. The text is shown as plain text, whatever
 // it looks like. Escape answers cancel, or no where there is no cancel, or ok where it stands alone. A null owner means
 // the front-most dialog.
-console::Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
-                               std::uint32_t style);
+platform::Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
+                                std::uint32_t style);
 
 } // namespace desktop

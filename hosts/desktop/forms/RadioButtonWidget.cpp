@@ -1,13 +1,13 @@
 #include "hosts/desktop/forms/RadioButtonWidget.h"
 
-#include "console/RadioButton.h"
-#include "console/RadioGroup.h"
+#include "forms/RadioButton.h"
+#include "forms/RadioGroup.h"
 
 #include <QButtonGroup>
 
 namespace desktop {
 
-RadioButtonWidget::RadioButtonWidget(console::RadioButton& choice, QButtonGroup& group)
+RadioButtonWidget::RadioButtonWidget(forms::RadioButton& choice, QButtonGroup& group)
     : ControlWidget(choice), choice_(choice), button_(new QRadioButton) {
     setUp(button_);
     group.addButton(button_);
@@ -18,7 +18,7 @@ RadioButtonWidget::RadioButtonWidget(console::RadioButton& choice, QButtonGroup&
     });
 }
 
-void RadioButtonWidget::update(console::Aspect /*aspect*/) {
+void RadioButtonWidget::update(forms::Aspect /*aspect*/) {
     // The group lets go of the earlier choice by itself, and would refuse to do so otherwise.
     if (choice_.chosen()) {
         button_->setChecked(true);

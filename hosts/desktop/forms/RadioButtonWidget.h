@@ -6,9 +6,9 @@
 
 class QButtonGroup;
 
-namespace console {
+namespace forms {
 class RadioButton;
-}
+} // namespace forms
 
 namespace desktop {
 
@@ -16,18 +16,18 @@ namespace desktop {
 class RadioButtonWidget final : public ControlWidget {
 public:
     // The group holds the buttons of which one is chosen.
-    RadioButtonWidget(console::RadioButton& choice, QButtonGroup& group);
+    RadioButtonWidget(forms::RadioButton& choice, QButtonGroup& group);
 
-    console::RadioButton& choice() const { return choice_; }
+    forms::RadioButton& choice() const { return choice_; }
     Place place() const override { return Place::field; }
     bool takesAccessKey() const override { return true; }
     void showLabel(const QString& text) override { button_->setText(text); }
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
-    console::RadioButton& choice_;
+    forms::RadioButton& choice_;
     QRadioButton* button_;
 };
 

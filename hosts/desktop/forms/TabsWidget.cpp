@@ -1,12 +1,12 @@
 #include "hosts/desktop/forms/TabsWidget.h"
 
-#include "console/Tabs.h"
+#include "forms/Tabs.h"
 
 #include <QTabBar>
 
 namespace desktop {
 
-TabsWidget::TabsWidget(console::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pages_(new QTabWidget) {
+TabsWidget::TabsWidget(forms::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pages_(new QTabWidget) {
     setUp(pages_);
     // Its bar takes the keyboard, once.
     pages_->setFocusProxy(nullptr);
@@ -19,7 +19,7 @@ TabsWidget::TabsWidget(console::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), 
             return;
         }
         tabs_.userShowed(static_cast<std::size_t>(page));
-        mirror(console::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // as it stands, should it have been refused
     });
 }
 
@@ -31,8 +31,8 @@ std::vector<QWidget*> TabsWidget::tabStops() const {
     return {pages_->tabBar()};
 }
 
-void TabsWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::selection) {
+void TabsWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::selection) {
         pages_->setCurrentIndex(static_cast<int>(tabs_.current()));
     }
 }

@@ -4,18 +4,18 @@
 
 #include <QTabWidget>
 
-namespace console {
+namespace forms {
 class Tabs;
-}
+} // namespace forms
 
 namespace desktop {
 
 // The pages of a form, one of them in front.
 class TabsWidget final : public ControlWidget {
 public:
-    explicit TabsWidget(console::Tabs& tabs);
+    explicit TabsWidget(forms::Tabs& tabs);
 
-    console::Tabs& tabs() const { return tabs_; }
+    forms::Tabs& tabs() const { return tabs_; }
     QWidget& surface(std::size_t page) const { return *pages_->widget(static_cast<int>(page)); }
     // The title of a page, with its access key marked.
     void showTitle(std::size_t page, const QString& title);
@@ -25,12 +25,12 @@ public:
     std::vector<QWidget*> tabStops() const override;
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
     // As on the platform, what stands on the page in front stays usable.
     void enable(bool enabled) override;
 
 private:
-    console::Tabs& tabs_;
+    forms::Tabs& tabs_;
     QTabWidget* pages_;
 };
 

@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/TextWidget.h"
 
-#include "console/MultiLineEdit.h"
+#include "forms/MultiLineEdit.h"
 #include "hosts/desktop/forms/LinesEdit.h"
 #include "hosts/desktop/forms/ShownText.h"
 
@@ -8,7 +8,7 @@
 #include <QTextBlock>
 
 namespace desktop {
-TextWidget::TextWidget(console::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new LinesEdit) {
+TextWidget::TextWidget(forms::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new LinesEdit) {
     setUp(edit_);
     addCaption();
     edit_->setTabChangesFocus(true);
@@ -38,7 +38,7 @@ void TextWidget::typed() {
             return;
         }
     }
-    mirror(console::Aspect::text);
+    mirror(forms::Aspect::text);
 }
 
 // Takes the end of what was typed or pasted away again, which stands before the cursor.
@@ -54,15 +54,15 @@ void TextWidget::cutToLimit(std::size_t tooMany) {
     });
 }
 
-void TextWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::limits) {
+void TextWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::limits) {
         edit_->setReadOnly(box_.options().readOnly);
         QPalette palette;
         if (box_.options().readOnly) {
             palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
         }
         edit_->setPalette(palette);
-    } else if (aspect == console::Aspect::text && typedText() != box_.text()) {
+    } else if (aspect == forms::Aspect::text && typedText() != box_.text()) {
         edit_->setPlainText(exactText(box_.text()));
     }
 }

@@ -4,9 +4,9 @@
 
 #include <QPlainTextEdit>
 
-namespace console {
+namespace forms {
 class MultiLineEdit;
-}
+} // namespace forms
 
 namespace desktop {
 
@@ -14,17 +14,17 @@ namespace desktop {
 // platform end it, so that a text made here looks the same there.
 class TextWidget final : public ControlWidget {
 public:
-    explicit TextWidget(console::MultiLineEdit& box);
+    explicit TextWidget(forms::MultiLineEdit& box);
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
 
 private:
     void typed();
     wire::WideString typedText() const;
     void cutToLimit(std::size_t tooMany);
 
-    console::MultiLineEdit& box_;
+    forms::MultiLineEdit& box_;
     QPlainTextEdit* edit_;
 };
 

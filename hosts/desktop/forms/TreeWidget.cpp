@@ -1,6 +1,6 @@
 #include "hosts/desktop/forms/TreeWidget.h"
 
-#include "console/TreeView.h"
+#include "forms/TreeView.h"
 #include "hosts/desktop/forms/RoomyView.h"
 #include "hosts/desktop/forms/ShownText.h"
 
@@ -12,7 +12,7 @@ constexpr std::size_t fewEnoughToShowAll = 200;
 
 } // namespace
 
-TreeWidget::TreeWidget(console::TreeView& tree)
+TreeWidget::TreeWidget(forms::TreeView& tree)
     : ControlWidget(tree), tree_(tree), view_(new RoomyView), model_(new QStandardItemModel(this)) {
     setUp(view_);
     addCaption();
@@ -32,13 +32,13 @@ void TreeWidget::selected() {
     if (!stale() && !rows.isEmpty()) {
         tree_.userSelected(rows.front().data(numberRole).value<std::size_t>());
     }
-    mirror(console::Aspect::selection); // as it stands: a person can't take the selection away
+    mirror(forms::Aspect::selection); // as it stands: a person can't take the selection away
 }
 
-void TreeWidget::update(console::Aspect aspect) {
-    if (aspect == console::Aspect::items) {
+void TreeWidget::update(forms::Aspect aspect) {
+    if (aspect == forms::Aspect::items) {
         refillSoon();
-    } else if (aspect == console::Aspect::selection && !stale()) {
+    } else if (aspect == forms::Aspect::selection && !stale()) {
         showSelection();
     }
 }

@@ -7,28 +7,28 @@
 
 #include <vector>
 
-namespace console {
+namespace forms {
 class TreeView;
-}
+} // namespace forms
 
 namespace desktop {
 
 // A tree of a form, in which one item is picked.
 class TreeWidget final : public ControlWidget {
 public:
-    explicit TreeWidget(console::TreeView& tree);
+    explicit TreeWidget(forms::TreeView& tree);
 
     Place place() const override { return Place::block; }
 
 protected:
-    void update(console::Aspect aspect) override;
+    void update(forms::Aspect aspect) override;
     void refill() override;
 
 private:
     void showSelection();
     void selected();
 
-    console::TreeView& tree_;
+    forms::TreeView& tree_;
     QTreeView* view_;
     QStandardItemModel* model_;
     std::vector<QStandardItem*> items_; // by their numbers in the form

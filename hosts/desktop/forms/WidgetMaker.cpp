@@ -1,18 +1,18 @@
 #include "hosts/desktop/forms/WidgetMaker.h"
 
-#include "console/Button.h"
-#include "console/CheckBox.h"
-#include "console/DateTimePicker.h"
-#include "console/DropList.h"
-#include "console/EditBox.h"
-#include "console/Group.h"
-#include "console/Label.h"
-#include "console/ListView.h"
-#include "console/MultiLineEdit.h"
-#include "console/PasswordBox.h"
-#include "console/RadioButton.h"
-#include "console/Tabs.h"
-#include "console/TreeView.h"
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/DateTimePicker.h"
+#include "forms/DropList.h"
+#include "forms/EditBox.h"
+#include "forms/Group.h"
+#include "forms/Label.h"
+#include "forms/ListView.h"
+#include "forms/MultiLineEdit.h"
+#include "forms/PasswordBox.h"
+#include "forms/RadioButton.h"
+#include "forms/Tabs.h"
+#include "forms/TreeView.h"
 #include "hosts/desktop/forms/ButtonWidget.h"
 #include "hosts/desktop/forms/CheckBoxWidget.h"
 #include "hosts/desktop/forms/DateTimeWidget.h"
@@ -36,52 +36,52 @@ WidgetMaker::WidgetMaker(QWidget& owner) : owner_(owner) {}
 
 WidgetMaker::~WidgetMaker() = default;
 
-std::unique_ptr<ControlWidget> WidgetMaker::make(console::Control& control) {
+std::unique_ptr<ControlWidget> WidgetMaker::make(forms::Control& control) {
     control.accept(*this);
     return std::move(made_);
 }
 
-void WidgetMaker::visit(console::Button& control) {
+void WidgetMaker::visit(forms::Button& control) {
     made_ = std::make_unique<ButtonWidget>(control);
 }
 
-void WidgetMaker::visit(console::CheckBox& control) {
+void WidgetMaker::visit(forms::CheckBox& control) {
     made_ = std::make_unique<CheckBoxWidget>(control);
 }
 
-void WidgetMaker::visit(console::DateTimePicker& control) {
+void WidgetMaker::visit(forms::DateTimePicker& control) {
     made_ = std::make_unique<DateTimeWidget>(control);
 }
 
-void WidgetMaker::visit(console::DropList& control) {
+void WidgetMaker::visit(forms::DropList& control) {
     made_ = std::make_unique<DropListWidget>(control);
 }
 
-void WidgetMaker::visit(console::EditBox& control) {
+void WidgetMaker::visit(forms::EditBox& control) {
     made_ = std::make_unique<LineWidget>(control, QLineEdit::Normal);
 }
 
-void WidgetMaker::visit(console::Group& control) {
+void WidgetMaker::visit(forms::Group& control) {
     made_ = std::make_unique<GroupWidget>(control);
 }
 
-void WidgetMaker::visit(console::Label& control) {
+void WidgetMaker::visit(forms::Label& control) {
     made_ = std::make_unique<LabelWidget>(control);
 }
 
-void WidgetMaker::visit(console::ListView& control) {
+void WidgetMaker::visit(forms::ListView& control) {
     made_ = std::make_unique<ListWidget>(control);
 }
 
-void WidgetMaker::visit(console::MultiLineEdit& control) {
+void WidgetMaker::visit(forms::MultiLineEdit& control) {
     made_ = std::make_unique<TextWidget>(control);
 }
 
-void WidgetMaker::visit(console::PasswordBox& control) {
+void WidgetMaker::visit(forms::PasswordBox& control) {
     made_ = std::make_unique<LineWidget>(control, QLineEdit::Password);
 }
 
-void WidgetMaker::visit(console::RadioButton& control) {
+void WidgetMaker::visit(forms::RadioButton& control) {
     QButtonGroup*& group = groups_[&control.group()];
     if (group == nullptr) {
         group = new QButtonGroup(&owner_);
@@ -89,11 +89,11 @@ void WidgetMaker::visit(console::RadioButton& control) {
     made_ = std::make_unique<RadioButtonWidget>(control, *group);
 }
 
-void WidgetMaker::visit(console::Tabs& control) {
+void WidgetMaker::visit(forms::Tabs& control) {
     made_ = std::make_unique<TabsWidget>(control);
 }
 
-void WidgetMaker::visit(console::TreeView& control) {
+void WidgetMaker::visit(forms::TreeView& control) {
     made_ = std::make_unique<TreeWidget>(control);
 }
 

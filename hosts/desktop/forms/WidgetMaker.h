@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console/ControlVisitor.h"
+#include "forms/ControlVisitor.h"
 
 #include <map>
 #include <memory>
@@ -8,41 +8,41 @@
 class QButtonGroup;
 class QWidget;
 
-namespace console {
+namespace forms {
 class Control;
 class RadioGroup;
-} // namespace console
+} // namespace forms
 
 namespace desktop {
 
 class ControlWidget;
 
 // Makes the widget for each kind of control.
-class WidgetMaker final : private console::ControlVisitor {
+class WidgetMaker final : private forms::ControlVisitor {
 public:
     // The owner is the dialog's surface.
     explicit WidgetMaker(QWidget& owner);
     ~WidgetMaker() override;
 
-    std::unique_ptr<ControlWidget> make(console::Control& control);
+    std::unique_ptr<ControlWidget> make(forms::Control& control);
 
 private:
-    void visit(console::Button& control) override;
-    void visit(console::CheckBox& control) override;
-    void visit(console::DateTimePicker& control) override;
-    void visit(console::DropList& control) override;
-    void visit(console::EditBox& control) override;
-    void visit(console::Group& control) override;
-    void visit(console::Label& control) override;
-    void visit(console::ListView& control) override;
-    void visit(console::MultiLineEdit& control) override;
-    void visit(console::PasswordBox& control) override;
-    void visit(console::RadioButton& control) override;
-    void visit(console::Tabs& control) override;
-    void visit(console::TreeView& control) override;
+    void visit(forms::Button& control) override;
+    void visit(forms::CheckBox& control) override;
+    void visit(forms::DateTimePicker& control) override;
+    void visit(forms::DropList& control) override;
+    void visit(forms::EditBox& control) override;
+    void visit(forms::Group& control) override;
+    void visit(forms::Label& control) override;
+    void visit(forms::ListView& control) override;
+    void visit(forms::MultiLineEdit& control) override;
+    void visit(forms::PasswordBox& control) override;
+    void visit(forms::RadioButton& control) override;
+    void visit(forms::Tabs& control) override;
+    void visit(forms::TreeView& control) override;
 
     QWidget& owner_;
-    std::map<const console::RadioGroup*, QButtonGroup*> groups_;
+    std::map<const forms::RadioGroup*, QButtonGroup*> groups_;
     std::unique_ptr<ControlWidget> made_;
 };
 

@@ -1,14 +1,14 @@
 #include "hosts/desktop/pictures/DialogPictures.h"
 
 #include "client/CQVXAdminClassProperties.h"
-#include "console/IniSettingsStore.h"
-#include "hosts/desktop/DesktopUserInterface.h"
-#include "hosts/desktop/PrefilledSettings.h"
+#include "hosts/common/IniSettingsStore.h"
 #include "hosts/desktop/forms/FormDialog.h"
 #include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/pictures/Framed.h"
 #include "hosts/desktop/pictures/RuleGroupSamples.h"
 #include "hosts/desktop/pictures/RuleSamples.h"
+#include "hosts/desktop/window/DesktopUserInterface.h"
+#include "hosts/desktop/window/PrefilledSettings.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionDeletion.h"
 #include "snapin/AuthenticationDlg.h"
@@ -44,23 +44,23 @@ QImage boxPicture() {
         image = framed(*box);
         box->close();
     });
-    showMessageBox(nullptr, regions::deleteRegionQuestion, u"Warning", console::boxStyle::okCancel);
+    showMessageBox(nullptr, regions::deleteRegionQuestion, u"Warning", platform::boxStyle::okCancel);
     return image;
 }
 
 std::vector<std::pair<QString, QImage>> picturesOf(const std::vector<Sample>& samples) {
     const QTemporaryDir folder;
-    console::IniSettingsStore store(std::filesystem::path(folder.filePath(QStringLiteral("none.ini")).toStdString()));
+    common::IniSettingsStore store(std::filesystem::path(folder.filePath(QStringLiteral("none.ini")).toStdString()));
     PrefilledSettings settings(store, {{"ServerName", u"print.example.com"},
                                        {"ServerPort", u"5005"},
                                        {"UserName", u"admin"},
                                        {"DomainName", u"EXAMPLE"}});
     shell::TaskQueue tasks;
     DesktopUserInterface ui(tasks);
-    console::Platform platform{.ui = ui,
-                               .settings = settings,
-                               .productVersion = std::array<std::uint16_t, 4>{
-                                   VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0}};
+    platform::Platform platform{.ui = ui,
+                                .settings = settings,
+                                .productVersion = std::array<std::uint16_t, 4>{
+                                    VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0}};
     std::vector<std::pair<QString, QImage>> pictures;
     for (const Sample& each : samples) {
         const auto form = each.make(platform);

@@ -1,6 +1,6 @@
 #include "hosts/desktop/pictures/IconSheet.h"
 
-#include "hosts/desktop/IconStrips.h"
+#include "hosts/desktop/look/IconStrips.h"
 
 #include <QGuiApplication>
 #include <QPainter>

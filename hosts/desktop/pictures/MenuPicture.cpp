@@ -1,7 +1,7 @@
 #include "hosts/desktop/pictures/MenuPicture.h"
 
-#include "hosts/desktop/MainWindow.h"
-#include "hosts/desktop/Text.h"
+#include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/window/MainWindow.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -42,7 +42,7 @@ QImage pictureWithMenu(Session& session, MainWindow& window) {
 
 } // namespace
 
-std::optional<QImage> menuPicture(console::SettingsStore& settings, const QString& password, const QString& path) {
+std::optional<QImage> menuPicture(platform::SettingsStore& settings, const QString& password, const QString& path) {
     const QTemporaryDir folder;
     ViewSettings viewSettings(folder.filePath(QStringLiteral("desktop.ini")));
     const IconStrips icons;

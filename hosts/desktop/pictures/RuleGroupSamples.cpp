@@ -38,21 +38,21 @@ FilledGroup fullestGroup() {
     return fullest;
 }
 
-std::unique_ptr<console::Form> groupToEdit(console::Platform& platform) {
+std::unique_ptr<forms::Form> groupToEdit(platform::Platform& platform) {
     return std::make_unique<rules::NewRuleGroupDlg>(platform, fullestGroup().group);
 }
 
-void selectAnEntry(console::Form& form) {
+void selectAnEntry(forms::Form& form) {
     dynamic_cast<rules::NewRuleGroupDlg&>(form).entries.select(1);
     dynamic_cast<rules::NewRuleGroupDlg&>(form).entries.userSelected(1);
 }
 
 template <rules::AddRuleEntryDlg::Mode mode>
-std::unique_ptr<console::Form> entryToMake(console::Platform& platform) {
+std::unique_ptr<forms::Form> entryToMake(platform::Platform& platform) {
     return std::make_unique<rules::AddRuleEntryDlg>(platform, mode, placeIn({}));
 }
 
-void applyALimit(console::Form& form) {
+void applyALimit(forms::Form& form) {
     auto& fields = dynamic_cast<rules::AddRuleEntryDlg&>(form).fields;
     enter(fields.name, u"Students print little");
     enter(fields.comment, u"Ten pages a job, all but the staff");
@@ -60,21 +60,21 @@ void applyALimit(console::Form& form) {
     fields.affected.list.userSelected(1);
 }
 
-void parsePrintJobs(console::Form& form) {
+void parsePrintJobs(forms::Form& form) {
     auto& fields = dynamic_cast<rules::AddRuleEntryDlg&>(form).fields;
     fields.type.selectText(u"Parse print job");
     fields.type.userSelected(fields.type.selection().value_or(0));
     enter(fields.name, u"Count pages");
 }
 
-std::unique_ptr<console::Form> entryToEdit(console::Platform& platform) {
+std::unique_ptr<forms::Form> entryToEdit(platform::Platform& platform) {
     const auto [group, entries] = fullestGroup();
     const auto found = std::ranges::find_if(entries, [](const auto& entry) { return !entry.comment.empty(); });
     return std::make_unique<rules::CNewRuleDialog>(platform, placeIn(group),
                                                    found != entries.end() ? *found : entries.at(0));
 }
 
-std::unique_ptr<console::Form> partyToEdit(console::Platform& platform) {
+std::unique_ptr<forms::Form> partyToEdit(platform::Platform& platform) {
     static std::vector<protocol::AffectedRecord> affected;
     static rules::SavedChoice saved;
     client::CQVXAdminClass client;
@@ -83,7 +83,7 @@ std::unique_ptr<console::Form> partyToEdit(console::Platform& platform) {
                                                 affected.at(0));
 }
 
-void leave(console::Form& /*form*/) {}
+void leave(forms::Form& /*form*/) {}
 
 } // namespace
 

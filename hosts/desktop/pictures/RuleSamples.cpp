@@ -12,7 +12,7 @@
 namespace desktop {
 namespace {
 
-std::unique_ptr<console::Form> planToEdit(console::Platform& platform) {
+std::unique_ptr<forms::Form> planToEdit(platform::Platform& platform) {
     client::CQVXAdminClass client;
     std::vector<protocol::PricePlanRecord> plans;
     client.listPricePlans(plans);
@@ -57,7 +57,7 @@ void warn(rules::NewMessageDlg& dialog) {
     dialog.icon.select(2);
 }
 
-std::unique_ptr<console::Form> limitToEdit(console::Platform& platform) {
+std::unique_ptr<forms::Form> limitToEdit(platform::Platform& platform) {
     client::CQVXAdminClass client;
     std::vector<std::string> ids;
     std::vector<wire::WideString> names;
@@ -71,13 +71,13 @@ std::unique_ptr<console::Form> limitToEdit(console::Platform& platform) {
     return std::make_unique<rules::PageLimitDlg>(platform, found != limits.end() ? *found : limits.at(0));
 }
 
-std::unique_ptr<console::Form> searchForQueues(console::Platform& platform) {
+std::unique_ptr<forms::Form> searchForQueues(platform::Platform& platform) {
     static std::string id;
     static wire::WideString name;
     return std::make_unique<rules::SearchDestinationDlg>(platform, id, name);
 }
 
-void searchAll(console::Form& form) {
+void searchAll(forms::Form& form) {
     dynamic_cast<rules::SearchDestinationDlg&>(form).searchButton.userPressed();
 }
 
@@ -85,9 +85,9 @@ void searchAll(console::Form& form) {
 
 std::vector<Sample> ruleSamples() {
     return {
-        {"price-plan", planToEdit, [](console::Form&) {}},
+        {"price-plan", planToEdit, [](forms::Form&) {}},
         sample<rules::NewPricePlanDlg>("price-plan-absolute", priceAbsolutely),
-        {"page-limit", limitToEdit, [](console::Form&) {}},
+        {"page-limit", limitToEdit, [](forms::Form&) {}},
         {"search-destination", searchForQueues, searchAll},
         sample<rules::ShortIdDlg>("short-id", reserveForAWhile),
         sample<rules::NewMessageDlg>("user-message", warn),

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "console/Form.h"
-#include "console/TextControl.h"
+#include "forms/Form.h"
+#include "forms/TextControl.h"
 
 #include <functional>
 #include <memory>
@@ -11,18 +11,18 @@ namespace desktop {
 // A dialog for a picture, filled as a person would have it.
 struct Sample {
     const char* name;
-    std::function<std::unique_ptr<console::Form>(console::Platform&)> make;
-    std::function<void(console::Form&)> fill;
+    std::function<std::unique_ptr<forms::Form>(platform::Platform&)> make;
+    std::function<void(forms::Form&)> fill;
 };
 
 template <class Dialog, class... Arguments>
 Sample sample(const char* name, std::function<void(Dialog&)> fill, Arguments... arguments) {
-    return {name, [=](console::Platform& platform) { return std::make_unique<Dialog>(platform, arguments...); },
-            [fill](console::Form& form) { fill(dynamic_cast<Dialog&>(form)); }};
+    return {name, [=](platform::Platform& platform) { return std::make_unique<Dialog>(platform, arguments...); },
+            [fill](forms::Form& form) { fill(dynamic_cast<Dialog&>(form)); }};
 }
 
 // Types the text where the picture shows it.
-inline void enter(console::TextControl& box, const wire::WideString& text) {
+inline void enter(forms::TextControl& box, const wire::WideString& text) {
     box.setText(text);
     box.userTyped(text);
 }

@@ -1,9 +1,9 @@
-#include "console/IniSettingsStore.h"
-#include "hosts/desktop/Application.h"
-#include "hosts/desktop/Look.h"
+#include "hosts/common/IniSettingsStore.h"
+#include "hosts/desktop/look/ColorScheme.h"
 #include "hosts/desktop/pictures/DialogPictures.h"
 #include "hosts/desktop/pictures/IconSheet.h"
 #include "hosts/desktop/pictures/MenuPicture.h"
+#include "hosts/desktop/window/Application.h"
 
 #include <QDir>
 
@@ -27,18 +27,18 @@ bool save(const QImage& image, const QDir& folder, const QString& name, const QS
 int main(int argc, char** argv) {
     const desktop::Application application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    const auto look = arguments.size() == 5 ? desktop::lookNamed(arguments[1]) : std::nullopt;
+    const auto look = arguments.size() == 5 ? desktop::colorSchemeNamed(arguments[1]) : std::nullopt;
     if (!look) {
         std::fputs("vantrel-pictures light|dark FOLDER SETTINGS PATH\n", stderr);
         return 2;
     }
-    desktop::applyLook(*look);
+    desktop::applyColorScheme(*look);
     const QDir folder(arguments[2]);
     bool done = save(desktop::iconSheet(), folder, QStringLiteral("icons"), arguments[1]);
     for (const auto& [name, image] : desktop::dialogPictures()) {
         done = save(image, folder, name, arguments[1]) && done;
     }
-    console::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
+    common::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
     const auto menu = desktop::menuPicture(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
     done = save(menu.value_or(QImage()), folder, QStringLiteral("menu"), arguments[1]) && done;
     // What the menu needed, a login, these need too.

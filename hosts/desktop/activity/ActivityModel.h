@@ -1,0 +1,26 @@
+#pragma once
+
+#include "hosts/desktop/activity/ActivityLog.h"
+
+#include <QAbstractTableModel>
+
+namespace desktop {
+
+// The activity log for a Qt view.
+class ActivityModel final : public QAbstractTableModel {
+public:
+    // The log outlives it, and has no other listener.
+    explicit ActivityModel(ActivityLog& log);
+    ~ActivityModel() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    ActivityLog& log_;
+};
+
+} // namespace desktop

@@ -1,0 +1,178 @@
+#include "hosts/desktop/list/ColumnLayout.h"
+
+#include "hosts/desktop/list/FittedWidths.h"
+#include "hosts/desktop/look/Text.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace desktop {
+namespace {
+
+constexpr int automaticWidth = 120; // of a column that says nothing
+constexpr int onlyWidth = 260;      // at least, of a column that stands alone
+constexpr int leastWidth = 48;
+constexpr int saveDelay = 400; // milliseconds
+
+} // namespace
+
+ColumnLayout::ColumnLayout(const Operations& operations, ViewSettings& settings, QHeaderView& header)
+    : operations_(operations), settings_(settings), header_(header) {
+    saving_.setSingleShot(true);
+    saving_.setInterval(saveDelay);
+    saving_.callOnTimeout([this] { save(); });
+    connect(&header_, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
+        if (width > 0) {
+            widths_[column] = width;
+        }
+        changed();
+    });
+    connect(&header_, &QHeaderView::sectionMoved, this, [this] { changed(); });
+    header_.installEventFilter(this);
+}
+
+ColumnLayout::~ColumnLayout() {
+    if (saving_.isActive()) {
+        save();
+    }
+}
+
+QString ColumnLayout::key() const {
+    const auto& shell = operations_.shell();
+    const auto* const item = shell.tree().find(shell.selection().scope);
+    if (item == nullptr || shell.header().columns().empty()) {
+        return {};
+    }
+    QString key = toQString(std::string_view(item->node->className()));
+    for (const auto& column : shell.header().columns()) {
+        key += QLatin1Char(';') + oneLine(column.title);
+    }
+    return key.replace(QLatin1Char('/'), QLatin1Char(';')).replace(QLatin1Char('\\'), QLatin1Char(';'));
+}
+
+void ColumnLayout::apply() {
+    if (saving_.isActive()) {
+        save();
+    }
+    const QScopedValueRollback applying(applying_, true);
+    applyDefaults();
+    applied_ = key();
+    if (applied_.isEmpty()) {
+        return;
+    }
+    int place = 0;
+    for (const auto& choice : settings_.columns(applied_)) {
+        fitting_ = false;
+        for (int column = 0; column < header_.count(); ++column) {
+            if (header_.model()->headerData(column, Qt::Horizontal).toString() == choice.title) {
+                widths_[column] = choice.width;
+                header_.resizeSection(column, choice.width);
+                header_.moveSection(header_.visualIndex(column), place++);
+                setHidden(column, choice.hidden);
+                break;
+            }
+        }
+    }
+}
+
+void ColumnLayout::applyDefaults() {
+    for (int column = 0; column < header_.count(); ++column) {
+        header_.setSectionHidden(column, false);
+        header_.moveSection(header_.visualIndex(column), column);
+    }
+    fitting_ = true;
+    fit();
+}
+
+void ColumnLayout::fit() {
+    const auto& columns = operations_.shell().header().columns();
+    std::vector<ColumnWish> wishes;
+    for (int column = 0; column < header_.count(); ++column) {
+        const auto width = static_cast<std::size_t>(column) < columns.size()
+                               ? columns[static_cast<std::size_t>(column)].width
+                               : automaticWidth;
+        wishes.push_back({std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0),
+                          std::max(header_.sectionSizeHint(column), leastWidth)});
+    }
+    int column = 0;
+    for (const int width : fittedWidths(wishes, header_.width())) {
+        widths_[column] = width;
+        header_.resizeSection(column++, width);
+    }
+}
+
+// The list pane has become wider or narrower.
+bool ColumnLayout::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == &header_ && fitting_) {
+        const QScopedValueRollback applying(applying_, true);
+        fit();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ColumnLayout::reset() {
+    saving_.stop();
+    settings_.forgetColumns(applied_);
+    const QScopedValueRollback applying(applying_, true);
+    applyDefaults();
+}
+
+void ColumnLayout::showMenu(const QPoint& globalPosition) {
+    QMenu menu(&header_);
+    for (int place = 0; place < header_.count(); ++place) {
+        const int column = header_.logicalIndex(place);
+        const QString title = header_.model()->headerData(column, Qt::Horizontal).toString();
+        QAction* const action = menu.addAction(QString(title).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        action->setCheckable(true);
+        action->setChecked(!isHidden(column));
+        action->setEnabled(isHidden(column) || header_.count() - header_.hiddenSectionCount() > 1);
+        connect(action, &QAction::toggled, this, [this, column](bool shown) { setHidden(column, !shown); });
+    }
+    menu.addSeparator();
+    connect(menu.addAction(QStringLiteral("&Reset Columns")), &QAction::triggered, this, [this] { reset(); });
+    menu.exec(globalPosition);
+}
+
+bool ColumnLayout::isHidden(int column) const {
+    return header_.isSectionHidden(column);
+}
+
+void ColumnLayout::setHidden(int column, bool hidden) {
+    const bool isLast = header_.count() - header_.hiddenSectionCount() <= 1;
+    if (hidden != isHidden(column) && !(hidden && isLast)) {
+        header_.setSectionHidden(column, hidden);
+        changed();
+    }
+}
+
+void ColumnLayout::changed() {
+    if (!applying_) {
+        fitting_ = false;
+        wanted_ = current(); // another list may be shown before it is saved
+        saving_.start();
+    }
+}
+
+std::vector<ColumnChoice> ColumnLayout::current() const {
+    std::vector<ColumnChoice> columns;
+    for (int place = 0; place < header_.count(); ++place) {
+        const int column = header_.logicalIndex(place);
+        const auto width = widths_.find(column); // a hidden column has none in the header
+        columns.push_back({header_.model()->headerData(column, Qt::Horizontal).toString(),
+                           width != widths_.end() ? width->second : automaticWidth, isHidden(column)});
+    }
+    return columns;
+}
+
+void ColumnLayout::save() {
+    saving_.stop();
+    if (!applied_.isEmpty() && !wanted_.empty()) {
+        settings_.setColumns(applied_, wanted_);
+    }
+}
+
+} // namespace desktop

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "hosts/desktop/activity/Operations.h"
+#include "hosts/desktop/list/ViewSettings.h"
+
+#include <QTimer>
+
+#include <unordered_map>
+#include <vector>
+
+class QHeaderView;
+class QPoint;
+
+namespace desktop {
+
+// The columns of the list as the person wants them: which, in what order and how wide, remembered for each class of
+// node and each set of columns that it has. Until they are touched, all of them are in view.
+class ColumnLayout final : public QObject {
+public:
+    // All outlive it. The header is the list's.
+    ColumnLayout(const Operations& operations, ViewSettings& settings, QHeaderView& header);
+    ~ColumnLayout() override;
+
+    // The list has got other columns, or shows another node.
+    void apply();
+    // The columns as the node wants them.
+    void reset();
+    // Lets the person choose which columns to see.
+    void showMenu(const QPoint& globalPosition);
+    bool isHidden(int column) const;
+    // The last visible column stays.
+    void setHidden(int column, bool hidden);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QString key() const;
+    void applyDefaults();
+    void fit();
+    void changed();
+    std::vector<ColumnChoice> current() const;
+    void save();
+
+    const Operations& operations_;
+    ViewSettings& settings_;
+    QHeaderView& header_;
+    QTimer saving_;                       // a drag changes a width hundreds of times
+    QString applied_;                     // the list whose columns these are
+    std::vector<ColumnChoice> wanted_;    // what is to be saved
+    std::unordered_map<int, int> widths_; // by column, whether it is hidden or not
+    bool applying_ = false;
+    bool fitting_ = false; // as the node wants them, in the room that there is
+};
+
+} // namespace desktop

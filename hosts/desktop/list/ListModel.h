@@ -1,0 +1,64 @@
+#pragma once
+
+#include "hosts/desktop/activity/Operations.h"
+#include "hosts/desktop/look/IconStrips.h"
+#include "shell/Observers.h"
+
+#include <QAbstractTableModel>
+
+namespace desktop {
+
+// The list for a Qt view; keeps nothing of it, and asks for a text when it is shown.
+class ListModel final : public QAbstractTableModel, private shell::ShellObserver {
+public:
+    // All outlive it.
+    ListModel(Operations& operations, shell::Observers& observers, const IconStrips& icons);
+    ~ListModel() override;
+
+    // 0 for an invalid index.
+    console::ResultId idOf(const QModelIndex& index) const;
+    QModelIndex indexOf(console::ResultId id) const;
+    // What a menu entry, a drag or a drop on the row is about.
+    shell::Target targetOf(const QModelIndex& index) const;
+    // The scope item that the row stands for; 0 when it stands for none.
+    console::ScopeId scopeOf(const QModelIndex& index) const;
+
+    // Called before a change of rows, while views still stand as they were.
+    std::function<void()> onAboutToChange;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    // Renames, as soon as the editor is gone.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
+
+private:
+    const shell::ResultPane& pane() const { return operations_.shell().pane(); }
+    wire::WideStringView cell(const QModelIndex& index) const;
+    void announceChange() const;
+
+    void columnsChanged() override;
+    void rowsAboutToBeInserted(std::size_t first, std::size_t count) override;
+    void rowsInserted(std::size_t first, std::size_t count) override;
+    void rowsAboutToBeRemoved(std::size_t first, std::size_t count) override;
+    void rowsRemoved(std::size_t first, std::size_t count) override;
+    void rowsChanged(std::size_t first, std::size_t count) override;
+    void rowsAboutToBeReset() override;
+    void rowsReset() override;
+
+    Operations& operations_;
+    shell::Observers& observers_;
+    const IconStrips& icons_;
+};
+
+} // namespace desktop

@@ -1,0 +1,87 @@
+#include "hosts/desktop/list/ViewSettings.h"
+
+#include <QSettings>
+
+#include <algorithm>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+constexpr int narrowest = 16;
+constexpr int widest = 4'000;
+constexpr int mostColumns = 100;
+constexpr QSize leastVisible(200, 100);
+constexpr QSize smallestWindow(400, 300);
+
+} // namespace
+
+ViewSettings::ViewSettings(QString file) : file_(std::move(file)) {}
+
+std::vector<ColumnChoice> ViewSettings::columns(const QString& list) const {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("columns"));
+    const int count = std::clamp(settings.beginReadArray(list), 0, mostColumns);
+    std::vector<ColumnChoice> columns;
+    for (int place = 0; place < count; ++place) {
+        settings.setArrayIndex(place);
+        const ColumnChoice column{.title = settings.value(QStringLiteral("title")).toString(),
+                                  .width = settings.value(QStringLiteral("width")).toInt(),
+                                  .hidden = settings.value(QStringLiteral("hidden")).toBool()};
+        const auto same = [&](const ColumnChoice& other) { return other.title == column.title; };
+        if (column.width >= narrowest && column.width <= widest && std::ranges::none_of(columns, same)) {
+            columns.push_back(column);
+        }
+    }
+    return columns;
+}
+
+void ViewSettings::setColumns(const QString& list, const std::vector<ColumnChoice>& columns) {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("columns"));
+    settings.remove(list);
+    settings.beginWriteArray(list, static_cast<int>(columns.size()));
+    int place = 0;
+    for (const auto& column : columns) {
+        settings.setArrayIndex(place++);
+        settings.setValue(QStringLiteral("title"), column.title);
+        settings.setValue(QStringLiteral("width"), std::clamp(column.width, narrowest, widest));
+        settings.setValue(QStringLiteral("hidden"), column.hidden);
+    }
+    settings.endArray();
+}
+
+void ViewSettings::forgetColumns(const QString& list) {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("columns"));
+    settings.remove(list);
+}
+
+QRect ViewSettings::geometry(const std::vector<QRect>& screens) const {
+    const QSettings settings(file_, QSettings::IniFormat);
+    const QRect wanted = settings.value(QStringLiteral("window/geometry")).toRect();
+    const auto shows = [&](const QRect& screen) {
+        const QRect visible = screen.intersected(wanted);
+        // The upper edge is what a window is moved by.
+        return visible.width() >= leastVisible.width() && visible.height() >= leastVisible.height() &&
+               wanted.top() >= screen.top() && wanted.width() <= 2 * screen.width() &&
+               wanted.height() <= 2 * screen.height();
+    };
+    const bool usable = wanted.width() >= smallestWindow.width() && wanted.height() >= smallestWindow.height() &&
+                        std::ranges::any_of(screens, shows);
+    return usable ? wanted : QRect();
+}
+
+void ViewSettings::setGeometry(const QRect& geometry) {
+    QSettings(file_, QSettings::IniFormat).setValue(QStringLiteral("window/geometry"), geometry);
+}
+
+QByteArray ViewSettings::state(const QString& name) const {
+    return QSettings(file_, QSettings::IniFormat).value(QStringLiteral("window/") + name).toByteArray();
+}
+
+void ViewSettings::setState(const QString& name, const QByteArray& state) {
+    QSettings(file_, QSettings::IniFormat).setValue(QStringLiteral("window/") + name, state);
+}
+
+} // namespace desktop

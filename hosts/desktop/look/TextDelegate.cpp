@@ -1,0 +1,37 @@
+#include "hosts/desktop/look/TextDelegate.h"
+
+#include "hosts/desktop/look/Text.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QToolTip>
+
+namespace desktop {
+
+bool TextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) {
+    if (event == nullptr || view == nullptr || event->type() != QEvent::ToolTip) {
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const QString whole = index.data(Qt::ToolTipRole).toString();
+    const bool isCut =
+        whole != index.data(Qt::DisplayRole).toString() || sizeHint(option, index).width() > option.rect.width();
+    if (whole.isEmpty() || !isCut) {
+        QToolTip::hideText();
+    } else {
+        QToolTip::showText(event->globalPos(), plainToolTip(whole), view->viewport(), option.rect);
+    }
+    return true;
+}
+
+QWidget* TextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+        line->setAccessibleName(QStringLiteral("New name"));
+    }
+    return editor;
+}
+
+} // namespace desktop

@@ -1,0 +1,88 @@
+#include "hosts/desktop/window/Actions.h"
+
+#include "hosts/desktop/look/GlyphIcon.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeySequence>
+#include <QMenu>
+#include <QWidget>
+
+namespace desktop {
+
+using Glyph = GlyphIcon::Glyph;
+
+Actions::Actions(QWidget& window) : window_(window) {
+    back =
+        make(QStringLiteral("&Back"), QStringLiteral("To what was shown before"), QKeySequence(Qt::ALT | Qt::Key_Left));
+    back->setIcon(GlyphIcon::make(Glyph::back));
+    forward = make(QStringLiteral("&Forward"), QStringLiteral("To what was shown next"),
+                   QKeySequence(Qt::ALT | Qt::Key_Right));
+    forward->setIcon(GlyphIcon::make(Glyph::forward));
+    up = make(QStringLiteral("&Up"), QStringLiteral("To what this is a part of"), QKeySequence(Qt::ALT | Qt::Key_Up));
+    up->setIcon(GlyphIcon::make(Glyph::up));
+    refresh = make(QStringLiteral("&Refresh"), QStringLiteral("To read this from the server again"),
+                   QKeySequence(Qt::Key_F5));
+    refresh->setIcon(GlyphIcon::make(Glyph::refresh));
+    cut =
+        make(QStringLiteral("Cu&t"), QStringLiteral("To move this somewhere else"), QKeySequence(Qt::CTRL | Qt::Key_X));
+    paste =
+        make(QStringLiteral("&Paste"), QStringLiteral("To move here what was cut"), QKeySequence(Qt::CTRL | Qt::Key_V));
+    rename = make(QStringLiteral("Re&name"), QStringLiteral("To give this another name"), QKeySequence(Qt::Key_F2));
+    remove = make(QStringLiteral("&Delete"), QStringLiteral("To delete this"), QKeySequence(Qt::Key_Delete));
+    copyText = make(QStringLiteral("&Copy Text"), QStringLiteral("To copy the selected row as text"),
+                    QKeySequence(Qt::CTRL | Qt::Key_C));
+    exportList = make(QStringLiteral("&Export List..."), QStringLiteral("To write this list to a file, as it is shown"),
+                      QKeySequence(Qt::CTRL | Qt::Key_E));
+    exportList->setIcon(GlyphIcon::make(Glyph::exportList));
+    filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only rows that hold a text"),
+                  QKeySequence(Qt::CTRL | Qt::Key_F));
+    filter->setIcon(GlyphIcon::make(Glyph::filter));
+    find = make(QStringLiteral("F&ind in Tree"), QStringLiteral("To go to an item of the tree by its name"),
+                QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+    find->setIcon(GlyphIcon::make(Glyph::find));
+    nextPane = make(QStringLiteral("&Next Pane"), QStringLiteral("To go on between tree, list and log"),
+                    QKeySequence(Qt::Key_F6));
+    resetColumns =
+        make(QStringLiteral("Reset &Columns"), QStringLiteral("To show the columns as they were at first"), {});
+    about = make(QStringLiteral("&About Vantrel Manager"), QStringLiteral("To see what this program is"), {});
+    quit = make(QStringLiteral("&Quit"), QStringLiteral("To close the program"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+}
+
+QAction* Actions::make(const QString& text, const QString& statusTip, const QKeySequence& key) const {
+    auto* const action = new QAction(text, &window_);
+    action->setStatusTip(statusTip);
+    action->setShortcut(key);
+    QString plain = action->iconText();
+    if (!key.isEmpty()) {
+        plain += QStringLiteral(" (") + key.toString(QKeySequence::NativeText) + QLatin1Char(')');
+    }
+    action->setToolTip(plain);
+    window_.addAction(action);
+    return action;
+}
+
+void Actions::update(Operations& operations) const {
+    const auto& shell = operations.shell();
+    const auto& selection = shell.selection();
+    back->setEnabled(shell.canGoBack());
+    forward->setEnabled(shell.canGoForward());
+    up->setEnabled(shell.tree().parent(selection.scope) != 0);
+    refresh->setEnabled(selection.scope != 0);
+    cut->setEnabled(shell.canCut());
+    rename->setEnabled(shell.canRename());
+    remove->setEnabled(shell.canDelete());
+    copyText->setEnabled(selection.row != 0);
+    exportList->setEnabled(!shell.header().columns().empty());
+    paste->setEnabled(operations.perform([](shell::Shell& console) { return console.canPaste(); }));
+}
+
+void Actions::addVerbs(QMenu& menu) const {
+    for (QAction* const action : {cut, paste, rename, remove}) {
+        if (action->isEnabled()) {
+            menu.addAction(action);
+        }
+    }
+}
+
+} // namespace desktop

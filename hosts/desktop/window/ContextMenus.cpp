@@ -1,0 +1,59 @@
+#include "hosts/desktop/window/ContextMenus.h"
+
+#include "hosts/desktop/look/Text.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace desktop {
+
+ContextMenus::ContextMenus(Operations& operations, const Actions& actions, QWidget& window)
+    : operations_(operations), actions_(actions), window_(window) {}
+
+bool ContextMenus::addEntries(QMenu& menu, const shell::Target& target) const {
+    std::vector<shell::MenuItem> items;
+    operations_.perform([&](shell::Shell& console) {
+        items = console.menu(target);
+        return true;
+    });
+    for (const auto& item : items) {
+        if (item.separator) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* const action = menu.addAction(oneLine(item.text));
+        action->setStatusTip(oneLine(item.statusText));
+        QObject::connect(action, &QAction::triggered, &menu, [&operations = operations_, target, id = item.id] {
+            operations.later([&operations, target, id] {
+                operations.perform([&](shell::Shell& console) { return console.invoke(id, target); });
+            });
+        });
+    }
+    return !items.empty();
+}
+
+void ContextMenus::fill(QMenu& menu, const shell::Target& target) const {
+    menu.setAccessibleName(QStringLiteral("Actions"));
+    if (addEntries(menu, target)) {
+        menu.addSeparator();
+    }
+    actions_.update(operations_);
+    actions_.addVerbs(menu);
+    menu.addSeparator();
+    menu.addAction(actions_.refresh);
+    if (actions_.exportList->isEnabled()) {
+        menu.addAction(actions_.exportList);
+    }
+}
+
+std::unique_ptr<QMenu> ContextMenus::make(const shell::Target& target) const {
+    auto menu = std::make_unique<QMenu>(&window_); // status texts find their way to the window's status bar
+    fill(*menu, target);
+    return menu;
+}
+
+void ContextMenus::show(const shell::Target& target, const QPoint& place) const {
+    make(target)->exec(place);
+}
+
+} // namespace desktop

@@ -1,0 +1,68 @@
+#include "hosts/desktop/window/DesktopUserInterface.h"
+
+#include "hosts/desktop/forms/FormDialog.h"
+#include "hosts/desktop/forms/MessageBox.h"
+#include "hosts/desktop/look/Text.h"
+#include "snapin/AuthenticationDlg.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace desktop {
+
+QWidget* DesktopUserInterface::owner() const {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : mainWindow_.data();
+}
+
+platform::Answer DesktopUserInterface::messageBox(platform::WindowHandle /*owner*/, const wire::WideString& text,
+                                                  const wire::WideString& caption, std::uint32_t style) {
+    if (std::exchange(silent_, false)) {
+        said_ = text;
+        return platform::Answer::ok;
+    }
+    return showMessageBox(owner(), text, caption, style);
+}
+
+int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {
+    auto* const login = dynamic_cast<snapin::AuthenticationDlg*>(&form);
+    if (login == nullptr || (!password_ && !unattended_)) {
+        return runForm(form, owner());
+    }
+    if (logIn(*login)) {
+        silent_ = true; // nobody has asked, so nobody is told that it went well
+        return form.result();
+    }
+    loginFailure_ = said_.empty() ? QStringLiteral("There is no password") : toQString(said_);
+    if (!unattended_) {
+        showMessageBox(owner(), said_, u"Warning", platform::boxStyle::iconWarning);
+        return runForm(form, owner());
+    }
+    form.userCancelled();
+    return form.result();
+}
+
+bool DesktopUserInterface::logIn(snapin::AuthenticationDlg& dialog) {
+    dialog.open();
+    if (const auto password = std::exchange(password_, std::nullopt)) {
+        dialog.password.userTyped(*password);
+        silent_ = true;
+        dialog.okButton().userPressed();
+        silent_ = false;
+    }
+    return dialog.ended();
+}
+
+platform::WindowHandle DesktopUserInterface::activeWindow() {
+    return mainWindow_ != nullptr ? 1 : 0;
+}
+
+void DesktopUserInterface::setForeground(platform::WindowHandle /*window*/) {
+    if (mainWindow_ != nullptr) {
+        mainWindow_->raise();
+        mainWindow_->activateWindow();
+    }
+}
+
+} // namespace desktop

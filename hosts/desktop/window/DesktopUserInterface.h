@@ -1,0 +1,49 @@
+#pragma once
+
+#include "shell/ShellUserInterface.h"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+
+namespace snapin {
+class AuthenticationDlg;
+}
+
+namespace desktop {
+
+// Boxes and forms as windows over the main window. With a password from outside the login goes without its dialog, as
+// long as it succeeds.
+class DesktopUserInterface final : public shell::ShellUserInterface {
+public:
+    using ShellUserInterface::ShellUserInterface;
+
+    // The owner of everything that is shown.
+    void setMainWindow(QWidget* window) { mainWindow_ = window; }
+    void setPassword(wire::WideString password) { password_ = std::move(password); }
+    // Nobody is there to answer: a login that fails is given up.
+    void setUnattended() { unattended_ = true; }
+    // Why the unattended login has failed; empty when it has not.
+    const QString& loginFailure() const { return loginFailure_; }
+
+    platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
+                                const wire::WideString& caption, std::uint32_t style) override;
+    int runModal(forms::Form& form, platform::WindowHandle owner) override;
+    platform::WindowHandle activeWindow() override;
+    void setForeground(platform::WindowHandle window) override;
+
+private:
+    bool logIn(snapin::AuthenticationDlg& dialog);
+    QWidget* owner() const;
+
+    QPointer<QWidget> mainWindow_;
+    std::optional<wire::WideString> password_;
+    bool unattended_ = false;
+    bool silent_ = false; // what is said belongs to a login without a dialog
+    wire::WideString said_;
+    QString loginFailure_;
+};
+
+} // namespace desktop

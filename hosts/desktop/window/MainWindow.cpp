@@ -1,0 +1,321 @@
+#include "hosts/desktop/window/MainWindow.h"
+
+#include "hosts/desktop/list/ExportList.h"
+#include "hosts/desktop/look/GlyphIcon.h"
+#include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/tree/TreePath.h"
+#include "hosts/desktop/window/AboutBox.h"
+#include "hosts/desktop/window/Resources.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <utility>
+
+namespace desktop {
+namespace {
+
+constexpr int messageTime = 8'000; // milliseconds
+
+} // namespace
+
+MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrips& icons)
+    : session_(session),
+      settings_(settings),
+      actions_(*this),
+      menus_(session.operations(), actions_, *this),
+      panes_(new Panes(session.operations(), session.observers(), icons, settings, this)),
+      activity_(new ActivityDock(session.activity(), this)),
+      status_(*statusBar(), session.operations(), session.age()),
+      wait_(session.operations(), session.observers(), *this) {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(QStringLiteral("Vantrel Manager"));
+    setWindowIcon(IconStrips::application());
+    setCentralWidget(panes_);
+    addDockWidget(Qt::BottomDockWidgetArea, activity_);
+    activity_->hide();
+    makeMenus();
+    makeToolBar();
+    connectActions();
+    session_.ui().setMainWindow(this);
+    session_.setMeasure([this](wire::WideStringView title) {
+        const QFontMetrics metrics(panes_->list().font());
+        return metrics.horizontalAdvance(oneLine(title)) + 3 * metrics.averageCharWidth() + metrics.height();
+    });
+    session_.age().onChange = [this] { showStateSoon(); };
+    session_.observers().add(*this);
+    status_.update();
+}
+
+MainWindow::~MainWindow() {
+    session_.observers().remove(*this);
+    session_.age().onChange = nullptr;
+    session_.ui().setMainWindow(nullptr);
+    session_.setMeasure(nullptr);
+    delete panes_; // its views go before what they show
+    delete activity_;
+}
+
+void MainWindow::restorePlace() {
+    std::vector<QRect> screens;
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        screens.push_back(screen->availableGeometry());
+    }
+    const QRect remembered = settings_.geometry(screens);
+    if (remembered.isValid()) {
+        setGeometry(remembered);
+    } else {
+        const QRect screen = screens.empty() ? QRect(QPoint(), naturalSize) : screens.front();
+        resize(naturalSize.boundedTo(screen.size() * 9 / 10));
+        move(screen.center() - QPoint(width() / 2, height() / 2));
+    }
+    panes_->restoreState(settings_.state(QStringLiteral("panes")));
+    restoreState(settings_.state(QStringLiteral("docks")));
+}
+
+void MainWindow::start(const QString& path) {
+    session_.operations().later([this, path] {
+        std::optional<QString> error;
+        const bool done = session_.operations().perform([](shell::Shell& console) { return console.start(); });
+        if (!closing_) {
+            error = done ? openPath(session_.operations(), path.isEmpty() ? QStringLiteral("Printers") : path)
+                         : std::optional(QStringLiteral("The console can't start"));
+            panes_->tree().setFocus(Qt::OtherFocusReason);
+        }
+        if (error) {
+            statusBar()->showMessage(*error, messageTime);
+        }
+        if (onStarted) {
+            onStarted(error);
+        }
+    });
+}
+
+void MainWindow::makeMenus() {
+    QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
+    file->addAction(actions_.exportList);
+    file->addSeparator();
+    file->addAction(actions_.quit);
+
+    QMenu* const action = menuBar()->addMenu(QStringLiteral("&Action"));
+    connect(action, &QMenu::aboutToShow, this, [this, action] {
+        action->clear();
+        menus_.fill(*action, session_.shell().selection());
+    });
+
+    QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    edit->addActions({actions_.cut, actions_.copyText, actions_.paste, actions_.rename, actions_.remove});
+    edit->addSeparator();
+    edit->addActions({actions_.filter, actions_.find});
+
+    QMenu* const view = menuBar()->addMenu(QStringLiteral("&View"));
+    view->addActions({actions_.refresh, actions_.resetColumns});
+    view->addSeparator();
+    QAction* const log = activity_->toggleViewAction();
+    log->setText(QStringLiteral("Activity &Log"));
+    log->setStatusTip(QStringLiteral("To see what the console does with the server"));
+    log->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
+    log->setIcon(GlyphIcon::make(GlyphIcon::Glyph::log));
+    view->addAction(log);
+    view->addAction(actions_.nextPane);
+
+    QMenu* const go = menuBar()->addMenu(QStringLiteral("&Go"));
+    go->addActions({actions_.back, actions_.forward, actions_.up});
+
+    menuBar()->addMenu(QStringLiteral("&Help"))->addAction(actions_.about);
+}
+
+void MainWindow::makeToolBar() {
+    QToolBar* const bar = addToolBar(QStringLiteral("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->addActions({actions_.back, actions_.forward, actions_.up});
+    bar->addSeparator();
+    bar->addAction(actions_.refresh);
+    bar->addAction(actions_.exportList);
+    bar->addAction(activity_->toggleViewAction());
+}
+
+void MainWindow::run(const std::function<bool(shell::Shell&)>& work) {
+    session_.operations().later([this, work] { session_.operations().perform(work); });
+}
+
+void MainWindow::connectActions() {
+    const auto on = [this](QAction* action, auto handler) { connect(action, &QAction::triggered, this, handler); };
+    on(actions_.back, [this] { run(&shell::Shell::back); });
+    on(actions_.forward, [this] { run(&shell::Shell::forward); });
+    on(actions_.up, [this] { goUp(); });
+    on(actions_.refresh, [this] { run(&shell::Shell::refresh); });
+    on(actions_.cut, [this] { run(&shell::Shell::cut); });
+    on(actions_.paste, [this] { run(&shell::Shell::paste); });
+    on(actions_.remove, [this] { run(&shell::Shell::deleteItem); });
+    on(actions_.rename, [this] { rename(); });
+    on(actions_.copyText, [this] { copyText(); });
+    on(actions_.exportList, [this] { session_.operations().later([this] { exportShown(); }); });
+    on(actions_.filter, [this] {
+        panes_->filter().setFocus(Qt::ShortcutFocusReason);
+        panes_->filter().selectAll();
+    });
+    on(actions_.find, [this] {
+        panes_->search().setFocus(Qt::ShortcutFocusReason);
+        panes_->search().selectAll();
+    });
+    on(actions_.nextPane, [this] { focusNextPane(); });
+    on(actions_.resetColumns, [this] { panes_->list().columns().reset(); });
+    on(actions_.about, [this] { showAbout(); });
+    on(actions_.quit, [this] { close(); });
+
+    const auto showMenu = [this](const shell::Target& target, const QPoint& place) { menus_.show(target, place); };
+    panes_->tree().onMenu = showMenu;
+    panes_->list().onMenu = showMenu;
+    panes_->filter().onFiltered = [this] { showStateSoon(); };
+    panes_->search().onMessage = [this](const QString& message) {
+        statusBar()->showMessage(message, message.isEmpty() ? 1 : messageTime);
+    };
+    panes_->notice().onRetry = [this] {
+        run([](shell::Shell& shell) { return shell.selectRow(0) && shell.refresh(); });
+    };
+}
+
+void MainWindow::goUp() {
+    run([](shell::Shell& shell) {
+        const auto above = shell.tree().parent(shell.selection().scope);
+        return above != 0 && shell.select(above);
+    });
+}
+
+void MainWindow::rename() {
+    if (session_.shell().selection().row != 0) {
+        panes_->list().renameCurrent();
+    } else {
+        panes_->tree().renameCurrent();
+    }
+}
+
+void MainWindow::copyText() {
+    const auto place = session_.shell().pane().indexOf(session_.shell().selection().row);
+    if (!place) {
+        return;
+    }
+    QStringList cells;
+    for (int column = 0; column < panes_->listModel().columnCount(); ++column) {
+        if (!panes_->list().columns().isHidden(column)) {
+            cells += toQString(session_.shell().pane().cell(*place, column));
+        }
+    }
+    QGuiApplication::clipboard()->setText(cells.join(QLatin1Char('\t')));
+    statusBar()->showMessage(QStringLiteral("The row is in the clipboard."), messageTime);
+}
+
+void MainWindow::exportShown() {
+    const auto& shell = session_.shell();
+    const QString said = exportList(shell.table(), oneLine(shell.tree().text(shell.selection().scope)), this);
+    if (!said.isEmpty()) {
+        statusBar()->showMessage(said, messageTime);
+    }
+}
+
+void MainWindow::focusNextPane() {
+    QWidget* next = &panes_->tree();
+    if (panes_->tree().hasFocus()) {
+        next = &panes_->list();
+    } else if (panes_->list().hasFocus() && activity_->isVisible()) {
+        next = &activity_->view();
+    }
+    next->setFocus(Qt::ShortcutFocusReason);
+}
+
+void MainWindow::showAbout() {
+    Resources resources;
+    const snapin::CPrintAbout about(resources);
+    AboutBox(about, IconStrips::application(), this).exec();
+}
+
+void MainWindow::showStateSoon() {
+    if (!std::exchange(showing_, true)) {
+        session_.operations().later([this] {
+            showing_ = false;
+            showState();
+        });
+    }
+}
+
+void MainWindow::showState() {
+    const auto& shell = session_.shell();
+    const QString name = oneLine(shell.tree().text(shell.selection().scope));
+    setWindowTitle(name.isEmpty() ? QStringLiteral("Vantrel Manager") : name + QStringLiteral(" – Vantrel Manager"));
+    panes_->showPath();
+    actions_.update(session_.operations());
+    status_.update();
+    sayAge();
+    panes_->list().setAccessibleDescription(shell.pane().rowCount() == 0 ? panes_->emptyText() : QString());
+    panes_->list().viewport()->update();
+}
+
+void MainWindow::sayAge() {
+    const QString failure = session_.age().failure();
+    if (failure.isEmpty()) {
+        panes_->notice().say({});
+        return;
+    }
+    const auto time = session_.age().readAt();
+    const QString rest =
+        time ? QStringLiteral(" The rows are those of %1.").arg(time->toString(QStringLiteral("hh:mm:ss"))) : QString();
+    panes_->notice().say(QStringLiteral("This list could not be read: %1.").arg(failure) + rest);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (session_.operations().busy()) {
+        wait_.cancel();
+        session_.operations().later([this] { close(); });
+        event->ignore();
+        return;
+    }
+    settings_.setGeometry(isMaximized() || isFullScreen() ? normalGeometry() : geometry());
+    settings_.setState(QStringLiteral("panes"), panes_->saveState());
+    settings_.setState(QStringLiteral("docks"), saveState());
+    event->accept();
+}
+
+void MainWindow::selectionChanged() {
+    showStateSoon();
+}
+
+void MainWindow::verbsChanged() {
+    showStateSoon();
+}
+
+void MainWindow::columnsChanged() {
+    showStateSoon();
+}
+
+void MainWindow::rowsInserted(std::size_t /*first*/, std::size_t /*count*/) {
+    showStateSoon();
+}
+
+void MainWindow::rowsRemoved(std::size_t /*first*/, std::size_t /*count*/) {
+    showStateSoon();
+}
+
+void MainWindow::rowsReset() {
+    showStateSoon();
+}
+
+void MainWindow::scopeItemChanged(console::ScopeId /*item*/) {
+    showStateSoon();
+}
+
+void MainWindow::closeRequested() {
+    closing_ = true;
+    session_.operations().later([this] { close(); });
+}
+
+} // namespace desktop

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "hosts/desktop/activity/ActivityDock.h"
+#include "hosts/desktop/activity/WaitIndicator.h"
+#include "hosts/desktop/window/ContextMenus.h"
+#include "hosts/desktop/window/Panes.h"
+#include "hosts/desktop/window/Session.h"
+#include "hosts/desktop/window/StatusLine.h"
+
+#include <QMainWindow>
+
+namespace desktop {
+
+// The console's window.
+class MainWindow final : public QMainWindow, private shell::ShellObserver {
+public:
+    static constexpr QSize naturalSize{1080, 680};
+
+    // All outlive it.
+    MainWindow(Session& session, ViewSettings& settings, const IconStrips& icons);
+    ~MainWindow() override;
+
+    // Logs in and shows the tree, opened along the path. Comes back at once; onStarted tells when it is done, with what
+    // went wrong, or nothing. A login that ends for good closes the window instead.
+    void start(const QString& path);
+    std::function<void(const std::optional<QString>&)> onStarted;
+
+    Panes& panes() { return *panes_; }
+    ActivityDock& activity() { return *activity_; }
+    const Actions& actions() const { return actions_; }
+    const ContextMenus& menus() const { return menus_; }
+    const WaitIndicator& waitIndicator() const { return wait_; }
+    void showAbout();
+
+    // At its natural size on a screen, unless it is remembered.
+    void restorePlace();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeMenus();
+    void makeToolBar();
+    void connectActions();
+    void run(const std::function<bool(shell::Shell&)>& work);
+    void showState();
+    void sayAge();
+    void rename();
+    void copyText();
+    void exportShown();
+    void focusNextPane();
+    void goUp();
+
+    void selectionChanged() override;
+    void verbsChanged() override;
+    void columnsChanged() override;
+    void rowsInserted(std::size_t first, std::size_t count) override;
+    void rowsRemoved(std::size_t first, std::size_t count) override;
+    void rowsReset() override;
+    void scopeItemChanged(console::ScopeId item) override;
+    void closeRequested() override;
+    void showStateSoon();
+
+    Session& session_;
+    ViewSettings& settings_;
+    Actions actions_;
+    ContextMenus menus_;
+    Panes* panes_;
+    ActivityDock* activity_;
+    StatusLine status_;
+    WaitIndicator wait_;
+    bool showing_ = false; // showState is on its way
+    bool closing_ = false;
+};
+
+} // namespace desktop

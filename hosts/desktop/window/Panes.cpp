@@ -1,0 +1,112 @@
+#include "hosts/desktop/window/Panes.h"
+
+#include "hosts/desktop/look/GlyphIcon.h"
+#include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/window/StatusLine.h"
+
+#include <QVBoxLayout>
+
+namespace desktop {
+namespace {
+
+constexpr int gap = 6;
+constexpr int treeWidth = 270;
+constexpr int listWidth = 730;
+constexpr int filterWidth = 260;
+
+} // namespace
+
+Panes::Panes(Operations& operations, shell::Observers& observers, const IconStrips& icons, ViewSettings& settings,
+             QWidget* parent)
+    : QSplitter(Qt::Horizontal, parent),
+      operations_(operations),
+      treeModel_(operations, observers, icons),
+      listModel_(operations, observers, icons),
+      search_(new TreeSearchBar(operations)),
+      tree_(new ScopeView(operations, observers, treeModel_)),
+      path_(new ElidedLabel),
+      filter_(new FilterBar(operations, observers)),
+      notice_(new NoticeBar),
+      list_(new ListView(operations, observers, listModel_, settings)) {
+    setObjectName(QStringLiteral("panes"));
+    setChildrenCollapsible(false);
+    setHandleWidth(1);
+    addWidget(treeSide());
+    addWidget(listSide());
+    setSizes({treeWidth, listWidth});
+    setStretchFactor(0, 0);
+    setStretchFactor(1, 1);
+    search_->addAction(GlyphIcon::make(GlyphIcon::Glyph::find), QLineEdit::LeadingPosition);
+    filter_->addAction(GlyphIcon::make(GlyphIcon::Glyph::filter), QLineEdit::LeadingPosition);
+    search_->onLeave = [this] { tree_->setFocus(Qt::ShortcutFocusReason); };
+    filter_->onLeave = [this] { list_->setFocus(Qt::ShortcutFocusReason); };
+    list_->emptyText = [this] { return emptyText(); };
+    QWidget::setTabOrder(search_, tree_);
+    QWidget::setTabOrder(tree_, filter_);
+    QWidget::setTabOrder(filter_, list_);
+}
+
+// The views go before their models.
+Panes::~Panes() {
+    delete list_;
+    delete tree_;
+}
+
+QWidget* Panes::treeSide() {
+    auto* const side = new QWidget(this);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(gap, gap, gap, gap);
+    line->addWidget(search_);
+    layout->addLayout(line);
+    layout->addWidget(tree_, 1);
+    return side;
+}
+
+QWidget* Panes::listSide() {
+    auto* const side = new QWidget(this);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(gap + 2, gap, gap, gap);
+    path_->setAccessibleName(QStringLiteral("What the list shows"));
+    QFont bold = font();
+    bold.setBold(true);
+    path_->setFont(bold);
+    filter_->setFixedWidth(filterWidth);
+    line->addWidget(path_, 1);
+    line->addWidget(filter_);
+    layout->addLayout(line);
+    layout->addWidget(notice_);
+    layout->addWidget(list_, 1);
+    return side;
+}
+
+void Panes::showPath() {
+    const auto& tree = operations_.shell().tree();
+    const auto path = tree.pathTo(operations_.shell().selection().scope);
+    QStringList names;
+    // The two fixed items at the top say nothing new, unless they are the ones that are shown.
+    for (std::size_t place = path.size() > 2 ? 2 : 0; place < path.size(); ++place) {
+        names += oneLine(tree.text(path[place]));
+    }
+    path_->setLine(names.join(QStringLiteral("  ›  ")));
+}
+
+QString Panes::emptyText() const {
+    const auto& pane = operations_.shell().pane();
+    if (operations_.shell().selection().scope == 0) {
+        return {};
+    }
+    if (pane.unfilteredCount() > 0) {
+        return QStringLiteral("The filter hides all of %1.\nEmpty it (Ctrl+F, Esc) to see them.")
+            .arg(StatusLine::countText(pane.unfilteredCount(), pane.unfilteredCount()));
+    }
+    return operations_.shell().header().columns().empty() ? QStringLiteral("There is nothing to list here.")
+                                                          : QStringLiteral("There is nothing here yet.");
+}
+
+} // namespace desktop

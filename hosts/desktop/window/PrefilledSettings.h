@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/SettingsStore.h"
+
+#include <map>
+#include <string>
+
+namespace desktop {
+
+// Settings of which some values were given on the command line.
+class PrefilledSettings final : public platform::SettingsStore {
+public:
+    // The store outlives it; what is written goes there.
+    PrefilledSettings(platform::SettingsStore& store, std::map<std::string, wire::WideString, std::less<>> given);
+
+    bool exists() const override;
+    std::optional<wire::WideString> read(std::string_view name) const override;
+    bool write(std::string_view name, const wire::WideString& value) override;
+
+private:
+    platform::SettingsStore& store_;
+    std::map<std::string, wire::WideString, std::less<>> given_;
+};
+
+} // namespace desktop

@@ -1,0 +1,83 @@
+#include "hosts/desktop/window/Program.h"
+
+#include "hosts/common/IniSettingsStore.h"
+#include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/window/MainWindow.h"
+#include "hosts/desktop/window/PrefilledSettings.h"
+#include "hosts/desktop/window/Screenshot.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace desktop {
+namespace {
+
+constexpr int failedStatus = 1;
+constexpr int noLoginStatus = 3;
+
+std::filesystem::path settingsFile(const Options& options) {
+    return options.settings.isEmpty() ? common::IniSettingsStore::defaultPath()
+                                      : std::filesystem::path(options.settings.toStdU16String());
+}
+
+// Beside the settings of the login, which are shared with the other consoles.
+QString viewSettingsFile(const std::filesystem::path& settings) {
+    auto file = settings;
+    file.replace_extension("desktop.ini");
+    return QString::fromStdU16String(file.u16string());
+}
+
+void complain(const QString& text) {
+    std::fprintf(stderr, "vantrel-admin: %s\n", qPrintable(text));
+}
+
+} // namespace
+
+int runProgram(const Options& options, const std::optional<wire::WideString>& password) {
+    applyColorScheme(options.look);
+    const auto file = settingsFile(options);
+    common::IniSettingsStore saved(file);
+    PrefilledSettings settings(saved, options.login);
+    const bool isPicture = !options.screenshot.isEmpty();
+    // A picture shows the window as it is at first, and leaves nothing behind.
+    const QTemporaryDir pictureSettings;
+    ViewSettings viewSettings(isPicture ? pictureSettings.filePath(QStringLiteral("desktop.ini"))
+                                        : viewSettingsFile(file));
+    const IconStrips icons;
+    Session session(settings);
+    if (password) {
+        session.ui().setPassword(*password);
+    }
+    MainWindow window(session, viewSettings, icons);
+    window.restorePlace();
+    if (isPicture || options.size.isValid()) {
+        window.resize(options.size.isValid() ? options.size : MainWindow::naturalSize);
+    }
+    if (options.activity) {
+        window.activity().show();
+    }
+    int status = 0;
+    if (isPicture) {
+        session.ui().setUnattended();
+        window.onStarted = [&](std::optional<QString> error) {
+            error = error ? error : takeScreenshot(window, options.screenshot);
+            if (error) {
+                complain(*error);
+                status = failedStatus;
+            }
+            QCoreApplication::quit();
+        };
+    }
+    window.show();
+    window.start(options.path);
+    QApplication::exec();
+    if (isPicture && !session.ui().loginFailure().isEmpty()) {
+        complain(session.ui().loginFailure());
+        return noLoginStatus;
+    }
+    return status;
+}
+
+} // namespace desktop

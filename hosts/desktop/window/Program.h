@@ -1,0 +1,10 @@
+#pragma once
+
+#include "hosts/desktop/window/Options.h"
+
+namespace desktop {
+
+// Runs the windows until they are closed; answers the exit status.
+int runProgram(const Options& options, const std::optional<wire::WideString>& password);
+
+} // namespace desktop

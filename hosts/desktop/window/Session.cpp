@@ -1,0 +1,17 @@
+#include "hosts/desktop/window/Session.h"
+
+namespace desktop {
+namespace {
+
+constexpr std::array<std::uint16_t, 4> version{VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0};
+
+} // namespace
+
+Session::Session(platform::SettingsStore& settings)
+    : platform_{.ui = ui_,
+                .settings = settings,
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
+                .productVersion = version,
+                .locale = locale_} {}
+
+} // namespace desktop

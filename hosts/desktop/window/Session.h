@@ -1,0 +1,48 @@
+#pragma once
+
+#include "hosts/common/SystemLocale.h"
+#include "hosts/common/TwoSidedSnapIn.h"
+#include "hosts/desktop/activity/ActivityLog.h"
+#include "hosts/desktop/activity/ListAge.h"
+#include "hosts/desktop/window/DesktopUserInterface.h"
+#include "platform/Platform.h"
+#include "platform/RefusalBox.h"
+#include "shell/CommandWatch.h"
+#include "snapin/CPrintComponent.h"
+#include "snapin/Print.h"
+
+namespace desktop {
+
+// The console with everything that it needs, but its windows.
+class Session {
+public:
+    // Outlives it.
+    explicit Session(platform::SettingsStore& settings);
+
+    shell::Observers& observers() { return observers_; }
+    DesktopUserInterface& ui() { return ui_; }
+    Operations& operations() { return operations_; }
+    const shell::Shell& shell() const { return shell_; }
+    ListAge& age() { return age_; }
+    ActivityLog& activity() { return activity_; }
+    void setMeasure(std::function<std::int32_t(wire::WideStringView)> measure) {
+        shell_.setMeasure(std::move(measure));
+    }
+
+private:
+    shell::Observers observers_;
+    shell::TaskQueue tasks_;
+    ActivityLog activity_{observers_};
+    shell::CommandWatch watch_{observers_};
+    DesktopUserInterface ui_{tasks_};
+    platform::RefusalBox refusals_{ui_};
+    common::SystemLocale locale_;
+    platform::Platform platform_;
+    snapin::Print print_{platform_};
+    common::TwoSidedSnapIn<snapin::Print, snapin::CPrintComponent> snapIn_{print_};
+    shell::Shell shell_{snapIn_, tasks_, observers_};
+    Operations operations_{shell_, tasks_};
+    ListAge age_{operations_, observers_};
+};
+
+} // namespace desktop

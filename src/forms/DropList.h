@@ -1,0 +1,61 @@
+#pragma once
+
+#include "forms/Control.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace forms {
+
+class RadioButton;
+
+// A row of a drop list: what is shown, and what the program knows it by (an id; not shown).
+struct DropListItem {
+    wire::WideString text;
+    std::string data;
+};
+
+struct DropListOptions {
+    bool sorted = false;                    // rows stand in the order of their texts, whatever the order of adding
+    const RadioButton* belongsTo = nullptr; // a list that has no label of its own and goes with a radio button
+};
+
+// A list that drops down, of which one row at most is selected. No text can be typed into it.
+class DropList final : public Control {
+public:
+    DropList(Container& container, std::u16string_view label, DropListOptions options = {});
+    void accept(ControlVisitor& visitor) override;
+
+    const DropListOptions& options() const { return options_; }
+    const std::vector<DropListItem>& items() const { return items_; }
+    // Answers the row at which it ended up.
+    std::size_t addItem(wire::WideString text, std::string data = {});
+    // Above all other rows, in a sorted list too: an empty row, or one that asks to select.
+    void addFirst(wire::WideString text, std::string data = {});
+    void clear();
+
+    std::optional<std::size_t> selection() const { return selection_; }
+    // The selected row's text and data; empty without a selection.
+    wire::WideString selectedText() const;
+    std::string selectedData() const;
+    // Does not fire onSelect. A row that is not there takes the selection away.
+    void select(std::optional<std::size_t> row);
+    // False, and no change, when no row has the text (compared exactly) or the data.
+    bool selectText(std::u16string_view text);
+    bool selectData(std::string_view data);
+
+    std::function<void()> onSelect;
+    bool userSelected(std::size_t row);
+
+private:
+    void insert(std::size_t row, DropListItem item);
+
+    DropListOptions options_;
+    std::vector<DropListItem> items_;
+    std::size_t firsts_ = 0; // rows at the top that are not sorted
+    std::optional<std::size_t> selection_;
+};
+
+} // namespace forms

@@ -1,0 +1,93 @@
+#include "forms/Form.h"
+
+#include "forms/FormWalk.h"
+#include "platform/Guard.h"
+
+#include <utility>
+
+namespace forms {
+namespace {
+
+// What the two standard buttons stand on.
+class Footer final : public Container {
+public:
+    explicit Footer(Form& owner) : owner_(owner) {}
+    Form& form() override { return owner_; }
+    bool shown() const override { return true; }
+
+private:
+    Form& owner_;
+};
+
+} // namespace
+
+Form::Form(platform::Platform& platform, std::u16string_view title, FormOptions options)
+    : platform_(platform),
+      title_(title),
+      footer_(std::make_unique<Footer>(*this)),
+      ok_(std::make_unique<Button>(*footer_, options.okLabel, true)),
+      cancel_(std::make_unique<Button>(*footer_, options.cancelLabel)) {
+    ok_->setVisible(!options.okLabel.empty());
+    cancel_->setVisible(!options.cancelLabel.empty());
+    ok_->onPress = [this] { onOk(); };
+    cancel_->onPress = [this] { onCancel(); };
+}
+
+void Form::open() {
+    if (!std::exchange(opened_, true)) {
+        guarded([this] { onInitDialog(); });
+    }
+}
+
+void Form::userCancelled() {
+    if (!ended_ && cancel_->enabled()) {
+        guarded([this] { onCancel(); });
+    }
+}
+
+void Form::userPressedDefault() {
+    for (Control* control : controlsOf(*this)) {
+        auto* const button = dynamic_cast<Button*>(control);
+        if (button != nullptr && button->isDefault() && button->userPressed()) {
+            return;
+        }
+    }
+}
+
+void Form::EndDialog(int result) {
+    if (std::exchange(ended_, true)) {
+        return;
+    }
+    result_ = result;
+    if (observer_ != nullptr) {
+        observer_->formEnded(*this);
+    }
+}
+
+void Form::setTitle(wire::WideString title) {
+    title_ = std::move(title);
+    if (observer_ != nullptr) {
+        observer_->titleChanged(*this);
+    }
+}
+
+platform::Answer Form::messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style) {
+    return platform_.ui.messageBox(platform_.ui.activeWindow(), text, caption, style);
+}
+
+int Form::runModal(Form& nested) {
+    return platform_.ui.runModal(nested, platform_.ui.activeWindow());
+}
+
+void Form::controlChanged(Control& control, Aspect aspect) {
+    if (observer_ != nullptr) {
+        observer_->controlChanged(control, aspect);
+    }
+}
+
+void Form::guarded(const std::function<void()>& handler) {
+    platform::guarded(
+        platform_, [this] { return wire::toUtf8(title_); }, handler);
+}
+
+} // namespace forms

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "forms/Container.h"
+#include "forms/Control.h"
+
+namespace forms {
+
+// A frame with a caption around controls that belong together. Disabled or hidden, it takes them along.
+class Group final : public Control, public Container {
+public:
+    Group(Container& container, std::u16string_view label);
+    void accept(ControlVisitor& visitor) override;
+    Form& form() override;
+    bool shown() const override;
+    bool usable() const override;
+};
+
+} // namespace forms

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "forms/Control.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace forms {
+
+// A column of a list view. A width of 0 or less hides it: the program keeps its ids there. Other widths are in pixels
+// at 100 %.
+struct ListColumn {
+    wire::WideString title;
+    int width = 100;
+
+    bool hidden() const { return width <= 0; }
+};
+
+// A row of a list view: a text per column, and what the program knows the row by.
+struct ListRow {
+    std::vector<wire::WideString> cells;
+    std::string data;
+};
+
+// A list with columns, of which one row at most is selected.
+class ListView final : public Control {
+public:
+    ListView(Container& container, std::u16string_view label);
+    void accept(ControlVisitor& visitor) override;
+
+    const std::vector<ListColumn>& columns() const { return columns_; }
+    void setColumns(std::vector<ListColumn> columns);
+    const std::vector<ListRow>& rows() const { return rows_; }
+    // Replaces all rows; the selection goes.
+    void setRows(std::vector<ListRow> rows);
+    void addRow(ListRow row);
+    // These two throw std::out_of_range for a row that is not there. The selection stays with its row.
+    void removeRow(std::size_t row);
+    void setCell(std::size_t row, std::size_t column, wire::WideString text);
+
+    std::optional<std::size_t> selection() const { return selection_; }
+    const ListRow* selectedRow() const; // null without a selection
+    // Does not fire onSelect. A row that is not there takes the selection away.
+    void select(std::optional<std::size_t> row);
+
+    // The entries that a right click on a row offers; none for no menu. Hosts ask for them at the click.
+    const std::vector<wire::WideString>& rowMenu() const { return rowMenu_; }
+    void setRowMenu(std::vector<wire::WideString> entries) { rowMenu_ = std::move(entries); }
+
+    std::function<void()> onSelect;
+    std::function<void()> onDoubleClick;
+    std::function<void(std::size_t entry)> onRowMenu;
+    bool userSelected(std::optional<std::size_t> row);
+    // These two select the row first. False also for an entry that the menu does not have.
+    bool userDoubleClicked(std::size_t row);
+    bool userChoseFromRowMenu(std::size_t row, std::size_t entry);
+
+private:
+    std::vector<ListColumn> columns_;
+    std::vector<ListRow> rows_;
+    std::optional<std::size_t> selection_;
+    std::vector<wire::WideString> rowMenu_;
+};
+
+} // namespace forms

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <vector>
+
+namespace forms {
+
+class RadioButton;
+
+// Radio buttons of which one at most is chosen. Not a control itself: the buttons stand where the form puts them.
+class RadioGroup {
+public:
+    const std::vector<RadioButton*>& buttons() const { return buttons_; }
+    // Null while none is chosen.
+    RadioButton* chosen() const { return chosen_; }
+
+private:
+    friend class RadioButton;
+    std::vector<RadioButton*> buttons_;
+    RadioButton* chosen_ = nullptr;
+};
+
+} // namespace forms

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "forms/Control.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace forms {
+
+// One item of a tree view.
+struct TreeItem {
+    wire::WideString text;
+    std::int64_t parameter = 0;        // what the program knows it by
+    std::optional<std::size_t> parent; // index of an earlier item; none at the top
+};
+
+// A tree of which one item at most is selected. Items are numbered in the order of adding.
+class TreeView final : public Control {
+public:
+    TreeView(Container& container, std::u16string_view label);
+    void accept(ControlVisitor& visitor) override;
+
+    const std::vector<TreeItem>& items() const { return items_; }
+    // Answers the number of the item. Throws std::out_of_range when the parent is not there yet.
+    std::size_t addItem(TreeItem item);
+    void clear();
+
+    std::optional<std::size_t> selection() const { return selection_; }
+    // Does not fire onSelect. An item that is not there takes the selection away.
+    void select(std::optional<std::size_t> item);
+
+    std::function<void()> onSelect;
+    bool userSelected(std::size_t item);
+
+private:
+    std::vector<TreeItem> items_;
+    std::optional<std::size_t> selection_;
+};
+
+} // namespace forms

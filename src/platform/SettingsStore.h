@@ -1,0 +1,24 @@
+#pragma once
+
+#include "wire/Text.h"
+
+#include <optional>
+#include <string_view>
+
+namespace platform {
+
+// Where the login keeps its four values between sessions: "ServerName", "ServerPort", "UserName", "DomainName".
+// The registry on Windows, a small INI file elsewhere. Never holds a password.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+
+    // False when there is no store yet (nothing was ever written) or it can't be opened for reading.
+    virtual bool exists() const = 0;
+    // Empty when the store has no such value.
+    virtual std::optional<wire::WideString> read(std::string_view name) const = 0;
+    // False when the value could not be stored; nothing else is lost then.
+    virtual bool write(std::string_view name, const wire::WideString& value) = 0;
+};
+
+} // namespace platform

@@ -1,9 +1,0 @@
-#include "shell/RefusalBox.h"
-
-namespace shell {
-
-void RefusalBox::show(const wire::WideString& caption, const wire::WideString& text, std::uint32_t style) {
-    ui_.messageBox(0, text, caption, style);
-}
-
-} // namespace shell

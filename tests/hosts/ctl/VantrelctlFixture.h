@@ -1,0 +1,88 @@
+#pragma once
+
+#include "tests/hosts/ctl/Program.h"
+#include "tests/server/TestFolder.h"
+#include "tests/server/VantreldProcess.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <csignal>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace hosttest {
+
+using Json = nlohmann::ordered_json;
+using Arguments = std::vector<std::string>;
+
+// A server of its own on the small sample estate, and the command line to administer it with.
+class VantrelctlFixture : public testing::Test {
+protected:
+    void startServer() {
+        server_ = std::make_unique<server::test::VantreldProcess>(
+            Arguments{"--database", folder / "estate.db", "--port", "0"});
+        port = std::to_string(server_->waitForPort());
+    }
+    void startServerWithSample() {
+        server_ = std::make_unique<server::test::VantreldProcess>(
+            Arguments{"--database", folder / "estate.db", "--port", "0", "--sample", "small", "--user", "admin",
+                      "--password-file", folder.write("password", "geheim\n")});
+        port = std::to_string(server_->waitForPort());
+    }
+    void restartServer() {
+        stopServer();
+        startServer();
+    }
+    void stopServer() {
+        server_->signal(SIGTERM);
+        ASSERT_EQ(server_->wait(), 0);
+    }
+
+    void kill() {
+        server_->signal(SIGKILL);
+        ASSERT_EQ(server_->wait(), -SIGKILL);
+    }
+
+    Arguments withConnection(const Arguments& command) const {
+        Arguments all{
+            VANTRELCTL_PROGRAM, "--settings", folder / "settings.ini", "--server",         "127.0.0.1", "--port", port,
+            "--user",           "admin",      "--password-file",       folder / "password"};
+        all.insert(all.end(), command.begin(), command.end());
+        return all;
+    }
+    Outcome ctl(const Arguments& command) const { return runProgram(withConnection(command)); }
+    // Of a command that has to succeed.
+    std::string output(const Arguments& command) const {
+        const auto outcome = ctl(command);
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        return outcome.output;
+    }
+    Json json(Arguments command) const {
+        command.insert(command.end(), {"--format", "json"});
+        return Json::parse(output(command));
+    }
+    // The names right below a path.
+    std::vector<std::string> below(const std::string& path) const {
+        std::vector<std::string> names;
+        const auto tree = json({"tree", path, "--depth", "1"});
+        for (const auto& child : tree.at("children")) {
+            names.push_back(child.at("name"));
+        }
+        return names;
+    }
+    void createRegion(const std::string& name) const {
+        output({"run", "Printers", "Create region", "--set", "Region Name=" + name, "--press", "OK"});
+    }
+
+    void keep(const std::string& name, const std::string& text) const { ASSERT_TRUE(exists(folder.write(name, text))); }
+
+    server::test::TestFolder folder;
+    std::string port;
+
+private:
+    std::unique_ptr<server::test::VantreldProcess> server_;
+};
+
+} // namespace hosttest

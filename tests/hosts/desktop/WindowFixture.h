@@ -1,0 +1,73 @@
+#pragma once
+
+#include "hosts/desktop/window/MainWindow.h"
+#include "tests/hosts/desktop/ModelFixture.h"
+#include "tests/hosts/desktop/ServerProcess.h"
+#include "tests/support/MemorySettingsStore.h"
+
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QPointer>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace desktoptest {
+
+// The program's window on a real server with the sample estate:
+//
+//     Printers    Berlin      Headquarters, Warehouse
+//                 München     Showroom, Training centre, and the printers MUC-001 to MUC-006
+//                 Łódź        the printers LCJ-001 to LCJ-004
+class WindowFixture : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // A window that has logged in without a dialog and shows the path.
+    void open(const QString& path = QStringLiteral("Printers"));
+    // A window that asks for the login.
+    void openWithDialog();
+
+    // Acts on the next dialogs, each once it is in front, in the order of asking. A dialog that comes to the front
+    // again is the next one too.
+    void whenAsked(std::function<void(QDialog&)> act);
+    // Presses the button with that text, access key or not.
+    static void press(QWidget& dialog, const QString& button);
+    static void type(QWidget& dialog, int field, const QString& text);
+
+    // Runs what was put off, until the console is idle and nothing is asked any more.
+    void settle();
+    // Chooses an entry of the menu of what is selected.
+    void choose(const QString& entry);
+
+    console::ScopeId item(const QString& path) const;
+    QStringList childrenOf(const QString& path) const;
+    QStringList rows() const;
+    QModelIndex rowNamed(const QString& name) const;
+    void selectRow(const QString& name);
+    void show(const QString& path);
+
+    desktop::MainWindow& window() { return *window_; }
+    desktop::Session& session() { return *session_; }
+    const shell::Shell& shell() const { return session_->shell(); }
+    desktop::Panes& panes() { return window_->panes(); }
+
+    ServerProcess server;
+    support::MemorySettingsStore settings;
+    const QTemporaryDir folder;
+    std::unique_ptr<desktop::ViewSettings> viewSettings;
+    desktop::IconStrips icons;
+
+private:
+    void makeWindow();
+
+    std::unique_ptr<desktop::Session> session_;
+    std::unique_ptr<desktop::MainWindow> window_;
+    std::deque<std::function<void(QDialog&)>> acts_;
+    QPointer<QDialog> seen_; // the dialog that was in front at the last look; another may come to stand where it was
+    QTimer watch_;
+};
+
+} // namespace desktoptest

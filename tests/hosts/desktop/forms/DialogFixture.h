@@ -1,0 +1,33 @@
+#pragma once
+
+#include "hosts/desktop/forms/FormDialog.h"
+#include "tests/forms/SampleForm.h"
+#include "tests/support/TestPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace desktop {
+
+// A form with every kind of control, as a dialog in front of a person.
+class DialogFixture : public testing::Test {
+protected:
+    // Shows the form and waits until the keyboard goes to it.
+    FormDialog& show();
+    // Lets everything happen that waits for its turn.
+    static void settle();
+
+    template <class Widget>
+    Widget& widget(const forms::Control& control) {
+        return dynamic_cast<Widget&>(*dialog_->widgetOf(control));
+    }
+
+    support::TestPlatform platform;
+    forms::SampleForm form{platform};
+
+private:
+    std::unique_ptr<FormDialog> dialog_;
+};
+
+} // namespace desktop
