@@ -1,7 +1,9 @@
 #include "fuzz/Expect.h"
 #include "fuzz/Fuzzer.h"
 #include "fuzz/Input.h"
-#include "server/Connection.h"
+#include "server/Commands.h"
+#include "server/Schema.h"
+#include "server/service/Connection.h"
 
 #include <spdlog/spdlog.h>
 #include <sys/socket.h>
@@ -44,10 +46,10 @@ private:
 // A database without anything in it but what runs have put there; and what its connections share.
 class Place {
 public:
-    Place() : store_(folder_.path() / "estate.db"), accounts_(store_) {
+    Place() : store_(folder_.path() / "estate.db", server::schema()), accounts_(store_) {
         for (const int required : {0, 1})
-            services_.push_back(std::make_unique<server::Services>(context_, store_, accounts_, server::Limits{},
-                                                                   std::chrono::minutes(required)));
+            services_.push_back(std::make_unique<server::Services>(context_, store_, accounts_, server::commands(),
+                                                                   server::Limits{}, std::chrono::minutes(required)));
     }
     ~Place() {
         for (const auto& one : services_) {

@@ -1,8 +1,8 @@
 #include "fuzz/Expect.h"
 #include "fuzz/Fuzzer.h"
 #include "fuzz/Input.h"
-#include "server/RequestFrame.h"
-#include "server/RequestReader.h"
+#include "server/net/Dropped.h"
+#include "server/net/RequestFrame.h"
 #include "wire/Message.h"
 
 #include <optional>
@@ -14,7 +14,7 @@ namespace {
 std::optional<server::RequestFrame> parse(std::uint8_t count, std::span<const std::uint8_t> data) {
     try {
         return server::parseRequestFrame(count, data);
-    } catch (const server::BadRequest&) {
+    } catch (const server::Dropped&) {
         return std::nullopt;
     }
 }

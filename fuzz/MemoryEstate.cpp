@@ -28,23 +28,23 @@ void copy(sqlite3* from, sqlite3* to) {
 MemoryEstate::MemoryEstate() : pristine_(openInMemory()) {
     auto database = openInMemory();
     database.exec("PRAGMA foreign_keys = ON");
-    server::migrate(database);
-    connection_ = database.getHandle();
-    estate_ = std::make_unique<server::Estate>(std::move(database));
-    estate_->change([&] {
-        server::SampleEstate(*estate_).fillSmall();
+    server::migrate(database, server::schema());
+    sqlite_ = database.getHandle();
+    connection_ = std::make_unique<server::StoreConnection>(std::move(database));
+    connection_->change([&] {
+        server::SampleEstate(*connection_).fillSmall();
         return true;
     });
-    copy(connection_, pristine_.getHandle());
-    changes_ = sqlite3_total_changes(connection_);
+    copy(sqlite_, pristine_.getHandle());
+    changes_ = sqlite3_total_changes(sqlite_);
 }
 
 void MemoryEstate::restore() {
-    expect(sqlite3_get_autocommit(connection_) != 0);
-    if (sqlite3_total_changes(connection_) == changes_)
+    expect(sqlite3_get_autocommit(sqlite_) != 0);
+    if (sqlite3_total_changes(sqlite_) == changes_)
         return;
-    copy(pristine_.getHandle(), connection_);
-    changes_ = sqlite3_total_changes(connection_);
+    copy(pristine_.getHandle(), sqlite_);
+    changes_ = sqlite3_total_changes(sqlite_);
 }
 
 std::vector<std::string> MemoryEstate::ids() {

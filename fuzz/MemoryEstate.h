@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/Estate.h"
+#include "server/store/StoreConnection.h"
 
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@ class MemoryEstate {
 public:
     MemoryEstate();
 
-    [[nodiscard]] server::Estate& estate() { return *estate_; }
+    [[nodiscard]] server::StoreConnection& connection() { return *connection_; }
 
     // Undoes what the last run has changed.
     void restore();
@@ -22,8 +22,8 @@ public:
 
 private:
     SQLite::Database pristine_;
-    sqlite3* connection_ = nullptr; // of the estate
-    std::unique_ptr<server::Estate> estate_;
+    sqlite3* sqlite_ = nullptr; // of the estate
+    std::unique_ptr<server::StoreConnection> connection_;
     int changes_ = 0;
 };
 

@@ -1,4 +1,4 @@
-#include "server/PasswordHash.h"
+#include "server/login/PasswordHash.h"
 
 // The linker takes these and leaves the slow ones in their library: a run is no place to spend a tenth of a second on a
 // password that is wrong.

@@ -2,7 +2,8 @@
 #include "fuzz/Fuzzer.h"
 #include "fuzz/Input.h"
 #include "fuzz/MemoryEstate.h"
-#include "server/Handler.h"
+#include "server/Commands.h"
+#include "server/commands/Handler.h"
 #include "wire/Frame.h"
 
 #include <spdlog/spdlog.h>
@@ -32,19 +33,19 @@ void expectFrames(std::span<const std::uint8_t> bytes) {
     }
 }
 
-void carryOut(std::uint8_t opcode, server::Fields fields, server::Estate& estate) {
-    const auto* const handler = server::findHandler(opcode, fields);
+void carryOut(std::uint8_t opcode, server::Fields fields, server::StoreConnection& connection) {
+    const auto* const handler = server::commands().find(opcode, fields);
     if (handler == nullptr)
         return;
     server::ReplyBuffer reply;
     if (handler->prepare != nullptr) {
         const auto change = handler->prepare(fields);
-        static_cast<void>(change.make(estate, reply));
+        static_cast<void>(change.make(connection, reply));
         fuzz::expect(change.isAnswered == (reply.size() > 0));
         expectFrames(reply.bytes());
         return;
     }
-    const auto answer = handler->answer(fields, estate);
+    const auto answer = handler->answer(fields, connection);
     for (bool more = true; more;) {
         reply.clear();
         more = answer->append(reply, pieceSize);
@@ -62,7 +63,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     auto& place = fuzz::memoryEstate();
 
     try {
-        carryOut(opcode, input.rest(), place.estate());
+        carryOut(opcode, input.rest(), place.connection());
     } catch (const server::BadRequest&) {
         // The connection would be closed.
     }

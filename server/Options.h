@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/Limits.h"
+#include "server/net/Limits.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "server/Estate.h"
-#include "server/SampleRandom.h"
+#include "server/store/StoreConnection.h"
 
 namespace server {
 
-// Fills an empty database with an invented estate that is the same each time. Runs inside of the caller's transaction.
+// Fills an empty database with an invented estate that is the same each time: each domain adds its own. Runs inside of
+// the caller's transaction.
 class SampleEstate {
 public:
-    explicit SampleEstate(Estate& estate) : estate_(estate) {}
+    explicit SampleEstate(StoreConnection& connection) : connection_(connection) {}
 
     // A few offices to look around in: regions three deep, of which one holds regions only, one printers only, one both
     // and one nothing, and some of everything else.
@@ -19,25 +19,11 @@ public:
     void fill(int printers);
 
 private:
-    struct Office {
-        std::int32_t region = 0;
-        std::u16string code;
-    };
-
-    std::int32_t addRegion(std::uint8_t kind, std::int32_t parentId, std::u16string_view name);
-    void addPrinters(const Office& office, int count, int mostQueues);
-    void addFollowQueue(const Office& office, int number);
-    void addLocalPrinters(const Office& office, int count);
-
-    [[nodiscard]] protocol::PrinterRecord makeRecord(const Office& office, std::uint16_t recordType,
-                                                     std::u16string name);
     // All that the regions and printers stand on, and all that stands on them.
     void addDrivers(int printers);
     void addTheRest(int printers);
 
-    Estate& estate_;
-    SampleRandom random_;
-    std::uint32_t made_ = 0;
+    StoreConnection& connection_;
 };
 
 } // namespace server

@@ -1,13 +1,10 @@
 #pragma once
 
-namespace SQLite {
-class Database;
-}
+#include "server/store/Migration.h"
 
 namespace server {
 
-// Brings a database to the tables that this server works on: makes them in an empty file, and takes an older file
-// forward. Throws StoreError for a file of another program and for one that a newer server has written.
-void migrate(SQLite::Database& database);
+// The tables of all domains.
+[[nodiscard]] const Schema& schema();
 
 } // namespace server

@@ -1,9 +1,13 @@
-#include "server/Accounts.h"
-#include "server/MemoryReserve.h"
+#include "server/Commands.h"
 #include "server/Options.h"
 #include "server/PortFile.h"
 #include "server/SampleEstate.h"
-#include "server/Server.h"
+#include "server/Schema.h"
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
+#include "server/login/Accounts.h"
+#include "server/service/MemoryReserve.h"
+#include "server/service/Server.h"
 #include "wire/Text.h"
 
 #include <boost/asio/signal_set.hpp>
@@ -50,11 +54,11 @@ void prepareProcess() {
 }
 
 void fillSample(const Store& store, const Sample& sample) {
-    const auto estate = store.openEstate();
-    estate->change([&] {
-        if (!estate->regions().isEmpty() || !estate->records().isEmpty())
+    const auto connection = store.openConnection();
+    connection->change([&] {
+        if (!connection->table<RegionTable>().isEmpty() || !connection->table<RecordTable>().isEmpty())
             throw std::runtime_error(store.file().string() + ": --sample needs an empty database");
-        SampleEstate filler(*estate);
+        SampleEstate filler(*connection);
         if (sample.printers == 0)
             filler.fillSmall();
         else
@@ -65,7 +69,7 @@ void fillSample(const Store& store, const Sample& sample) {
 
 void serve(const Options& options) {
     const auto password = options.user ? readPassword(options.passwordFile) : std::u16string();
-    const Store store(options.database);
+    const Store store(options.database, schema());
     if (options.sample)
         fillSample(store, *options.sample);
     Accounts accounts(store);
@@ -76,7 +80,7 @@ void serve(const Options& options) {
     settings.listen = options.listen;
     settings.port = options.port;
     settings.loginRequired = options.loginRequired;
-    Server server(store, accounts, settings);
+    Server server(store, accounts, commands(), settings);
 
     // Signals have a thread of their own, so that they are heard whatever the server does.
     boost::asio::io_context signalContext;

@@ -4,9 +4,9 @@
 #include "protocol/alarms/AlarmDestinationRecord.h"
 #include "protocol/alarms/AlarmEventRecord.h"
 #include "protocol/alarms/ProgramActionRecord.h"
-#include "server/alarms/AlarmProgramRules.h"
+#include "server/alarms/AlarmProgramService.h"
 #include "server/alarms/AlarmProgramTable.h"
-#include "server/alarms/EmailRecipientRules.h"
+#include "server/alarms/EmailRecipientService.h"
 #include "server/alarms/EmailRecipientTable.h"
 #include "server/alarms/ProgramActionTable.h"
 
@@ -15,8 +15,8 @@ namespace server {
 namespace {
 
 template <class Table, class Request>
-Listing listOf(Estate& estate, const Request& request) {
-    return estate.table<Table>().list(request);
+Listing listOf(StoreConnection& connection, const Request& request) {
+    return connection.table<Table>().list(request);
 }
 
 template <class Table, class Request, class R>
@@ -24,16 +24,16 @@ constexpr Handler listsFrom = lists<Request, R, &listOf<Table, Request>>;
 
 constexpr Handler handlers[] = {
     listsFrom<EmailRecipientTable, protocol::ListEmailRecipientsRequest, protocol::EmailRecipientRecord>,
-    changes<EmailRecipientRules, &EmailRecipientRules::write, protocol::WriteEmailRecipientRequest>,
-    changes<EmailRecipientRules, &EmailRecipientRules::setActive, protocol::SetRecipientActiveRequest>,
+    changes<EmailRecipientService, &EmailRecipientService::write, protocol::WriteEmailRecipientRequest>,
+    changes<EmailRecipientService, &EmailRecipientService::setActive, protocol::SetRecipientActiveRequest>,
     listsFrom<AlarmProgramTable, protocol::ListAlarmProgramsRequest, protocol::AlarmProgramRecord>,
-    changesWithReply<AlarmProgramRules, &AlarmProgramRules::write, protocol::WriteAlarmProgramRequest>,
+    changesWithReply<AlarmProgramService, &AlarmProgramService::write, protocol::WriteAlarmProgramRequest>,
     listsFrom<ProgramActionTable, protocol::ListAlarmEventsRequest, protocol::AlarmEventRecord>,
     listsFrom<ProgramActionTable, protocol::ListAlarmActionsRequest, protocol::AlarmActionRecord>,
     listsFrom<ProgramActionTable, protocol::ListAlarmDestinationsRequest, protocol::AlarmDestinationRecord>,
     listsFrom<ProgramActionTable, protocol::ListProgramActionsRequest, protocol::ProgramActionRecord>,
-    changes<AlarmProgramRules, &AlarmProgramRules::addAction, protocol::AddProgramActionRequest>,
-    changes<AlarmProgramRules, &AlarmProgramRules::removeAction, protocol::DeleteProgramActionRequest>,
+    changes<AlarmProgramService, &AlarmProgramService::addAction, protocol::AddProgramActionRequest>,
+    changes<AlarmProgramService, &AlarmProgramService::removeAction, protocol::DeleteProgramActionRequest>,
 };
 
 } // namespace

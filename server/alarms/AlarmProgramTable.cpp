@@ -1,7 +1,7 @@
 #include "server/alarms/AlarmProgramTable.h"
 
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 namespace server {
 

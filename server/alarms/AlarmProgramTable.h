@@ -2,7 +2,7 @@
 
 #include "protocol/alarms/AlarmProgramRecord.h"
 #include "protocol/alarms/ListAlarmProgramsRequest.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

@@ -82,7 +82,7 @@ constexpr std::array<Program, 5> programs = {{
 }};
 
 // The first dozen are people by themselves; those behind them carry a number, as they do in companies.
-std::string addRecipient(Estate& estate, SampleRandom& random, int number) {
+std::string addRecipient(StoreConnection& connection, SampleRandom& random, int number) {
     const auto count = static_cast<int>(people.size());
     const auto& person = people[static_cast<std::size_t>(number % count)];
     const int round = number / count;
@@ -94,23 +94,23 @@ std::string addRecipient(Estate& estate, SampleRandom& random, int number) {
         .active = random.below(5) != 0};
     if (round > 0)
         recipient.name += u" (" + wire::toWide(suffix) + u")";
-    estate.table<EmailRecipientTable>().insert(recipient);
+    connection.table<EmailRecipientTable>().insert(recipient);
     return recipient.id;
 }
 
-void addProgram(Estate& estate, SampleRandom& random, const Program& program, const std::u16string& name,
+void addProgram(StoreConnection& connection, SampleRandom& random, const Program& program, const std::u16string& name,
                 const std::vector<std::string>& recipients) {
     const std::string id = random.newId();
-    estate.table<AlarmProgramTable>().insert({.record = {.id = id,
-                                                         .name = name,
-                                                         .comment = std::u16string(program.comment),
-                                                         .createdBy = std::u16string(program.createdBy),
-                                                         .creationDate = std::u16string(program.creationDate)},
-                                              .kind = kind::alarm});
+    connection.table<AlarmProgramTable>().insert({.record = {.id = id,
+                                                             .name = name,
+                                                             .comment = std::u16string(program.comment),
+                                                             .createdBy = std::u16string(program.createdBy),
+                                                             .creationDate = std::u16string(program.creationDate)},
+                                                  .kind = kind::alarm});
     for (const auto& [event, code] : program.actions) {
         if (event.empty())
             break;
-        estate.table<ProgramActionTable>().insert(
+        connection.table<ProgramActionTable>().insert(
             random.newId(), {.programId = id,
                              .eventId = std::string(event),
                              .actionCode = code,
@@ -120,18 +120,18 @@ void addProgram(Estate& estate, SampleRandom& random, const Program& program, co
 
 } // namespace
 
-void addAlarmSample(Estate& estate, SampleRandom& random, int printers) {
+void addAlarmSample(StoreConnection& connection, SampleRandom& random, int printers) {
     std::vector<std::string> recipients;
     const int recipientCount = std::clamp(printers / printersPerRecipient, fewestRecipients, mostRecipients);
     recipients.reserve(static_cast<std::size_t>(recipientCount));
     for (int number = 0; number < recipientCount; ++number)
-        recipients.push_back(addRecipient(estate, random, number));
+        recipients.push_back(addRecipient(connection, random, number));
     for (const auto& program : programs)
-        addProgram(estate, random, program, std::u16string(program.name), recipients);
+        addProgram(connection, random, program, std::u16string(program.name), recipients);
     for (int office = 1; office <= printers / printersPerOfficeProgram; ++office)
-        addProgram(estate, random, random.anyOf(programs), u"Offices " + wire::toWide(fmt::format("{:03}", office)),
+        addProgram(connection, random, random.anyOf(programs), u"Offices " + wire::toWide(fmt::format("{:03}", office)),
                    recipients);
-    estate.table<AlarmProgramTable>().pointPrinters();
+    connection.table<AlarmProgramTable>().pointPrinters();
 }
 
 } // namespace server

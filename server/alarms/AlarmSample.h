@@ -1,11 +1,11 @@
 #pragma once
 
-#include "server/Estate.h"
-#include "server/SampleRandom.h"
+#include "server/estate/SampleRandom.h"
+#include "server/store/StoreConnection.h"
 
 namespace server {
 
 // Fills in invented alarm programs and e-mail recipients, in proportion to the printers.
-void addAlarmSample(Estate& estate, SampleRandom& random, int printers);
+void addAlarmSample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

@@ -2,7 +2,7 @@
 
 #include "protocol/alarms/EmailRecipientRecord.h"
 #include "protocol/alarms/ListEmailRecipientsRequest.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

@@ -5,7 +5,7 @@
 #include "protocol/alarms/ListAlarmDestinationsRequest.h"
 #include "protocol/alarms/ListAlarmEventsRequest.h"
 #include "protocol/alarms/ListProgramActionsRequest.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

@@ -7,40 +7,40 @@
 #include "protocol/configurations/ListQueueConfigurationsRequest.h"
 #include "protocol/configurations/QueueConfigChoice.h"
 #include "protocol/configurations/QueueConfigEntry.h"
-#include "server/configurations/ConfigurationRules.h"
+#include "server/configurations/ConfigurationService.h"
 
 namespace server {
 
 namespace {
 
-Listing listOfQueue(Estate& estate, const protocol::ListQueueConfigurationsRequest& request) {
-    return estate.table<QueueConfigurationTable>().list(request.queueId, request.driverMapId);
+Listing listOfQueue(StoreConnection& connection, const protocol::ListQueueConfigurationsRequest& request) {
+    return connection.table<QueueConfigurationTable>().list(request.queueId, request.driverMapId);
 }
 
-Listing listChoices(Estate& estate, const protocol::ListConfigurationChoicesRequest& request) {
-    return estate.table<ConfigurationTable>().listChoices(request.driverMapId);
+Listing listChoices(StoreConnection& connection, const protocol::ListConfigurationChoicesRequest& request) {
+    return connection.table<ConfigurationTable>().listChoices(request.driverMapId);
 }
 
-Listing listOfModel(Estate& estate, const protocol::ListConfigurationsRequest& request) {
-    return estate.table<ConfigurationTable>().list(request.modelId);
+Listing listOfModel(StoreConnection& connection, const protocol::ListConfigurationsRequest& request) {
+    return connection.table<ConfigurationTable>().list(request.modelId);
 }
 
-Listing listQueues(Estate& estate, const protocol::ListConfigurationQueuesRequest& request) {
-    return estate.table<QueueConfigurationTable>().listQueues(request.configId);
+Listing listQueues(StoreConnection& connection, const protocol::ListConfigurationQueuesRequest& request) {
+    return connection.table<QueueConfigurationTable>().listQueues(request.configId);
 }
 
-using Rules = ConfigurationRules;
+using Service = ConfigurationService;
 
 constexpr Handler handlers[] = {
     lists<protocol::ListQueueConfigurationsRequest, protocol::QueueConfigEntry, listOfQueue>,
     lists<protocol::ListConfigurationChoicesRequest, protocol::QueueConfigChoice, listChoices>,
     lists<protocol::ListConfigurationsRequest, protocol::ConfigurationRecord, listOfModel>,
     lists<protocol::ListConfigurationQueuesRequest, protocol::ConfigQueueRecord, listQueues>,
-    changes<Rules, &Rules::applyToQueue, protocol::ApplyQueueConfigurationRequest>,
-    changes<Rules, &Rules::setComment, protocol::SetConfigurationCommentRequest>,
-    changes<Rules, &Rules::remove, protocol::DeleteConfigurationRequest>,
-    changes<Rules, &Rules::removeFromQueue, protocol::RemoveConfigurationFromQueueRequest>,
-    changes<Rules, &Rules::applyForDriver, protocol::ApplyConfigurationForDriverRequest>,
+    changes<Service, &Service::applyToQueue, protocol::ApplyQueueConfigurationRequest>,
+    changes<Service, &Service::setComment, protocol::SetConfigurationCommentRequest>,
+    changes<Service, &Service::remove, protocol::DeleteConfigurationRequest>,
+    changes<Service, &Service::removeFromQueue, protocol::RemoveConfigurationFromQueueRequest>,
+    changes<Service, &Service::applyForDriver, protocol::ApplyConfigurationForDriverRequest>,
 };
 
 } // namespace

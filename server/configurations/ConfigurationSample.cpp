@@ -1,8 +1,8 @@
 #include "server/configurations/ConfigurationSample.h"
 
-#include "server/SampleNames.h"
 #include "server/configurations/ConfigurationTable.h"
 #include "server/configurations/QueueConfigurationTable.h"
+#include "server/estate/SampleNames.h"
 #include "wire/Text.h"
 
 #include <fmt/format.h>
@@ -93,9 +93,9 @@ void applyToQueues(QueueConfigurationTable& table, SampleRandom& random, const s
 
 } // namespace
 
-void addConfigurationSample(Estate& estate, SampleRandom& random, int) {
-    auto& surroundings = estate.table<Surroundings>();
-    auto& configurations = estate.table<ConfigurationTable>();
+void addConfigurationSample(StoreConnection& connection, SampleRandom& random, int) {
+    auto& surroundings = connection.table<Surroundings>();
+    auto& configurations = connection.table<ConfigurationTable>();
     auto queues = readByModel(surroundings.queues);
     for (const auto& [model, maps] : readByModel(surroundings.deployments)) {
         const auto more = std::min(queues[model].size() / queuesForOneMore, mostMore);
@@ -107,7 +107,7 @@ void addConfigurationSample(Estate& estate, SampleRandom& random, int) {
             configurations.insert({.record = record, .modelId = model});
             made[number] = record.configId;
         }
-        applyToQueues(estate.table<QueueConfigurationTable>(), random, queues[model], maps, made);
+        applyToQueues(connection.table<QueueConfigurationTable>(), random, queues[model], maps, made);
     }
 }
 

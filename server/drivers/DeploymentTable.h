@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/drivers/OperatingSystemRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <cstdint>
 #include <optional>

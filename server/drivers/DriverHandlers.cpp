@@ -13,8 +13,8 @@
 #include "protocol/drivers/ListDriversRequest.h"
 #include "protocol/drivers/ListOperatingSystemsRequest.h"
 #include "protocol/drivers/ShortDriverRecord.h"
-#include "server/drivers/DeploymentRules.h"
-#include "server/drivers/DriverRules.h"
+#include "server/drivers/DeploymentService.h"
+#include "server/drivers/DriverService.h"
 
 #include <algorithm>
 #include <cstring>
@@ -25,45 +25,46 @@ namespace {
 
 using namespace protocol; // requests and records
 
-Listing listBrands(Estate& estate, const ListDriverBrandsRequest&) {
-    return estate.table<DriverModelTable>().listBrands();
+Listing listBrands(StoreConnection& connection, const ListDriverBrandsRequest&) {
+    return connection.table<DriverModelTable>().listBrands();
 }
 
-Listing listModels(Estate& estate, const ListDriverModelsRequest& request) {
-    return estate.table<DriverModelTable>().list(request.listKind, request.parentId);
+Listing listModels(StoreConnection& connection, const ListDriverModelsRequest& request) {
+    return connection.table<DriverModelTable>().list(request.listKind, request.parentId);
 }
 
-Listing listSystems(Estate& estate, const ListOperatingSystemsRequest&) {
-    return estate.table<DeploymentTable>().listSystems();
+Listing listSystems(StoreConnection& connection, const ListOperatingSystemsRequest&) {
+    return connection.table<DeploymentTable>().listSystems();
 }
 
 // An unknown kind of list selects nothing.
-Listing listDrivers(Estate& estate, const ListDriversRequest& request) {
-    auto& drivers = estate.table<DriverTable>();
+Listing listDrivers(StoreConnection& connection, const ListDriversRequest& request) {
+    auto& drivers = connection.table<DriverTable>();
     if (request.listKind == driverList::ofBrand)
         return drivers.listOfBrand(request.parentId);
     return request.listKind == driverList::ofModel ? drivers.listOfModel(request.parentId) : Listing{};
 }
 
-Listing listShortDrivers(Estate& estate, const ListDriversRequest& request) {
-    return estate.table<DriverTable>().listShort(request.parentId);
+Listing listShortDrivers(StoreConnection& connection, const ListDriversRequest& request) {
+    return connection.table<DriverTable>().listShort(request.parentId);
 }
 
-Listing listDeployments(Estate& estate, const ListDriverDeploymentsRequest& request) {
-    return estate.table<DeploymentTable>().list(request.modelId, request.driverId);
+Listing listDeployments(StoreConnection& connection, const ListDriverDeploymentsRequest& request) {
+    return connection.table<DeploymentTable>().list(request.modelId, request.driverId);
 }
 
 // 0 for a model that is not there.
-std::optional<GetModelOctetOrderReply> tellOctetOrder(Estate& estate, const GetModelOctetOrderRequest& request) {
+std::optional<GetModelOctetOrderReply> tellOctetOrder(StoreConnection& connection,
+                                                      const GetModelOctetOrderRequest& request) {
     return GetModelOctetOrderReply{.octetOrder =
-                                       estate.table<DriverModelTable>().octetOrder(request.modelId).value_or(0)};
+                                       connection.table<DriverModelTable>().octetOrder(request.modelId).value_or(0)};
 }
 
-std::optional<CountDeploymentConfigsReply> countConfigurations(Estate& estate,
+std::optional<CountDeploymentConfigsReply> countConfigurations(StoreConnection& connection,
                                                                const CountDeploymentConfigsRequest& request) {
-    const Estate::Moment moment(estate);
-    auto& configurations = estate.table<QueueConfigurationTable>();
-    const auto deployed = estate.table<DeploymentTable>().idAt(
+    const StoreConnection::Moment moment(connection);
+    auto& configurations = connection.table<QueueConfigurationTable>();
+    const auto deployed = connection.table<DeploymentTable>().idAt(
         {.modelId = request.modelId, .osId = request.osId, .locale = request.locale});
     return CountDeploymentConfigsReply{.queuesWithConfigs =
                                            deployed ? configurations.queuesWithConfiguration(*deployed) : 0,
@@ -100,17 +101,17 @@ constexpr Handler handlers[] = {
     lists<ListOperatingSystemsRequest, OperatingSystemRecord, listSystems>,
     when(&asksForShortDrivers, lists<ListDriversRequest, ShortDriverRecord, listShortDrivers>),
     lists<ListDriversRequest, DriverRecord, listDrivers>,
-    changes<DriverRules, &DriverRules::remove, DeleteDriverRequest>,
+    changes<DriverService, &DriverService::remove, DeleteDriverRequest>,
     lists<ListDriverDeploymentsRequest, DriverDeploymentRecord, listDeployments>,
-    changes<DeploymentRules, &DeploymentRules::add, AddDriverDeploymentRequest>,
-    when(&removesDeployment, changes<DeploymentRules, &DeploymentRules::remove, RemoveDriverDeploymentRequest>),
-    changes<DeploymentRules, &DeploymentRules::update, UpdateDriverDeploymentRequest>,
-    changes<DriverRules, &DriverRules::setVisible, SetDriverModelVisibleRequest>,
-    changes<DriverRules, &DriverRules::addModel, AddDriverModelRequest>,
-    changes<DriverRules, &DriverRules::addBuiltIn, AddBuiltInDriverRequest>,
-    changes<DriverRules, &DriverRules::addAlternate, AddAlternateDriverRequest>,
-    changes<DriverRules, &DriverRules::removeAlternate, RemoveAlternateDriverRequest>,
-    changes<DriverRules, &DriverRules::setOctetOrder, SetModelOctetOrderRequest>,
+    changes<DeploymentService, &DeploymentService::add, AddDriverDeploymentRequest>,
+    when(&removesDeployment, changes<DeploymentService, &DeploymentService::remove, RemoveDriverDeploymentRequest>),
+    changes<DeploymentService, &DeploymentService::update, UpdateDriverDeploymentRequest>,
+    changes<DriverService, &DriverService::setVisible, SetDriverModelVisibleRequest>,
+    changes<DriverService, &DriverService::addModel, AddDriverModelRequest>,
+    changes<DriverService, &DriverService::addBuiltIn, AddBuiltInDriverRequest>,
+    changes<DriverService, &DriverService::addAlternate, AddAlternateDriverRequest>,
+    changes<DriverService, &DriverService::removeAlternate, RemoveAlternateDriverRequest>,
+    changes<DriverService, &DriverService::setOctetOrder, SetModelOctetOrderRequest>,
     answers<GetModelOctetOrderRequest, tellOctetOrder>,
     answers<CountDeploymentConfigsRequest, countConfigurations>,
 };

@@ -1,8 +1,8 @@
 #include "server/drivers/DriverModelTable.h"
 
 #include "protocol/drivers/DriverModelList.h"
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 namespace server {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/drivers/DriverModelRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,9 +1,9 @@
 #include "server/drivers/DriverSample.h"
 
-#include "server/SampleNames.h"
 #include "server/drivers/DeploymentTable.h"
 #include "server/drivers/DriverModelTable.h"
 #include "server/drivers/DriverTable.h"
+#include "server/estate/SampleNames.h"
 #include "wire/Text.h"
 
 #include <fmt/format.h>
@@ -28,10 +28,10 @@ constexpr std::array<std::u16string_view, 4> seriesNames = {u"Works", u"Folio", 
 // Makes the catalogue, one model after the other.
 class DriverSample {
 public:
-    DriverSample(Estate& estate, SampleRandom& random)
-        : models_(estate.table<DriverModelTable>()),
-          drivers_(estate.table<DriverTable>()),
-          deployments_(estate.table<DeploymentTable>()),
+    DriverSample(StoreConnection& connection, SampleRandom& random)
+        : models_(connection.table<DriverModelTable>()),
+          drivers_(connection.table<DriverTable>()),
+          deployments_(connection.table<DeploymentTable>()),
           random_(random) {
         for (auto listing = deployments_.listSystems(); listing.rows.next();)
             systems_.emplace_back(listing.rows.text(0));
@@ -155,8 +155,8 @@ private:
 
 } // namespace
 
-void addDriverSample(Estate& estate, SampleRandom& random, int printers) {
-    DriverSample(estate, random).add(printers);
+void addDriverSample(StoreConnection& connection, SampleRandom& random, int printers) {
+    DriverSample(connection, random).add(printers);
 }
 
 } // namespace server

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "server/Estate.h"
-#include "server/SampleRandom.h"
+#include "server/estate/SampleRandom.h"
+#include "server/store/StoreConnection.h"
 
 namespace server {
 
 // Fills in invented brands, models, drivers and deployments, in proportion to the printers.
-void addDriverSample(Estate& estate, SampleRandom& random, int printers);
+void addDriverSample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

@@ -1,7 +1,7 @@
 #include "server/drivers/DriverTable.h"
 
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 namespace server {
 

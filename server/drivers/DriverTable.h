@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/drivers/DriverRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/Query.h"
+#include "server/store/Query.h"
 
 #include <array>
 #include <optional>

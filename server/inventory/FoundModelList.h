@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

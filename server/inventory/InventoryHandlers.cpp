@@ -13,12 +13,12 @@
 #include "protocol/inventory/SearchQueuesRequest.h"
 #include "server/inventory/FoundModelList.h"
 #include "server/inventory/FoundPrinterList.h"
-#include "server/inventory/IpRangeRules.h"
+#include "server/inventory/IpRangeService.h"
 #include "server/inventory/IpRangeTable.h"
-#include "server/inventory/MigrationPlanRules.h"
+#include "server/inventory/MigrationPlanService.h"
 #include "server/inventory/MigrationPlanTable.h"
 #include "server/inventory/QueueSearch.h"
-#include "server/inventory/ReportRules.h"
+#include "server/inventory/ReportService.h"
 #include "server/inventory/ReportTable.h"
 
 namespace server {
@@ -27,48 +27,48 @@ namespace {
 
 // A table whose queries match names.
 template <class Table>
-Table& matchingTable(Estate& estate) {
-    static_cast<void>(estate.table<NameMatching>());
-    return estate.table<Table>();
+Table& matchingTable(StoreConnection& connection) {
+    static_cast<void>(connection.table<NameMatching>());
+    return connection.table<Table>();
 }
 
-Listing listSchemas(Estate& estate, const protocol::ListSchemasRequest& request) {
-    auto& plans = estate.table<MigrationPlanTable>();
+Listing listSchemas(StoreConnection& connection, const protocol::ListSchemasRequest& request) {
+    auto& plans = connection.table<MigrationPlanTable>();
     if (request.listKind == protocol::schemaListKind::one)
         return plans.find(request.id);
     if (request.listKind != protocol::schemaListKind::all)
         return {};
     if (request.id.empty())
         return plans.list();
-    const auto report = estate.table<ReportTable>().find(request.id);
+    const auto report = connection.table<ReportTable>().find(request.id);
     return report ? plans.listOfReport(*report) : Listing();
 }
 
-Listing searchQueues(Estate& estate, const protocol::SearchQueuesRequest& request) {
-    return matchingTable<QueueSearch>(estate).find(NamePattern(request.pattern));
+Listing searchQueues(StoreConnection& connection, const protocol::SearchQueuesRequest& request) {
+    return matchingTable<QueueSearch>(connection).find(NamePattern(request.pattern));
 }
 
-Listing listReports(Estate& estate, const protocol::ListInventoryReportsRequest&) {
-    return estate.table<ReportTable>().list();
+Listing listReports(StoreConnection& connection, const protocol::ListInventoryReportsRequest&) {
+    return connection.table<ReportTable>().list();
 }
 
-Listing listModels(Estate& estate, const protocol::ListInventoryModelsRequest& request) {
-    const auto report = estate.table<ReportTable>().find(request.id);
-    return report ? estate.table<FoundModelList>().list(request.listKind, *report) : Listing();
+Listing listModels(StoreConnection& connection, const protocol::ListInventoryModelsRequest& request) {
+    const auto report = connection.table<ReportTable>().find(request.id);
+    return report ? connection.table<FoundModelList>().list(request.listKind, *report) : Listing();
 }
 
 // What is no report's id filters the newest report.
-Listing listPrinters(Estate& estate, const protocol::ListInventoryPrintersRequest& request) {
-    auto& reports = estate.table<ReportTable>();
-    auto& printers = matchingTable<FoundPrinterList>(estate);
+Listing listPrinters(StoreConnection& connection, const protocol::ListInventoryPrintersRequest& request) {
+    auto& reports = connection.table<ReportTable>();
+    auto& printers = matchingTable<FoundPrinterList>(connection);
     if (const auto report = reports.find(request.id))
         return printers.list(request.listKind, *report);
     const auto newest = reports.newest();
     return newest ? printers.filter(request.listKind, *newest, NamePattern(wire::toWide(request.id))) : Listing();
 }
 
-Listing listRanges(Estate& estate, const protocol::ListIpRangesRequest& request) {
-    auto& ranges = estate.table<IpRangeTable>();
+Listing listRanges(StoreConnection& connection, const protocol::ListIpRangesRequest& request) {
+    auto& ranges = connection.table<IpRangeTable>();
     if (request.listKind == protocol::rangeListKind::all)
         return ranges.list();
     return request.listKind == protocol::rangeListKind::one ? ranges.find(request.id) : Listing();
@@ -76,15 +76,15 @@ Listing listRanges(Estate& estate, const protocol::ListIpRangesRequest& request)
 
 constexpr Handler handlers[] = {
     lists<protocol::ListSchemasRequest, protocol::SchemaRecord, listSchemas>,
-    changes<MigrationPlanRules, &MigrationPlanRules::change, protocol::ChangeSchemaRequest>,
+    changes<MigrationPlanService, &MigrationPlanService::change, protocol::ChangeSchemaRequest>,
     lists<protocol::SearchQueuesRequest, protocol::FoundQueueRecord, searchQueues>,
     lists<protocol::ListInventoryReportsRequest, protocol::InventoryReportRecord, listReports>,
-    changes<ReportRules, &ReportRules::create, protocol::CreateInventoryReportRequest>,
-    changes<ReportRules, &ReportRules::remove, protocol::DeleteInventoryReportRequest>,
+    changes<ReportService, &ReportService::create, protocol::CreateInventoryReportRequest>,
+    changes<ReportService, &ReportService::remove, protocol::DeleteInventoryReportRequest>,
     lists<protocol::ListInventoryModelsRequest, protocol::InventoryModelRecord, listModels>,
     lists<protocol::ListInventoryPrintersRequest, protocol::InventoryPrinterRecord, listPrinters>,
     lists<protocol::ListIpRangesRequest, protocol::IpRangeRecord, listRanges>,
-    changes<IpRangeRules, &IpRangeRules::change, protocol::ChangeIpRangeRequest>,
+    changes<IpRangeService, &IpRangeService::change, protocol::ChangeIpRangeRequest>,
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "server/Handler.h"
+#include "server/commands/Handler.h"
 
 namespace server {
 

@@ -3,7 +3,7 @@
 #include "protocol/inventory/RangeType.h"
 #include "protocol/inventory/ReportType.h"
 #include "protocol/inventory/SchemaAction.h"
-#include "server/SampleNames.h"
+#include "server/estate/SampleNames.h"
 #include "server/inventory/InventoryScan.h"
 #include "server/inventory/IpRangeTable.h"
 #include "server/inventory/MigrationPlanTable.h"
@@ -61,10 +61,10 @@ std::u16string widened(const std::string& text) {
 // Makes the invented estate, each of its parts from the chance given.
 class Filler {
 public:
-    Filler(Estate& estate, SampleRandom& random, int printers)
-        : estate_(estate),
+    Filler(StoreConnection& connection, SampleRandom& random, int printers)
+        : connection_(connection),
           random_(random),
-          oldEstate_(estate.table<OldEstateTable>()),
+          oldEstate_(connection.table<OldEstateTable>()),
           wanted_(std::min(printers <= 100 ? 36 : printers * 3 / 10, mostOldPrinters)),
           plans_(std::clamp(printers / 30, 8, mostPlans)) {}
 
@@ -99,7 +99,7 @@ private:
     }
 
     void addPrinters() {
-        auto own = estate_.table<OwnDevices>().all();
+        auto own = connection_.table<OwnDevices>().all();
         for (int number = 0; number < wanted_; ++number) {
             if (number % printersOnServer == 0)
                 addServer(number / printersOnServer);
@@ -196,7 +196,7 @@ private:
         range.endIp = last;
         range.creator = random_.anyOf(administrators);
         range.rangeType = rangeType;
-        estate_.table<IpRangeTable>().insert(range);
+        connection_.table<IpRangeTable>().insert(range);
     }
 
     void addRanges() {
@@ -215,7 +215,7 @@ private:
         constexpr std::array actions = {protocol::schemaAction::reinstall, protocol::schemaAction::ignore,
                                         protocol::schemaAction::reinstall, protocol::schemaAction::remove};
         int number = 0;
-        for (auto queues = estate_.table<SomeQueues>().first(plans_ - 2); queues.next(); ++number) {
+        for (auto queues = connection_.table<SomeQueues>().first(plans_ - 2); queues.next(); ++number) {
             SchemaRecord plan = newPlan(u"Move " + queues.wide(1), actions[static_cast<std::size_t>(number) % 4]);
             plan.oldIp = queues.text(2);
             if (number % 3 == 0)
@@ -224,15 +224,15 @@ private:
                 plan.newQueueId = queues.text(0);
                 plan.newPrinterName = queues.wide(1);
             }
-            estate_.table<MigrationPlanTable>().insert(plan);
+            connection_.table<MigrationPlanTable>().insert(plan);
         }
         auto scrapped = newPlan(u"Scrap the inkjets", protocol::schemaAction::remove);
         scrapped.oldModelName = u"Brevik Ink 320";
-        estate_.table<MigrationPlanTable>().insert(scrapped);
+        connection_.table<MigrationPlanTable>().insert(scrapped);
         auto kept = newPlan(u"Keep the label printers", protocol::schemaAction::ignore);
         kept.oldModelName = u"Quillmark Label 4";
         kept.oldPort = "USB001";
-        estate_.table<MigrationPlanTable>().insert(kept);
+        connection_.table<MigrationPlanTable>().insert(kept);
     }
 
     SchemaRecord newPlan(const std::u16string& name, std::int32_t action) {
@@ -253,7 +253,7 @@ private:
                                                      .comment = comment,
                                                      .ipScope = widened(scope),
                                                      .reportType = reportType};
-        InventoryScan(estate_, [this] { return random_.newId(); }).run(report, *IpScope::parse(scope), period);
+        InventoryScan(connection_, [this] { return random_.newId(); }).run(report, *IpScope::parse(scope), period);
     }
 
     void addReports() {
@@ -269,7 +269,7 @@ private:
         addReport(u"2025-06-30 22:00:01.004", u"Complete inventory", u"Nightly run", type::all, "", always);
     }
 
-    Estate& estate_;
+    StoreConnection& connection_;
     SampleRandom& random_;
     OldEstateTable& oldEstate_;
     int wanted_;
@@ -280,8 +280,8 @@ private:
 
 } // namespace
 
-void addInventorySample(Estate& estate, SampleRandom& random, int printers) {
-    Filler(estate, random, printers).fill();
+void addInventorySample(StoreConnection& connection, SampleRandom& random, int printers) {
+    Filler(connection, random, printers).fill();
 }
 
 } // namespace server

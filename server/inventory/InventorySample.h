@@ -1,11 +1,11 @@
 #pragma once
 
-#include "server/Estate.h"
-#include "server/SampleRandom.h"
+#include "server/estate/SampleRandom.h"
+#include "server/store/StoreConnection.h"
 
 namespace server {
 
 // Fills in invented inventory reports, migration plans and IP ranges, in proportion to the printers.
-void addInventorySample(Estate& estate, SampleRandom& random, int printers);
+void addInventorySample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

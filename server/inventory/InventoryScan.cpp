@@ -2,11 +2,11 @@
 
 #include "protocol/inventory/RangeType.h"
 #include "protocol/inventory/ReportType.h"
-#include "server/NameKey.h"
 #include "server/inventory/IpRangeTable.h"
 #include "server/inventory/OldEstateTable.h"
 #include "server/inventory/OwnPrinters.h"
 #include "server/inventory/ReportTable.h"
+#include "server/store/NameKey.h"
 
 #include <map>
 #include <unordered_set>
@@ -32,10 +32,10 @@ bool isOfKind(std::uint16_t reportType, bool local, bool shared) {
 
 void InventoryScan::run(const protocol::InventoryReportRecord& report, const IpScope& scope,
                         const ReportPeriod& period) {
-    auto& oldEstate = estate_.table<OldEstateTable>();
-    auto& reports = estate_.table<ReportTable>();
-    auto& own = estate_.table<OwnPrinters>();
-    const RangeMap ranges(estate_.table<IpRangeTable>().active());
+    auto& oldEstate = connection_.table<OldEstateTable>();
+    auto& reports = connection_.table<ReportTable>();
+    auto& own = connection_.table<OwnPrinters>();
+    const RangeMap ranges(connection_.table<IpRangeTable>().active());
     const auto number = reports.insert(report, period);
     std::map<Bytes, ModelTally> models;
     for (auto rows = oldEstate.seenBetween(period.from, period.to); rows.next();) {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "protocol/inventory/InventoryReportRecord.h"
-#include "server/Estate.h"
 #include "server/inventory/IpScope.h"
 #include "server/inventory/ReportPeriod.h"
+#include "server/store/StoreConnection.h"
 
 #include <functional>
 
@@ -16,14 +16,14 @@ public:
     using IdMaker = std::function<std::string()>;
 
     // The ids of what is found come from the maker.
-    InventoryScan(Estate& estate, IdMaker newId) : estate_(estate), newId_(std::move(newId)) {}
+    InventoryScan(StoreConnection& connection, IdMaker newId) : connection_(connection), newId_(std::move(newId)) {}
 
     // Stores the report with the printers of its kind that stand within the scope and were last seen in the period.
     // What an IP range tells to ignore is left out. The id and the date are the report's own.
     void run(const protocol::InventoryReportRecord& report, const IpScope& scope, const ReportPeriod& period);
 
 private:
-    Estate& estate_;
+    StoreConnection& connection_;
     IdMaker newId_;
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "protocol/inventory/IpRangeRecord.h"
-#include "server/ListQuery.h"
 #include "server/inventory/RangeMap.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

@@ -1,9 +1,9 @@
 #include "server/inventory/MigrationPlanTable.h"
 
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
 #include "server/inventory/Address.h"
 #include "server/inventory/PlanCover.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/inventory/SchemaRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 #include "server/inventory/NamePattern.h"
 
-#include "server/NameKey.h"
-#include "server/StoreError.h"
+#include "server/store/NameKey.h"
+#include "server/store/StoreError.h"
 
 #include <sqlite3.h>
 

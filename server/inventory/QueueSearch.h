@@ -1,7 +1,7 @@
 #pragma once
 
-#include "server/ListQuery.h"
 #include "server/inventory/NamePattern.h"
+#include "server/store/ListQuery.h"
 
 namespace server {
 

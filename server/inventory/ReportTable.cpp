@@ -1,8 +1,8 @@
 #include "server/inventory/ReportTable.h"
 
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
 #include "server/inventory/Address.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 #include <sqlite3.h>
 

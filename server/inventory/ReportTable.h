@@ -1,8 +1,8 @@
 #pragma once
 
 #include "protocol/inventory/InventoryReportRecord.h"
-#include "server/ListQuery.h"
 #include "server/inventory/ReportPeriod.h"
+#include "server/store/ListQuery.h"
 
 #include <optional>
 

@@ -7,9 +7,9 @@
 #include "protocol/rules/RuleGroupRecord.h"
 #include "protocol/rules/ShortIdRecord.h"
 #include "protocol/rules/UserMessageRecord.h"
-#include "server/ListQuery.h"
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
+#include "server/store/ListQuery.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 namespace server {
 

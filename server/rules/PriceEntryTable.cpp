@@ -1,6 +1,6 @@
 #include "server/rules/PriceEntryTable.h"
 
-#include "server/RecordColumns.h"
+#include "server/store/RecordColumns.h"
 
 namespace server {
 

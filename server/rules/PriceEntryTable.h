@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/rules/PriceEntryRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/rules/RuleEntryRecord.h"
-#include "server/ListQuery.h"
+#include "server/store/ListQuery.h"
 
 #include <optional>
 

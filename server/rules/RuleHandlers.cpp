@@ -9,15 +9,15 @@
 #include "protocol/rules/ListRuleGroupsRequest.h"
 #include "protocol/rules/ListShortIdsRequest.h"
 #include "protocol/rules/ListUserMessagesRequest.h"
-#include "server/rules/AffectedRules.h"
+#include "server/rules/AffectedService.h"
 #include "server/rules/NamedTable.h"
-#include "server/rules/PageLimitRules.h"
+#include "server/rules/PageLimitService.h"
 #include "server/rules/PriceEntryTable.h"
-#include "server/rules/PricePlanRules.h"
-#include "server/rules/RuleEntryRules.h"
-#include "server/rules/RuleGroupRules.h"
-#include "server/rules/ShortIdRules.h"
-#include "server/rules/UserMessageRules.h"
+#include "server/rules/PricePlanService.h"
+#include "server/rules/RuleEntryService.h"
+#include "server/rules/RuleGroupService.h"
+#include "server/rules/ShortIdService.h"
+#include "server/rules/UserMessageService.h"
 
 namespace server {
 
@@ -27,52 +27,52 @@ using namespace protocol; // the requests and records
 
 // All records of a table, or the one whose id the request names.
 template <class Table, class Request>
-Listing listTable(Estate& estate, const Request& request) {
+Listing listTable(StoreConnection& connection, const Request& request) {
     if constexpr (requires { request.filter; })
-        return estate.table<Table>().list(request.filter);
+        return connection.table<Table>().list(request.filter);
     else
-        return estate.table<Table>().list();
+        return connection.table<Table>().list();
 }
 
-Listing listRuleEntries(Estate& estate, const ListRuleEntriesRequest& request) {
-    return estate.table<RuleEntryTable>().list(request.ownerId, request.ownerNumber);
+Listing listRuleEntries(StoreConnection& connection, const ListRuleEntriesRequest& request) {
+    return connection.table<RuleEntryTable>().list(request.ownerId, request.ownerNumber);
 }
 
-Listing listPriceEntries(Estate& estate, const ListPriceEntriesRequest& request) {
-    return estate.table<PriceEntryTable>().list(request.planId);
+Listing listPriceEntries(StoreConnection& connection, const ListPriceEntriesRequest& request) {
+    return connection.table<PriceEntryTable>().list(request.planId);
 }
 
 // Nothing for a limit that is not there: the console then finds the connection closed without a reply.
-std::optional<PageLimitRecord> tellPageLimit(Estate& estate, const GetPageLimitRequest& request) {
-    return estate.table<PageLimitTable>().find(request.id);
+std::optional<PageLimitRecord> tellPageLimit(StoreConnection& connection, const GetPageLimitRequest& request) {
+    return connection.table<PageLimitTable>().find(request.id);
 }
 
 constexpr Handler handlers[] = {
     lists<ListRuleGroupsRequest, RuleGroupRecord, listTable<RuleGroupTable, ListRuleGroupsRequest>>,
-    changes<RuleGroupRules, &RuleGroupRules::write, WriteRuleGroupRequest>,
-    changes<RuleGroupRules, &RuleGroupRules::remove, DeleteRuleGroupRequest>,
+    changes<RuleGroupService, &RuleGroupService::write, WriteRuleGroupRequest>,
+    changes<RuleGroupService, &RuleGroupService::remove, DeleteRuleGroupRequest>,
     lists<ListAffectedRequest, AffectedRecord, listTable<AffectedTable, ListAffectedRequest>>,
-    changes<AffectedRules, &AffectedRules::write, WriteAffectedRequest>,
-    changes<AffectedRules, &AffectedRules::remove, DeleteAffectedRequest>,
+    changes<AffectedService, &AffectedService::write, WriteAffectedRequest>,
+    changes<AffectedService, &AffectedService::remove, DeleteAffectedRequest>,
     lists<ListRuleEntriesRequest, RuleEntryRecord, listRuleEntries>,
-    changes<RuleEntryRules, &RuleEntryRules::remove, RemoveRuleEntryRequest>,
-    changes<PageLimitRules, &PageLimitRules::write, WritePageLimitRequest>,
-    changes<RuleEntryRules, &RuleEntryRules::add, AddRuleEntryRequest>,
-    changes<RuleEntryRules, &RuleEntryRules::update, UpdateRuleEntryRequest>,
+    changes<RuleEntryService, &RuleEntryService::remove, RemoveRuleEntryRequest>,
+    changes<PageLimitService, &PageLimitService::write, WritePageLimitRequest>,
+    changes<RuleEntryService, &RuleEntryService::add, AddRuleEntryRequest>,
+    changes<RuleEntryService, &RuleEntryService::update, UpdateRuleEntryRequest>,
     answers<GetPageLimitRequest, tellPageLimit>,
-    changes<PageLimitRules, &PageLimitRules::remove, DeletePageLimitRequest>,
+    changes<PageLimitService, &PageLimitService::remove, DeletePageLimitRequest>,
     lists<ListUserMessagesRequest, UserMessageRecord, listTable<UserMessageTable, ListUserMessagesRequest>>,
-    changes<UserMessageRules, &UserMessageRules::write, WriteUserMessageRequest>,
-    changes<UserMessageRules, &UserMessageRules::remove, DeleteUserMessageRequest>,
+    changes<UserMessageService, &UserMessageService::write, WriteUserMessageRequest>,
+    changes<UserMessageService, &UserMessageService::remove, DeleteUserMessageRequest>,
     lists<ListPricePlansRequest, PricePlanRecord, listTable<PricePlanTable, ListPricePlansRequest>>,
-    changes<PricePlanRules, &PricePlanRules::write, WritePricePlanRequest>,
-    changes<PricePlanRules, &PricePlanRules::remove, DeletePricePlanRequest>,
+    changes<PricePlanService, &PricePlanService::write, WritePricePlanRequest>,
+    changes<PricePlanService, &PricePlanService::remove, DeletePricePlanRequest>,
     lists<ListPriceEntriesRequest, PriceEntryRecord, listPriceEntries>,
     lists<ListPageLimitsRequest, PageLimitName, listTable<PageLimitTable, ListPageLimitsRequest>>,
     lists<ListShortIdsRequest, ShortIdRecord, listTable<ShortIdTable, ListShortIdsRequest>>,
-    changes<ShortIdRules, &ShortIdRules::remove, DeleteShortIdRequest>,
-    changes<ShortIdRules, &ShortIdRules::add, AddShortIdRequest>,
-    changes<ShortIdRules, &ShortIdRules::update, UpdateShortIdRequest>,
+    changes<ShortIdService, &ShortIdService::remove, DeleteShortIdRequest>,
+    changes<ShortIdService, &ShortIdService::add, AddShortIdRequest>,
+    changes<ShortIdService, &ShortIdService::update, UpdateShortIdRequest>,
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "protocol/RecordType.h"
 #include "protocol/rules/RuleEntryType.h"
-#include "server/SampleNames.h"
+#include "server/estate/SampleNames.h"
 #include "server/rules/NamedTable.h"
 #include "server/rules/PriceEntryTable.h"
 #include "server/rules/RuleEntryTable.h"
@@ -43,8 +43,8 @@ struct Made {
 
 class RuleSample {
 public:
-    RuleSample(Estate& estate, SampleRandom& random, int printers)
-        : estate_(estate), random_(random), printers_(static_cast<std::size_t>(printers)) {}
+    RuleSample(StoreConnection& connection, SampleRandom& random, int printers)
+        : connection_(connection), random_(random), printers_(static_cast<std::size_t>(printers)) {}
 
     void fill() {
         addAffected();
@@ -80,7 +80,7 @@ private:
                                       .type = type,
                                       .equals = static_cast<std::uint8_t>(random_.below(6) == 0 ? 0 : 1),
                                       .name = name});
-            estate_.table<AffectedTable>().insert(made_.affected.back());
+            connection_.table<AffectedTable>().insert(made_.affected.back());
         };
         for (const auto& group : ruleSample::departments)
             add(2, u16string(group));
@@ -98,14 +98,14 @@ private:
     void addMessages() {
         forEachOf(ruleSample::messages, 2000, [&](const auto& word, const u16string& name) {
             made_.messages.push_back(newUuid());
-            estate_.table<UserMessageTable>().insert({.id = made_.messages.back(),
-                                                      .name = name,
-                                                      .subtitle = {},
-                                                      .caption = u16string(word.caption),
-                                                      .text = u16string(word.text),
-                                                      .icon = word.icon,
-                                                      .type = word.type,
-                                                      .builtIn = false});
+            connection_.table<UserMessageTable>().insert({.id = made_.messages.back(),
+                                                          .name = name,
+                                                          .subtitle = {},
+                                                          .caption = u16string(word.caption),
+                                                          .text = u16string(word.text),
+                                                          .icon = word.icon,
+                                                          .type = word.type,
+                                                          .builtIn = false});
         });
     }
 
@@ -129,7 +129,7 @@ private:
             if (word.action == 3)
                 limit.destinationId = queue;
             limit.enforce = static_cast<std::uint8_t>(random_.below(4) == 0 ? 0 : 1);
-            estate_.table<PageLimitTable>().insert(limit);
+            connection_.table<PageLimitTable>().insert(limit);
             made_.limits.push_back(limit.id);
         });
     }
@@ -146,7 +146,7 @@ private:
                                        .copyMultiplier = 1,
                                        .scanMultiplier = word.scan,
                                        .vat = word.vat};
-            estate_.table<PricePlanTable>().insert(plan);
+            connection_.table<PricePlanTable>().insert(plan);
             made_.plans.push_back(plan.id);
 
             std::vector<PriceEntryRecord> entries;
@@ -161,7 +161,7 @@ private:
                                    .colorSimplex = row.colorSimplex * word.level,
                                    .colorDuplex = row.colorDuplex * word.level});
             }
-            estate_.table<PriceEntryTable>().replace(plan.id, entries);
+            connection_.table<PriceEntryTable>().replace(plan.id, entries);
         });
     }
 
@@ -182,7 +182,7 @@ private:
                 shortId.reservedMinutes = word.reserved;
             if (word.untilHour >= 0)
                 shortId.reservedUntil = std::int64_t{3600} * word.untilHour;
-            estate_.table<ShortIdTable>().insert(shortId);
+            connection_.table<ShortIdTable>().insert(shortId);
             made_.shortIds.push_back(wire::toText(shortId.id));
         });
     }
@@ -192,7 +192,7 @@ private:
         forEachOf(ruleSample::groups, 1000, [&](const auto& word, const u16string& name) {
             const RuleGroupRecord group{
                 .id = random_.newId(), .name = name, .comment = u16string(word.comment), .extra1 = {}, .extra2 = {}};
-            estate_.table<RuleGroupTable>().insert(group);
+            connection_.table<RuleGroupTable>().insert(group);
             for (const auto& [type, label] : entryType::labels)
                 if (type != entryType::ruleGroup && (made_.groups.empty() || random_.below(3) == 0))
                     place(type, {.groupId = group.id, .recordId = {}, .regionId = {}});
@@ -203,7 +203,7 @@ private:
     void placeOnRecords() {
         std::vector<std::string> chosen;
         {
-            auto rows = estate_.table<SamplePlaces>().records.run();
+            auto rows = connection_.table<SamplePlaces>().records.run();
             for (std::size_t number = 0; rows.next(); ++number)
                 if (number % 5 == 0)
                     chosen.emplace_back(rows.text(0));
@@ -217,7 +217,7 @@ private:
     void placeOnRegions() {
         std::vector<std::int32_t> regions;
         {
-            auto rows = estate_.table<SamplePlaces>().regions.run();
+            auto rows = connection_.table<SamplePlaces>().regions.run();
             while (rows.next())
                 regions.push_back(static_cast<std::int32_t>(rows.number(0)));
         }
@@ -252,19 +252,19 @@ private:
             entry.affectedId = affected.id;
             entry.affectedName = affected.name;
         }
-        estate_.table<RuleEntryTable>().insert(entry, owner);
+        connection_.table<RuleEntryTable>().insert(entry, owner);
     }
 
     // A queue that jobs can be moved to; empty in an estate without queues.
     [[nodiscard]] std::string someQueue() {
-        auto rows = estate_.table<SamplePlaces>().records.run();
+        auto rows = connection_.table<SamplePlaces>().records.run();
         while (rows.next())
             if (rows.number(1) != recordType::printer)
                 return std::string(rows.text(0));
         return {};
     }
 
-    Estate& estate_;
+    StoreConnection& connection_;
     SampleRandom& random_;
     std::size_t printers_;
     Made made_;
@@ -272,8 +272,8 @@ private:
 
 } // namespace
 
-void addRuleSample(Estate& estate, SampleRandom& random, int printers) {
-    RuleSample(estate, random, printers).fill();
+void addRuleSample(StoreConnection& connection, SampleRandom& random, int printers) {
+    RuleSample(connection, random, printers).fill();
 }
 
 } // namespace server

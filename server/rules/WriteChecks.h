@@ -1,8 +1,8 @@
 #pragma once
 
 #include "protocol/rules/RuleWriteAction.h"
-#include "server/Refusal.h"
-#include "server/ReplyBuffer.h"
+#include "server/commands/Refusal.h"
+#include "server/commands/ReplyBuffer.h"
 #include "wire/WireUuid.h"
 
 #include <optional>

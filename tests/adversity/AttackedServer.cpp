@@ -1,16 +1,17 @@
 #include "tests/adversity/AttackedServer.h"
 
 #include "protocol/Catalogue.h"
-#include "server/Handler.h"
-#include "server/RequestFrame.h"
+#include "server/Commands.h"
 #include "server/SampleEstate.h"
+#include "server/commands/Handler.h"
+#include "server/net/Dropped.h"
+#include "server/net/RequestFrame.h"
 #include "wire/Text.h"
 
 namespace adversity {
 
 namespace {
 
-using server::BadRequest;
 using server::Query;
 
 constexpr std::size_t pieceSize = 65536;
@@ -29,16 +30,16 @@ struct Inspection {
     Query hurry;
 };
 
-Inspection& inspection(server::Estate& estate) {
-    return estate.table<Inspection>();
+Inspection& inspection(server::StoreConnection& connection) {
+    return connection.table<Inspection>();
 }
 
 } // namespace
 
-AttackedServer::AttackedServer() : witness_(place_.store().openEstate()) {
-    inspection(estate()).hurry.execute();
-    estate().change([&] {
-        server::SampleEstate(estate()).fillSmall();
+AttackedServer::AttackedServer() : witness_(place_.store().openConnection()) {
+    inspection(connection()).hurry.execute();
+    connection().change([&] {
+        server::SampleEstate(connection()).fillSmall();
         return 0;
     });
 }
@@ -53,7 +54,9 @@ Taking AttackedServer::take(std::uint8_t count, const Bytes& data) {
     Taking taking = Taking::dropped;
     try {
         taking = carryOut(count, data);
-    } catch (const BadRequest&) {
+    } catch (const server::Dropped&) {
+        taking = Taking::dropped;
+    } catch (const server::BadRequest&) {
         taking = Taking::dropped;
     }
     if (taking != Taking::answered && version() != before) {
@@ -68,17 +71,17 @@ Taking AttackedServer::carryOut(std::uint8_t count, const Bytes& data) {
     if (command == nullptr || command->version != request.version) {
         return Taking::dropped;
     }
-    const auto* handler = server::findHandler(request.opcode, request.fields);
+    const auto* handler = server::commands().find(request.opcode, request.fields);
     if (handler == nullptr) {
         return Taking::dropped;
     }
     server::ReplyBuffer reply;
     if (handler->prepare != nullptr) {
-        const auto status = handler->prepare(request.fields).make(estate(), reply);
+        const auto status = handler->prepare(request.fields).make(connection(), reply);
         refusal_ = wire::toUtf8(status.caption) + ": " + wire::toUtf8(status.text);
         return server::isDone(status) ? Taking::answered : Taking::refused;
     }
-    const auto answer = handler->answer(request.fields, estate());
+    const auto answer = handler->answer(request.fields, connection());
     while (answer->append(reply, pieceSize)) {
         reply.clear();
     }
@@ -86,11 +89,11 @@ Taking AttackedServer::carryOut(std::uint8_t count, const Bytes& data) {
 }
 
 std::string AttackedServer::unsound() {
-    auto keys = inspection(estate()).foreignKeys.run();
+    auto keys = inspection(connection()).foreignKeys.run();
     if (keys.next()) {
         return "a row of " + std::string(keys.text(0)) + " points at nothing";
     }
-    auto integrity = inspection(estate()).integrity.run();
+    auto integrity = inspection(connection()).integrity.run();
     if (integrity.next() && integrity.text(0) != "ok") {
         return std::string(integrity.text(0));
     }

@@ -32,14 +32,14 @@ public:
     // Empty as long as the database is sound.
     [[nodiscard]] std::string unsound();
 
-    [[nodiscard]] server::Estate& estate() { return place_.estate(); }
+    [[nodiscard]] server::StoreConnection& connection() { return place_.connection(); }
 
 private:
     [[nodiscard]] Taking carryOut(std::uint8_t count, const Bytes& data);
     [[nodiscard]] std::int64_t version();
 
     server::test::TestEstate place_;
-    std::unique_ptr<server::Estate> witness_;
+    std::unique_ptr<server::StoreConnection> witness_;
     std::string refusal_;
 };
 

@@ -1,6 +1,6 @@
 #include "tests/adversity/EstateIds.h"
 
-#include "server/Query.h"
+#include "server/store/Query.h"
 
 #include <map>
 #include <string_view>
@@ -94,13 +94,13 @@ private:
 
 } // namespace
 
-KnownText idsOf(server::Estate& estate) {
-    return [&estate](const protocol::RecordLayout& record, const protocol::FieldInfo& field) {
+KnownText idsOf(server::StoreConnection& connection) {
+    return [&connection](const protocol::RecordLayout& record, const protocol::FieldInfo& field) {
         auto place = places().find(std::string(record.name) + "." + std::string(field.name));
         if (place == places().end()) {
             place = places().find(field.name);
         }
-        return place == places().end() ? std::string() : estate.table<Lookups>().first(place->second);
+        return place == places().end() ? std::string() : connection.table<Lookups>().first(place->second);
     };
 }
 

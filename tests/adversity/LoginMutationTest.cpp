@@ -1,6 +1,6 @@
 #include "client/CQVXAdminClass.h"
 #include "client/Credentials.h"
-#include "server/LoginKey.h"
+#include "server/login/LoginKey.h"
 #include "tests/adversity/Mutations.h"
 #include "tests/server/RunningServer.h"
 #include "tests/server/Sealing.h"

@@ -16,9 +16,9 @@ namespace adversity {
 class ProxiedServer : public testing::Test {
 protected:
     explicit ProxiedServer(const server::Limits& limits = {}) : server_(limits) {
-        const auto estate = server_.store().openEstate();
-        estate->change([&] {
-            server::SampleEstate(*estate).fillSmall();
+        const auto connection = server_.store().openConnection();
+        connection->change([&] {
+            server::SampleEstate(*connection).fillSmall();
             return 0;
         });
         server_.accounts().save(u"admin", u"secret");

@@ -42,7 +42,7 @@ TEST(RequestMutation, everyCommandHasASampleThatIsCarriedOut) {
     std::set<std::string> done{"22 Login",        "78 GetPublicKey",          "3 MoveRegion",
                                "45 DeleteRegion", "41 CreateInventoryReport", "83 AddShortId"};
     std::string last;
-    for (const auto& request : sampleRequests(idsOf(server->estate()))) {
+    for (const auto& request : sampleRequests(idsOf(server->connection()))) {
         if (request.name() != std::exchange(last, request.name())) {
             server.emplace();
         }
@@ -62,7 +62,7 @@ TEST(RequestMutation, everyCommandHasASampleThatIsCarriedOut) {
 
 TEST(RequestMutation, damageInsideOfASoundFrameIsDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
-    for (const auto& request : sampleRequests(idsOf(server.estate()))) {
+    for (const auto& request : sampleRequests(idsOf(server.connection()))) {
         const auto messages = request.messages();
         forEachMutation(joined(messages), [&](const Bytes& mutated, const std::string& what) {
             attack(server, request, messages.size(), mutated, what);
@@ -74,7 +74,7 @@ TEST(RequestMutation, damageInsideOfASoundFrameIsDroppedOrRefusedOrDoneWhole) {
 // The data message keeps its length right, so that the damage is seen by nobody but the reader of its fields.
 TEST(RequestMutation, damageToTheFieldsAloneIsDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
-    for (const auto& request : sampleRequests(idsOf(server.estate()))) {
+    for (const auto& request : sampleRequests(idsOf(server.connection()))) {
         const auto command = support::commandMessage(request.command->opcode, request.command->version);
         const auto expectSound = [&](const Bytes& mutated, const std::string& what) {
             attack(server, request, 2, support::dataMessage(mutated) + command, what);
@@ -88,7 +88,7 @@ TEST(RequestMutation, damageToTheFieldsAloneIsDroppedOrRefusedOrDoneWhole) {
 
 TEST(RequestMutation, everyCountOfMessagesIsDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
-    for (const auto& request : sampleRequests(idsOf(server.estate()))) {
+    for (const auto& request : sampleRequests(idsOf(server.connection()))) {
         for (std::size_t count = 0; count < 256; ++count) {
             attack(server, request, count, joined(request.messages()), "a count of " + std::to_string(count));
         }
@@ -99,7 +99,7 @@ TEST(RequestMutation, everyCountOfMessagesIsDroppedOrRefusedOrDoneWhole) {
 // The fields of one command under the number of another.
 TEST(RequestMutation, fieldsOfOtherCommandsAreDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
-    const auto requests = sampleRequests(idsOf(server.estate()));
+    const auto requests = sampleRequests(idsOf(server.connection()));
     for (const auto& request : requests) {
         for (const auto& command : protocol::catalogue()) {
             const auto data =

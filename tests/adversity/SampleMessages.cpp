@@ -1,6 +1,7 @@
 #include "tests/adversity/SampleMessages.h"
 
-#include "server/Handler.h"
+#include "server/Commands.h"
+#include "server/commands/Handler.h"
 #include "tests/server/TestClient.h"
 
 #include <array>
@@ -118,7 +119,7 @@ std::vector<const RecordLayout*> formsOf(const protocol::Command& command) {
 
 bool isAction(std::uint16_t opcode, std::uint8_t byte) {
     try {
-        return server::findHandler(opcode, std::span(&byte, 1)) != nullptr;
+        return server::commands().find(opcode, std::span(&byte, 1)) != nullptr;
     } catch (const server::BadRequest&) {
         return false;
     }

@@ -49,7 +49,18 @@ const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
         {"hosts/desktop", {"hosts/desktop/window"}},
         {"hosts/desktop/pictures", {"hosts/desktop/window"}},
         {"hosts/mmc", {"src/snapin"}},
-        {"server", {"src/protocol"}},
+        {"server/store", {"src/protocol"}},
+        {"server/net", {"src/wire"}},
+        {"server/commands", {"server/store"}},
+        {"server/login", {"server/store", "server/net"}},
+        {"server/estate", {"server/commands"}},
+        {"server/configurations", {"server/estate"}},
+        {"server/drivers", {"server/configurations"}}, // what queues use goes along with a deployment
+        {"server/rules", {"server/estate"}},
+        {"server/alarms", {"server/estate"}},
+        {"server/inventory", {"server/estate"}},
+        {"server/service", {"server/net", "server/login", "server/commands"}},
+        {"server", {"server/service", "server/drivers", "server/rules", "server/alarms", "server/inventory"}},
     };
     return folders;
 }
@@ -67,12 +78,18 @@ bool isProgramSource(const SourceFile& file) {
     return isSource(file) && startsWithAny(file.path, {"src/", "hosts/", "server/"});
 }
 
+// Whether the house tells rooms below the folder.
+bool hasRooms(std::string_view folder) {
+    const auto below = std::string(folder) + "/";
+    return std::ranges::any_of(house(), [&](const auto& one) { return one.first.starts_with(below); });
+}
+
 // The folder of the house that a file belongs to: the nearest one above it that has a place there, else the one that it
-// stands in.
+// stands in. A folder beside the rooms of another one has no place.
 std::string folderOf(std::string_view path) {
     const auto own = path.substr(0, path.rfind('/'));
     for (auto folder = own; !folder.empty(); folder = folder.substr(0, folder.rfind('/'))) {
-        if (house().contains(folder)) {
+        if (house().contains(folder) && (folder == own || !hasRooms(folder))) {
             return std::string(folder);
         }
         if (folder.find('/') == std::string_view::npos) {

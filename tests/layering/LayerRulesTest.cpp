@@ -27,6 +27,33 @@ TEST(LayerRules, theServerMayNotIncludeTheClient) {
                 ElementsAre("server/A.cpp: may not include client/CQVXAdminClass.h"));
 }
 
+TEST(LayerRules, theRootOfTheServerPutsItsRoomsTogether) {
+    EXPECT_THAT(includesAcrossLayers({{"server/Commands.cpp", "#include \"server/rules/RuleHandlers.h\"\n"
+                                                              "#include \"server/store/Query.h\"\n"},
+                                      {"server/rules/A.cpp", "#include \"server/store/Query.h\"\n"}}),
+                IsEmpty());
+}
+
+TEST(LayerRules, aRoomOfTheServerKnowsNeitherItsRootNorWhatBuildsOnIt) {
+    EXPECT_THAT(includesAcrossLayers({{"server/store/A.cpp", "#include \"server/Schema.h\"\n"},
+                                      {"server/commands/A.h", "#include \"server/estate/RegionTable.h\"\n"},
+                                      {"server/estate/A.cpp", "#include \"server/drivers/DriverModelTable.h\"\n"},
+                                      {"server/net/A.cpp", "#include \"server/store/Query.h\"\n"}}),
+                ElementsAre("server/store/A.cpp: may not include server/Schema.h",
+                            "server/commands/A.h: may not include server/estate/RegionTable.h",
+                            "server/estate/A.cpp: may not include server/drivers/DriverModelTable.h",
+                            "server/net/A.cpp: may not include server/store/Query.h"));
+}
+
+TEST(LayerRules, aDomainOfTheServerKnowsAnotherOnlyWhereTheHouseSaysSo) {
+    EXPECT_THAT(includesAcrossLayers(
+                    {{"server/drivers/A.cpp", "#include \"server/configurations/QueueConfigurationTable.h\"\n"},
+                     {"server/configurations/A.cpp", "#include \"server/drivers/DriverTable.h\"\n"},
+                     {"server/alarms/A.cpp", "#include \"server/rules/NamedTable.h\"\n"}}),
+                ElementsAre("server/configurations/A.cpp: may not include server/drivers/DriverTable.h",
+                            "server/alarms/A.cpp: may not include server/rules/NamedTable.h"));
+}
+
 TEST(LayerRules, theShellMayNotKnowABranchOfTheTree) {
     EXPECT_THAT(includesAcrossLayers({{"src/shell/A.cpp", "  #  include \"printers/PrinterNode.h\"\n"}}),
                 ElementsAre("src/shell/A.cpp: may not include printers/PrinterNode.h"));
@@ -42,8 +69,9 @@ TEST(LayerRules, nothingIncludesAHostOrATest) {
 }
 
 TEST(LayerRules, aFolderThatTheHouseDoesNotKnowIsNamed) {
-    EXPECT_THAT(includesAcrossLayers({{"src/misc/A.cpp", "\n"}}),
-                ElementsAre("src/misc/A.cpp: the folder src/misc has no place in the house"));
+    EXPECT_THAT(includesAcrossLayers({{"src/misc/A.cpp", "\n"}, {"server/misc/A.h", "#pragma once\n"}}),
+                ElementsAre("src/misc/A.cpp: the folder src/misc has no place in the house",
+                            "server/misc/A.h: the folder server/misc has no place in the house"));
 }
 
 TEST(LayerRules, anIncludeOfAnUnknownFolderIsNamed) {

@@ -1,3 +1,5 @@
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
 #include "tests/server/RunningServer.h"
 #include "tests/server/TestClient.h"
 
@@ -152,16 +154,16 @@ TEST(HostilePeer, whoStallsInsideOfALoginIsDropped) {
 
 TEST(HostilePeer, whoDoesNotTakeItsAnswerIsDropped) {
     RunningServer server(Limits{.sendTime = 200ms});
-    const auto estate = server.store().openEstate();
-    estate->change([&] {
-        estate->regions().insert(0, 0, u"North");
+    const auto connection = server.store().openConnection();
+    connection->change([&] {
+        connection->table<RegionTable>().insert(0, 0, u"North");
         protocol::PrinterRecord record;
         record.regionId = 1;
         record.comment = std::u16string(30000, u'c');
         for (int number = 0; number < 1000; ++number) {
             record.id = std::to_string(number);
             record.name = std::u16string(record.id.begin(), record.id.end());
-            estate->records().insert({.record = record, .printerId = {}});
+            connection->table<RecordTable>().insert({.record = record, .printerId = {}});
         }
         return true;
     });

@@ -1,5 +1,6 @@
 #include "protocol/Catalogue.h"
-#include "server/Handler.h"
+#include "server/Commands.h"
+#include "server/commands/Handler.h"
 #include "tests/server/QueryPlans.h"
 #include "tests/server/TestClient.h"
 #include "tests/server/TestEstate.h"
@@ -47,12 +48,12 @@ Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool n
 }
 
 // Asks for the list and takes its first piece; what no handler takes is passed over.
-void ask(Estate& estate, std::uint16_t opcode, const Bytes& fields) {
+void ask(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields) {
     try {
         ReplyBuffer buffer;
-        const auto* const handler = findHandler(opcode, fields);
+        const auto* const handler = commands().find(opcode, fields);
         ASSERT_NE(handler, nullptr) << opcode;
-        handler->answer(fields, estate)->append(buffer, 1);
+        handler->answer(fields, connection)->append(buffer, 1);
     } catch (const BadRequest&) {
     }
 }
@@ -63,8 +64,8 @@ TEST(Lists, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
         if (command.reply == protocol::ReplyShape::list && command.request != nullptr)
             for (std::uint8_t number = 0; number <= 10; ++number)
                 for (const bool named : {false, true})
-                    ask(place.estate(), command.opcode, fieldsOf(*command.request, number, named));
-    const auto& plans = place.estate().table<test::QueryPlans>();
+                    ask(place.connection(), command.opcode, fieldsOf(*command.request, number, named));
+    const auto& plans = place.connection().table<test::QueryPlans>();
     EXPECT_GE(plans.readingStatements().size(), 30U);
     EXPECT_EQ(plans.sortingStatements(), "");
 }
@@ -72,7 +73,7 @@ TEST(Lists, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
 TEST(Lists, thatAreSortedWouldBeNoticed) {
     test::TestEstate place;
     EXPECT_NE(
-        place.estate().table<test::QueryPlans>().of("SELECT name FROM record ORDER BY comment").find("TEMP B-TREE"),
+        place.connection().table<test::QueryPlans>().of("SELECT name FROM record ORDER BY comment").find("TEMP B-TREE"),
         std::string::npos);
 }
 

@@ -1,6 +1,7 @@
-#include "server/Accounts.h"
-#include "server/Crypto.h"
-#include "server/LoginLedger.h"
+#include "server/Schema.h"
+#include "server/login/Accounts.h"
+#include "server/login/Crypto.h"
+#include "server/login/LoginLedger.h"
 
 #include "tests/server/Sealing.h"
 #include "tests/server/TestFolder.h"
@@ -76,7 +77,7 @@ protected:
     }
 
     TestFolder folder_;
-    Store store_{folder_ / "estate.db"};
+    Store store_{folder_ / "estate.db", schema()};
     Accounts accounts_{store_};
 };
 

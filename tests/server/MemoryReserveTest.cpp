@@ -1,4 +1,4 @@
-#include "server/MemoryReserve.h"
+#include "server/service/MemoryReserve.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "server/NameKey.h"
+#include "server/store/NameKey.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "server/ReplyBuffer.h"
+#include "server/commands/ReplyBuffer.h"
 
 #include "protocol/RegionRecord.h"
 #include "protocol/StatusReply.h"

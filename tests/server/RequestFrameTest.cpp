@@ -1,6 +1,7 @@
-#include "server/RequestFrame.h"
+#include "server/net/RequestFrame.h"
 
-#include "server/RequestReader.h"
+#include "server/commands/RequestReader.h"
+#include "server/net/Dropped.h"
 #include "tests/support/Bytes.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +37,7 @@ TEST(RequestFrame, messagesAreFoundByKindAndNotByPosition) {
     }
 }
 
-TEST(RequestFrame, whatDoesNotAddUpIsABadRequest) {
+TEST(RequestFrame, whatDoesNotAddUpIsDropped) {
     const std::vector<std::pair<std::uint8_t, std::string>> frames = {
         {0, ""},
         {0, command},
@@ -57,7 +58,7 @@ TEST(RequestFrame, whatDoesNotAddUpIsABadRequest) {
         {255, command},
     };
     for (const auto& [count, text] : frames)
-        EXPECT_THROW((void)parse(count, hex(text)), BadRequest) << int{count} << ": " << text;
+        EXPECT_THROW((void)parse(count, hex(text)), Dropped) << int{count} << ": " << text;
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "server/RequestReader.h"
+#include "server/commands/RequestReader.h"
 
 #include "protocol/CreateRegionRequest.h"
 #include "protocol/ListPrinterRecordsRequest.h"

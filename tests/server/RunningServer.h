@@ -1,6 +1,8 @@
 #pragma once
 
-#include "server/Server.h"
+#include "server/Commands.h"
+#include "server/Schema.h"
+#include "server/service/Server.h"
 #include "tests/server/TestFolder.h"
 
 #include <memory>
@@ -12,10 +14,10 @@ namespace server::test {
 class RunningServer {
 public:
     explicit RunningServer(const Limits& limits = {}, std::chrono::minutes loginRequired = {})
-        : store_(folder_ / "estate.db"),
+        : store_(folder_ / "estate.db", schema()),
           accounts_(store_),
           server_(std::make_unique<Server>(
-              store_, accounts_,
+              store_, accounts_, commands(),
               ServerSettings{.listen = "127.0.0.1", .port = 0, .loginRequired = loginRequired, .limits = limits})),
           port_(server_->port()) {}
     ~RunningServer() { stop(); }

@@ -1,5 +1,7 @@
 #include "server/SampleEstate.h"
 
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
 #include "tests/server/TestEstate.h"
 
 #include <gtest/gtest.h>
@@ -19,22 +21,23 @@ struct Held {
 };
 
 // What each region of printers and queues holds, by its id.
-std::map<std::int32_t, Held> heldByRegions(Estate& estate) {
+std::map<std::int32_t, Held> heldByRegions(StoreConnection& connection) {
     std::map<std::int32_t, Held> held;
-    auto rows = estate.regions().list(0, 0);
+    auto rows = connection.table<RegionTable>().list(0, 0);
     while (rows.next())
         held[static_cast<std::int32_t>(rows.number(1))].parent = static_cast<std::int32_t>(rows.number(2));
     for (auto& [id, region] : held) {
         if (region.parent != 0)
             ++held.at(region.parent).regions;
-        region.printers = static_cast<int>(estate.records().count({.printerId = {}, .regionId = id, .mode = 0}));
+        region.printers =
+            static_cast<int>(connection.table<RecordTable>().count({.printerId = {}, .regionId = id, .mode = 0}));
     }
     return held;
 }
 
 void fill(TestEstate& place, int printers) {
-    place.estate().change([&] {
-        SampleEstate sample(place.estate());
+    place.connection().change([&] {
+        SampleEstate sample(place.connection());
         if (printers == 0)
             sample.fillSmall();
         else
@@ -46,7 +49,7 @@ void fill(TestEstate& place, int printers) {
 TEST(SampleEstate, theSmallOneHasRegionsOfEveryKind) {
     TestEstate place;
     fill(place, 0);
-    const auto held = heldByRegions(place.estate());
+    const auto held = heldByRegions(place.connection());
     const auto count = [&](auto test) {
         return std::count_if(held.begin(), held.end(), [&](const auto& entry) { return test(entry.second); });
     };
@@ -93,8 +96,8 @@ TEST(SampleEstate, itIsTheSameEachTime) {
     TestEstate two;
     fill(one, 0);
     fill(two, 0);
-    auto left = one.estate().records().list({.printerId = {}, .regionId = 3, .mode = 0});
-    auto right = two.estate().records().list({.printerId = {}, .regionId = 3, .mode = 0});
+    auto left = one.records().list({.printerId = {}, .regionId = 3, .mode = 0});
+    auto right = two.records().list({.printerId = {}, .regionId = 3, .mode = 0});
     while (left.next()) {
         ASSERT_TRUE(right.next());
         EXPECT_EQ(left.text(2), right.text(2));
@@ -108,7 +111,7 @@ TEST(SampleEstate, aNumberedOneHasExactlySoManyPrintersAndNoListTooLong) {
         TestEstate place;
         fill(place, wanted);
         int printers = 0;
-        for (const auto& [id, region] : heldByRegions(place.estate())) {
+        for (const auto& [id, region] : heldByRegions(place.connection())) {
             printers += region.printers;
             EXPECT_LE(region.printers, 10000);
         }

@@ -1,7 +1,7 @@
 #include "server/Schema.h"
 
 #include "protocol/PrinterRecord.h"
-#include "server/StoreError.h"
+#include "server/store/StoreError.h"
 #include "tests/server/TestFolder.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -16,7 +16,7 @@ SQLite::Database openNew(const test::TestFolder& folder) {
 
 std::string messageOf(SQLite::Database& database) {
     try {
-        migrate(database);
+        migrate(database, schema());
     } catch (const StoreError& error) {
         return error.what();
     }
@@ -26,7 +26,7 @@ std::string messageOf(SQLite::Database& database) {
 TEST(Schema, anEmptyFileGetsTheTablesAndTheVersion) {
     const test::TestFolder folder;
     auto database = openNew(folder);
-    migrate(database);
+    migrate(database, schema());
     EXPECT_TRUE(database.tableExists("region"));
     EXPECT_TRUE(database.tableExists("record"));
     EXPECT_TRUE(database.tableExists("account"));
@@ -38,16 +38,16 @@ TEST(Schema, anEmptyFileGetsTheTablesAndTheVersion) {
 TEST(Schema, migratingAgainChangesNothing) {
     const test::TestFolder folder;
     auto database = openNew(folder);
-    migrate(database);
+    migrate(database, schema());
     database.exec("INSERT INTO region (kind, name, nameKey) VALUES (0, x'4100', x'0061')");
-    migrate(database);
+    migrate(database, schema());
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM region").getInt(), 1);
 }
 
 TEST(Schema, eachFieldOfAPrinterRecordHasAColumnOfItsName) {
     const test::TestFolder folder;
     auto database = openNew(folder);
-    migrate(database);
+    migrate(database, schema());
     const protocol::PrinterRecord record;
     protocol::forEachField(record, [&](std::string_view name, const auto&) {
         SQLite::Statement query(database, "SELECT count(*) FROM pragma_table_info('record') WHERE name = ?");
@@ -68,7 +68,7 @@ TEST(Schema, theDatabaseOfAnotherProgramIsRefused) {
 TEST(Schema, theDatabaseOfANewerServerIsRefused) {
     const test::TestFolder folder;
     auto database = openNew(folder);
-    migrate(database);
+    migrate(database, schema());
     database.exec("PRAGMA user_version = 99");
     EXPECT_EQ(messageOf(database),
               "the database was written by a newer server (version 99, this server knows up to 6)");

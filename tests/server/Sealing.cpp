@@ -1,6 +1,6 @@
 #include "tests/server/Sealing.h"
 
-#include "server/Crypto.h"
+#include "server/login/Crypto.h"
 
 #include <tomcrypt.h>
 

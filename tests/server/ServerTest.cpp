@@ -1,3 +1,6 @@
+#include "server/Schema.h"
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
 #include "tests/server/RunningServer.h"
 #include "tests/server/Sealing.h"
 #include "tests/server/TestClient.h"
@@ -272,16 +275,16 @@ TEST(Server, twoConsolesThatTakeTheSameNameGetOneRecordAndOneRefusal) {
 
 TEST(Server, aSlowReaderOfALongListDoesNotHoldUpOthersAndGetsItsMoment) {
     RunningServer server;
-    const auto estate = server.store().openEstate();
-    estate->change([&] {
-        estate->regions().insert(0, 0, u"North");
+    const auto connection = server.store().openConnection();
+    connection->change([&] {
+        connection->table<RegionTable>().insert(0, 0, u"North");
         protocol::PrinterRecord record;
         record.regionId = 1;
         record.comment = std::u16string(10000, u'c');
         for (int number = 0; number < 2000; ++number) {
             record.id = std::to_string(number);
             record.name = std::u16string(record.id.begin(), record.id.end());
-            estate->records().insert({.record = record, .printerId = {}});
+            connection->table<RecordTable>().insert({.record = record, .printerId = {}});
         }
         return true;
     });
@@ -303,8 +306,8 @@ TEST(Server, whatWasSentBeforeTheEndIsStillCarriedOut) {
     for (int round = 0; round < 50; ++round)
         tell(server.port(), createRegion(u"Region " + std::u16string(static_cast<std::size_t>(round), u'x')));
     server.stop();
-    const auto estate = store.openEstate();
-    auto rows = estate->regions().list(0, 0);
+    const auto connection = store.openConnection();
+    auto rows = connection->table<RegionTable>().list(0, 0);
     int count = 0;
     while (rows.next())
         ++count;
@@ -314,11 +317,12 @@ TEST(Server, whatWasSentBeforeTheEndIsStillCarriedOut) {
 TEST(Server, anAddressInUseOrUnknownIsTold) {
     RunningServer first;
     const TestFolder folder;
-    const Store store(folder / "other.db");
+    const Store store(folder / "other.db", schema());
     Accounts accounts(store);
     const auto messageOf = [&](const std::string& listen, std::uint16_t port) -> std::string {
         try {
-            const Server second(store, accounts, {.listen = listen, .port = port, .loginRequired = {}, .limits = {}});
+            const Server second(store, accounts, commands(),
+                                {.listen = listen, .port = port, .loginRequired = {}, .limits = {}});
         } catch (const std::runtime_error& error) {
             return error.what();
         }

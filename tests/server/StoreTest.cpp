@@ -1,6 +1,8 @@
-#include "server/Store.h"
+#include "server/store/Store.h"
 
-#include "server/StoreError.h"
+#include "server/Schema.h"
+#include "server/estate/RegionTable.h"
+#include "server/store/StoreError.h"
 #include "tests/server/TestEstate.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -13,7 +15,7 @@ using test::TestFolder;
 
 std::string messageOf(const std::filesystem::path& file) {
     try {
-        const Store store(file);
+        const Store store(file, schema());
     } catch (const StoreError& error) {
         return error.what();
     }
@@ -22,21 +24,21 @@ std::string messageOf(const std::filesystem::path& file) {
 
 TEST(Store, aNewDatabaseBelongsToItsOwnerOnly) {
     const TestFolder folder;
-    const Store store(folder / "estate.db");
+    const Store store(folder / "estate.db", schema());
     EXPECT_EQ(std::filesystem::status(store.file()).permissions(), std::filesystem::perms(0600));
 }
 
 TEST(Store, aSecondServerOnTheSameDatabaseIsRefused) {
     const TestFolder folder;
     const auto file = folder / "estate.db";
-    const Store store(file);
+    const Store store(file, schema());
     EXPECT_EQ(messageOf(file), file.string() + ": the database is in use by another vantreld");
 }
 
 TEST(Store, theDatabaseIsFreeAgainWhenItsStoreIsGone) {
     const TestFolder folder;
     const auto file = folder / "estate.db";
-    { const Store store(file); }
+    { const Store store(file, schema()); }
     EXPECT_EQ(messageOf(file), "");
 }
 
@@ -68,7 +70,7 @@ TEST(Store, aDeviceIsNoDatabase) {
 TEST(Store, aDatabaseThatAnotherProgramHasLockedIsTold) {
     const TestFolder folder;
     const auto file = folder / "estate.db";
-    { const Store store(file); }
+    { const Store store(file, schema()); }
     SQLite::Database other(file.string(), SQLite::OPEN_READWRITE);
     other.exec("PRAGMA locking_mode = EXCLUSIVE");
     other.exec("BEGIN EXCLUSIVE");
@@ -77,55 +79,55 @@ TEST(Store, aDatabaseThatAnotherProgramHasLockedIsTold) {
 
 TEST(Store, connectionsWriteThroughToTheDisk) {
     const TestFolder folder;
-    const Store store(folder / "estate.db");
+    const Store store(folder / "estate.db", schema());
     auto database = store.connect();
     EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
     EXPECT_EQ(database.execAndGet("PRAGMA synchronous").getInt(), 2);
     EXPECT_EQ(database.execAndGet("PRAGMA foreign_keys").getInt(), 1);
 }
 
-TEST(Estate, aChangeThatThrowsHasNotHappened) {
+TEST(StoreConnection, aChangeThatThrowsHasNotHappened) {
     test::TestEstate place;
-    EXPECT_THROW(place.estate().change([&]() -> int {
+    EXPECT_THROW(place.connection().change([&]() -> int {
         place.addRegion(u"North");
         throw StoreError("no");
     }),
                  StoreError);
-    EXPECT_TRUE(place.estate().regions().isEmpty());
-    EXPECT_EQ(place.estate().change([&] { return place.addRegion(u"South"); }), 1);
+    EXPECT_TRUE(place.regions().isEmpty());
+    EXPECT_EQ(place.connection().change([&] { return place.addRegion(u"South"); }), 1);
 }
 
-TEST(Estate, aFullDatabaseTellsSoAndKeepsWhatItHas) {
+TEST(StoreConnection, aFullDatabaseTellsSoAndKeepsWhatItHas) {
     test::TestEstate place;
     const auto kept = place.addRegion(u"North");
     auto database = place.store().connect();
     const auto pages = database.execAndGet("PRAGMA page_count").getInt();
     database.exec("PRAGMA max_page_count = " + std::to_string(pages));
-    Estate full(std::move(database));
+    StoreConnection full(std::move(database));
     const std::u16string longName(20000, u'x');
     try {
-        full.change([&] { return full.regions().insert(0, 0, longName); });
+        full.change([&] { return full.table<RegionTable>().insert(0, 0, longName); });
         FAIL() << "there was space";
     } catch (const StoreError& error) {
         EXPECT_STREQ(error.what(), "there is no space left for the database");
     }
-    EXPECT_TRUE(full.regions().find(0, kept));
+    EXPECT_TRUE(full.table<RegionTable>().find(0, kept));
     EXPECT_TRUE(full.change([&] {
-        full.regions().rename(kept, u"N");
+        full.table<RegionTable>().rename(kept, u"N");
         return true;
     }));
 }
 
-TEST(Estate, aMomentDoesNotSeeLaterChanges) {
+TEST(StoreConnection, aMomentDoesNotSeeLaterChanges) {
     test::TestEstate place;
-    const auto reader = place.store().openEstate();
+    const auto reader = place.store().openConnection();
     {
-        const Estate::Moment moment(*reader);
-        EXPECT_TRUE(reader->regions().isEmpty());
+        const StoreConnection::Moment moment(*reader);
+        EXPECT_TRUE(reader->table<RegionTable>().isEmpty());
         place.addRegion(u"North");
-        EXPECT_TRUE(reader->regions().isEmpty());
+        EXPECT_TRUE(reader->table<RegionTable>().isEmpty());
     }
-    EXPECT_FALSE(reader->regions().isEmpty());
+    EXPECT_FALSE(reader->table<RegionTable>().isEmpty());
 }
 
 } // namespace

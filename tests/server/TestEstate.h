@@ -1,9 +1,12 @@
 #pragma once
 
-#include "server/RecordRules.h"
-#include "server/Refusal.h"
-#include "server/RegionRules.h"
-#include "server/Store.h"
+#include "server/Schema.h"
+#include "server/commands/Refusal.h"
+#include "server/estate/RecordService.h"
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionService.h"
+#include "server/estate/RegionTable.h"
+#include "server/store/Store.h"
 #include "tests/server/TestFolder.h"
 
 namespace server::test {
@@ -11,12 +14,14 @@ namespace server::test {
 // A database of its own for a test, and short words for what tests do with it.
 class TestEstate {
 public:
-    [[nodiscard]] Estate& estate() { return *estate_; }
-    [[nodiscard]] RegionRules regionRules() { return RegionRules(*estate_); }
-    [[nodiscard]] RecordRules recordRules() { return RecordRules(*estate_); }
+    [[nodiscard]] StoreConnection& connection() { return *connection_; }
+    [[nodiscard]] RegionTable& regions() { return connection_->table<RegionTable>(); }
+    [[nodiscard]] RecordTable& records() { return connection_->table<RecordTable>(); }
+    [[nodiscard]] RegionService regionService() { return RegionService(*connection_); }
+    [[nodiscard]] RecordService recordService() { return RecordService(*connection_); }
 
     std::int32_t addRegion(const std::u16string& name, std::int32_t parentId = 0, std::uint8_t kind = 0) {
-        return estate_->regions().insert(kind, parentId, name);
+        return connection_->table<RegionTable>().insert(kind, parentId, name);
     }
 
     // Its id; empty when it was refused.
@@ -26,7 +31,7 @@ public:
         record.recordType = recordType;
         record.name = name;
         record.regionId = regionId;
-        return recordRules().create({.physicalPrinterId = printerId, .record = record}).id;
+        return recordService().create({.physicalPrinterId = printerId, .record = record}).id;
     }
     std::string addPrinter(const std::u16string& name, std::int32_t regionId) { return add(0, name, regionId); }
     std::string addQueue(const std::u16string& name, const std::string& printerId) {
@@ -34,17 +39,17 @@ public:
     }
 
     [[nodiscard]] protocol::PrinterRecord record(const std::string& id) {
-        const auto found = estate_->records().find(id);
+        const auto found = connection_->table<RecordTable>().find(id);
         return found ? found->record : protocol::PrinterRecord{};
     }
-    [[nodiscard]] bool exists(const std::string& id) { return estate_->records().find(id).has_value(); }
+    [[nodiscard]] bool exists(const std::string& id) { return connection_->table<RecordTable>().find(id).has_value(); }
 
     // The names of a list, in its order.
     [[nodiscard]] std::vector<std::u16string> names(std::uint16_t mode, std::int32_t regionId,
                                                     const std::string& id = {}) {
         std::vector<std::u16string> names;
         const protocol::ListPrinterRecordsRequest request{.printerId = id, .regionId = regionId, .mode = mode};
-        auto rows = estate_->records().list(request);
+        auto rows = connection_->table<RecordTable>().list(request);
         while (rows.next())
             names.push_back(rows.wide(3));
         return names;
@@ -54,8 +59,8 @@ public:
 
 private:
     TestFolder folder_;
-    Store store_{folder_ / "estate.db"};
-    std::unique_ptr<Estate> estate_ = store_.openEstate();
+    Store store_{folder_ / "estate.db", schema()};
+    std::unique_ptr<StoreConnection> connection_ = store_.openConnection();
 };
 
 } // namespace server::test

@@ -1,4 +1,5 @@
-#include "server/Accounts.h"
+#include "server/Schema.h"
+#include "server/login/Accounts.h"
 #include "tests/server/Sealing.h"
 #include "tests/server/TestClient.h"
 #include "tests/server/TestFolder.h"
@@ -142,7 +143,7 @@ TEST_F(Vantreld, theSampleGoesIntoAnEmptyDatabaseOnly) {
 
 TEST_F(Vantreld, anAccountIsAddedChangedAndKept) {
     const auto verify = [&](const std::u16string& password) {
-        const Store store(database_);
+        const Store store(database_, schema());
         Accounts accounts(store);
         const auto key = accounts.publicKey();
         return accounts.verify({seal(key, u"admin"), seal(key, u""), seal(key, password)});

@@ -4,12 +4,12 @@
 #include "protocol/alarms/AlarmDestinationRecord.h"
 #include "protocol/alarms/AlarmEventRecord.h"
 #include "protocol/alarms/ProgramActionRecord.h"
-#include "server/RecordColumns.h"
-#include "server/alarms/AlarmProgramRules.h"
+#include "server/alarms/AlarmProgramService.h"
 #include "server/alarms/AlarmProgramTable.h"
-#include "server/alarms/EmailRecipientRules.h"
+#include "server/alarms/EmailRecipientService.h"
 #include "server/alarms/EmailRecipientTable.h"
 #include "server/alarms/ProgramActionTable.h"
+#include "server/store/RecordColumns.h"
 #include "tests/server/TestEstate.h"
 
 #include <gtest/gtest.h>
@@ -21,8 +21,8 @@ namespace server::test {
 // An estate of its own for a test about alarms, and short words for what tests do with it.
 class AlarmEstate : public TestEstate {
 public:
-    [[nodiscard]] EmailRecipientRules recipientRules() { return EmailRecipientRules(estate()); }
-    [[nodiscard]] AlarmProgramRules programRules() { return AlarmProgramRules(estate()); }
+    [[nodiscard]] EmailRecipientService recipientService() { return EmailRecipientService(connection()); }
+    [[nodiscard]] AlarmProgramService programService() { return AlarmProgramService(connection()); }
 
     template <class R>
     [[nodiscard]] static std::vector<R> recordsOf(Listing listing) {
@@ -34,33 +34,33 @@ public:
     }
 
     [[nodiscard]] auto recipients(const std::string& id = {}) {
-        return recordsOf<protocol::EmailRecipientRecord>(estate().table<EmailRecipientTable>().list({.id = id}));
+        return recordsOf<protocol::EmailRecipientRecord>(connection().table<EmailRecipientTable>().list({.id = id}));
     }
     [[nodiscard]] auto programs(std::uint8_t kind = 0, const std::string& id = {}) {
         return recordsOf<protocol::AlarmProgramRecord>(
-            estate().table<AlarmProgramTable>().list({.kind = kind, .filter = id}));
+            connection().table<AlarmProgramTable>().list({.kind = kind, .filter = id}));
     }
     [[nodiscard]] auto actionsOf(const std::string& program) {
         return recordsOf<protocol::ProgramActionRecord>(
-            estate().table<ProgramActionTable>().list({.programId = program}));
+            connection().table<ProgramActionTable>().list({.programId = program}));
     }
     [[nodiscard]] auto events() {
         return recordsOf<protocol::AlarmEventRecord>(
-            estate().table<ProgramActionTable>().list(protocol::ListAlarmEventsRequest{}));
+            connection().table<ProgramActionTable>().list(protocol::ListAlarmEventsRequest{}));
     }
     [[nodiscard]] auto actions() {
         return recordsOf<protocol::AlarmActionRecord>(
-            estate().table<ProgramActionTable>().list(protocol::ListAlarmActionsRequest{}));
+            connection().table<ProgramActionTable>().list(protocol::ListAlarmActionsRequest{}));
     }
     [[nodiscard]] auto destinations(std::uint16_t code) {
         return recordsOf<protocol::AlarmDestinationRecord>(
-            estate().table<ProgramActionTable>().list(protocol::ListAlarmDestinationsRequest{.actionCode = code}));
+            connection().table<ProgramActionTable>().list(protocol::ListAlarmDestinationsRequest{.actionCode = code}));
     }
 
     // Its id; empty when it was refused.
     std::string addRecipient(const std::u16string& name, const std::u16string& email = u"a@b") {
         const auto before = recipients();
-        (void)recipientRules().write({.id = {}, .name = name, .email = email, .active = 1});
+        (void)recipientService().write({.id = {}, .name = name, .email = email, .active = 1});
         for (const auto& one : recipients())
             if (std::ranges::find(before, one) == before.end())
                 return one.id;
@@ -68,11 +68,11 @@ public:
     }
     // The same.
     std::string addProgram(const std::u16string& name) {
-        return programRules().write({.id = {}, .name = name, .comment = {}, .createdBy = {}}).reply.id;
+        return programService().write({.id = {}, .name = name, .comment = {}, .createdBy = {}}).reply.id;
     }
     protocol::StatusReply addAction(const std::string& program, const std::string& event, std::uint16_t code,
                                     const std::string& destination = {}) {
-        return programRules().addAction(
+        return programService().addAction(
             {.programId = program, .eventId = event, .actionCode = code, .destinationId = destination});
     }
 };

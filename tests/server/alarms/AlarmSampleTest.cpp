@@ -13,8 +13,8 @@ using test::AlarmEstate;
 class AlarmSample : public testing::Test {
 protected:
     AlarmSample() {
-        place.estate().change([&] {
-            SampleEstate(place.estate()).fillSmall();
+        place.connection().change([&] {
+            SampleEstate(place.connection()).fillSmall();
             return true;
         });
     }
@@ -42,12 +42,12 @@ TEST_F(AlarmSample, printersPointAtProgramsThatExist) {
             known.insert(program.id);
     std::set<std::string> alarms;
     std::set<std::string> counters;
-    auto regions = place.estate().regions().list(0, 0);
+    auto regions = place.regions().list(0, 0);
     std::vector<std::int32_t> ids;
     while (regions.next())
         ids.push_back(static_cast<std::int32_t>(regions.number(1)));
     for (const auto id : ids) {
-        auto rows = place.estate().records().list({.printerId = {}, .regionId = id, .mode = 0});
+        auto rows = place.records().list({.printerId = {}, .regionId = id, .mode = 0});
         while (rows.next()) {
             const auto printer = readFields<protocol::PrinterRecord>(rows);
             alarms.insert(printer.alarmProgramId);
@@ -62,8 +62,8 @@ TEST_F(AlarmSample, printersPointAtProgramsThatExist) {
 
 TEST(AlarmSampleOfMany, growsWithThePrinters) {
     AlarmEstate place;
-    place.estate().change([&] {
-        SampleEstate(place.estate()).fill(2000);
+    place.connection().change([&] {
+        SampleEstate(place.connection()).fill(2000);
         return true;
     });
     EXPECT_EQ(place.recipients().size(), 80U);

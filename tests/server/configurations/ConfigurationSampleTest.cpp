@@ -13,8 +13,8 @@ namespace {
 // Two models with drivers of their own, one of them deployed twice, and so many queues of each.
 std::string sampleWith(int queues, const std::function<void(test::ConfiguredEstate&)>& look) {
     test::TestEstate place;
-    test::ConfiguredEstate estate(place.estate());
-    place.estate().change([&] {
+    test::ConfiguredEstate estate(place.connection());
+    place.connection().change([&] {
         for (const std::string model : {"m1", "m2"}) {
             estate.addModel(model);
             estate.deploy(model + "-de", model, u"de");
@@ -26,7 +26,7 @@ std::string sampleWith(int queues, const std::function<void(test::ConfiguredEsta
         }
         estate.deploy("m1-en", "m1", u"en");
         SampleRandom random(7);
-        addConfigurationSample(place.estate(), random, 40);
+        addConfigurationSample(place.connection(), random, 40);
         return true;
     });
     if (look)
@@ -53,11 +53,11 @@ TEST(ConfigurationSample, everyModelHasConfigurationsThatNoneOneAndManyQueuesUse
 
 TEST(ConfigurationSample, theSmallEstateHasThemForSeveralModelsInEveryUse) {
     test::TestEstate place;
-    place.estate().change([&] {
-        SampleEstate(place.estate()).fillSmall();
+    place.connection().change([&] {
+        SampleEstate(place.connection()).fillSmall();
         return true;
     });
-    auto& sql = place.estate().table<test::Statements>();
+    auto& sql = place.connection().table<test::Statements>();
     const std::string uses =
         "SELECT count(*) FROM (SELECT count(DISTINCT used.queueNumber) AS queues FROM configuration "
         "LEFT JOIN queueConfiguration AS used ON configurationNumber = number "
@@ -98,8 +98,8 @@ TEST(ConfigurationSample, anEstateWithoutQueuesHasSomeAndOneWithoutDriversHasNon
     EXPECT_NE(sampleWith(0, nullptr), "");
     test::TestEstate place;
     SampleRandom random;
-    addConfigurationSample(place.estate(), random, 40);
-    EXPECT_EQ(place.estate().table<test::Statements>().number("SELECT count(*) FROM configuration"), 0);
+    addConfigurationSample(place.connection(), random, 40);
+    EXPECT_EQ(place.connection().table<test::Statements>().number("SELECT count(*) FROM configuration"), 0);
 }
 
 } // namespace

@@ -14,9 +14,9 @@ using Texts = std::vector<std::u16string>;
 class ConfigurationServer : public testing::Test {
 protected:
     ConfigurationServer() {
-        const auto estate = server.store().openEstate();
-        estate->change([&] {
-            ConfiguredEstate configured(*estate);
+        const auto connection = server.store().openConnection();
+        connection->change([&] {
+            ConfiguredEstate configured(*connection);
             configured.addModel("m");
             configured.deploy("de", "m", u"de");
             configured.deploy("en", "m", u"en");

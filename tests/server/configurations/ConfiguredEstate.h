@@ -3,10 +3,12 @@
 #include "protocol/configurations/ConfigQueueRecord.h"
 #include "protocol/configurations/QueueConfigChoice.h"
 #include "protocol/configurations/QueueConfigEntry.h"
-#include "server/NameKey.h"
-#include "server/RecordColumns.h"
-#include "server/RecordRules.h"
-#include "server/configurations/ConfigurationRules.h"
+#include "server/configurations/ConfigurationService.h"
+#include "server/estate/RecordService.h"
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
+#include "server/store/NameKey.h"
+#include "server/store/RecordColumns.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -51,10 +53,10 @@ private:
 // Short words for what tests do with the models, queues and configurations of an estate. Ids are given by the test.
 class ConfiguredEstate {
 public:
-    explicit ConfiguredEstate(Estate& estate) : estate_(estate) {
+    explicit ConfiguredEstate(StoreConnection& connection) : connection_(connection) {
         sql().run("INSERT INTO driverBrand VALUES ('brand', x'4200', x'4200')");
-        region_ = estate.regions().insert(0, 0, u"North");
-        home_ = estate.regions().insert(1, 0, u"Home");
+        region_ = connection.table<RegionTable>().insert(0, 0, u"North");
+        home_ = connection.table<RegionTable>().insert(1, 0, u"Home");
     }
 
     // A model with a driver of the same id, "driver " before it.
@@ -99,10 +101,10 @@ public:
 
     // All that a change sets, so that a record that was loaded is stored with another model or name.
     void change(const std::string& id, const std::u16string& name, const std::string& model) {
-        auto record = estate_.records().find(id).value().record;
+        auto record = connection_.table<RecordTable>().find(id).value().record;
         record.name = name;
         record.modelId = model;
-        RecordRules(estate_).update({.record = record});
+        RecordService(connection_).update({.record = record});
     }
 
     [[nodiscard]] std::vector<protocol::QueueConfigEntry> entries(const std::string& queue,
@@ -130,10 +132,10 @@ public:
         return names;
     }
 
-    [[nodiscard]] ConfigurationRules rules() { return ConfigurationRules(estate_); }
-    [[nodiscard]] ConfigurationTable& configurations() { return estate_.table<ConfigurationTable>(); }
-    [[nodiscard]] QueueConfigurationTable& queues() { return estate_.table<QueueConfigurationTable>(); }
-    [[nodiscard]] Statements& sql() { return estate_.table<Statements>(); }
+    [[nodiscard]] ConfigurationService service() { return ConfigurationService(connection_); }
+    [[nodiscard]] ConfigurationTable& configurations() { return connection_.table<ConfigurationTable>(); }
+    [[nodiscard]] QueueConfigurationTable& queues() { return connection_.table<QueueConfigurationTable>(); }
+    [[nodiscard]] Statements& sql() { return connection_.table<Statements>(); }
 
 private:
     std::string add(std::uint16_t recordType, const std::u16string& name, const std::string& model,
@@ -144,7 +146,7 @@ private:
         record.location = u"at " + name;
         record.modelId = model;
         record.regionId = recordType == protocol::recordType::localPrinter ? home_ : region_;
-        return RecordRules(estate_).create({.physicalPrinterId = printer, .record = record}).id;
+        return RecordService(connection_).create({.physicalPrinterId = printer, .record = record}).id;
     }
 
     template <protocol::Record R>
@@ -156,7 +158,7 @@ private:
         return records;
     }
 
-    Estate& estate_;
+    StoreConnection& connection_;
     std::int32_t region_ = 0;
     std::int32_t home_ = 0;
 };

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "protocol/drivers/DriverDeploymentRecord.h"
-#include "server/RecordColumns.h"
-#include "server/Refusal.h"
-#include "server/drivers/DeploymentRules.h"
-#include "server/drivers/DriverRules.h"
+#include "server/commands/Refusal.h"
+#include "server/drivers/DeploymentService.h"
+#include "server/drivers/DriverService.h"
+#include "server/store/RecordColumns.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +19,8 @@ class CatalogueEstate {
 public:
     using Names = std::vector<std::u16string>;
 
-    explicit CatalogueEstate(Estate& estate) : estate_(estate) {
-        estate.change([&] {
+    explicit CatalogueEstate(StoreConnection& connection) : connection_(connection) {
+        connection.change([&] {
             models().insertBrand("b1", u"Halvek");
             models().insertBrand("b2", u"Mirado");
             addModel("m1", u"One", "b1");
@@ -36,11 +36,11 @@ public:
         secondOs = systems.at(1).osId;
     }
 
-    [[nodiscard]] DriverRules rules() { return DriverRules(estate_); }
-    [[nodiscard]] DeploymentRules deploymentRules() { return DeploymentRules(estate_); }
-    [[nodiscard]] DriverModelTable& models() { return estate_.table<DriverModelTable>(); }
-    [[nodiscard]] DriverTable& drivers() { return estate_.table<DriverTable>(); }
-    [[nodiscard]] DeploymentTable& deployments() { return estate_.table<DeploymentTable>(); }
+    [[nodiscard]] DriverService service() { return DriverService(connection_); }
+    [[nodiscard]] DeploymentService deploymentService() { return DeploymentService(connection_); }
+    [[nodiscard]] DriverModelTable& models() { return connection_.table<DriverModelTable>(); }
+    [[nodiscard]] DriverTable& drivers() { return connection_.table<DriverTable>(); }
+    [[nodiscard]] DeploymentTable& deployments() { return connection_.table<DeploymentTable>(); }
 
     void addModel(const std::string& id, const std::u16string& name, const std::string& brandId, bool visible = true) {
         models().insert({.record = {.modelId = id, .name = name, .visible = visible}, .brandId = brandId});
@@ -67,7 +67,7 @@ public:
     }
     // The id of the new deployment; empty when it was refused.
     std::string deploy(const protocol::AddDriverDeploymentRequest& wanted) {
-        const auto reply = estate_.change([&] { return deploymentRules().add(wanted); });
+        const auto reply = connection_.change([&] { return deploymentService().add(wanted); });
         if (!isDone(reply))
             return {};
         return deployments().idAt({wanted.modelId, wanted.osId, wanted.locale}).value_or("");
@@ -99,7 +99,7 @@ public:
     std::string secondOs;
 
 private:
-    Estate& estate_;
+    StoreConnection& connection_;
 };
 
 } // namespace server::test

@@ -1,7 +1,7 @@
 #include "server/drivers/DriverSample.h"
 
-#include "server/SampleNames.h"
 #include "server/drivers/DriverModelTable.h"
+#include "server/estate/SampleNames.h"
 #include "tests/server/TestEstate.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +15,8 @@ class DriverSampleTest : public testing::Test {
 protected:
     static void fill(test::TestEstate& estate, int printers) {
         SampleRandom random(1);
-        estate.estate().change([&] {
-            addDriverSample(estate.estate(), random, printers);
+        estate.connection().change([&] {
+            addDriverSample(estate.connection(), random, printers);
             return true;
         });
     }
@@ -45,7 +45,7 @@ protected:
 TEST_F(DriverSampleTest, eachModelOfAPrinterStandsInTheCatalogueByItsName) {
     fill(40);
     for (const auto& model : sample::models) {
-        const auto found = place.estate().table<DriverModelTable>().find(std::string(model.id));
+        const auto found = place.connection().table<DriverModelTable>().find(std::string(model.id));
         ASSERT_TRUE(found.has_value());
         EXPECT_EQ(found->record.name, model.name);
         EXPECT_TRUE(found->record.visible);

@@ -1,6 +1,8 @@
-#include "server/Handler.h"
-#include "server/RecordRules.h"
+#include "server/Commands.h"
+#include "server/commands/Handler.h"
 #include "server/configurations/ConfigurationTable.h"
+#include "server/estate/RecordService.h"
+#include "server/estate/RegionTable.h"
 #include "tests/server/RunningServer.h"
 #include "tests/server/TestClient.h"
 #include "tests/server/drivers/CatalogueEstate.h"
@@ -19,22 +21,22 @@ using Texts = std::vector<std::u16string>;
 class DriverServer : public testing::Test {
 protected:
     DriverServer() {
-        const auto estate = server.store().openEstate();
-        const CatalogueEstate catalogue(*estate);
+        const auto connection = server.store().openConnection();
+        const CatalogueEstate catalogue(*connection);
         firstOs = catalogue.firstOs;
-        estate->change([&] {
+        connection->change([&] {
             protocol::PrinterRecord record;
             record.name = u"P";
             record.modelId = "m1";
-            record.regionId = estate->regions().insert(0, 0, u"North");
-            const auto printer = RecordRules(*estate).create({.physicalPrinterId = {}, .record = record}).id;
+            record.regionId = connection->table<RegionTable>().insert(0, 0, u"North");
+            const auto printer = RecordService(*connection).create({.physicalPrinterId = {}, .record = record}).id;
             record.recordType = protocol::recordType::queue;
-            queue = RecordRules(*estate).create({.physicalPrinterId = printer, .record = record}).id;
+            queue = RecordService(*connection).create({.physicalPrinterId = printer, .record = record}).id;
             StoredConfiguration draft;
             draft.record.configId = "c1";
             draft.record.comment = u"Draft";
             draft.modelId = "m1";
-            estate->table<ConfigurationTable>().insert(draft);
+            connection->table<ConfigurationTable>().insert(draft);
             return true;
         });
         server.start();
@@ -284,9 +286,9 @@ TEST_F(DriverServer, closesTheConnectionOfARequestThatIsTooShort) {
 
 TEST(DriverHandlers, eachCommandEitherReadsOrChanges) {
     for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{4, 5, 11, 12, 14, 77, 80})
-        EXPECT_NE(findHandler(opcode, {})->answer, nullptr) << opcode;
+        EXPECT_NE(commands().find(opcode, {})->answer, nullptr) << opcode;
     for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{13, 15, 16, 20, 46, 47, 48, 49, 75})
-        EXPECT_NE(findHandler(opcode, {})->prepare, nullptr) << opcode;
+        EXPECT_NE(commands().find(opcode, {})->prepare, nullptr) << opcode;
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "server/inventory/FoundPrinterList.h"
 
-#include "server/NameKey.h"
+#include "server/store/NameKey.h"
 
 #include "tests/server/inventory/InventoryPlace.h"
 
@@ -52,10 +52,10 @@ TEST(FoundPrinterList, aFilterTakesWhatTheListIsOrderedBy) {
     place.addLocal(u"usb", u"PC-1", "10.8.0.1", u"Halvek");
     place.addLocal(u"lpt", u"PC-22", "10.8.0.2", u"Mirado");
     const auto number = place.numberOf(place.report());
-    static_cast<void>(place.estate().table<NameMatching>());
+    static_cast<void>(place.connection().table<NameMatching>());
     const auto filtered = [&](std::uint16_t kind, std::u16string_view text) {
         return test::each(test::recordsOf<InventoryPrinterRecord>(
-                              place.estate().table<FoundPrinterList>().filter(kind, number, NamePattern(text))),
+                              place.connection().table<FoundPrinterList>().filter(kind, number, NamePattern(text))),
                           &InventoryPrinterRecord::windowsName);
     };
     EXPECT_EQ(filtered(0, u"10.1."), Names{u"Halvek old"});
@@ -81,7 +81,7 @@ TEST(FoundPrinterList, anOwnPrinterAtTheAddressIsMappedWithItsFirstQueue) {
     const auto queue = place.addQueue(u"First", printer);
     EXPECT_EQ(place.found(report).at(0).mappedQueueName, u"First");
     EXPECT_EQ(place.found(report).at(0).mappedQueueId, queue);
-    place.recordRules().remove({.type = 1, .id = printer});
+    place.recordService().remove({.type = 1, .id = printer});
     EXPECT_EQ(place.found(report).at(0).mappedPrinterName, u"");
     EXPECT_EQ(place.found(report).at(0).mappedQueueName, u"");
 }

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "protocol/inventory/ReportType.h"
-#include "server/RecordColumns.h"
 #include "server/inventory/FoundModelList.h"
 #include "server/inventory/FoundPrinterList.h"
-#include "server/inventory/IpRangeRules.h"
+#include "server/inventory/IpRangeService.h"
 #include "server/inventory/IpRangeTable.h"
-#include "server/inventory/MigrationPlanRules.h"
+#include "server/inventory/MigrationPlanService.h"
 #include "server/inventory/MigrationPlanTable.h"
 #include "server/inventory/OldEstateTable.h"
 #include "server/inventory/QueueSearch.h"
-#include "server/inventory/ReportRules.h"
+#include "server/inventory/ReportService.h"
 #include "server/inventory/ReportTable.h"
+#include "server/store/RecordColumns.h"
 #include "tests/server/TestEstate.h"
 
 #include "protocol/inventory/FoundQueueRecord.h"
@@ -44,7 +44,7 @@ std::vector<Value> each(const std::vector<R>& records, Value R::*member) {
 // A database with an old estate, and short words for what tests do with it.
 class InventoryPlace : public TestEstate {
 public:
-    [[nodiscard]] OldEstateTable& old() { return estate().table<OldEstateTable>(); }
+    [[nodiscard]] OldEstateTable& old() { return connection().table<OldEstateTable>(); }
 
     // A shared printer of the one print server.
     std::int64_t addShared(const std::u16string& name, const std::string& ip, const std::u16string& model = u"X5",
@@ -87,11 +87,11 @@ public:
         record.ip = ip;
         record.modelName = model;
         record.regionId = region_;
-        return recordRules().create({.physicalPrinterId = {}, .record = record}).id;
+        return recordService().create({.physicalPrinterId = {}, .record = record}).id;
     }
 
     protocol::StatusReply makeReport(const protocol::CreateInventoryReportRequest& request) {
-        return estate().change([&] { return ReportRules(estate()).create(request); });
+        return connection().change([&] { return ReportService(connection()).create(request); });
     }
 
     // Its id; empty when it was refused.
@@ -109,13 +109,13 @@ public:
     }
 
     [[nodiscard]] std::vector<protocol::InventoryReportRecord> reports() {
-        return recordsOf<protocol::InventoryReportRecord>(estate().table<ReportTable>().list());
+        return recordsOf<protocol::InventoryReportRecord>(connection().table<ReportTable>().list());
     }
     [[nodiscard]] std::vector<protocol::InventoryPrinterRecord> found(const std::string& reportId,
                                                                       std::uint16_t listKind = 0) {
-        static_cast<void>(estate().table<NameMatching>());
+        static_cast<void>(connection().table<NameMatching>());
         return recordsOf<protocol::InventoryPrinterRecord>(
-            estate().table<FoundPrinterList>().list(listKind, numberOf(reportId)));
+            connection().table<FoundPrinterList>().list(listKind, numberOf(reportId)));
     }
     [[nodiscard]] std::vector<std::u16string> foundNames(const std::string& reportId, std::uint16_t listKind = 0) {
         return each(found(reportId, listKind), &protocol::InventoryPrinterRecord::windowsName);
@@ -123,25 +123,25 @@ public:
     [[nodiscard]] std::vector<protocol::InventoryModelRecord> models(const std::string& reportId,
                                                                      std::uint16_t listKind = 0) {
         return recordsOf<protocol::InventoryModelRecord>(
-            estate().table<FoundModelList>().list(listKind, numberOf(reportId)));
+            connection().table<FoundModelList>().list(listKind, numberOf(reportId)));
     }
     [[nodiscard]] std::vector<std::u16string> planNames(const std::string& reportId) {
-        return each(
-            recordsOf<protocol::SchemaRecord>(estate().table<MigrationPlanTable>().listOfReport(numberOf(reportId))),
-            &protocol::SchemaRecord::schemaName);
+        return each(recordsOf<protocol::SchemaRecord>(
+                        connection().table<MigrationPlanTable>().listOfReport(numberOf(reportId))),
+                    &protocol::SchemaRecord::schemaName);
     }
     [[nodiscard]] std::vector<protocol::SchemaRecord> plans() {
-        return recordsOf<protocol::SchemaRecord>(estate().table<MigrationPlanTable>().list());
+        return recordsOf<protocol::SchemaRecord>(connection().table<MigrationPlanTable>().list());
     }
     [[nodiscard]] std::vector<protocol::IpRangeRecord> ranges() {
-        return recordsOf<protocol::IpRangeRecord>(estate().table<IpRangeTable>().list());
+        return recordsOf<protocol::IpRangeRecord>(connection().table<IpRangeTable>().list());
     }
 
     protocol::StatusReply changePlan(std::uint8_t operation, const protocol::SchemaRecord& plan) {
-        return MigrationPlanRules(estate()).change({.operation = operation, .schema = plan});
+        return MigrationPlanService(connection()).change({.operation = operation, .schema = plan});
     }
     protocol::StatusReply changeRange(std::uint8_t operation, const protocol::IpRangeRecord& range) {
-        return IpRangeRules(estate()).change({.operation = operation, .range = range});
+        return IpRangeService(connection()).change({.operation = operation, .range = range});
     }
     // An active one.
     void addRange(const std::u16string& first, const std::u16string& last, std::int32_t rangeType) {
@@ -155,7 +155,7 @@ public:
 
     // 0 for one that is not there.
     [[nodiscard]] std::int64_t numberOf(const std::string& reportId) {
-        return estate().table<ReportTable>().find(reportId).value_or(0);
+        return connection().table<ReportTable>().find(reportId).value_or(0);
     }
 
 private:

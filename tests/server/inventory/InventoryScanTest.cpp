@@ -146,7 +146,7 @@ TEST(InventoryScan, aReportOfNothingHasFourEmptyViews) {
     EXPECT_TRUE(place.planNames(report).empty());
 }
 
-TEST(ReportRules, whatCannotBeMadeIsRefusedAndLeavesNoReport) {
+TEST(ReportService, whatCannotBeMadeIsRefusedAndLeavesNoReport) {
     InventoryPlace place;
     const protocol::CreateInventoryReportRequest good{.reportUser = u"eva",
                                                       .reportName = u"R",
@@ -180,13 +180,13 @@ TEST(ReportRules, whatCannotBeMadeIsRefusedAndLeavesNoReport) {
     EXPECT_TRUE(isDone(place.makeReport(good)));
 }
 
-TEST(ReportRules, deletingAReportTakesAlongWhatItFound) {
+TEST(ReportService, deletingAReportTakesAlongWhatItFound) {
     InventoryPlace place;
     place.addShared(u"one", "10.1.0.1");
     const auto first = place.report();
     const auto second = place.report();
-    EXPECT_TRUE(isDone(ReportRules(place.estate()).remove({.reportId = first})));
-    EXPECT_FALSE(isDone(ReportRules(place.estate()).remove({.reportId = first})));
+    EXPECT_TRUE(isDone(ReportService(place.connection()).remove({.reportId = first})));
+    EXPECT_FALSE(isDone(ReportService(place.connection()).remove({.reportId = first})));
     EXPECT_EQ(place.reports().size(), 1U);
     auto database = place.store().connect();
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM inventoryEntry").getInt(), 1);

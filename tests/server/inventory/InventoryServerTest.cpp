@@ -1,4 +1,6 @@
 #include "server/SampleEstate.h"
+#include "server/estate/RecordTable.h"
+#include "server/estate/RegionTable.h"
 #include "tests/server/RunningServer.h"
 #include "tests/server/TestClient.h"
 #include "tests/server/inventory/InventoryPlace.h"
@@ -36,7 +38,7 @@ std::vector<Bytes> only(const Bytes& fields) {
 
 class InventoryServer : public testing::Test {
 protected:
-    InventoryServer() : estate(server.store().openEstate()) {}
+    InventoryServer() : connection(server.store().openConnection()) {}
 
     // The records of a list, each a message.
     std::vector<Bytes> list(std::uint16_t opcode, const std::optional<Bytes>& fields) {
@@ -66,7 +68,7 @@ protected:
         return cursor.text8();
     }
     std::int64_t addOldPrinter(const std::u16string& name, const std::string& ip) {
-        auto& old = estate->table<OldEstateTable>();
+        auto& old = connection->table<OldEstateTable>();
         OldPrinter printer;
         printer.server = old.addServer(u"PRN-1", "10.9.0.1", "");
         printer.windowsName = name;
@@ -79,7 +81,7 @@ protected:
     }
 
     RunningServer server;
-    std::unique_ptr<Estate> estate;
+    std::unique_ptr<StoreConnection> connection;
 };
 
 TEST_F(InventoryServer, aPlanIsMadeListedFetchedSavedAndDeleted) {
@@ -117,14 +119,14 @@ TEST_F(InventoryServer, theWholeListHasThePlansOfAllReportsAndAReportItsOwn) {
 }
 
 TEST_F(InventoryServer, queuesAreSearched) {
-    const auto region = estate->regions().insert(0, 0, u"North");
+    const auto region = connection->table<RegionTable>().insert(0, 0, u"North");
     protocol::PrinterRecord record;
     record.regionId = region;
     record.recordType = 3;
     for (const auto* const name : {u"Color", u"Mono"}) {
         record.name = name;
         record.id = wire::toUtf8(name);
-        estate->records().insert({.record = record, .printerId = {}});
+        connection->table<RecordTable>().insert({.record = record, .printerId = {}});
     }
     server.start();
     EXPECT_EQ(list(39, str16(u"COL")), only(str8("Color") + str16(u"Color")));
@@ -134,8 +136,8 @@ TEST_F(InventoryServer, queuesAreSearched) {
 }
 
 TEST_F(InventoryServer, aReportIsMadeViewedAndDeleted) {
-    estate->table<OldEstateTable>().addUse(addOldPrinter(u"old", "10.1.0.7"),
-                                           estate->table<OldEstateTable>().addWorkstation(u"PC-1", "10.8.0.1", ""));
+    connection->table<OldEstateTable>().addUse(
+        addOldPrinter(u"old", "10.1.0.7"), connection->table<OldEstateTable>().addWorkstation(u"PC-1", "10.8.0.1", ""));
     server.start();
     change(41, reportFields(u"R", "10.1.*", 3));
     const auto reports = list(40, std::nullopt);
@@ -229,8 +231,8 @@ TEST_F(InventoryServer, anOperationThatDoesNotExistDoesNothing) {
 TEST(InventorySample, everyListHoldsSomething) {
     for (const int printers : {0, 600}) {
         InventoryPlace place;
-        place.estate().change([&] {
-            SampleEstate sample(place.estate());
+        place.connection().change([&] {
+            SampleEstate sample(place.connection());
             if (printers == 0)
                 sample.fillSmall();
             else

@@ -1,6 +1,6 @@
 #include "server/inventory/NamePattern.h"
 
-#include "server/NameKey.h"
+#include "server/store/NameKey.h"
 #include "tests/server/inventory/InventoryPlace.h"
 
 #include <gtest/gtest.h>
@@ -16,9 +16,9 @@ bool matches(std::u16string_view pattern, std::u16string_view name) {
 }
 
 Names queuesLike(InventoryPlace& place, std::u16string_view pattern) {
-    static_cast<void>(place.estate().table<NameMatching>());
+    static_cast<void>(place.connection().table<NameMatching>());
     return test::each(
-        test::recordsOf<protocol::FoundQueueRecord>(place.estate().table<QueueSearch>().find(NamePattern(pattern))),
+        test::recordsOf<protocol::FoundQueueRecord>(place.connection().table<QueueSearch>().find(NamePattern(pattern))),
         &protocol::FoundQueueRecord::queueName);
 }
 

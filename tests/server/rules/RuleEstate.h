@@ -2,15 +2,15 @@
 
 #include "protocol/rules/ListRuleEntriesRequest.h"
 #include "protocol/rules/RuleEntryType.h"
-#include "server/rules/AffectedRules.h"
+#include "server/rules/AffectedService.h"
 #include "server/rules/NamedTable.h"
-#include "server/rules/PageLimitRules.h"
+#include "server/rules/PageLimitService.h"
 #include "server/rules/PriceEntryTable.h"
-#include "server/rules/PricePlanRules.h"
-#include "server/rules/RuleEntryRules.h"
-#include "server/rules/RuleGroupRules.h"
-#include "server/rules/ShortIdRules.h"
-#include "server/rules/UserMessageRules.h"
+#include "server/rules/PricePlanService.h"
+#include "server/rules/RuleEntryService.h"
+#include "server/rules/RuleGroupService.h"
+#include "server/rules/ShortIdService.h"
+#include "server/rules/UserMessageService.h"
 #include "tests/server/TestEstate.h"
 
 #include <gtest/gtest.h>
@@ -28,9 +28,9 @@ inline std::u16string tooLongText() {
 // A database for the rules, and short words for what tests do with it.
 class RuleEstate : public TestEstate {
 public:
-    template <class Rules>
-    [[nodiscard]] Rules rules() {
-        return Rules(estate());
+    template <class Service>
+    [[nodiscard]] Service service() {
+        return Service(connection());
     }
 
     // The records of a listing, in its order.
@@ -45,16 +45,16 @@ public:
 
     template <protocol::Record R>
     [[nodiscard]] std::vector<R> all(const std::string& id = {}) {
-        return all<R>(estate().table<NamedTable<R>>().list(id));
+        return all<R>(connection().table<NamedTable<R>>().list(id));
     }
 
     [[nodiscard]] std::vector<protocol::PriceEntryRecord> prices(const std::string& planId) {
-        return all<protocol::PriceEntryRecord>(estate().table<PriceEntryTable>().list(planId));
+        return all<protocol::PriceEntryRecord>(connection().table<PriceEntryTable>().list(planId));
     }
 
     [[nodiscard]] std::vector<protocol::RuleEntryRecord> entries(const std::string& ownerId,
                                                                  std::int32_t ownerNumber = 0) {
-        return all<protocol::RuleEntryRecord>(estate().table<RuleEntryTable>().list(ownerId, ownerNumber));
+        return all<protocol::RuleEntryRecord>(connection().table<RuleEntryTable>().list(ownerId, ownerNumber));
     }
 
     // The ids of the entries of an owner, in their order.
@@ -66,7 +66,7 @@ public:
     }
 
     void addGroup(const std::string& id, const std::u16string& name = u"Group") {
-        EXPECT_TRUE(isDone(rules<RuleGroupRules>().write({.action = adds, .group = namedGroup(id, name)})));
+        EXPECT_TRUE(isDone(service<RuleGroupService>().write({.action = adds, .group = namedGroup(id, name)})));
     }
 
     [[nodiscard]] static protocol::RuleGroupRecord namedGroup(const std::string& id, const std::u16string& name) {
@@ -86,7 +86,7 @@ public:
 
     [[nodiscard]] protocol::StatusReply place(const protocol::RuleEntryRecord& entry, const std::string& ownerId,
                                               std::int32_t ownerNumber = 0, const std::string& parentId = {}) {
-        return rules<RuleEntryRules>().add(
+        return service<RuleEntryService>().add(
             {.ownerNumber = ownerNumber, .parentId = parentId, .ownerId = ownerId, .entry = entry});
     }
 };

@@ -103,26 +103,26 @@ void expectRefusals(RuleEstate& place, const R& record, const Write& write, std:
     EXPECT_EQ(place.all<R>().size(), alreadyThere + 1);
 }
 
-TEST(PageLimitRules, aLimitIsAddedChangedAndDeleted) {
+TEST(PageLimitService, aLimitIsAddedChangedAndDeleted) {
     RuleEstate place;
-    auto rules = place.rules<PageLimitRules>();
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .limit = fullLimit()})));
-    EXPECT_EQ(place.estate().table<PageLimitTable>().find(std::string("l1")), fullLimit());
+    auto service = place.service<PageLimitService>();
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .limit = fullLimit()})));
+    EXPECT_EQ(place.connection().table<PageLimitTable>().find(std::string("l1")), fullLimit());
     auto limit = fullLimit();
     limit.messageId.reset();
     limit.name = u"M";
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .limit = limit})));
-    EXPECT_EQ(place.estate().table<PageLimitTable>().find(std::string("l1")), limit);
-    EXPECT_TRUE(isDone(rules.remove({.id = "l1"})));
-    EXPECT_EQ(place.estate().table<PageLimitTable>().find(std::string("l1")), std::nullopt);
-    EXPECT_FALSE(isDone(rules.write({.action = test::updates, .limit = limit})));
-    EXPECT_FALSE(isDone(rules.remove({.id = "l1"})));
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .limit = limit})));
+    EXPECT_EQ(place.connection().table<PageLimitTable>().find(std::string("l1")), limit);
+    EXPECT_TRUE(isDone(service.remove({.id = "l1"})));
+    EXPECT_EQ(place.connection().table<PageLimitTable>().find(std::string("l1")), std::nullopt);
+    EXPECT_FALSE(isDone(service.write({.action = test::updates, .limit = limit})));
+    EXPECT_FALSE(isDone(service.remove({.id = "l1"})));
 }
 
-TEST(PageLimitRules, whatALimitCannotBeIsRefused) {
+TEST(PageLimitService, whatALimitCannotBeIsRefused) {
     RuleEstate place;
     const auto write = [&](const PageLimitRecord& limit) {
-        return place.rules<PageLimitRules>().write({.action = test::adds, .limit = limit});
+        return place.service<PageLimitService>().write({.action = test::adds, .limit = limit});
     };
     EXPECT_TRUE(refuses(write, fullLimit(), [](auto& one) { one.color = 3; }));
     EXPECT_TRUE(refuses(write, fullLimit(), [](auto& one) { one.duplex = 3; }));
@@ -131,48 +131,48 @@ TEST(PageLimitRules, whatALimitCannotBeIsRefused) {
     expectRefusals(place, fullLimit(), write);
 }
 
-TEST(PageLimitRules, aListTellsIdsAndNamesByName) {
+TEST(PageLimitService, aListTellsIdsAndNamesByName) {
     RuleEstate place;
     for (const auto& [id, name] :
          std::initializer_list<std::pair<const char*, const char16_t*>>{{"l1", u"b"}, {"l2", u"A"}, {"l3", u"b"}}) {
         auto limit = fullLimit();
         limit.id = id;
         limit.name = name;
-        EXPECT_TRUE(isDone(place.rules<PageLimitRules>().write({.action = test::adds, .limit = limit})));
+        EXPECT_TRUE(isDone(place.service<PageLimitService>().write({.action = test::adds, .limit = limit})));
     }
     using protocol::PageLimitName;
-    EXPECT_EQ(RuleEstate::all<PageLimitName>(place.estate().table<PageLimitTable>().list()),
+    EXPECT_EQ(RuleEstate::all<PageLimitName>(place.connection().table<PageLimitTable>().list()),
               (std::vector<PageLimitName>{{"l2", u"A"}, {"l1", u"b"}, {"l3", u"b"}}));
 }
 
-TEST(PricePlanRules, aPlanKeepsEachFigureAndItsPricesInTheirOrder) {
+TEST(PricePlanService, aPlanKeepsEachFigureAndItsPricesInTheirOrder) {
     RuleEstate place;
     const std::vector<PriceEntryRecord> entries{priceOf("r2", 9), priceOf("r1", 257), priceOf("r3", 9)};
-    EXPECT_TRUE(
-        isDone(place.rules<PricePlanRules>().write({.action = test::adds, .plan = fullPlan(), .entries = entries})));
+    EXPECT_TRUE(isDone(
+        place.service<PricePlanService>().write({.action = test::adds, .plan = fullPlan(), .entries = entries})));
     EXPECT_EQ(place.all<PricePlanRecord>(), std::vector<PricePlanRecord>{fullPlan()});
     EXPECT_EQ(place.prices("p1"), entries);
     EXPECT_TRUE(place.prices("p2").empty());
 }
 
-TEST(PricePlanRules, anUpdateReplacesAllPrices) {
+TEST(PricePlanService, anUpdateReplacesAllPrices) {
     RuleEstate place;
-    auto rules = place.rules<PricePlanRules>();
+    auto service = place.service<PricePlanService>();
     EXPECT_TRUE(isDone(
-        rules.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9), priceOf("r2", 8)}})));
+        service.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9), priceOf("r2", 8)}})));
     auto plan = fullPlan();
     plan.vat = 750;
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .plan = plan, .entries = {priceOf("r3", 1)}})));
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .plan = plan, .entries = {priceOf("r3", 1)}})));
     EXPECT_EQ(place.all<PricePlanRecord>("p1").at(0).vat, 750U);
     EXPECT_EQ(place.prices("p1"), std::vector<PriceEntryRecord>{priceOf("r3", 1)});
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .plan = plan, .entries = {}})));
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .plan = plan, .entries = {}})));
     EXPECT_TRUE(place.prices("p1").empty());
 }
 
-TEST(PricePlanRules, aRefusedPriceLeavesThePlanAndAllPricesAsTheyWere) {
+TEST(PricePlanService, aRefusedPriceLeavesThePlanAndAllPricesAsTheyWere) {
     RuleEstate place;
-    auto rules = place.rules<PricePlanRules>();
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9)}})));
+    auto service = place.service<PricePlanService>();
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9)}})));
     auto plan = fullPlan();
     plan.name = u"Other";
     auto bad = priceOf("r2", 8);
@@ -181,70 +181,72 @@ TEST(PricePlanRules, aRefusedPriceLeavesThePlanAndAllPricesAsTheyWere) {
              [](PriceEntryRecord& entry) { entry.paperName = std::string(65535, 'x'); }}) {
         bad = priceOf("r2", 8);
         change(bad);
-        EXPECT_FALSE(isDone(rules.write({.action = test::updates, .plan = plan, .entries = {priceOf("r3", 1), bad}})));
+        EXPECT_FALSE(
+            isDone(service.write({.action = test::updates, .plan = plan, .entries = {priceOf("r3", 1), bad}})));
     }
     EXPECT_EQ(place.all<PricePlanRecord>().at(0), fullPlan());
     EXPECT_EQ(place.prices("p1"), std::vector<PriceEntryRecord>{priceOf("r1", 9)});
 }
 
-TEST(PricePlanRules, deletingAPlanDeletesItsPrices) {
+TEST(PricePlanService, deletingAPlanDeletesItsPrices) {
     RuleEstate place;
-    auto rules = place.rules<PricePlanRules>();
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9)}})));
-    EXPECT_TRUE(isDone(rules.remove({.id = "p1"})));
+    auto service = place.service<PricePlanService>();
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .plan = fullPlan(), .entries = {priceOf("r1", 9)}})));
+    EXPECT_TRUE(isDone(service.remove({.id = "p1"})));
     EXPECT_TRUE(place.prices("p1").empty());
-    EXPECT_FALSE(isDone(rules.remove({.id = "p1"})));
-    EXPECT_FALSE(isDone(rules.write({.action = test::updates, .plan = fullPlan(), .entries = {}})));
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .plan = fullPlan(), .entries = {}})));
+    EXPECT_FALSE(isDone(service.remove({.id = "p1"})));
+    EXPECT_FALSE(isDone(service.write({.action = test::updates, .plan = fullPlan(), .entries = {}})));
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .plan = fullPlan(), .entries = {}})));
     EXPECT_TRUE(place.prices("p1").empty());
 }
 
-TEST(PricePlanRules, whatAPlanCannotBeIsRefused) {
+TEST(PricePlanService, whatAPlanCannotBeIsRefused) {
     RuleEstate place;
     const auto write = [&](const PricePlanRecord& plan) {
-        return place.rules<PricePlanRules>().write({.action = test::adds, .plan = plan, .entries = {}});
+        return place.service<PricePlanService>().write({.action = test::adds, .plan = plan, .entries = {}});
     };
     EXPECT_TRUE(refuses(write, fullPlan(), [](auto& one) { one.payMethod = 4; }));
     expectRefusals(place, fullPlan(), write);
 }
 
-TEST(PricePlanRules, twoPlansMayHaveOneName) {
+TEST(PricePlanService, twoPlansMayHaveOneName) {
     RuleEstate place;
     auto plan = fullPlan();
     for (const auto* id : {"p2", "p1"}) {
         plan.id = id;
-        EXPECT_TRUE(isDone(place.rules<PricePlanRules>().write({.action = test::adds, .plan = plan, .entries = {}})));
+        EXPECT_TRUE(
+            isDone(place.service<PricePlanService>().write({.action = test::adds, .plan = plan, .entries = {}})));
     }
     EXPECT_EQ(place.all<PricePlanRecord>().at(0).id, "p2"); // in the order of making
 }
 
-TEST(ShortIdRules, aShortIdIsAddedChangedAndDeleted) {
+TEST(ShortIdService, aShortIdIsAddedChangedAndDeleted) {
     RuleEstate place;
-    auto rules = place.rules<ShortIdRules>();
-    EXPECT_TRUE(isDone(rules.add({.shortId = fullShortId()})));
+    auto service = place.service<ShortIdService>();
+    EXPECT_TRUE(isDone(service.add({.shortId = fullShortId()})));
     EXPECT_EQ(place.all<ShortIdRecord>(), std::vector<ShortIdRecord>{fullShortId()});
     ShortIdRecord empty;
     empty.id = uuid;
     empty.name = u"M";
-    EXPECT_TRUE(isDone(rules.update({.shortId = empty})));
+    EXPECT_TRUE(isDone(service.update({.shortId = empty})));
     EXPECT_EQ(place.all<ShortIdRecord>(), std::vector<ShortIdRecord>{empty});
-    EXPECT_TRUE(isDone(rules.remove({.id = uuid})));
+    EXPECT_TRUE(isDone(service.remove({.id = uuid})));
     EXPECT_TRUE(place.all<ShortIdRecord>().empty());
-    EXPECT_FALSE(isDone(rules.update({.shortId = empty})));
-    EXPECT_FALSE(isDone(rules.remove({.id = uuid})));
+    EXPECT_FALSE(isDone(service.update({.shortId = empty})));
+    EXPECT_FALSE(isDone(service.remove({.id = uuid})));
 }
 
-TEST(ShortIdRules, whatAShortIdCannotBeIsRefused) {
+TEST(ShortIdService, whatAShortIdCannotBeIsRefused) {
     RuleEstate place;
     const auto write = [&](const ShortIdRecord& shortId) {
-        return place.rules<ShortIdRules>().add({.shortId = shortId});
+        return place.service<ShortIdService>().add({.shortId = shortId});
     };
     EXPECT_TRUE(refuses(write, fullShortId(), [](auto& one) { one.reservedUntil = 86400; }));
     EXPECT_TRUE(refuses(write, fullShortId(), [](auto& one) { one.reservedUntil = -1; }));
     expectRefusals(place, fullShortId(), write);
 }
 
-TEST(UserMessageRules, anEmptyDatabaseHasTheBuiltInMessages) {
+TEST(UserMessageService, anEmptyDatabaseHasTheBuiltInMessages) {
     RuleEstate place;
     std::u16string names;
     for (const auto& message : place.all<UserMessageRecord>()) {
@@ -256,49 +258,49 @@ TEST(UserMessageRules, anEmptyDatabaseHasTheBuiltInMessages) {
     EXPECT_EQ(names, u"Job deleted,Job moved,Job paused,PIN code required,Short id,");
 }
 
-TEST(UserMessageRules, aMessageIsAddedChangedAndDeleted) {
+TEST(UserMessageService, aMessageIsAddedChangedAndDeleted) {
     RuleEstate place;
-    auto rules = place.rules<UserMessageRules>();
+    auto service = place.service<UserMessageService>();
     const auto id = wire::toText(uuid);
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .message = fullMessage()})));
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .message = fullMessage()})));
     EXPECT_EQ(place.all<UserMessageRecord>(id), std::vector<UserMessageRecord>{fullMessage()});
     auto message = fullMessage();
     message.text = u"Other";
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .message = message})));
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .message = message})));
     EXPECT_EQ(place.all<UserMessageRecord>(id), std::vector<UserMessageRecord>{message});
-    EXPECT_TRUE(isDone(rules.remove({.id = uuid})));
+    EXPECT_TRUE(isDone(service.remove({.id = uuid})));
     EXPECT_TRUE(place.all<UserMessageRecord>(id).empty());
-    EXPECT_FALSE(isDone(rules.remove({.id = uuid})));
-    EXPECT_FALSE(isDone(rules.write({.action = test::updates, .message = message})));
+    EXPECT_FALSE(isDone(service.remove({.id = uuid})));
+    EXPECT_FALSE(isDone(service.write({.action = test::updates, .message = message})));
 }
 
-TEST(UserMessageRules, aBuiltInMessageIsEditedButNotDeletedAndStaysBuiltIn) {
+TEST(UserMessageService, aBuiltInMessageIsEditedButNotDeletedAndStaysBuiltIn) {
     RuleEstate place;
-    auto rules = place.rules<UserMessageRules>();
+    auto service = place.service<UserMessageService>();
     auto message = place.all<UserMessageRecord>().at(0);
     message.text = u"In other words";
     message.builtIn = false;
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .message = message})));
-    EXPECT_EQ(rules.remove({.id = message.id}).text, u"The user message \"Job deleted\" is built in.");
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .message = message})));
+    EXPECT_EQ(service.remove({.id = message.id}).text, u"The user message \"Job deleted\" is built in.");
     message.builtIn = true;
     EXPECT_EQ(place.all<UserMessageRecord>().at(0), message);
 }
 
-TEST(UserMessageRules, aConsoleCannotMakeABuiltInMessage) {
+TEST(UserMessageService, aConsoleCannotMakeABuiltInMessage) {
     RuleEstate place;
-    auto rules = place.rules<UserMessageRules>();
+    auto service = place.service<UserMessageService>();
     auto message = fullMessage();
     message.builtIn = true;
-    EXPECT_TRUE(isDone(rules.write({.action = test::adds, .message = message})));
-    EXPECT_TRUE(isDone(rules.write({.action = test::updates, .message = message})));
+    EXPECT_TRUE(isDone(service.write({.action = test::adds, .message = message})));
+    EXPECT_TRUE(isDone(service.write({.action = test::updates, .message = message})));
     EXPECT_FALSE(place.all<UserMessageRecord>(wire::toText(uuid)).at(0).builtIn);
-    EXPECT_TRUE(isDone(rules.remove({.id = uuid})));
+    EXPECT_TRUE(isDone(service.remove({.id = uuid})));
 }
 
-TEST(UserMessageRules, whatAMessageCannotBeIsRefused) {
+TEST(UserMessageService, whatAMessageCannotBeIsRefused) {
     RuleEstate place;
     const auto write = [&](const UserMessageRecord& message) {
-        return place.rules<UserMessageRules>().write({.action = test::adds, .message = message});
+        return place.service<UserMessageService>().write({.action = test::adds, .message = message});
     };
     EXPECT_TRUE(refuses(write, fullMessage(), [](auto& one) { one.type = 0; }));
     EXPECT_TRUE(refuses(write, fullMessage(), [](auto& one) { one.type = 4; }));
@@ -306,13 +308,13 @@ TEST(UserMessageRules, whatAMessageCannotBeIsRefused) {
     expectRefusals(place, fullMessage(), write, 5);
 }
 
-TEST(UserMessageRules, whatShowsADeletedMessageStaysAsItIs) {
+TEST(UserMessageService, whatShowsADeletedMessageStaysAsItIs) {
     RuleEstate place;
-    EXPECT_TRUE(isDone(place.rules<UserMessageRules>().write({.action = test::adds, .message = fullMessage()})));
-    EXPECT_TRUE(isDone(place.rules<PageLimitRules>().write({.action = test::adds, .limit = fullLimit()})));
-    EXPECT_TRUE(isDone(place.rules<UserMessageRules>().remove({.id = uuid})));
-    EXPECT_EQ(place.estate().table<PageLimitTable>().find(std::string("l1")), fullLimit());
-    EXPECT_TRUE(isDone(place.rules<PageLimitRules>().write({.action = test::updates, .limit = fullLimit()})));
+    EXPECT_TRUE(isDone(place.service<UserMessageService>().write({.action = test::adds, .message = fullMessage()})));
+    EXPECT_TRUE(isDone(place.service<PageLimitService>().write({.action = test::adds, .limit = fullLimit()})));
+    EXPECT_TRUE(isDone(place.service<UserMessageService>().remove({.id = uuid})));
+    EXPECT_EQ(place.connection().table<PageLimitTable>().find(std::string("l1")), fullLimit());
+    EXPECT_TRUE(isDone(place.service<PageLimitService>().write({.action = test::updates, .limit = fullLimit()})));
 }
 
 } // namespace

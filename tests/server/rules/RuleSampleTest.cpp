@@ -16,8 +16,8 @@ namespace entryType = protocol::ruleEntryType;
 class RuleSample : public testing::Test {
 protected:
     RuleSample() {
-        place.estate().change([&] {
-            SampleEstate(place.estate()).fillSmall();
+        place.connection().change([&] {
+            SampleEstate(place.connection()).fillSmall();
             return true;
         });
     }
@@ -91,16 +91,16 @@ TEST_F(RuleSample, pricesAreLabelledAsTheirPaperOrArea) {
 TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
     for (const auto& plan : place.all<protocol::PricePlanRecord>()) {
         const auto entries = place.prices(plan.id);
-        EXPECT_TRUE(isDone(place.rules<PricePlanRules>().write({.action = 2, .plan = plan, .entries = entries})));
+        EXPECT_TRUE(isDone(place.service<PricePlanService>().write({.action = 2, .plan = plan, .entries = entries})));
     }
     for (const auto& limit : place.all<protocol::PageLimitRecord>())
-        EXPECT_TRUE(isDone(place.rules<PageLimitRules>().write({.action = 2, .limit = limit})));
+        EXPECT_TRUE(isDone(place.service<PageLimitService>().write({.action = 2, .limit = limit})));
     for (const auto& shortId : place.all<protocol::ShortIdRecord>())
-        EXPECT_TRUE(isDone(place.rules<ShortIdRules>().update({.shortId = shortId})));
+        EXPECT_TRUE(isDone(place.service<ShortIdService>().update({.shortId = shortId})));
     for (const auto& message : place.all<protocol::UserMessageRecord>())
-        EXPECT_TRUE(isDone(place.rules<UserMessageRules>().write({.action = 2, .message = message})));
+        EXPECT_TRUE(isDone(place.service<UserMessageService>().write({.action = 2, .message = message})));
     for (const auto& entry : place.entries("", 0))
-        EXPECT_TRUE(isDone(place.rules<RuleEntryRules>().update({.entry = entry})));
+        EXPECT_TRUE(isDone(place.service<RuleEntryService>().update({.entry = entry})));
 }
 
 } // namespace

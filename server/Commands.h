@@ -1,0 +1,10 @@
+#pragma once
+
+#include "server/commands/CommandTable.h"
+
+namespace server {
+
+// All commands that vantreld answers, but for the two of a login.
+[[nodiscard]] const CommandTable& commands();
+
+} // namespace server

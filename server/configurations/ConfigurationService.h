@@ -1,0 +1,35 @@
+#pragma once
+
+#include "protocol/StatusReply.h"
+#include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
+#include "protocol/configurations/ApplyQueueConfigurationRequest.h"
+#include "protocol/configurations/DeleteConfigurationRequest.h"
+#include "protocol/configurations/RemoveConfigurationFromQueueRequest.h"
+#include "protocol/configurations/SetConfigurationCommentRequest.h"
+#include "server/configurations/ConfigurationTable.h"
+#include "server/configurations/QueueConfigurationTable.h"
+#include "server/store/StoreConnection.h"
+
+namespace server {
+
+// What may be done to configurations, and doing it. Each change runs inside of the caller's transaction; a refused one
+// has changed nothing. Throws StoreError.
+class ConfigurationService {
+public:
+    explicit ConfigurationService(StoreConnection& connection)
+        : configurations_(connection.table<ConfigurationTable>()),
+          queues_(connection.table<QueueConfigurationTable>()) {}
+
+    protocol::StatusReply setComment(const protocol::SetConfigurationCommentRequest& request);
+    protocol::StatusReply remove(const protocol::DeleteConfigurationRequest& request);
+    // An empty configuration takes away what the queue uses.
+    protocol::StatusReply applyToQueue(const protocol::ApplyQueueConfigurationRequest& request);
+    protocol::StatusReply removeFromQueue(const protocol::RemoveConfigurationFromQueueRequest& request);
+    protocol::StatusReply applyForDriver(const protocol::ApplyConfigurationForDriverRequest& request);
+
+private:
+    ConfigurationTable& configurations_;
+    QueueConfigurationTable& queues_;
+};
+
+} // namespace server

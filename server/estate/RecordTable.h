@@ -1,0 +1,79 @@
+#pragma once
+
+#include "protocol/ListPrinterRecordsRequest.h"
+#include "protocol/PrinterRecord.h"
+#include "server/store/Query.h"
+
+#include <optional>
+
+namespace server {
+
+// A record as it is stored: what travels, and the printer of a queue.
+struct StoredRecord {
+    protocol::PrinterRecord record;
+    std::string printerId; // empty but for a queue
+};
+
+// Which region tree a type of record stands in.
+[[nodiscard]] std::uint8_t regionKindOf(std::uint16_t recordType);
+
+// The printers, queues, follow-print queues and local printers of one connection to the database, and nothing about
+// what is allowed. Throws StoreError.
+class RecordTable {
+public:
+    explicit RecordTable(sqlite3* connection);
+
+    [[nodiscard]] std::optional<StoredRecord> find(const std::string& id);
+
+    // Another record than this one has the name among those of its type in the region.
+    [[nodiscard]] bool nameTaken(std::int32_t regionId, std::uint16_t recordType, const wire::WideString& name,
+                                 const std::string& except);
+
+    // The name of a queue of the printer that a queue of another printer in the region has already.
+    [[nodiscard]] std::optional<wire::WideString> queueNameTakenIn(std::int32_t regionId, const std::string& printerId);
+
+    void insert(const StoredRecord& stored);
+    // All fields, by the record's id; its type and its printer stay.
+    void update(const protocol::PrinterRecord& record);
+    void moveWithQueues(const std::string& printerId, std::int32_t regionId);
+    void removeWithQueues(const std::string& id);
+
+    [[nodiscard]] std::optional<std::uint32_t> octetOrder(const std::string& id);
+    // False when there is no such record.
+    bool setOctetOrder(const std::string& id, std::uint32_t order);
+
+    [[nodiscard]] bool isEmpty();
+
+    // What a list request selects, by name and then in the order of making. The columns of the rows are the fields of
+    // PrinterRecord. An unknown mode selects nothing. Within one read transaction the two agree.
+    [[nodiscard]] std::int64_t count(const protocol::ListPrinterRecordsRequest& request);
+    [[nodiscard]] Rows list(const protocol::ListPrinterRecordsRequest& request);
+
+private:
+    struct Selection {
+        Query count;
+        Query rows;
+        Selection(sqlite3* connection, const std::string& where);
+    };
+
+    Rows select(const protocol::ListPrinterRecordsRequest& request, Query Selection::*query);
+
+    Query find_;
+    Query nameTaken_;
+    Query queueNameTaken_;
+    Query insert_;
+    Query update_;
+    Query move_;
+    Query removeQueues_;
+    Query remove_;
+    Query octetOrder_;
+    Query setOctetOrder_;
+    Query any_;
+    Selection inRegion_;
+    Selection ofPrinter_;
+    Selection byId_;
+    Selection byTypeAndId_;
+    sqlite3* connection_;
+};
+
+} // namespace server

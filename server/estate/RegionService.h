@@ -1,0 +1,27 @@
+#pragma once
+
+#include "protocol/CreateRegionRequest.h"
+#include "protocol/DeleteRegionRequest.h"
+#include "protocol/MoveRegionRequest.h"
+#include "protocol/RenameRegionRequest.h"
+#include "protocol/StatusReply.h"
+#include "server/store/StoreConnection.h"
+
+namespace server {
+
+// What may be done to regions, and doing it. Each change runs inside of the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
+class RegionService {
+public:
+    explicit RegionService(StoreConnection& connection) : connection_(connection) {}
+
+    protocol::StatusReply create(const protocol::CreateRegionRequest& request);
+    protocol::StatusReply rename(const protocol::RenameRegionRequest& request);
+    protocol::StatusReply move(const protocol::MoveRegionRequest& request);
+    protocol::StatusReply remove(const protocol::DeleteRegionRequest& request);
+
+private:
+    StoreConnection& connection_;
+};
+
+} // namespace server

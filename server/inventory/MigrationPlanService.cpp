@@ -1,0 +1,45 @@
+#include "server/inventory/MigrationPlanService.h"
+
+#include "server/commands/Refusal.h"
+#include "server/commands/ReplyBuffer.h"
+#include "server/inventory/MigrationPlanTable.h"
+#include "wire/WireUuid.h"
+
+namespace server {
+
+using protocol::StatusReply;
+
+namespace {
+
+constexpr std::uint8_t creates = 1;
+constexpr std::uint8_t deletes = 4;
+
+StatusReply notSaved(const wire::WideString& text) {
+    return refusal(u"Not saved", text);
+}
+
+StatusReply doneIf(bool isThere) {
+    return isThere ? done() : notSaved(u"The migration plan was deleted in the meantime.");
+}
+
+} // namespace
+
+StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& request) {
+    auto& plans = connection_.table<MigrationPlanTable>();
+    auto plan = request.schema;
+    if (request.operation == deletes)
+        return doneIf(plans.remove(plan.schemaId));
+    if (request.operation == creates)
+        plan.schemaId = wire::toText(wire::randomUuid());
+    // A plan outlives its queue and goes by the queue's name then.
+    if (!plans.isQueue(plan.newQueueId))
+        plan.newQueueId = plans.queueNamed(plan.newPrinterName).value_or(std::string());
+    if (frameDataSize(plan) > largestReceivableFrame)
+        return notSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
+    if (request.operation != creates)
+        return doneIf(plans.update(plan));
+    plans.insert(plan);
+    return done();
+}
+
+} // namespace server

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace server {
+
+// The peer broke the rules, went away or took too long: the connection ends, and the text is the reason.
+class Dropped : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace server

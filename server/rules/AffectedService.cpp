@@ -1,0 +1,33 @@
+#include "server/rules/AffectedService.h"
+
+#include "server/rules/NamedTable.h"
+#include "server/rules/WriteChecks.h"
+
+namespace server {
+
+namespace {
+
+const wire::WideString word = u"affected user or group";
+
+} // namespace
+
+protocol::StatusReply AffectedService::write(const protocol::WriteAffectedRequest& request) {
+    auto& table = connection_.table<AffectedTable>();
+    const protocol::AffectedRecord record{
+        .id = request.id, .type = request.type, .equals = request.equals, .name = request.name};
+    if (const auto refused = refuseWrite(table, word, request.action, record))
+        return *refused;
+    if (const auto refused = refuseName(word, record.name))
+        return *refused;
+    if (record.type != 1 && record.type != 2)
+        return ruleRefused(u"Only users and groups can be affected.");
+    if (record.equals > 1)
+        return ruleRefused(u"A user or group is affected or is not.");
+    return store(table, request.action, record);
+}
+
+protocol::StatusReply AffectedService::remove(const protocol::DeleteAffectedRequest& request) {
+    return removeFrom(connection_.table<AffectedTable>(), word, request.id);
+}
+
+} // namespace server

@@ -1,0 +1,35 @@
+#include "server/rules/PageLimitService.h"
+
+#include "server/rules/NamedTable.h"
+#include "server/rules/WriteChecks.h"
+
+namespace server {
+
+namespace {
+
+const wire::WideString word = u"page limit";
+constexpr std::uint8_t lastColor = 2;
+constexpr std::uint8_t lastDuplex = 2;
+constexpr std::uint8_t lastAction = 6;
+
+} // namespace
+
+protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequest& request) {
+    auto& limits = connection_.table<PageLimitTable>();
+    const auto& limit = request.limit;
+    if (const auto refused = refuseWrite(limits, word, request.action, limit))
+        return *refused;
+    if (const auto refused = refuseName(word, limit.name))
+        return *refused;
+    if (limit.color > lastColor || limit.duplex > lastDuplex || limit.enforce > 1)
+        return ruleRefused(u"There is no such color, duplex or enforce of a page limit.");
+    if (limit.action > lastAction)
+        return ruleRefused(u"There is no such action of a page limit.");
+    return store(limits, request.action, limit);
+}
+
+protocol::StatusReply PageLimitService::remove(const protocol::DeletePageLimitRequest& request) {
+    return removeFrom(connection_.table<PageLimitTable>(), word, request.id);
+}
+
+} // namespace server

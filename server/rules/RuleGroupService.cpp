@@ -1,0 +1,29 @@
+#include "server/rules/RuleGroupService.h"
+
+#include "server/estate/RecordTable.h"
+#include "server/rules/NamedTable.h"
+#include "server/rules/WriteChecks.h"
+
+namespace server {
+
+namespace {
+
+const wire::WideString word = u"rule group";
+
+} // namespace
+
+protocol::StatusReply RuleGroupService::write(const protocol::WriteRuleGroupRequest& request) {
+    auto& groups = connection_.table<RuleGroupTable>();
+    if (const auto refused = refuseWrite(groups, word, request.action, request.group))
+        return *refused;
+    // Entries are listed by the id of their owner alone.
+    if (connection_.table<RecordTable>().find(request.group.id))
+        return ruleRefused(u"The id of the rule group is that of a printer or a queue.");
+    return store(groups, request.action, request.group);
+}
+
+protocol::StatusReply RuleGroupService::remove(const protocol::DeleteRuleGroupRequest& request) {
+    return removeFrom(connection_.table<RuleGroupTable>(), word, request.id);
+}
+
+} // namespace server

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "protocol/StatusReply.h"
+#include "protocol/rules/AddShortIdRequest.h"
+#include "protocol/rules/DeleteShortIdRequest.h"
+#include "protocol/rules/UpdateShortIdRequest.h"
+#include "server/store/StoreConnection.h"
+
+namespace server {
+
+// What may be done to short ids, and doing it. Each change runs inside of the caller's transaction;
+// a refused one has changed nothing. Throws StoreError.
+class ShortIdService {
+public:
+    explicit ShortIdService(StoreConnection& connection) : connection_(connection) {}
+
+    protocol::StatusReply add(const protocol::AddShortIdRequest& request);
+    protocol::StatusReply update(const protocol::UpdateShortIdRequest& request);
+    // The entries that point at it stay as they are.
+    protocol::StatusReply remove(const protocol::DeleteShortIdRequest& request);
+
+private:
+    protocol::StatusReply write(std::uint8_t action, const protocol::ShortIdRecord& shortId);
+
+    StoreConnection& connection_;
+};
+
+} // namespace server

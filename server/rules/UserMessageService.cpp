@@ -1,0 +1,38 @@
+#include "server/rules/UserMessageService.h"
+
+#include "server/rules/NamedTable.h"
+#include "server/rules/WriteChecks.h"
+
+namespace server {
+
+namespace {
+
+const wire::WideString word = u"user message";
+constexpr std::uint32_t firstType = 1;
+constexpr std::uint32_t lastType = 3;
+constexpr std::uint32_t lastIcon = 3;
+
+} // namespace
+
+protocol::StatusReply UserMessageService::write(const protocol::WriteUserMessageRequest& request) {
+    auto& messages = connection_.table<UserMessageTable>();
+    auto message = request.message;
+    if (const auto refused = refuseWrite(messages, word, request.action, message))
+        return *refused;
+    if (const auto refused = refuseName(word, message.name))
+        return *refused;
+    if (message.type < firstType || message.type > lastType || message.icon > lastIcon)
+        return ruleRefused(u"There is no such type or icon of a user message.");
+    const auto before = messages.find(message.id);
+    message.builtIn = before && before->builtIn;
+    return store(messages, request.action, message);
+}
+
+protocol::StatusReply UserMessageService::remove(const protocol::DeleteUserMessageRequest& request) {
+    auto& messages = connection_.table<UserMessageTable>();
+    if (const auto message = messages.find(request.id); message && message->builtIn)
+        return ruleRefused(u"The user message " + quoted(message->name) + u" is built in.");
+    return removeFrom(messages, word, request.id);
+}
+
+} // namespace server

@@ -1,0 +1,40 @@
+#include "server/service/MemoryReserve.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+namespace server {
+
+namespace {
+
+// Little enough for the allocator to hand it out again in small pieces.
+constexpr std::size_t reserveSize = 65536;
+
+std::atomic<void*> reserve = nullptr;
+
+void giveUpReserve() {
+    void* const held = reserve.exchange(nullptr);
+    if (held == nullptr)
+        throw std::bad_alloc();
+    std::free(held);
+}
+
+} // namespace
+
+void MemoryReserve::install() {
+    refill();
+    std::set_new_handler(&giveUpReserve);
+}
+
+void MemoryReserve::refill() noexcept {
+    if (reserve != nullptr)
+        return;
+    void* const fresh = std::malloc(reserveSize);
+    if (fresh != nullptr)
+        std::memset(fresh, 1, reserveSize); // memory that was never written is only promised
+    std::free(reserve.exchange(fresh));
+}
+
+} // namespace server

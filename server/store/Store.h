@@ -1,0 +1,34 @@
+#pragma once
+
+#include "server/store/Migration.h"
+#include "server/store/StoreConnection.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace server {
+
+// The database file of a server, held against every other server for as long as this object lives. Throws StoreError
+// with one line for the person who started the server.
+class Store {
+public:
+    // Makes the file when there is none, readable by its owner only, and takes an older one forward.
+    Store(std::filesystem::path file, const Schema& schema);
+    ~Store();
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+
+    // A connection of its own for a thread.
+    [[nodiscard]] SQLite::Database connect() const;
+    [[nodiscard]] std::unique_ptr<StoreConnection> openConnection() const;
+
+    [[nodiscard]] const std::filesystem::path& file() const { return file_; }
+
+private:
+    void lockFile();
+
+    std::filesystem::path file_;
+    int lock_ = -1;
+};
+
+} // namespace server
