@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 #include "tests/support/Bytes.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "tests/adversity/Mutations.h"
-#include "tests/server/RunningServer.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

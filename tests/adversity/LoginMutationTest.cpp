@@ -2,9 +2,9 @@
 #include "client/Credentials.h"
 #include "server/login/LoginKey.h"
 #include "tests/adversity/Mutations.h"
-#include "tests/server/RunningServer.h"
-#include "tests/server/Sealing.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/Sealing.h"
+#include "tests/server/support/TestClient.h"
 #include "tests/support/ScriptedServer.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "server/SampleEstate.h"
 #include "tests/adversity/Proxy.h"
 #include "tests/client/Recorders.h"
-#include "tests/server/RunningServer.h"
+#include "tests/server/support/RunningServer.h"
 
 #include <gtest/gtest.h>
 

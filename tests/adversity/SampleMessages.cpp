@@ -2,7 +2,7 @@
 
 #include "server/Commands.h"
 #include "server/commands/Handler.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/TestClient.h"
 
 #include <array>
 #include <utility>

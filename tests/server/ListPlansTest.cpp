@@ -1,9 +1,9 @@
 #include "protocol/Catalogue.h"
 #include "server/Commands.h"
 #include "server/commands/Handler.h"
-#include "tests/server/QueryPlans.h"
-#include "tests/server/TestClient.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/QueryPlans.h"
+#include "tests/server/support/TestClient.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 
@@ -58,7 +58,7 @@ void ask(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields)
     }
 }
 
-TEST(Lists, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
+TEST(ListQuery, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
     test::TestEstate place;
     for (const auto& command : protocol::catalogue())
         if (command.reply == protocol::ReplyShape::list && command.request != nullptr)
@@ -70,7 +70,7 @@ TEST(Lists, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
     EXPECT_EQ(plans.sortingStatements(), "");
 }
 
-TEST(Lists, thatAreSortedWouldBeNoticed) {
+TEST(ListQuery, thatAreSortedWouldBeNoticed) {
     test::TestEstate place;
     EXPECT_NE(
         place.connection().table<test::QueryPlans>().of("SELECT name FROM record ORDER BY comment").find("TEMP B-TREE"),

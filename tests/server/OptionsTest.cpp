@@ -1,7 +1,7 @@
 #include "server/Options.h"
 
 #include "server/PortFile.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

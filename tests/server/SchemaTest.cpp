@@ -2,7 +2,7 @@
 
 #include "protocol/PrinterRecord.h"
 #include "server/store/StoreError.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "server/Schema.h"
 #include "server/login/Accounts.h"
-#include "tests/server/Sealing.h"
-#include "tests/server/TestClient.h"
-#include "tests/server/TestFolder.h"
-#include "tests/server/VantreldProcess.h"
+#include "tests/server/support/Sealing.h"
+#include "tests/server/support/TestClient.h"
+#include "tests/server/support/TestFolder.h"
+#include "tests/server/support/VantreldProcess.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/server/VantreldProcess.h"
+#include "tests/server/support/VantreldProcess.h"
 #include "tests/torture/SharedPlan.h"
 
 #include <memory>

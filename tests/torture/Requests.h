@@ -6,7 +6,7 @@
 #include "protocol/ListPrinterRecordsRequest.h"
 #include "protocol/ListRegionsReply.h"
 #include "protocol/ListRegionsRequest.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/TestClient.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "protocol/GetPublicKeyRequest.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 #include "tests/torture/Database.h"
 #include "tests/torture/FaultyServer.h"
 #include "tests/torture/Requests.h"

@@ -1,6 +1,6 @@
 #include "hosts/ctl/Password.h"
 #include "hosts/ctl/Failure.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/hosts/ctl/Program.h"
-#include "tests/server/TestFolder.h"
-#include "tests/server/VantreldProcess.h"
+#include "tests/server/support/TestFolder.h"
+#include "tests/server/support/VantreldProcess.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

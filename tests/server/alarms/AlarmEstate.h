@@ -10,7 +10,7 @@
 #include "server/alarms/EmailRecipientTable.h"
 #include "server/alarms/ProgramActionTable.h"
 #include "server/store/RecordColumns.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

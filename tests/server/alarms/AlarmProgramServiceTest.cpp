@@ -15,7 +15,7 @@ using test::AlarmEstate;
 constexpr std::uint16_t sendMail = 1;
 constexpr std::uint16_t writeToLog = 2;
 
-TEST(AlarmVocabulary, anEmptyDatabaseHasEventsAndActions) {
+TEST(ProgramActionTable, anEmptyDatabaseHasEventsAndActions) {
     AlarmEstate place;
     const auto events = place.events();
     ASSERT_EQ(events.size(), 11U);
@@ -27,13 +27,13 @@ TEST(AlarmVocabulary, anEmptyDatabaseHasEventsAndActions) {
     EXPECT_EQ(actions[3], (protocol::AlarmActionRecord{.code = 4, .name = u"Ignore", .flag = false}));
 }
 
-TEST(AlarmVocabulary, noActionComesBeforeIgnoreByName) {
+TEST(ProgramActionTable, noActionComesBeforeIgnoreByName) {
     AlarmEstate place;
     for (const auto& action : place.actions())
         EXPECT_GE(nameKey(action.name), nameKey(u"Ignore"));
 }
 
-TEST(AlarmVocabulary, theActionsBeginWithTheOneThatHasDestinations) {
+TEST(ProgramActionTable, theActionsBeginWithTheOneThatHasDestinations) {
     AlarmEstate place;
     place.addRecipient(u"Jo");
     const auto actions = place.actions();
@@ -43,7 +43,7 @@ TEST(AlarmVocabulary, theActionsBeginWithTheOneThatHasDestinations) {
     EXPECT_TRUE(place.destinations(9999).empty());
 }
 
-TEST(AlarmVocabulary, theDestinationsOfMailAreTheActiveRecipientsByName) {
+TEST(ProgramActionTable, theDestinationsOfMailAreTheActiveRecipientsByName) {
     AlarmEstate place;
     const auto zoe = place.addRecipient(u"Zoe");
     const auto adam = place.addRecipient(u"adam");
@@ -55,7 +55,7 @@ TEST(AlarmVocabulary, theDestinationsOfMailAreTheActiveRecipientsByName) {
     EXPECT_EQ(destinations[1], (protocol::AlarmDestinationRecord{.id = zoe, .name = u"Zoe"}));
 }
 
-TEST(AlarmVocabulary, counterProgramsBelongToTheServer) {
+TEST(ProgramActionTable, counterProgramsBelongToTheServer) {
     AlarmEstate place;
     const auto counters = place.programs(2);
     ASSERT_EQ(counters.size(), 3U);
@@ -170,7 +170,7 @@ TEST(AlarmProgramService, programsAreListedByName) {
     EXPECT_EQ(names, u"AbC");
 }
 
-TEST(ProgramActions, areListedInTheOrderOfMakingInTheServersWords) {
+TEST(ProgramActionTable, areListedInTheOrderOfMakingInTheServersWords) {
     AlarmEstate place;
     const auto jo = place.addRecipient(u"Jo");
     const auto program = place.addProgram(u"P");
@@ -189,7 +189,7 @@ TEST(ProgramActions, areListedInTheOrderOfMakingInTheServersWords) {
     EXPECT_TRUE(place.actionsOf("nobody").empty());
 }
 
-TEST(ProgramActions, anActionThatCannotBeIsRefused) {
+TEST(ProgramActionTable, anActionThatCannotBeIsRefused) {
     AlarmEstate place;
     const auto jo = place.addRecipient(u"Jo");
     const auto program = place.addProgram(u"P");
@@ -203,7 +203,7 @@ TEST(ProgramActions, anActionThatCannotBeIsRefused) {
     EXPECT_TRUE(place.actionsOf(program).empty());
 }
 
-TEST(ProgramActions, theSameActionOccursOnceInAProgram) {
+TEST(ProgramActionTable, theSameActionOccursOnceInAProgram) {
     AlarmEstate place;
     const auto jo = place.addRecipient(u"Jo");
     const auto program = place.addProgram(u"P");
@@ -217,7 +217,7 @@ TEST(ProgramActions, theSameActionOccursOnceInAProgram) {
     EXPECT_EQ(place.actionsOf(program).size(), 2U);
 }
 
-TEST(ProgramActions, anInactiveRecipientMayStillBeADestination) {
+TEST(ProgramActionTable, anInactiveRecipientMayStillBeADestination) {
     AlarmEstate place;
     const auto jo = place.addRecipient(u"Jo");
     (void)place.recipientService().setActive({.id = jo, .active = 0});
@@ -225,7 +225,7 @@ TEST(ProgramActions, anInactiveRecipientMayStillBeADestination) {
     EXPECT_TRUE(isDone(place.addAction(program, "paper-jam", sendMail, jo)));
 }
 
-TEST(ProgramActions, anActionIsDeletedByItsIdAndNotByItsDestination) {
+TEST(ProgramActionTable, anActionIsDeletedByItsIdAndNotByItsDestination) {
     AlarmEstate place;
     const auto jo = place.addRecipient(u"Jo");
     const auto program = place.addProgram(u"P");

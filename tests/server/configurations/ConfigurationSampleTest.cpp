@@ -1,8 +1,8 @@
 #include "server/configurations/ConfigurationSample.h"
 
 #include "server/SampleEstate.h"
-#include "tests/server/TestEstate.h"
 #include "tests/server/configurations/ConfiguredEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <functional>
 #include <set>

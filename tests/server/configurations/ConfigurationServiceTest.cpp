@@ -2,8 +2,8 @@
 
 #include "server/commands/Refusal.h"
 #include "server/commands/ReplyBuffer.h"
-#include "tests/server/TestEstate.h"
 #include "tests/server/configurations/ConfiguredEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 namespace server {
 namespace {

@@ -1,8 +1,8 @@
 #include "server/drivers/DeploymentService.h"
 
 #include "server/configurations/ConfigurationTable.h"
-#include "tests/server/TestEstate.h"
 #include "tests/server/drivers/CatalogueEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <tuple>
 
@@ -12,7 +12,7 @@ namespace {
 using protocol::DriverDeploymentRecord;
 using protocol::StatusReply;
 
-class Deployments : public testing::Test {
+class DeploymentServiceTest : public testing::Test {
 protected:
     std::u16string textOf(const StatusReply& reply) {
         EXPECT_EQ(reply.caption, u"Deployment not changed");
@@ -45,7 +45,7 @@ protected:
     test::CatalogueEstate catalogue{place.connection()};
 };
 
-TEST_F(Deployments, areListedByOperatingSystemAndLocaleWithTheWordsOfTheirDriver) {
+TEST_F(DeploymentServiceTest, areListedByOperatingSystemAndLocaleWithTheWordsOfTheirDriver) {
     auto request = catalogue.request("d1", "m1", u"sv");
     request.install = 0;
     request.installMethod = 2;
@@ -69,7 +69,7 @@ TEST_F(Deployments, areListedByOperatingSystemAndLocaleWithTheWordsOfTheirDriver
     EXPECT_EQ(deployed[2].osId, catalogue.secondOs);
 }
 
-TEST_F(Deployments, ofOneDriverAreListedForTheModelAlone) {
+TEST_F(DeploymentServiceTest, ofOneDriverAreListedForTheModelAlone) {
     catalogue.addDriver("d4", "m1");
     catalogue.service().addAlternate({.modelId = "m2", .alternateModelId = "m1"});
     const auto mine = catalogue.deploy("d1", "m1", u"de");
@@ -82,21 +82,21 @@ TEST_F(Deployments, ofOneDriverAreListedForTheModelAlone) {
     EXPECT_TRUE(catalogue.deployed("m3", "d1").empty());
 }
 
-TEST_F(Deployments, ofADriverOfAnotherModelNeedALinkToThatModel) {
+TEST_F(DeploymentServiceTest, ofADriverOfAnotherModelNeedALinkToThatModel) {
     EXPECT_EQ(refusedAdd(catalogue.request("d2", "m1")),
               u"The driver \"d2\" is neither one of this model nor one of its alternates.");
     catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"});
     EXPECT_FALSE(catalogue.deploy("d2", "m1").empty());
 }
 
-TEST_F(Deployments, stayWhenTheLinkToTheModelOfTheirDriverEnds) {
+TEST_F(DeploymentServiceTest, stayWhenTheLinkToTheModelOfTheirDriverEnds) {
     catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"});
     catalogue.deploy("d2", "m1");
     catalogue.service().removeAlternate({.modelId = "m1", .alternateModelId = "m2"});
     EXPECT_EQ(catalogue.deployed("m1").size(), 1U);
 }
 
-TEST_F(Deployments, ofWhatIsNotThereAreRefused) {
+TEST_F(DeploymentServiceTest, ofWhatIsNotThereAreRefused) {
     auto request = catalogue.request("d1", "m1");
     request.osId = "";
     EXPECT_EQ(refusedAdd(request), u"Please choose an operating system.");
@@ -105,7 +105,7 @@ TEST_F(Deployments, ofWhatIsNotThereAreRefused) {
     EXPECT_TRUE(catalogue.deployed("m1").empty());
 }
 
-TEST_F(Deployments, withBytesThatMeanNothingAreRefused) {
+TEST_F(DeploymentServiceTest, withBytesThatMeanNothingAreRefused) {
     for (const auto member :
          {&protocol::AddDriverDeploymentRequest::use, &protocol::AddDriverDeploymentRequest::install,
           &protocol::AddDriverDeploymentRequest::keepConfig}) {
@@ -119,7 +119,7 @@ TEST_F(Deployments, withBytesThatMeanNothingAreRefused) {
     EXPECT_TRUE(catalogue.deployed("m1").empty());
 }
 
-TEST_F(Deployments, takeYesAndNoAsDigitsToo) {
+TEST_F(DeploymentServiceTest, takeYesAndNoAsDigitsToo) {
     auto request = catalogue.request("d1", "m1");
     request.use = '1';
     request.install = '0';
@@ -128,14 +128,14 @@ TEST_F(Deployments, takeYesAndNoAsDigitsToo) {
     EXPECT_EQ(catalogue.deployed("m1").at(0).install, 0);
 }
 
-TEST_F(Deployments, whoseTextsNoConsoleCouldReceiveAreRefused) {
+TEST_F(DeploymentServiceTest, whoseTextsNoConsoleCouldReceiveAreRefused) {
     auto request = catalogue.request("d1", "m1");
     request.comment = std::u16string(30000, u'x');
     request.locale = std::u16string(3000, u'x');
     EXPECT_EQ(refusedAdd(request), u"The texts of this deployment are too long to be sent back in one piece.");
 }
 
-TEST_F(Deployments, areOneForEachModelSystemAndLocaleAndASecondReplacesTheFirst) {
+TEST_F(DeploymentServiceTest, areOneForEachModelSystemAndLocaleAndASecondReplacesTheFirst) {
     catalogue.addDriver("d4", "m1");
     const auto former = catalogue.deploy("d1", "m1", u"de-DE");
     const auto next = catalogue.deploy("d4", "m1", u"DE-de");
@@ -147,7 +147,7 @@ TEST_F(Deployments, areOneForEachModelSystemAndLocaleAndASecondReplacesTheFirst)
     EXPECT_EQ(deployed[0].locale, u"DE-de");
 }
 
-TEST_F(Deployments, aReplacementMovesTheConfigurationsThatAreToBeKept) {
+TEST_F(DeploymentServiceTest, aReplacementMovesTheConfigurationsThatAreToBeKept) {
     const auto former = catalogue.deploy("d1", "m1");
     useConfiguration(former);
     auto request = catalogue.request("d1", "m1");
@@ -157,7 +157,7 @@ TEST_F(Deployments, aReplacementMovesTheConfigurationsThatAreToBeKept) {
     EXPECT_EQ(usersOf(next), 1U);
 }
 
-TEST_F(Deployments, aReplacementRemovesTheConfigurationsThatAreNotToBeKept) {
+TEST_F(DeploymentServiceTest, aReplacementRemovesTheConfigurationsThatAreNotToBeKept) {
     const auto former = catalogue.deploy("d1", "m1");
     useConfiguration(former);
     const auto next = catalogue.deploy("d1", "m1");
@@ -165,7 +165,7 @@ TEST_F(Deployments, aReplacementRemovesTheConfigurationsThatAreNotToBeKept) {
     EXPECT_EQ(usersOf(next), 0U);
 }
 
-TEST_F(Deployments, aRefusedReplacementLeavesTheFormerOneAndItsConfigurations) {
+TEST_F(DeploymentServiceTest, aRefusedReplacementLeavesTheFormerOneAndItsConfigurations) {
     const auto former = catalogue.deploy("d1", "m1");
     useConfiguration(former);
     EXPECT_EQ(catalogue.deploy("d9", "m1"), "");
@@ -173,7 +173,7 @@ TEST_F(Deployments, aRefusedReplacementLeavesTheFormerOneAndItsConfigurations) {
     EXPECT_EQ(usersOf(former), 1U);
 }
 
-TEST_F(Deployments, aChangeSetsUseInstallAndMethodAndNothingElse) {
+TEST_F(DeploymentServiceTest, aChangeSetsUseInstallAndMethodAndNothingElse) {
     const auto id = catalogue.deploy("d1", "m1");
     auto expected = catalogue.deployed("m1").at(0);
     for (const auto& [use, install, method] : {std::tuple{1, 0, 2}, {0, 1, 0}, {1, 1, 1}}) {
@@ -188,7 +188,7 @@ TEST_F(Deployments, aChangeSetsUseInstallAndMethodAndNothingElse) {
     }
 }
 
-TEST_F(Deployments, aChangeOfWhatIsGoneOrToWhatIsNothingIsRefused) {
+TEST_F(DeploymentServiceTest, aChangeOfWhatIsGoneOrToWhatIsNothingIsRefused) {
     const auto id = catalogue.deploy("d1", "m1");
     const auto before = catalogue.deployed("m1");
     EXPECT_EQ(textOf(catalogue.deploymentService().update({.deploymentId = "gone"})),
@@ -199,7 +199,7 @@ TEST_F(Deployments, aChangeOfWhatIsGoneOrToWhatIsNothingIsRefused) {
     EXPECT_EQ(catalogue.deployed("m1"), before);
 }
 
-TEST_F(Deployments, installingAnewRemovesConfigurationsUnlessTheyAreToBeKept) {
+TEST_F(DeploymentServiceTest, installingAnewRemovesConfigurationsUnlessTheyAreToBeKept) {
     auto request = catalogue.request("d1", "m1");
     request.install = 0;
     const auto id = catalogue.deploy(request);
@@ -211,7 +211,7 @@ TEST_F(Deployments, installingAnewRemovesConfigurationsUnlessTheyAreToBeKept) {
     EXPECT_EQ(usersOf(id), 0U);
 }
 
-TEST_F(Deployments, changesThatInstallNothingLeaveConfigurationsAlone) {
+TEST_F(DeploymentServiceTest, changesThatInstallNothingLeaveConfigurationsAlone) {
     const auto id = catalogue.deploy("d1", "m1");
     useConfiguration(id);
     catalogue.deploymentService().update({.deploymentId = id, .install = 1, .installMethod = 2});
@@ -219,7 +219,7 @@ TEST_F(Deployments, changesThatInstallNothingLeaveConfigurationsAlone) {
     EXPECT_EQ(usersOf(id), 1U);
 }
 
-TEST_F(Deployments, aRemovedOneTakesItsConfigurationsAlong) {
+TEST_F(DeploymentServiceTest, aRemovedOneTakesItsConfigurationsAlong) {
     const auto id = catalogue.deploy("d1", "m1");
     useConfiguration(id);
     EXPECT_TRUE(isDone(catalogue.deploymentService().remove({.deploymentId = id})));

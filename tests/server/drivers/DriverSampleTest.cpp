@@ -2,7 +2,7 @@
 
 #include "server/drivers/DriverModelTable.h"
 #include "server/estate/SampleNames.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "server/configurations/ConfigurationTable.h"
 #include "server/estate/RecordService.h"
 #include "server/estate/RegionTable.h"
-#include "tests/server/RunningServer.h"
-#include "tests/server/TestClient.h"
 #include "tests/server/drivers/CatalogueEstate.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

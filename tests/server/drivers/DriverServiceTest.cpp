@@ -2,8 +2,8 @@
 
 #include "protocol/drivers/DriverBrandRecord.h"
 #include "protocol/drivers/ShortDriverRecord.h"
-#include "tests/server/TestEstate.h"
 #include "tests/server/drivers/CatalogueEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 namespace server {
 namespace {
@@ -12,7 +12,7 @@ using protocol::DriverRecord;
 using protocol::StatusReply;
 using Names = test::CatalogueEstate::Names;
 
-class DriverCatalogue : public testing::Test {
+class DriverServiceTest : public testing::Test {
 protected:
     std::vector<DriverRecord> driversOf(const std::string& modelId) {
         return catalogue.all<DriverRecord>(catalogue.drivers().listOfModel(modelId));
@@ -27,7 +27,7 @@ protected:
     test::CatalogueEstate catalogue{place.connection()};
 };
 
-TEST_F(DriverCatalogue, brandsAreListedByName) {
+TEST_F(DriverServiceTest, brandsAreListedByName) {
     catalogue.models().insertBrand("b0", u"ivory");
     Names names;
     for (const auto& brand : catalogue.all<protocol::DriverBrandRecord>(catalogue.models().listBrands()))
@@ -35,7 +35,7 @@ TEST_F(DriverCatalogue, brandsAreListedByName) {
     EXPECT_EQ(names, (Names{u"Halvek", u"ivory", u"Mirado"}));
 }
 
-TEST_F(DriverCatalogue, aNewModelIsVisibleAndGetsAnId) {
+TEST_F(DriverServiceTest, aNewModelIsVisibleAndGetsAnId) {
     EXPECT_TRUE(isDone(catalogue.service().addModel({.brandId = "b1", .name = u"Nine"})));
     const auto models = catalogue.all<protocol::DriverModelRecord>(catalogue.models().list(0, "b1"));
     ASSERT_EQ(models.size(), 3U);
@@ -44,7 +44,7 @@ TEST_F(DriverCatalogue, aNewModelIsVisibleAndGetsAnId) {
     EXPECT_EQ(models[0].modelId.size(), 36U);
 }
 
-TEST_F(DriverCatalogue, aModelWithoutABrandOrANameOrWithATakenOneIsRefused) {
+TEST_F(DriverServiceTest, aModelWithoutABrandOrANameOrWithATakenOneIsRefused) {
     const auto add = [&](const char* brand, std::u16string name) {
         return textOf(catalogue.service().addModel({.brandId = brand, .name = std::move(name)}));
     };
@@ -56,14 +56,14 @@ TEST_F(DriverCatalogue, aModelWithoutABrandOrANameOrWithATakenOneIsRefused) {
     EXPECT_TRUE(isDone(catalogue.service().addModel({.brandId = "b2", .name = u"One"})));
 }
 
-TEST_F(DriverCatalogue, aModelNameThatNoConsoleCouldReceiveIsRefused) {
+TEST_F(DriverServiceTest, aModelNameThatNoConsoleCouldReceiveIsRefused) {
     const std::size_t room = (65535 - 5 - 2 - 36 - 2 - 1) / 2;
     EXPECT_EQ(textOf(catalogue.service().addModel({.brandId = "b1", .name = std::u16string(room + 1, u'x')})),
               u"The name of the model is too long.");
     EXPECT_TRUE(isDone(catalogue.service().addModel({.brandId = "b1", .name = std::u16string(room, u'x')})));
 }
 
-TEST_F(DriverCatalogue, aHiddenModelStaysInTheListForTheTree) {
+TEST_F(DriverServiceTest, aHiddenModelStaysInTheListForTheTree) {
     EXPECT_TRUE(isDone(catalogue.service().setVisible({.visible = 0, .modelId = "m1"})));
     const auto models = catalogue.all<protocol::DriverModelRecord>(catalogue.models().list(0, "b1"));
     ASSERT_EQ(models.size(), 2U);
@@ -71,7 +71,7 @@ TEST_F(DriverCatalogue, aHiddenModelStaysInTheListForTheTree) {
     EXPECT_TRUE(models[1].visible);
 }
 
-TEST_F(DriverCatalogue, aHiddenModelIsNotOfferedForChoice) {
+TEST_F(DriverServiceTest, aHiddenModelIsNotOfferedForChoice) {
     catalogue.service().setVisible({.visible = '0', .modelId = "m1"});
     EXPECT_EQ(catalogue.modelNames(1, "b1"), Names{u"Two"});
     EXPECT_EQ(catalogue.modelNames(3, "b1"), Names{u"Two"});
@@ -80,7 +80,7 @@ TEST_F(DriverCatalogue, aHiddenModelIsNotOfferedForChoice) {
     EXPECT_EQ(catalogue.modelNames(3, "b1"), (Names{u"One", u"Two"}));
 }
 
-TEST_F(DriverCatalogue, aHiddenModelThatAPrinterHasIsOfferedToDialogsSoThatThePrinterKeepsIt) {
+TEST_F(DriverServiceTest, aHiddenModelThatAPrinterHasIsOfferedToDialogsSoThatThePrinterKeepsIt) {
     auto record = place.record(place.addPrinter(u"P", place.addRegion(u"North")));
     record.modelId = "m1";
     place.recordService().update({.record = record});
@@ -89,18 +89,18 @@ TEST_F(DriverCatalogue, aHiddenModelThatAPrinterHasIsOfferedToDialogsSoThatThePr
     EXPECT_EQ(catalogue.modelNames(3, "b1"), Names{u"Two"});
 }
 
-TEST_F(DriverCatalogue, aVisibilityThatIsNoneAndAnUnknownModelAreRefused) {
+TEST_F(DriverServiceTest, aVisibilityThatIsNoneAndAnUnknownModelAreRefused) {
     EXPECT_EQ(textOf(catalogue.service().setVisible({.visible = 2, .modelId = "m1"})), u"A model is visible or not.");
     EXPECT_EQ(textOf(catalogue.service().setVisible({.visible = 0, .modelId = "m9"})),
               u"The model does not exist any more.");
 }
 
-TEST_F(DriverCatalogue, anUnknownKindOfListSelectsNoModels) {
+TEST_F(DriverServiceTest, anUnknownKindOfListSelectsNoModels) {
     EXPECT_EQ(catalogue.modelNames(4, "b1"), Names{});
     EXPECT_EQ(catalogue.modelNames(0, "m1"), Names{});
 }
 
-TEST_F(DriverCatalogue, theOctetOrderOfAModelIsKept) {
+TEST_F(DriverServiceTest, theOctetOrderOfAModelIsKept) {
     EXPECT_TRUE(isDone(catalogue.service().setOctetOrder({.octetOrder = 2, .modelId = "m1"})));
     EXPECT_EQ(textOf(catalogue.service().setOctetOrder({.octetOrder = 3, .modelId = "m1"})),
               u"There is no such octet order.");
@@ -110,7 +110,7 @@ TEST_F(DriverCatalogue, theOctetOrderOfAModelIsKept) {
     EXPECT_EQ(catalogue.models().octetOrder("m9"), std::nullopt);
 }
 
-TEST_F(DriverCatalogue, alternatesAreListedByNameWhateverTheirBrandAndThoughTheyAreHidden) {
+TEST_F(DriverServiceTest, alternatesAreListedByNameWhateverTheirBrandAndThoughTheyAreHidden) {
     EXPECT_TRUE(isDone(catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"})));
     EXPECT_TRUE(isDone(catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m3"})));
     catalogue.service().setVisible({.visible = 0, .modelId = "m2"});
@@ -118,7 +118,7 @@ TEST_F(DriverCatalogue, alternatesAreListedByNameWhateverTheirBrandAndThoughThey
     EXPECT_EQ(catalogue.modelNames(2, "m2"), Names{});
 }
 
-TEST_F(DriverCatalogue, anAlternateIsLinkedOnceAndNeverToItself) {
+TEST_F(DriverServiceTest, anAlternateIsLinkedOnceAndNeverToItself) {
     EXPECT_EQ(textOf(catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m1"})),
               u"A model is no alternate of itself.");
     catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"});
@@ -130,7 +130,7 @@ TEST_F(DriverCatalogue, anAlternateIsLinkedOnceAndNeverToItself) {
     EXPECT_TRUE(isDone(catalogue.service().addAlternate({.modelId = "m2", .alternateModelId = "m1"})));
 }
 
-TEST_F(DriverCatalogue, anAlternateIsRemovedFromItsModelAlone) {
+TEST_F(DriverServiceTest, anAlternateIsRemovedFromItsModelAlone) {
     catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"});
     catalogue.service().addAlternate({.modelId = "m3", .alternateModelId = "m2"});
     EXPECT_TRUE(isDone(catalogue.service().removeAlternate({.modelId = "m1", .alternateModelId = "m2"})));
@@ -139,7 +139,7 @@ TEST_F(DriverCatalogue, anAlternateIsRemovedFromItsModelAlone) {
     EXPECT_EQ(catalogue.modelNames(2, "m3"), Names{u"Two"});
 }
 
-TEST_F(DriverCatalogue, driversAreListedByVersionOfAModelAndOfAllModelsOfABrand) {
+TEST_F(DriverServiceTest, driversAreListedByVersionOfAModelAndOfAllModelsOfABrand) {
     catalogue.addDriver("D0", "m2");
     const auto ids = [](const std::vector<DriverRecord>& drivers) {
         std::string all;
@@ -152,7 +152,7 @@ TEST_F(DriverCatalogue, driversAreListedByVersionOfAModelAndOfAllModelsOfABrand)
     EXPECT_EQ(ids(driversOf("b1")), "");
 }
 
-TEST_F(DriverCatalogue, aDriverIsListedAsItWasStoredAndShortWithThreeFields) {
+TEST_F(DriverServiceTest, aDriverIsListedAsItWasStoredAndShortWithThreeFields) {
     EXPECT_EQ(driversOf("m1").at(0), (DriverRecord{.driverId = "d1",
                                                    .version = u"d1",
                                                    .comment = u"C",
@@ -163,7 +163,7 @@ TEST_F(DriverCatalogue, aDriverIsListedAsItWasStoredAndShortWithThreeFields) {
               (protocol::ShortDriverRecord{.driverId = "d1", .version = u"d1", .comment = u"C"}));
 }
 
-TEST_F(DriverCatalogue, aDriverIsInUseWhileOneOfItsDeploymentsIs) {
+TEST_F(DriverServiceTest, aDriverIsInUseWhileOneOfItsDeploymentsIs) {
     const auto deployment = catalogue.deploy("d1", "m1");
     EXPECT_EQ(driversOf("m1").at(0).inUse, 1);
     EXPECT_EQ(driversOf("m2").at(0).inUse, 0);
@@ -171,7 +171,7 @@ TEST_F(DriverCatalogue, aDriverIsInUseWhileOneOfItsDeploymentsIs) {
     EXPECT_EQ(driversOf("m1").at(0).inUse, 0);
 }
 
-TEST_F(DriverCatalogue, aDriverInUseIsNotDeleted) {
+TEST_F(DriverServiceTest, aDriverInUseIsNotDeleted) {
     catalogue.deploy("d1", "m1");
     EXPECT_EQ(textOf(catalogue.service().remove({.driverId = "d1"})),
               u"The driver \"d1\" is deployed. Please remove its deployments first.");
@@ -179,7 +179,7 @@ TEST_F(DriverCatalogue, aDriverInUseIsNotDeleted) {
     EXPECT_EQ(catalogue.deployed("m1").size(), 1U);
 }
 
-TEST_F(DriverCatalogue, aDeletedDriverTakesDeploymentsThatAreNotInUseWithIt) {
+TEST_F(DriverServiceTest, aDeletedDriverTakesDeploymentsThatAreNotInUseWithIt) {
     catalogue.deploymentService().update({.deploymentId = catalogue.deploy("d1", "m1"), .use = 0});
     EXPECT_TRUE(isDone(catalogue.service().remove({.driverId = "d1"})));
     EXPECT_TRUE(driversOf("m1").empty());
@@ -187,7 +187,7 @@ TEST_F(DriverCatalogue, aDeletedDriverTakesDeploymentsThatAreNotInUseWithIt) {
     EXPECT_EQ(textOf(catalogue.service().remove({.driverId = "d1"})), u"The driver was deleted in the meantime.");
 }
 
-TEST_F(DriverCatalogue, aModelGetsTheBuiltInDriverOnce) {
+TEST_F(DriverServiceTest, aModelGetsTheBuiltInDriverOnce) {
     EXPECT_TRUE(isDone(catalogue.service().addBuiltIn({.modelId = "m1"})));
     EXPECT_EQ(textOf(catalogue.service().addBuiltIn({.modelId = "m1"})), u"\"One\" has the built-in driver already.");
     EXPECT_FALSE(isDone(catalogue.service().addBuiltIn({.modelId = "m9"})));
@@ -197,13 +197,13 @@ TEST_F(DriverCatalogue, aModelGetsTheBuiltInDriverOnce) {
     EXPECT_EQ(drivers[0].uploadDate.size(), 23U);
 }
 
-TEST_F(DriverCatalogue, aDeletedBuiltInDriverCanBeAddedAgain) {
+TEST_F(DriverServiceTest, aDeletedBuiltInDriverCanBeAddedAgain) {
     catalogue.service().addBuiltIn({.modelId = "m1"});
     EXPECT_TRUE(isDone(catalogue.service().remove({.driverId = driversOf("m1").at(0).driverId})));
     EXPECT_TRUE(isDone(catalogue.service().addBuiltIn({.modelId = "m1"})));
 }
 
-TEST_F(DriverCatalogue, aPrinterIsNamedAfterItsModelOfTheCatalogue) {
+TEST_F(DriverServiceTest, aPrinterIsNamedAfterItsModelOfTheCatalogue) {
     protocol::PrinterRecord record;
     record.name = u"P";
     record.regionId = place.addRegion(u"North");
@@ -216,7 +216,7 @@ TEST_F(DriverCatalogue, aPrinterIsNamedAfterItsModelOfTheCatalogue) {
     EXPECT_EQ(place.record(record.id).modelName, u"Three");
 }
 
-TEST_F(DriverCatalogue, theNameOfAModelThatIsNotInTheCatalogueStaysAsItCame) {
+TEST_F(DriverServiceTest, theNameOfAModelThatIsNotInTheCatalogueStaysAsItCame) {
     protocol::PrinterRecord record;
     record.name = u"P";
     record.regionId = place.addRegion(u"North");

@@ -12,7 +12,7 @@
 #include "server/inventory/ReportService.h"
 #include "server/inventory/ReportTable.h"
 #include "server/store/RecordColumns.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include "protocol/inventory/FoundQueueRecord.h"
 #include "protocol/inventory/InventoryModelRecord.h"

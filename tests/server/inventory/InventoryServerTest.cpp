@@ -1,9 +1,9 @@
 #include "server/SampleEstate.h"
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
-#include "tests/server/RunningServer.h"
-#include "tests/server/TestClient.h"
 #include "tests/server/inventory/InventoryPlace.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,7 @@
 #include "server/rules/RuleGroupService.h"
 #include "server/rules/ShortIdService.h"
 #include "server/rules/UserMessageService.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

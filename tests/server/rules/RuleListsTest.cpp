@@ -17,7 +17,7 @@ std::string planOf(sqlite3* connection, const std::string& sql) {
     return plan;
 }
 
-TEST(RuleLists, comeStraightFromAnIndexAndAreNeverSorted) {
+TEST(RuleSchema, comeStraightFromAnIndexAndAreNeverSorted) {
     RuleEstate place;
     const auto database = place.store().connect();
     for (const std::string table : {"ruleGroup", "affected", "pageLimit", "pricePlan", "shortId", "userMessage"}) {
@@ -31,7 +31,7 @@ TEST(RuleLists, comeStraightFromAnIndexAndAreNeverSorted) {
               "SEARCH priceEntry USING PRIMARY KEY (planId=?)\n");
 }
 
-TEST(RuleLists, aDeletedOwnerFindsItsEntriesByAnIndex) {
+TEST(RuleSchema, aDeletedOwnerFindsItsEntriesByAnIndex) {
     RuleEstate place;
     const auto database = place.store().connect();
     for (const auto& [column, index] : std::initializer_list<std::pair<std::string, std::string>>{

@@ -1,5 +1,5 @@
-#include "tests/server/RunningServer.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "tests/server/RunningServer.h"
-#include "tests/server/Sealing.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/Sealing.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
-#include "tests/server/RunningServer.h"
-#include "tests/server/TestClient.h"
+#include "tests/server/support/RunningServer.h"
+#include "tests/server/support/TestClient.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "server/Schema.h"
 #include "server/estate/RegionTable.h"
 #include "server/store/StoreError.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>

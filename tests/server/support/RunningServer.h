@@ -3,7 +3,7 @@
 #include "server/Commands.h"
 #include "server/Schema.h"
 #include "server/service/Server.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 
 #include <memory>
 #include <thread>

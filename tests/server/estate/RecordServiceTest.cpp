@@ -1,7 +1,7 @@
 #include "server/estate/RecordService.h"
 
 #include "server/estate/RecordTable.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "server/estate/RegionService.h"
 
 #include "server/estate/RegionTable.h"
-#include "tests/server/TestEstate.h"
+#include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/server/VantreldProcess.h"
+#include "tests/server/support/VantreldProcess.h"
 
 #include <poll.h>
 #include <sys/resource.h>

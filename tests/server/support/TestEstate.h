@@ -7,7 +7,7 @@
 #include "server/estate/RegionService.h"
 #include "server/estate/RegionTable.h"
 #include "server/store/Store.h"
-#include "tests/server/TestFolder.h"
+#include "tests/server/support/TestFolder.h"
 
 namespace server::test {
 

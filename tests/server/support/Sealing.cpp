@@ -1,4 +1,4 @@
-#include "tests/server/Sealing.h"
+#include "tests/server/support/Sealing.h"
 
 #include "server/login/Crypto.h"
 

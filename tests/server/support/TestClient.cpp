@@ -1,4 +1,4 @@
-#include "tests/server/TestClient.h"
+#include "tests/server/support/TestClient.h"
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
