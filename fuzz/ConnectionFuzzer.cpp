@@ -3,9 +3,9 @@
 #include "fuzz/Input.h"
 #include "server/Commands.h"
 #include "server/Schema.h"
+#include "server/log/Log.h"
 #include "server/service/Connection.h"
 
-#include <spdlog/spdlog.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -117,7 +117,7 @@ void Place::serve(bool loginRequired, std::size_t piece, std::span<const std::ui
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const bool quiet = (spdlog::set_level(spdlog::level::off), true);
+    static const bool quiet = (server::log::silence(), true);
     fuzz::expect(quiet);
     static std::unique_ptr<Place> place;
     static int runs = 0;

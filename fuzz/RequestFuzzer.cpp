@@ -4,9 +4,8 @@
 #include "fuzz/MemoryEstate.h"
 #include "server/Commands.h"
 #include "server/commands/Handler.h"
+#include "server/log/Log.h"
 #include "wire/Frame.h"
-
-#include <spdlog/spdlog.h>
 
 #include <cstring>
 
@@ -56,7 +55,7 @@ void carryOut(std::uint8_t opcode, server::Fields fields, server::StoreConnectio
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const bool quiet = (spdlog::set_level(spdlog::level::off), true);
+    static const bool quiet = (server::log::silence(), true);
     fuzz::expect(quiet);
     fuzz::Input input(data, size);
     const std::uint8_t opcode = input.byte();

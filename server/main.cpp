@@ -5,14 +5,13 @@
 #include "server/Schema.h"
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
+#include "server/log/Log.h"
 #include "server/login/Accounts.h"
 #include "server/service/MemoryReserve.h"
 #include "server/service/Server.h"
 #include "wire/Text.h"
 
 #include <boost/asio/signal_set.hpp>
-#include <spdlog/sinks/stdout_sinks.h>
-#include <spdlog/spdlog.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -48,9 +47,7 @@ void prepareProcess() {
         limit.rlim_cur = std::min(limit.rlim_max, wantedDescriptors);
         ::setrlimit(RLIMIT_NOFILE, &limit);
     }
-    spdlog::set_default_logger(
-        std::make_shared<spdlog::logger>("vantreld", std::make_shared<spdlog::sinks::stderr_sink_mt>()));
-    spdlog::set_pattern("%Y-%m-%d %H:%M:%S.%e %l: %v");
+    server::log::toStandardError();
 }
 
 void fillSample(const Store& store, const Sample& sample) {
@@ -94,14 +91,14 @@ void serve(const Options& options) {
     try {
         if (options.portFile)
             writePortFile(*options.portFile, server.port());
-        spdlog::info("listening on {} port {}", options.listen, server.port());
+        server::log::info("listening on " + options.listen + " port " + std::to_string(server.port()));
         server.run();
     } catch (...) {
         signalContext.stop();
         throw;
     }
     signalContext.stop();
-    spdlog::info("ended");
+    server::log::info("ended");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "server/commands/ListStream.h"
 
-#include <spdlog/spdlog.h>
+#include "server/log/Log.h"
 
 #include <algorithm>
 
@@ -8,7 +8,8 @@ namespace server {
 
 std::int64_t announcedCount(std::int64_t count) {
     if (count > longestList)
-        spdlog::warn("a list of {} records was cut to {}: consoles take no more", count, longestList);
+        log::warn("a list of " + std::to_string(count) + " records was cut to " + std::to_string(longestList) +
+                  ": consoles take no more");
     return std::min(count, longestList);
 }
 

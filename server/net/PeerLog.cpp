@@ -1,6 +1,6 @@
 #include "server/net/PeerLog.h"
 
-#include <spdlog/spdlog.h>
+#include "server/log/Log.h"
 
 namespace server {
 
@@ -14,7 +14,7 @@ void PeerLog::write(const asio::ip::address& address, std::string_view text) {
     const auto now = std::chrono::steady_clock::now();
     if (now - second_ > std::chrono::seconds(1)) {
         if (heldBack_ > 0)
-            spdlog::warn("{} more lines about peers were left out", heldBack_);
+            log::warn("lines about peers that were left out", std::to_string(heldBack_));
         second_ = now;
         written_ = 0;
         heldBack_ = 0;
@@ -22,7 +22,7 @@ void PeerLog::write(const asio::ip::address& address, std::string_view text) {
     if (++written_ > linesInASecond)
         ++heldBack_;
     else
-        spdlog::warn("{}: {}", address.to_string(), text);
+        log::warn(address.to_string(), text);
 }
 
 } // namespace server

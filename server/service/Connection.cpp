@@ -5,12 +5,11 @@
 #include "protocol/LoginRequest.h"
 #include "server/commands/Handler.h"
 #include "server/commands/Refusal.h"
+#include "server/log/Log.h"
 #include "server/service/LoginExchange.h"
 #include "server/store/StoreError.h"
 #include "wire/Frame.h"
 #include "wire/Text.h"
-
-#include <spdlog/spdlog.h>
 
 namespace server {
 
@@ -43,7 +42,7 @@ asio::awaitable<void> Connection::serve() {
     try {
         co_await takeAndAnswer();
     } catch (const StoreError& error) {
-        spdlog::error("a command was not answered: {}", error.what());
+        log::error("a command was not answered", error.what());
     } catch (const std::exception& error) {
         services_.log.write(address_, error.what());
     }

@@ -6,8 +6,7 @@
 #include "protocol/LoginStatus.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/commands/RequestReader.h"
-
-#include <spdlog/spdlog.h>
+#include "server/log/Log.h"
 
 namespace server {
 
@@ -77,7 +76,7 @@ asio::awaitable<bool> LoginExchange::verify(const SealedCredentials& sealed) {
     if (failure)
         std::rethrow_exception(failure);
     if (known)
-        spdlog::info("{}: logged in", address_.to_string());
+        log::info(address_.to_string(), "logged in");
     else
         services_.log.write(address_, "a login with a wrong name or password");
     co_return known;

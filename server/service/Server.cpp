@@ -1,9 +1,8 @@
 #include "server/service/Server.h"
 
 #include "server/commands/CommandTable.h"
+#include "server/log/Log.h"
 #include "server/service/MemoryReserve.h"
-
-#include <spdlog/spdlog.h>
 
 #include <algorithm>
 
@@ -53,7 +52,7 @@ void makeLoginKey(Accounts& accounts) {
     try {
         (void)accounts.publicKey();
     } catch (const std::exception& error) {
-        spdlog::error("there is no key for logins: {}", error.what());
+        log::error("there is no key for logins", error.what());
     }
 }
 
@@ -93,7 +92,7 @@ asio::awaitable<void> Server::acceptAll() {
         if (!error) {
             welcome(std::move(socket));
         } else if (acceptor_.is_open()) {
-            spdlog::error("a connection could not be accepted: {}", error.message());
+            log::error("a connection could not be accepted", error.message());
             asio::steady_timer pause(context_, pauseWithoutDescriptors);
             co_await pause.async_wait(asio::use_awaitable);
         }
@@ -123,7 +122,7 @@ void Server::welcome(asio::ip::tcp::socket socket) noexcept {
         beginServing(std::move(socket), address);
     } catch (const std::exception& failure) {
         connections_.resize(before);
-        spdlog::error("a connection could not be served: {}", failure.what());
+        log::error("a connection could not be served", failure.what());
     }
 }
 
