@@ -4,7 +4,8 @@
 
 namespace server {
 
-Accounts::Accounts(const Store& store) : database_(store.connect()), table_(database_.getHandle()) {
+Accounts::Accounts(const Store& store)
+    : connection_(store.openConnection()), table_(connection_->table<AccountTable>()) {
     initCrypto();
     proofKey_ = randomBytes(32);
 }

@@ -32,8 +32,8 @@ private:
     [[nodiscard]] const PasswordHash& nobody();
     [[nodiscard]] bool matches(const PasswordHash& account, const std::u16string& password);
 
-    SQLite::Database database_;
-    AccountTable table_;
+    std::unique_ptr<StoreConnection> connection_;
+    AccountTable& table_; // of the connection
     std::optional<LoginKey> key_;
     std::optional<PasswordHash> nobody_;
     Bytes proofKey_;

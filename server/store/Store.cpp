@@ -36,7 +36,7 @@ void configure(SQLite::Database& database) {
 Store::Store(std::filesystem::path file, const Schema& schema) : file_(std::move(file)) {
     lockFile();
     try {
-        auto database = connect();
+        auto database = openDatabase();
         migrate(database, schema);
     } catch (const SQLite::Exception& error) {
         ::close(lock_);
@@ -69,7 +69,7 @@ void Store::lockFile() {
     throw about(file_, reason);
 }
 
-SQLite::Database Store::connect() const {
+SQLite::Database Store::openDatabase() const {
     SQLite::Database database(file_.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     configure(database);
     return database;
@@ -77,7 +77,7 @@ SQLite::Database Store::connect() const {
 
 std::unique_ptr<StoreConnection> Store::openConnection() const {
     try {
-        return std::make_unique<StoreConnection>(connect());
+        return std::make_unique<StoreConnection>(openDatabase());
     } catch (const SQLite::Exception& error) {
         throw about(file_, StoreError::fromCode(error.getErrorCode(), error.what()).what());
     }

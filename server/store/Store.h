@@ -18,8 +18,8 @@ public:
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
 
-    // A connection of its own for a thread.
-    [[nodiscard]] SQLite::Database connect() const;
+    // A connection of its own for a thread, bare and with tables.
+    [[nodiscard]] SQLite::Database openDatabase() const;
     [[nodiscard]] std::unique_ptr<StoreConnection> openConnection() const;
 
     [[nodiscard]] const std::filesystem::path& file() const { return file_; }

@@ -72,7 +72,7 @@ TEST(SampleEstate, theSmallOneHasRegionsOfEveryKind) {
 TEST(SampleEstate, theSmallOneHasRecordsOfEveryTypeAndState) {
     TestEstate place;
     fill(place, 0);
-    auto database = place.store().connect();
+    auto database = place.store().openDatabase();
     const auto values = [&](const std::string& sql) {
         std::set<std::int64_t> found;
         Query query(database.getHandle(), sql);

@@ -1,6 +1,7 @@
 #include "server/commands/ListStream.h"
 
 #include "tests/server/support/Answers.h"
+#include "tests/server/support/ManyPrinters.h"
 #include "tests/server/support/TestEstate.h"
 
 #include <gtest/gtest.h>
@@ -47,16 +48,7 @@ TEST(ListStream, piecesOfAnySizeGiveTheSameBytes) {
 TEST(ListStream, aListOfMoreThanAConsoleTakesIsCut) {
     TestEstate place;
     const auto region = place.addRegion(u"North");
-    place.connection().change([&] {
-        protocol::PrinterRecord record;
-        record.regionId = region;
-        for (int number = 0; number < 32769; ++number) {
-            record.id = std::to_string(number);
-            record.name = std::u16string(record.id.begin(), record.id.end());
-            place.records().insert({.record = record, .printerId = {}});
-        }
-        return true;
-    });
+    test::addManyPrinters(place.connection(), region, 32769);
     const auto messages = messagesOf(answerOf(place.connection(), 6, printersOf(region)));
     EXPECT_EQ(support::toHex(messages.at(0)), "01 07 00 00 00 FF 7F");
     EXPECT_EQ(messages.size(), 32768U);

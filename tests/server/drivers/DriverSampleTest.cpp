@@ -24,7 +24,7 @@ protected:
 
     // The different texts of the first column.
     static std::set<std::string> texts(const test::TestEstate& estate, const std::string& sql) {
-        auto database = estate.store().connect();
+        auto database = estate.store().openDatabase();
         std::set<std::string> found;
         Query query(database.getHandle(), sql);
         for (auto rows = query.run(); rows.next();)

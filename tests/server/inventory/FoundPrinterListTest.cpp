@@ -180,7 +180,7 @@ TEST(FoundPrinterList, longNamesAreCutSoThatTheFrameCanBeReceived) {
 
 TEST(FoundModelList, modelsAreCountedAndKnownByTheirNames) {
     InventoryPlace place;
-    auto database = place.store().connect();
+    auto database = place.store().openDatabase();
     Query brand(database.getHandle(), "INSERT INTO driverBrand (id, name, nameKey) VALUES (?, ?, ?)");
     Query model(database.getHandle(), "INSERT INTO driverModel (id, brandId, name, nameKey) VALUES (?, 'b', ?, ?)");
     Query driver(database.getHandle(), "INSERT INTO driver (id, modelId, brandId, version, versionKey, comment, "

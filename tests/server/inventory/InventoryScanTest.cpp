@@ -188,7 +188,7 @@ TEST(ReportService, deletingAReportTakesAlongWhatItFound) {
     EXPECT_TRUE(isDone(ReportService(place.connection()).remove({.reportId = first})));
     EXPECT_FALSE(isDone(ReportService(place.connection()).remove({.reportId = first})));
     EXPECT_EQ(place.reports().size(), 1U);
-    auto database = place.store().connect();
+    auto database = place.store().openDatabase();
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM inventoryEntry").getInt(), 1);
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM inventoryModel").getInt(), 1);
     EXPECT_EQ(place.foundNames(second), Names{u"one"});

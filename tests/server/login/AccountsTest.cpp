@@ -66,7 +66,7 @@ TEST_F(AccountsTest, credentialsThatCannotBeUnsealedAreWrong) {
 
 TEST_F(AccountsTest, theDatabaseHoldsNoPassword) {
     accounts_.save(u"admin", u"correct horse");
-    auto database = store_.connect();
+    auto database = store_.openDatabase();
     database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
     std::ifstream stream(store_.file(), std::ios::binary);
     const std::string content((std::istreambuf_iterator<char>(stream)), {});

@@ -19,7 +19,7 @@ std::string planOf(sqlite3* connection, const std::string& sql) {
 
 TEST(RuleSchema, comeStraightFromAnIndexAndAreNeverSorted) {
     RuleEstate place;
-    const auto database = place.store().connect();
+    const auto database = place.store().openDatabase();
     for (const std::string table : {"ruleGroup", "affected", "pageLimit", "pricePlan", "shortId", "userMessage"}) {
         const auto plan = planOf(database.getHandle(), "SELECT * FROM " + table + " ORDER BY nameKey, number");
         EXPECT_EQ(plan, "SCAN " + table + " USING INDEX " + table + "InOrder\n");
@@ -33,7 +33,7 @@ TEST(RuleSchema, comeStraightFromAnIndexAndAreNeverSorted) {
 
 TEST(RuleSchema, aDeletedOwnerFindsItsEntriesByAnIndex) {
     RuleEstate place;
-    const auto database = place.store().connect();
+    const auto database = place.store().openDatabase();
     for (const auto& [column, index] : std::initializer_list<std::pair<std::string, std::string>>{
              {"groupId", "ruleEntryByGroup"}, {"recordId", "ruleEntryByRecord"}, {"regionId", "ruleEntryByRegion"}})
         EXPECT_EQ(planOf(database.getHandle(), "DELETE FROM ruleEntry WHERE " + column + " = ?"),

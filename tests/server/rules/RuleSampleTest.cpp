@@ -24,7 +24,7 @@ protected:
 
     template <class Value>
     std::set<Value> values(const std::string& sql) {
-        auto database = place.store().connect();
+        auto database = place.store().openDatabase();
         Query query(database.getHandle(), sql);
         auto rows = query.run();
         std::set<Value> found;

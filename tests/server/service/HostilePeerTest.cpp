@@ -1,5 +1,5 @@
-#include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
+#include "tests/server/support/ManyPrinters.h"
 #include "tests/server/support/RunningServer.h"
 #include "tests/server/support/TestClient.h"
 
@@ -155,18 +155,8 @@ TEST(HostilePeer, whoStallsInsideOfALoginIsDropped) {
 TEST(HostilePeer, whoDoesNotTakeItsAnswerIsDropped) {
     RunningServer server(Limits{.sendTime = 200ms});
     const auto connection = server.store().openConnection();
-    connection->change([&] {
-        connection->table<RegionTable>().insert(0, 0, u"North");
-        protocol::PrinterRecord record;
-        record.regionId = 1;
-        record.comment = std::u16string(30000, u'c');
-        for (int number = 0; number < 1000; ++number) {
-            record.id = std::to_string(number);
-            record.name = std::u16string(record.id.begin(), record.id.end());
-            connection->table<RecordTable>().insert({.record = record, .printerId = {}});
-        }
-        return true;
-    });
+    const auto region = connection->table<RegionTable>().insert(0, 0, u"North");
+    addManyPrinters(*connection, region, 1000, std::u16string(30000, u'c'));
     server.start();
     const auto list = request(6, str8("") + u32(1) + u16(0));
     TestClient slow(server.port());

@@ -1,6 +1,6 @@
 #include "server/Schema.h"
-#include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
+#include "tests/server/support/ManyPrinters.h"
 #include "tests/server/support/RunningServer.h"
 #include "tests/server/support/Sealing.h"
 #include "tests/server/support/TestClient.h"
@@ -276,18 +276,8 @@ TEST(Server, twoConsolesThatTakeTheSameNameGetOneRecordAndOneRefusal) {
 TEST(Server, aSlowReaderOfALongListDoesNotHoldUpOthersAndGetsItsMoment) {
     RunningServer server;
     const auto connection = server.store().openConnection();
-    connection->change([&] {
-        connection->table<RegionTable>().insert(0, 0, u"North");
-        protocol::PrinterRecord record;
-        record.regionId = 1;
-        record.comment = std::u16string(10000, u'c');
-        for (int number = 0; number < 2000; ++number) {
-            record.id = std::to_string(number);
-            record.name = std::u16string(record.id.begin(), record.id.end());
-            connection->table<RecordTable>().insert({.record = record, .printerId = {}});
-        }
-        return true;
-    });
+    const auto region = connection->table<RegionTable>().insert(0, 0, u"North");
+    addManyPrinters(*connection, region, 2000, std::u16string(10000, u'c'));
     server.start();
     TestClient slow(server.port());
     slow.send(listPrinters(1));

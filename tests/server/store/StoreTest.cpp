@@ -80,7 +80,7 @@ TEST(Store, aDatabaseThatAnotherProgramHasLockedIsTold) {
 TEST(Store, connectionsWriteThroughToTheDisk) {
     const TestFolder folder;
     const Store store(folder / "estate.db", schema());
-    auto database = store.connect();
+    auto database = store.openDatabase();
     EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
     EXPECT_EQ(database.execAndGet("PRAGMA synchronous").getInt(), 2);
     EXPECT_EQ(database.execAndGet("PRAGMA foreign_keys").getInt(), 1);
@@ -100,7 +100,7 @@ TEST(StoreConnection, aChangeThatThrowsHasNotHappened) {
 TEST(StoreConnection, aFullDatabaseTellsSoAndKeepsWhatItHas) {
     test::TestEstate place;
     const auto kept = place.addRegion(u"North");
-    auto database = place.store().connect();
+    auto database = place.store().openDatabase();
     const auto pages = database.execAndGet("PRAGMA page_count").getInt();
     database.exec("PRAGMA max_page_count = " + std::to_string(pages));
     StoreConnection full(std::move(database));
