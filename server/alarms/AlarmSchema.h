@@ -94,4 +94,10 @@ inline constexpr const char* alarmTables = R"sql(
     DROP TABLE counterProgram;
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* alarmKeys = R"sql(
+    UPDATE OR IGNORE emailRecipient SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE alarmProgram SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+)sql";
+
 } // namespace server

@@ -47,4 +47,9 @@ inline constexpr const char* configurationTables = R"sql(
     END;
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* configurationKeys = R"sql(
+    UPDATE OR IGNORE configuration SET nameKey = keyOf(comment) WHERE nameKey <> keyOf(comment);
+)sql";
+
 } // namespace server

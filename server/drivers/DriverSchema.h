@@ -121,4 +121,12 @@ inline constexpr const char* driverTables = R"sql(
          x'570069006E0064006F0077007300200053006500720076006500720020003200300032003200', 10, 0, 64);
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* driverKeys = R"sql(
+    UPDATE OR IGNORE driverBrand SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE driverModel SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE driver SET versionKey = keyOf(version) WHERE versionKey <> keyOf(version);
+    UPDATE OR IGNORE driverDeployment SET localeKey = keyOf(locale) WHERE localeKey <> keyOf(locale);
+)sql";
+
 } // namespace server

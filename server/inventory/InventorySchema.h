@@ -144,4 +144,16 @@ inline constexpr const char* inventoryTables = R"sql(
     CREATE INDEX driverModelByName ON driverModel (nameKey);
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* inventoryKeys = R"sql(
+    UPDATE OR IGNORE inventoryEntry SET nameKey = keyOf(windowsName) WHERE nameKey <> keyOf(windowsName);
+    UPDATE OR IGNORE inventoryEntry SET modelKey = keyOf(model) WHERE modelKey <> keyOf(model);
+    UPDATE OR IGNORE inventoryEntry SET workstationKey = keyOf(workstation) WHERE workstationKey <> keyOf(workstation);
+    UPDATE OR IGNORE inventoryModel SET modelKey = keyOf(modelName) WHERE modelKey <> keyOf(modelName);
+    UPDATE OR IGNORE migrationPlan SET schemaKey = keyOf(schemaName) WHERE schemaKey <> keyOf(schemaName);
+    UPDATE OR IGNORE migrationPlan SET nameKey = keyOf(oldPrinterName) WHERE nameKey <> keyOf(oldPrinterName);
+    UPDATE OR IGNORE migrationPlan SET modelKey = keyOf(oldModelName) WHERE modelKey <> keyOf(oldModelName);
+    UPDATE OR IGNORE ipRange SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+)sql";
+
 } // namespace server

@@ -18,4 +18,9 @@ inline constexpr const char* loginTables = R"sql(
     ) STRICT;
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* loginKeys = R"sql(
+    UPDATE OR IGNORE account SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+)sql";
+
 } // namespace server

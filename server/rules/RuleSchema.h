@@ -164,4 +164,14 @@ inline constexpr const char* ruleTables = R"sql(
             ORDER BY builtIn.id;
 )sql";
 
+// Makes the keys of names anew by the present folding of letters.
+inline constexpr const char* ruleKeys = R"sql(
+    UPDATE OR IGNORE ruleGroup SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE affected SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE pageLimit SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE pricePlan SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE shortId SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+    UPDATE OR IGNORE userMessage SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
+)sql";
+
 } // namespace server

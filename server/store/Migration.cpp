@@ -1,9 +1,14 @@
 #include "server/store/Migration.h"
 
+#include "server/store/NameKey.h"
 #include "server/store/StoreError.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
+
+#include <cstring>
+#include <exception>
 
 namespace server {
 
@@ -17,9 +22,25 @@ bool isEmpty(SQLite::Database& database) {
     return database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0;
 }
 
+void keyOf(sqlite3_context* context, int, sqlite3_value** values) {
+    try {
+        std::u16string name(static_cast<std::size_t>(sqlite3_value_bytes(values[0])) / 2, u'\0');
+        if (!name.empty())
+            std::memcpy(name.data(), sqlite3_value_blob(values[0]), name.size() * 2);
+        const auto key = nameKey(name);
+        if (key.empty())
+            sqlite3_result_zeroblob(context, 0); // a blob of nothing would be a null
+        else
+            sqlite3_result_blob64(context, key.data(), key.size(), SQLITE_TRANSIENT);
+    } catch (const std::exception&) {
+        sqlite3_result_error_nomem(context);
+    }
+}
+
 } // namespace
 
 void migrate(SQLite::Database& database, const Schema& schema) {
+    database.createFunction("keyOf", 1, true, nullptr, &keyOf);
     SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
     if (pragma(database, "application_id") != schema.applicationId && !isEmpty(database))
         throw StoreError("the database belongs to another program");

@@ -9,7 +9,8 @@ class Database;
 
 namespace server {
 
-// The tables of a program in SQL, told by how a database comes to them.
+// The tables of a program in SQL, told by how a database comes to them. Steps may use keyOf(name), the nameKey() of a
+// text in a column.
 struct Schema {
     int applicationId = 0;          // which marks the databases of the program
     std::vector<std::string> steps; // each takes a database from the version that is its index to the next

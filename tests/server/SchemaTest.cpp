@@ -1,7 +1,9 @@
 #include "server/Schema.h"
 
 #include "protocol/PrinterRecord.h"
+#include "server/SampleEstate.h"
 #include "server/store/StoreError.h"
+#include "tests/server/support/TestEstate.h"
 #include "tests/server/support/TestFolder.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -31,7 +33,7 @@ TEST(Schema, anEmptyFileGetsTheTablesAndTheVersion) {
     EXPECT_TRUE(database.tableExists("record"));
     EXPECT_TRUE(database.tableExists("account"));
     EXPECT_TRUE(database.tableExists("loginKey"));
-    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 6);
+    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 7);
     EXPECT_EQ(database.execAndGet("PRAGMA application_id").getInt(), 0x56746C64);
 }
 
@@ -57,6 +59,56 @@ TEST(Schema, eachFieldOfAPrinterRecordHasAColumnOfItsName) {
     });
 }
 
+// A database of the version before the keys of names were made anew, with what the statement puts into it.
+SQLite::Database withOldKeys(const test::TestFolder& folder, const std::string& statement) {
+    auto database = openNew(folder);
+    auto old = schema();
+    old.steps.resize(6);
+    migrate(database, old);
+    database.exec(statement);
+    migrate(database, schema());
+    return database;
+}
+
+std::string keysOfRegions(SQLite::Database& database) {
+    return database.execAndGet("SELECT group_concat(hex(name) || ' ' || hex(nameKey), ', ') FROM region").getString();
+}
+
+TEST(Schema, keysThatTellCaseWhereNamesHaveNoneAreMadeAnew) {
+    const test::TestFolder folder;
+    auto database =
+        withOldKeys(folder, "INSERT INTO region (kind, name, nameKey) VALUES (0, x'78014100', x'01780061')");
+    EXPECT_EQ(keysOfRegions(database), "78014100 00FF0061");
+}
+
+TEST(Schema, twoNamesThatHaveBecomeEqualBothStay) {
+    const test::TestFolder folder;
+    auto database = withOldKeys(folder, "INSERT INTO region (kind, name, nameKey) "
+                                        "VALUES (0, x'7801', x'0178'), (0, x'FF00', x'00FF'), (1, x'7801', x'0178')");
+    EXPECT_EQ(keysOfRegions(database), "7801 0178, FF00 00FF, 7801 00FF");
+}
+
+TEST(Schema, theKeyOfAnEmptyTextStaysEmpty) {
+    const test::TestFolder folder;
+    auto database = withOldKeys(folder, "INSERT INTO ruleGroup (id, name, comment, extra1, extra2, nameKey) "
+                                        "VALUES ('g', x'', x'', x'', x'', x'')");
+    EXPECT_EQ(database.execAndGet("SELECT hex(nameKey) FROM ruleGroup").getString(), "");
+}
+
+// What stands in every table was stored under the present keys already, so nothing of it changes.
+TEST(Schema, makingKeysAnewChangesNoKeyThatIsRight) {
+    test::TestEstate place;
+    place.connection().change([&] {
+        SampleEstate(place.connection()).fillSmall();
+        return true;
+    });
+    SQLite::Database database(place.store().file().string(), SQLite::OPEN_READWRITE);
+    database.exec("PRAGMA user_version = 6");
+    const auto before = database.getTotalChanges();
+    migrate(database, schema());
+    EXPECT_EQ(database.getTotalChanges(), before);
+}
+
 TEST(Schema, theDatabaseOfAnotherProgramIsRefused) {
     const test::TestFolder folder;
     auto database = openNew(folder);
@@ -71,7 +123,7 @@ TEST(Schema, theDatabaseOfANewerServerIsRefused) {
     migrate(database, schema());
     database.exec("PRAGMA user_version = 99");
     EXPECT_EQ(messageOf(database),
-              "the database was written by a newer server (version 99, this server knows up to 6)");
+              "the database was written by a newer server (version 99, this server knows up to 7)");
 }
 
 } // namespace

@@ -47,6 +47,13 @@ TEST(RegionService, aNameThatIsTakenUnderTheSameParentIsRefusedInAnyCase) {
     EXPECT_TRUE(isDone(place.regionService().create({.kind = 1, .parentId = 0, .name = u"North"})));
 }
 
+TEST(RegionService, aNameThatConsolesSortAsAnotherOneIsTheSame) {
+    TestEstate place;
+    place.addRegion(u"\u0178"); // a capital whose small letter stands in another block
+    EXPECT_EQ(place.regionService().create({.kind = 0, .parentId = 0, .name = u"\u00FF"}).text,
+              u"There is a region named \"\u00FF\" here already.");
+}
+
 TEST(RegionService, aParentThatDoesNotExistIsRefused) {
     TestEstate place;
     EXPECT_FALSE(isDone(place.regionService().create({.kind = 0, .parentId = 77, .name = u"North"})));

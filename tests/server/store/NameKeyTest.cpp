@@ -11,6 +11,12 @@ TEST(NameKey, capitalAndSmallLettersAreTheSame) {
     EXPECT_EQ(nameKey(u"МОСКВА Ё"), nameKey(u"москва ё"));
 }
 
+TEST(NameKey, aLetterWhoseCapitalStandsFarFromItHasNoCaseEither) {
+    EXPECT_EQ(nameKey(u"\u0178"), nameKey(u"\u00FF")); // y with two dots
+    EXPECT_EQ(nameKey(u"\u03C2"), nameKey(u"\u03C3")); // a sigma at the end of a word, and elsewhere
+    EXPECT_EQ(nameKey(u"\u03C2"), nameKey(u"\u03A3"));
+}
+
 TEST(NameKey, differentLettersStayDifferent) {
     EXPECT_NE(nameKey(u"a"), nameKey(u"ä"));
     EXPECT_NE(nameKey(u"×"), nameKey(u"÷"));
