@@ -10,46 +10,71 @@
 #include "rules/ShortIdDlg.h"
 #include "snapin/AuthenticationDlg.h"
 #include "tests/support/FormChecks.h"
+#include "tests/support/LayoutChecks.h"
 #include "tests/support/TestPlatform.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace {
 
-TEST(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
-    support::TestPlatform platform;
-    std::string destinationId;
-    wire::WideString destinationName;
-    std::vector<std::unique_ptr<forms::Form>> forms;
-    forms.push_back(std::make_unique<snapin::AuthenticationDlg>(platform));
-    forms.push_back(
-        std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree));
-    std::vector<protocol::RuleEntryRecord> entries;
-    const rules::RuleEntryPlace place{.entries = entries, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
-    std::vector<protocol::AffectedRecord> affected;
-    rules::SavedChoice saved;
-    forms.push_back(std::make_unique<rules::AddRuleEntryDlg>(platform, rules::AddRuleEntryDlg::Mode::group, place));
-    forms.push_back(std::make_unique<rules::AddRuleEntryDlg>(platform, rules::AddRuleEntryDlg::Mode::place, place));
-    forms.push_back(
-        std::make_unique<rules::AffectedDlg>(platform, rules::AffectedDlg::Opener{.list = affected, .saved = saved}));
-    forms.push_back(std::make_unique<rules::CNewRuleDialog>(platform, place));
-    forms.push_back(std::make_unique<rules::NewMessageDlg>(platform));
-    forms.push_back(std::make_unique<rules::NewPricePlanDlg>(platform));
-    forms.push_back(std::make_unique<rules::NewRuleGroupDlg>(platform));
-    forms.push_back(std::make_unique<rules::PageLimitDlg>(platform));
-    forms.push_back(std::make_unique<rules::SearchDestinationDlg>(platform, destinationId, destinationName));
-    forms.push_back(std::make_unique<rules::ShortIdDlg>(platform));
-
-    for (const auto& form : forms) {
-        SCOPED_TRACE(wire::toUtf8(form->title()));
-        support::expectSound(*form);
+// All forms of the product.
+class AllForms : public testing::Test {
+protected:
+    AllForms() {
+        using rules::AddRuleEntryDlg;
+        add<snapin::AuthenticationDlg>();
+        add<regions::CreateRegionDlg>(0, regions::CreateRegionDlg::Mode::printerTree);
+        add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::group, place_);
+        add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::place, place_);
+        add<rules::AffectedDlg>(rules::AffectedDlg::Opener{.list = affected_, .saved = saved_});
+        add<rules::CNewRuleDialog>(place_);
+        add<rules::NewMessageDlg>();
+        add<rules::NewPricePlanDlg>();
+        add<rules::NewRuleGroupDlg>();
+        add<rules::PageLimitDlg>();
+        forms_.push_back(std::make_unique<rules::SearchDestinationDlg>(platform_, destinationId_, destinationName_));
+        add<rules::ShortIdDlg>();
     }
 
-    EXPECT_FALSE(forms.empty());
+    void checkEach(const std::function<void(forms::Form&)>& check) {
+        ASSERT_FALSE(forms_.empty());
+        for (const auto& form : forms_) {
+            SCOPED_TRACE(wire::toUtf8(form->title()));
+            check(*form);
+        }
+    }
+
+private:
+    template <class Dialog, class... Arguments>
+    void add(const Arguments&... arguments) {
+        forms_.push_back(std::make_unique<Dialog>(platform_, arguments...));
+    }
+
+    support::TestPlatform platform_;
+    std::vector<protocol::RuleEntryRecord> entries_;
+    const rules::RuleEntryPlace place_{.entries = entries_, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
+    std::vector<protocol::AffectedRecord> affected_;
+    rules::SavedChoice saved_;
+    std::string destinationId_;
+    wire::WideString destinationName_;
+    std::vector<std::unique_ptr<forms::Form>> forms_;
+};
+
+TEST_F(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
+    checkEach(support::expectSound);
+}
+
+TEST_F(AllForms, haveAPlaceForEachControlAndEachLabel) {
+    checkEach(support::expectPlacedOnce);
+}
+
+TEST_F(AllForms, haveAnAccessKeyForEachLabelThatCanHaveOne) {
+    checkEach(support::expectAccessKeys);
 }
 
 } // namespace

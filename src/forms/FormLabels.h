@@ -1,0 +1,34 @@
+#pragma once
+
+#include "forms/AccessKeys.h"
+
+#include <map>
+#include <string_view>
+
+namespace forms {
+
+class Control;
+class Form;
+class Page;
+
+// The labels of a form as hosts show them. Access keys are given once, over all that the form can show: what is hidden
+// or disabled and the pages behind have theirs too, so that no key moves while the dialog is open. The standard buttons
+// come first, so that theirs are the same in every dialog.
+class FormLabels {
+public:
+    explicit FormLabels(Form& form);
+
+    KeyedLabel of(const Control& control) const;
+    KeyedLabel of(const Page& page) const;
+    // The form has given it another label.
+    void changed(const Control& control);
+
+private:
+    void add(Control& control, AccessKeys::Claim claim);
+
+    AccessKeys keys_;
+    std::map<const Control*, std::size_t> controls_; // those that can have a key
+    std::map<const Page*, std::size_t> pages_;
+};
+
+} // namespace forms
