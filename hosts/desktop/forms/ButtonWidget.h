@@ -15,13 +15,11 @@ class ButtonWidget final : public ControlWidget {
 public:
     explicit ButtonWidget(forms::Button& button);
 
-    Place place() const override { return Place::button; }
-    bool takesAccessKey() const override { return true; }
-    void showLabel(const QString& text) override { button_->setText(text); }
     // Draws it as the one that Enter presses.
     void showAsDefault(bool isDefault) { button_->setDefault(isDefault); }
 
 protected:
+    void showLabel(const QString& text) override { button_->setText(text); }
     void update(forms::Aspect /*aspect*/) override {}
 
 private:

@@ -15,11 +15,8 @@ class CheckBoxWidget final : public ControlWidget {
 public:
     explicit CheckBoxWidget(forms::CheckBox& checkBox);
 
-    Place place() const override { return Place::field; }
-    bool takesAccessKey() const override { return true; }
-    void showLabel(const QString& text) override { box_->setText(text); }
-
 protected:
+    void showLabel(const QString& text) override { box_->setText(text); }
     void update(forms::Aspect aspect) override;
 
 private:

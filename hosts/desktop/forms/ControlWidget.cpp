@@ -1,5 +1,7 @@
 #include "hosts/desktop/forms/ControlWidget.h"
 
+#include "forms/ControlShape.h"
+#include "forms/FormLabels.h"
 #include "forms/FormWalk.h"
 #include "hosts/desktop/forms/ShownText.h"
 
@@ -16,12 +18,12 @@ void ControlWidget::setUp(QWidget* widget, QWidget* field) {
     widget_ = widget;
     field_ = field != nullptr ? field : widget;
     widget_->installEventFilter(this);
+    if (forms::shapeOf(control_).hasCaption) {
+        addCaption();
+    }
 }
 
 void ControlWidget::addCaption() {
-    if (control_.label().empty()) {
-        return;
-    }
     caption_ = new QLabel;
     caption_->setTextFormat(Qt::PlainText);
     // Pairs of letters are measured as standing close ("Ty") and drawn apart where one of them is the access key, which
@@ -30,6 +32,10 @@ void ControlWidget::addCaption() {
     font.setKerning(false);
     caption_->setFont(font);
     caption_->setBuddy(widget_);
+}
+
+void ControlWidget::showLabels(const forms::FormLabels& labels) {
+    showLabel(markedLine(labels.of(control_)));
 }
 
 void ControlWidget::showLabel(const QString& text) {
@@ -115,7 +121,7 @@ void ControlWidget::refillNow() {
 }
 
 bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && !widget_->hasFocus() && place() == Place::row) {
+    if (event->type() == QEvent::Wheel && !widget_->hasFocus() && forms::shapeOf(control_).place == forms::Place::row) {
         event->ignore(); // a wheel that scrolls the dialog changes no box that it passes
         return true;
     }

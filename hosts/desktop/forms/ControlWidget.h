@@ -4,19 +4,14 @@
 
 #include <QLabel>
 
-#include <cstdint>
 #include <functional>
 #include <vector>
 
-namespace desktop {
+namespace forms {
+class FormLabels;
+} // namespace forms
 
-// Where a control stands among its neighbours.
-enum class Place : std::uint8_t {
-    row,    // a box with its label beside it
-    field,  // a box that says itself what it is, in line with the boxes
-    block,  // as wide as the dialog, its label above it
-    button, // side by side with others
-};
+namespace desktop {
 
 // What stands on the screen for one control: shows what the form does to it and tells the form what the person does.
 class ControlWidget : public QObject {
@@ -31,13 +26,10 @@ public:
     QWidget* field() const { return field_; }
     // The label beside or above it; null where the widget shows its label itself, or there is none.
     QLabel* caption() const { return caption_; }
-    virtual Place place() const { return Place::row; }
     // Everything that takes the keyboard, in the order of the Tab key.
     virtual std::vector<QWidget*> tabStops() const { return {widget_}; }
-    // Whether the label gets an access key.
-    virtual bool takesAccessKey() const { return caption_ != nullptr; }
-    // The label, trimmed, with its access key marked.
-    virtual void showLabel(const QString& text);
+    // Its label, and those of its pages.
+    virtual void showLabels(const forms::FormLabels& labels);
     // The form has changed this about the control.
     void mirror(forms::Aspect aspect);
     // Brings everything to the screen.
@@ -50,9 +42,10 @@ protected:
 
     // Once, by the constructor. With a caption when the control has a label that the widget does not show itself.
     void setUp(QWidget* widget, QWidget* field = nullptr);
-    void addCaption();
     // Of a box that a person reads and writes texts in: about thirty characters.
     int comfortableWidth() const;
+    // The label, with its access key marked.
+    virtual void showLabel(const QString& text);
     virtual void update(forms::Aspect aspect) = 0;
     // What a screen reader calls it: a box without a label like what it stands beside.
     virtual wire::WideString spokenName() const;
@@ -69,6 +62,7 @@ protected:
     virtual void refill() {}
 
 private:
+    void addCaption();
     void refillNow();
 
     forms::Control& control_;

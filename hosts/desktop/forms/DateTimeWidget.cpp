@@ -71,7 +71,6 @@ DateTimeWidget::DateTimeWidget(forms::DateTimePicker& picker)
     } else {
         setUp(edit_);
     }
-    addCaption();
     if (set_ != nullptr && caption() != nullptr) {
         caption()->setBuddy(set_);
     }

@@ -13,7 +13,6 @@ constexpr int rowsAtOnce = 15;
 
 DropListWidget::DropListWidget(forms::DropList& list) : ControlWidget(list), list_(list), box_(new QComboBox) {
     setUp(box_);
-    addCaption();
     box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box_->setMinimumContentsLength(charactersWide);
     box_->setMaxVisibleItems(rowsAtOnce);

@@ -1,56 +1,47 @@
 #pragma once
 
+#include "forms/LayoutPlan.h"
+
 #include <functional>
-#include <map>
-#include <set>
-#include <span>
 #include <utility>
 #include <vector>
 
 class QBoxLayout;
 class QFormLayout;
+class QHBoxLayout;
 class QLayout;
 class QWidget;
-
-namespace forms {
-class Container;
-class Control;
-class DropList;
-class Form;
-} // namespace forms
 
 namespace desktop {
 
 class ControlWidget;
 
-// Places the widgets of a form: boxes in aligned rows, lists and groups across the dialog, buttons and groups that
-// stand beside each other side by side, the standard buttons at the foot.
+// Places the widgets of a form as its plan says.
 class FormLayout {
 public:
     using Finder = std::function<ControlWidget*(const forms::Control&)>;
 
     explicit FormLayout(Finder widgetOf) : widgetOf_(std::move(widgetOf)) {}
 
-    void lay(forms::Form& form, QWidget& surface);
+    // Once, on an empty surface.
+    void lay(const forms::LayoutPlan& plan, QWidget& surface);
+    // Lines of which nothing is visible leave no gap.
+    void hideEmptyLines() const;
 
 private:
-    using Controls = std::span<forms::Control* const>;
-
-    QBoxLayout& layContainer(const forms::Container& container, QWidget& surface);
-    void pairWithNeighbours(Controls controls);
-    Controls besideOf(const forms::Control& control) const;
-    void layBlock(forms::Control& control, QBoxLayout& column);
-    QLayout* sideBySide(Controls groups);
-    void layInside(forms::Control& control);
-    void layRows(Controls controls, QBoxLayout& column);
-    void layRow(forms::Control& control, QFormLayout& rows, bool withLabels);
-    // With what stands beside each of them.
-    QLayout* lineOf(Controls controls);
+    QBoxLayout& layColumn(const forms::Column& plan, QWidget& surface);
+    void add(const forms::Rows& plan, QBoxLayout& column);
+    void add(const forms::Line& plan, QBoxLayout& column);
+    void add(const forms::Block& plan, QBoxLayout& column);
+    void addRow(const forms::Row& plan, QFormLayout& rows);
+    QWidget* fieldOf(const forms::Row& plan);
+    QHBoxLayout* lineOf(const forms::Line& plan) const;
+    QLayout* abreast(const std::vector<forms::BlockPart>& parts);
+    // What stands on the control itself.
+    void layInside(const forms::BlockPart& part);
 
     Finder widgetOf_;
-    std::map<const forms::Control*, std::vector<forms::Control*>>
-        beside_;                             // what shares a line with it, or stands below it
-    std::set<const forms::Control*> shares_; // what stands in another's line
+    std::vector<std::pair<QWidget*, forms::Line>> lines_; // of rows, each on a widget of its own
 };
 
 } // namespace desktop

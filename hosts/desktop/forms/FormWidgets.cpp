@@ -3,13 +3,7 @@
 #include "forms/Button.h"
 #include "forms/Form.h"
 #include "forms/FormWalk.h"
-#include "forms/Page.h"
-#include "forms/Tabs.h"
-#include "hosts/desktop/forms/AccessKeys.h"
 #include "hosts/desktop/forms/ButtonWidget.h"
-#include "hosts/desktop/forms/FormLayout.h"
-#include "hosts/desktop/forms/ShownText.h"
-#include "hosts/desktop/forms/TabsWidget.h"
 #include "hosts/desktop/forms/WidgetMaker.h"
 
 #include <QWidget>
@@ -17,24 +11,21 @@
 #include <algorithm>
 
 namespace desktop {
-namespace {
 
-constexpr std::size_t standardButtons = 2;
-
-} // namespace
-
-FormWidgets::FormWidgets(forms::Form& form, QWidget& surface) : form_(form) {
+FormWidgets::FormWidgets(forms::Form& form, QWidget& surface)
+    : form_(form), labels_(form), layout_([this](const forms::Control& control) { return find(control); }) {
     WidgetMaker maker(surface);
     for (forms::Control* control : forms::controlsOf(form)) {
         auto widget = maker.make(*control);
+        widget->showLabels(labels_);
         inOrder_.push_back(widget.get());
         widgets_.emplace(control, std::move(widget));
     }
-    giveAccessKeys();
-    FormLayout([this](const forms::Control& control) { return find(control); }).lay(form, surface);
+    layout_.lay(forms::planOf(form), surface);
     for (ControlWidget* widget : inOrder_) {
         widget->mirrorAll();
     }
+    layout_.hideEmptyLines();
     orderTabStops();
     showDefaultButton();
 }
@@ -52,9 +43,13 @@ void FormWidgets::controlChanged(forms::Control& control, forms::Aspect aspect) 
         return;
     }
     if (aspect == forms::Aspect::label) {
-        giveAccessKeys();
+        labels_.changed(control);
+        widget->showLabels(labels_);
     }
     widget->mirror(aspect);
+    if (aspect == forms::Aspect::visible) {
+        layout_.hideEmptyLines();
+    }
     if (aspect == forms::Aspect::enabled || aspect == forms::Aspect::visible || aspect == forms::Aspect::selection) {
         showDefaultButton();
     }
@@ -72,36 +67,6 @@ ControlWidget* FormWidgets::first() const {
     const auto all = forms::controlsOf(form_);
     const auto found = std::ranges::find_if(all, [&](auto* control) { return canTakeIt(*control); });
     return found != all.end() ? find(**found) : nullptr;
-}
-
-// The standard buttons come first, so that they are the same in every dialog.
-void FormWidgets::giveAccessKeys() {
-    std::vector<std::function<void(const QString&)>> takers;
-    AccessKeys keys;
-    const auto add = [&](const wire::WideString& label, std::function<void(const QString&)> taker) {
-        const bool isStandard = takers.size() < standardButtons;
-        keys.add(exactText(label), isStandard ? AccessKeys::Claim::keeps : AccessKeys::Claim::givesWay);
-        takers.push_back(std::move(taker));
-    };
-    auto controls = forms::controlsOf(form_);
-    std::rotate(controls.begin(), controls.end() - standardButtons, controls.end());
-    for (forms::Control* control : controls) {
-        ControlWidget* const widget = find(*control);
-        if (auto* const tabs = dynamic_cast<TabsWidget*>(widget)) {
-            for (std::size_t page = 0; page < tabs->tabs().pages().size(); ++page) {
-                add(tabs->tabs().pages()[page]->title(),
-                    [tabs, page](const QString& title) { tabs->showTitle(page, title); });
-            }
-        } else if (widget->takesAccessKey()) {
-            add(control->label(), [widget](const QString& label) { widget->showLabel(label); });
-        } else {
-            widget->showLabel(withoutAccessKey(shownLine(forms::readableLabel(control->label()))));
-        }
-    }
-    const auto texts = keys.assign();
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        takers[i](texts[i]);
-    }
 }
 
 void FormWidgets::showDefaultButton() {

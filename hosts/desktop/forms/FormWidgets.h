@@ -1,7 +1,9 @@
 #pragma once
 
 #include "forms/Control.h"
+#include "forms/FormLabels.h"
 #include "hosts/desktop/forms/ControlWidget.h"
+#include "hosts/desktop/forms/FormLayout.h"
 
 #include <map>
 #include <memory>
@@ -28,13 +30,14 @@ public:
     ControlWidget* first() const;
 
 private:
-    void giveAccessKeys();
     void showDefaultButton();
     void orderTabStops();
 
     forms::Form& form_;
     std::map<const forms::Control*, std::unique_ptr<ControlWidget>> widgets_;
     std::vector<ControlWidget*> inOrder_;
+    forms::FormLabels labels_;
+    FormLayout layout_;
 };
 
 } // namespace desktop

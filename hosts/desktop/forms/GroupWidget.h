@@ -16,10 +16,9 @@ public:
     explicit GroupWidget(forms::Group& group);
 
     QWidget& surface() const { return *box_; }
-    Place place() const override { return Place::block; }
-    void showLabel(const QString& text) override { box_->setTitle(text); }
 
 protected:
+    void showLabel(const QString& text) override { box_->setTitle(text); }
     void update(forms::Aspect /*aspect*/) override {}
 
 private:

@@ -7,7 +7,6 @@ namespace desktop {
 
 LabelWidget::LabelWidget(forms::Label& label) : ControlWidget(label), label_(label), text_(new QLabel) {
     setUp(text_);
-    addCaption();
     text_->setTextFormat(Qt::PlainText);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text_->setFocusPolicy(Qt::NoFocus);

@@ -13,8 +13,6 @@ class LabelWidget final : public ControlWidget {
 public:
     explicit LabelWidget(forms::Label& label);
 
-    Place place() const override { return caption() != nullptr ? Place::row : Place::block; }
-    bool takesAccessKey() const override { return false; }
     std::vector<QWidget*> tabStops() const override { return {}; }
 
 protected:

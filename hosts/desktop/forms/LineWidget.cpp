@@ -23,17 +23,12 @@ QString digitsOf(const QString& text) {
 LineWidget::LineWidget(forms::TextControl& box, QLineEdit::EchoMode echo)
     : ControlWidget(box), box_(box), line_(new QLineEdit) {
     setUp(line_);
-    addCaption();
     line_->setEchoMode(echo);
     line_->setMinimumWidth(comfortableWidth());
     if (box.options().digitsOnly) {
         line_->setInputMethodHints(Qt::ImhDigitsOnly);
     }
     connect(line_, &QLineEdit::textEdited, this, &LineWidget::typed);
-}
-
-bool LineWidget::filledByForm() const {
-    return box_.options().readOnly;
 }
 
 void LineWidget::typed(const QString& text) {

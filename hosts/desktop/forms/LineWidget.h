@@ -15,9 +15,6 @@ class LineWidget final : public ControlWidget {
 public:
     LineWidget(forms::TextControl& box, QLineEdit::EchoMode echo);
 
-    // Nobody types into it: buttons beside it do that.
-    bool filledByForm() const;
-
 protected:
     void update(forms::Aspect aspect) override;
 

@@ -23,7 +23,6 @@ ListWidget::ListWidget(forms::ListView& list)
       rows_(new ListRows(list, this)),
       sorted_(new NaturalOrder(this)) {
     setUp(view_);
-    addCaption();
     sorted_->setSourceModel(rows_);
     view_->setModel(sorted_);
     view_->setRootIsDecorated(false);
@@ -40,6 +39,7 @@ ListWidget::ListWidget(forms::ListView& list)
         }
     });
     connect(view_, &QTreeView::doubleClicked, this, &ListWidget::open);
+    view_->doItemsLayout(); // stretches the last column, so that an empty list is as wide as one with rows
     view_->viewport()->installEventFilter(this); // a right click comes there, the menu key to the view
 }
 

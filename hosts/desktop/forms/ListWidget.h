@@ -21,7 +21,6 @@ class ListWidget final : public ControlWidget {
 public:
     explicit ListWidget(forms::ListView& list);
 
-    Place place() const override { return Place::block; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

@@ -18,12 +18,8 @@ public:
     // The group holds the buttons of which one is chosen.
     RadioButtonWidget(forms::RadioButton& choice, QButtonGroup& group);
 
-    forms::RadioButton& choice() const { return choice_; }
-    Place place() const override { return Place::field; }
-    bool takesAccessKey() const override { return true; }
-    void showLabel(const QString& text) override { button_->setText(text); }
-
 protected:
+    void showLabel(const QString& text) override { button_->setText(text); }
     void update(forms::Aspect aspect) override;
 
 private:

@@ -65,4 +65,9 @@ QString withoutAccessKey(QString text) {
     return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+QString markedLine(const forms::KeyedLabel& label) {
+    const forms::KeyedLabel shown{.text = exactText(shownLine(label.text)), .key = label.key};
+    return exactText(shown.marked());
+}
+
 } // namespace desktop

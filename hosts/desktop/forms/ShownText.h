@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/AccessKeys.h"
 #include "wire/Text.h"
 
 #include <QString>
@@ -18,5 +19,7 @@ QString shownText(wire::WideStringView text);
 
 // A text whose ampersands are not taken for access keys.
 QString withoutAccessKey(QString text);
+// A label on one line, with its access key marked.
+QString markedLine(const forms::KeyedLabel& label);
 
 } // namespace desktop

@@ -1,6 +1,8 @@
 #include "hosts/desktop/forms/TabsWidget.h"
 
+#include "forms/FormLabels.h"
 #include "forms/Tabs.h"
+#include "hosts/desktop/forms/ShownText.h"
 
 #include <QTabBar>
 
@@ -23,8 +25,10 @@ TabsWidget::TabsWidget(forms::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pa
     });
 }
 
-void TabsWidget::showTitle(std::size_t page, const QString& title) {
-    pages_->setTabText(static_cast<int>(page), title);
+void TabsWidget::showLabels(const forms::FormLabels& labels) {
+    for (std::size_t page = 0; page < tabs_.pages().size(); ++page) {
+        pages_->setTabText(static_cast<int>(page), markedLine(labels.of(*tabs_.pages()[page])));
+    }
 }
 
 std::vector<QWidget*> TabsWidget::tabStops() const {

@@ -15,12 +15,8 @@ class TabsWidget final : public ControlWidget {
 public:
     explicit TabsWidget(forms::Tabs& tabs);
 
-    forms::Tabs& tabs() const { return tabs_; }
     QWidget& surface(std::size_t page) const { return *pages_->widget(static_cast<int>(page)); }
-    // The title of a page, with its access key marked.
-    void showTitle(std::size_t page, const QString& title);
-
-    Place place() const override { return Place::block; }
+    void showLabels(const forms::FormLabels& labels) override;
     // The bar takes the keyboard.
     std::vector<QWidget*> tabStops() const override;
 

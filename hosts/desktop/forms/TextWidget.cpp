@@ -10,7 +10,6 @@
 namespace desktop {
 TextWidget::TextWidget(forms::MultiLineEdit& box) : ControlWidget(box), box_(box), edit_(new LinesEdit) {
     setUp(edit_);
-    addCaption();
     edit_->setTabChangesFocus(true);
     edit_->setMinimumWidth(comfortableWidth());
     edit_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);

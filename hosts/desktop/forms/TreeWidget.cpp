@@ -15,7 +15,6 @@ constexpr std::size_t fewEnoughToShowAll = 200;
 TreeWidget::TreeWidget(forms::TreeView& tree)
     : ControlWidget(tree), tree_(tree), view_(new RoomyView), model_(new QStandardItemModel(this)) {
     setUp(view_);
-    addCaption();
     view_->setModel(model_);
     view_->setHeaderHidden(true);
     view_->setUniformRowHeights(true);

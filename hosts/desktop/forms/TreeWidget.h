@@ -18,8 +18,6 @@ class TreeWidget final : public ControlWidget {
 public:
     explicit TreeWidget(forms::TreeView& tree);
 
-    Place place() const override { return Place::block; }
-
 protected:
     void update(forms::Aspect aspect) override;
     void refill() override;

@@ -5,6 +5,11 @@
 
 namespace desktop {
 
+QRect placeOn(const FormDialog& dialog, const forms::Control& control) {
+    const QWidget& widget = *dialog.widgetOf(control);
+    return {widget.mapTo(&dialog, QPoint()), widget.size()};
+}
+
 FormDialog& DialogFixture::show() {
     dialog_ = std::make_unique<FormDialog>(form);
     dialog_->show();

@@ -6,9 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QRect>
+
 #include <memory>
 
 namespace desktop {
+
+// Where the widget of a control is on its dialog.
+QRect placeOn(const FormDialog& dialog, const forms::Control& control);
 
 // A form with every kind of control, as a dialog in front of a person.
 class DialogFixture : public testing::Test {

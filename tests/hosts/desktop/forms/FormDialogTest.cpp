@@ -124,6 +124,14 @@ TEST_F(FormDialogs, aDialogThatIsMadeLargerGivesTheRoomToItsLists) {
     EXPECT_GT(widget<QWidget>(form.rules).height(), before + 50);
 }
 
+TEST_F(FormDialogs, aDialogThatIsMadeLargerGivesTheRoomToBoxesOfSeveralLinesToo) {
+    auto& dialog = show();
+    const int before = widget<QWidget>(form.comment).height();
+    dialog.resize(dialog.width() + 100, dialog.height() + 600);
+    settle();
+    EXPECT_GT(widget<QWidget>(form.comment).height(), before + 50);
+}
+
 TEST_F(FormDialogs, runningAFormAnswersItsResult) {
     QTimer::singleShot(0, [] { QTest::keyClick(frontDialog(), Qt::Key_Return); });
     EXPECT_EQ(runForm(form), forms::idOk);
@@ -233,9 +241,7 @@ TEST_F(FormDialogs, groupsBesideEachOtherShareALineAndTheirFirstBoxesAreLevel) {
         settle(); // from the group to the dialog, each asks the next for more room
     }
 
-    const auto place = [&](const forms::Control& control) {
-        return QRect(dialog.widgetOf(control)->mapTo(&dialog, QPoint()), dialog.widgetOf(control)->size());
-    };
+    const auto place = [&](const forms::Control& control) { return placeOn(dialog, control); };
     EXPECT_LT(place(pair.left).width(), alone);
     EXPECT_GT(place(pair.right).left(), place(pair.left).right());
     EXPECT_EQ(place(pair.right).top(), place(pair.left).top());
@@ -245,13 +251,50 @@ TEST_F(FormDialogs, groupsBesideEachOtherShareALineAndTheirFirstBoxesAreLevel) {
         << place(pair.right).bottom();
 }
 
+// A row of two boxes between two others.
+class ThreeRowsForm final : public forms::Form {
+public:
+    explicit ThreeRowsForm(platform::Platform& host) : Form(host, u"Three rows") { unit.setBeside(number); }
+    void showMiddle(bool visible) {
+        number.setVisible(visible);
+        unit.setVisible(visible);
+    }
+    forms::EditBox first{*this, u"First"};
+    forms::EditBox number{*this, u"Number"};
+    forms::EditBox unit{*this, u""};
+    forms::EditBox last{*this, u"Last"};
+};
+
+TEST_F(FormDialogs, aLineThatIsHiddenLeavesNoGap) {
+    ThreeRowsForm rows(platform);
+    rows.showMiddle(false);
+    FormDialog dialog(rows);
+    dialog.show();
+    settle();
+    const auto pitch = [&] { return placeOn(dialog, rows.last).top() - placeOn(dialog, rows.first).top(); };
+    const int without = pitch();
+
+    rows.showMiddle(true);
+    settle();
+    EXPECT_EQ(pitch(), 2 * without);
+    EXPECT_TRUE(dialog.widgetOf(rows.unit)->isVisible());
+
+    rows.number.setVisible(false);
+    settle();
+    EXPECT_EQ(pitch(), 2 * without) << "one of the line is still to be seen";
+
+    rows.unit.setVisible(false);
+    settle();
+    EXPECT_EQ(pitch(), without);
+}
+
 TEST_F(FormDialogs, aCheckBoxWithANumberStandsWhereLabelsStandAndItsRemarkInOneLine) {
     SideBySideForm pair(platform);
     FormDialog dialog(pair);
     dialog.show();
     settle();
 
-    EXPECT_EQ(dialog.widgetOf(pair.hours)->x(), dialog.widgetOf(pair.name)->x());
+    EXPECT_EQ(placeOn(dialog, pair.hours).left(), placeOn(dialog, pair.name).left());
     const QWidget* const remark = dialog.widgetOf(pair.remark);
     EXPECT_LT(remark->height(), 2 * remark->fontMetrics().lineSpacing() + 2);
     EXPECT_GE(remark->width(), remark->sizeHint().width());

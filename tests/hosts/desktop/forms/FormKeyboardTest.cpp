@@ -63,11 +63,11 @@ TEST_F(FormKeyboard, anAccessKeyTakesTheKeyboardToTheBoxBehindTheLabel) {
     EXPECT_TRUE(widget<QLineEdit>(form.password).hasFocus());
 }
 
-TEST_F(FormKeyboard, aLabelThatChangesKeepsTheAccessKeysApart) {
+TEST_F(FormKeyboard, aLabelThatChangesMovesNoAccessKey) {
     auto& dialog = show();
+    const auto before = accessKeys(dialog);
     form.name.setLabel(u"OK or Cancel");
-    const auto keys = accessKeys(dialog);
-    EXPECT_EQ(std::set<QChar>(keys.begin(), keys.end()).size(), keys.size());
+    EXPECT_EQ(accessKeys(dialog), before);
     EXPECT_EQ(widget<QLineEdit>(form.name).accessibleName(), QStringLiteral("OK or Cancel"));
 }
 

@@ -81,12 +81,12 @@ TEST_F(FormLists, theArrowKeysChooseAmongRadioButtons) {
 }
 
 TEST_F(FormLists, aListStandsBehindTheRadioButtonThatItGoesWith) {
-    show();
-    const auto& button = widget<QRadioButton>(form.byBrand);
-    const auto& list = widget<QComboBox>(form.brand);
-    EXPECT_GE(list.x(), button.x() + button.width());
-    EXPECT_LT(std::abs(list.geometry().center().y() - button.geometry().center().y()), 8);
-    EXPECT_EQ(list.accessibleName(), QStringLiteral("By brand"));
+    const auto& dialog = show();
+    const QRect button = placeOn(dialog, form.byBrand);
+    const QRect list = placeOn(dialog, form.brand);
+    EXPECT_GT(list.left(), button.right());
+    EXPECT_LT(std::abs(list.center().y() - button.center().y()), 8);
+    EXPECT_EQ(widget<QComboBox>(form.brand).accessibleName(), QStringLiteral("By brand"));
 }
 
 TEST_F(FormLists, aColumnWithoutWidthIsHidden) {
@@ -266,8 +266,8 @@ TEST(FormNeighbours, whatStandsBesideAnotherSharesItsLineAndItsName) {
     FormDialog dialog(form);
     dialog.show();
     const auto sharesLine = [&](const forms::Control& left, const forms::Control& right) {
-        const QRect first = dialog.widgetOf(left)->geometry();
-        const QRect second = dialog.widgetOf(right)->geometry();
+        const QRect first = placeOn(dialog, left);
+        const QRect second = placeOn(dialog, right);
         return second.left() > first.right() && std::abs(first.center().y() - second.center().y()) < 8;
     };
     EXPECT_TRUE(sharesLine(form.number, form.unit));
