@@ -2,7 +2,9 @@
 
 #include "fuzz/Expect.h"
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace fuzz {
 
@@ -64,7 +66,7 @@ void listRegions(CQVXAdminClass& client) {
 void listPrinters(CQVXAdminClass& client) {
     std::int16_t count = 0;
     client.getPrintersInRegion(1, count);
-    expect(static_cast<std::size_t>(count) == client.printerRecords().size());
+    expect(std::cmp_greater_equal(std::max<std::int16_t>(count, 0), client.printerRecords().size()));
     takeAll<&CQVXAdminClass::nextPrinterRecord>(client);
 }
 

@@ -57,13 +57,16 @@ public:
     // The regions of the last list that nextRegion has not handed out, in the order of the wire.
     [[nodiscard]] const std::vector<protocol::RegionRecord>& regions() const { return regions_.records(); }
 
+    // How many regions the server announced for the last list, a signed 16-bit number, below 0 for none.
+    [[nodiscard]] std::int16_t announcedRegions() const { return regions_.announced(); }
+
     bool createRegion(protocol::RegionKind kind, std::int32_t parentId, const wire::WideString& name);
     bool renameRegion(protocol::RegionKind kind, std::int32_t regionId, const wire::WideString& newName);
     bool moveRegion(protocol::RegionKind kind, std::int32_t regionId, std::int32_t newParentId);
     bool deleteRegion(protocol::RegionKind kind, std::int32_t regionId);
 
-    // The lists of printer records, for nextPrinterRecord and printerRecords. The count is what was read, a signed
-    // 16-bit number for those that show it. A list that the server breaks off holds what came before.
+    // The lists of printer records, for nextPrinterRecord and printerRecords. The count is what the server announced, a
+    // signed 16-bit number: below 0 no records come, and a list that the server breaks off holds only what came before.
     bool getPrintersInRegion(std::int32_t regionId, std::int16_t& count);
     bool getQueuesOfPrinter(const std::string& printerId, std::int16_t& count);
     bool getQueuesInRegion(std::int32_t regionId, std::int16_t& count);
@@ -75,7 +78,8 @@ public:
     // Mode is one of protocol::printerListMode 8, 9 and 10.
     bool getRecordById(const std::string& id, std::uint16_t mode, std::int16_t& count);
 
-    // Hands the records of the last list over from the last to the first; false when there are none left.
+    // Hands the records of the last list over from the last to the first; false when there are none left. Throws
+    // std::out_of_range "invalid vector<T> subscript" for a list that broke off, as all cursors of this class do.
     bool nextPrinterRecord(protocol::PrinterRecord& record);
 
     // The records of the last list that nextPrinterRecord has not handed out, in the order of the wire.

@@ -1,6 +1,6 @@
 #include "client/CQVXAdminClass.h"
 
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 #include "protocol/CreateRecordRequest.h"
 #include "protocol/DeleteRecordRequest.h"
 #include "protocol/GetStatusOctetOrderReply.h"
@@ -26,12 +26,9 @@ std::string regionText(std::int32_t id) {
 
 bool CQVXAdminClass::listPrinterRecords(const ListPrinterRecordsRequest& request, std::string summary,
                                         std::int16_t& count) {
-    std::vector<protocol::PrinterRecord> records;
-    printers_.fill({});
     count = 0;
-    const bool listed = listRecords(*this, request, records, std::move(summary));
-    count = static_cast<std::int16_t>(records.size());
-    printers_.fill(std::move(records));
+    const bool listed = fillCursor(*this, printers_, request, std::move(summary));
+    count = printers_.announced();
     return listed;
 }
 
@@ -72,11 +69,7 @@ bool CQVXAdminClass::getRecordById(const std::string& id, std::uint16_t listMode
 }
 
 bool CQVXAdminClass::nextPrinterRecord(protocol::PrinterRecord& record) {
-    auto next = printers_.next();
-    if (!next)
-        return false;
-    record = std::move(*next);
-    return true;
+    return printers_.next(record);
 }
 
 protocol::CreateRecordReply CQVXAdminClass::createRecord(const std::string& physicalPrinterId,

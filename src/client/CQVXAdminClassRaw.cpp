@@ -6,6 +6,7 @@
 #include "protocol/LoginRequest.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace client {
 namespace {
@@ -35,9 +36,9 @@ void readList(Exchange& exchange, RawReply& reply, const protocol::RecordLayout&
         return;
     }
     const bool onlyCount = first->remaining() == sizeof(std::uint16_t);
-    const std::uint16_t count = exchange.run([&] { return Exchange::readCount(*first); });
+    const std::int16_t count = exchange.run([&] { return Exchange::readCount(*first); });
     const bool allInOne = reply.command->opcode == protocol::ListRegionsRequest::opcode && !onlyCount;
-    for (std::uint16_t index = 0; index < count && reply.complete; ++index) {
+    for (std::uint32_t index = 0; std::cmp_less(index, count) && reply.complete; ++index) {
         if (allInOne) {
             exchange.run([&] { reply.records.push_back(protocol::readFields(*first, layout)); });
         } else if (const auto message = exchange.receive()) {

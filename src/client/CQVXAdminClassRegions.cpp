@@ -20,16 +20,19 @@ std::string regionText(std::int32_t id) {
 
 // All regions usually come in the one message. A server with more of them than a frame takes sends a count alone, which
 // leaves no room for a record, and then each region in a frame of its own.
-void readRegions(Exchange& exchange, wire::Message& first, std::vector<protocol::RegionRecord>& regions) {
+std::int16_t readRegions(Exchange& exchange, wire::Message& first, std::vector<protocol::RegionRecord>& regions) {
     const bool onlyCount = first.remaining() == sizeof(std::uint16_t);
-    const std::uint16_t count = exchange.run([&] { return Exchange::readCount(first); });
-    if (onlyCount)
-        return readRecords(exchange, count, regions);
+    const std::int16_t count = exchange.run([&] { return Exchange::readCount(first); });
+    if (onlyCount) {
+        readRecords(exchange, count, regions);
+        return count;
+    }
     exchange.run([&] {
-        for (std::uint16_t index = 0; index < count; ++index)
+        for (std::int32_t index = 0; index < count; ++index)
             regions.push_back(protocol::read<protocol::RegionRecord>(first));
     });
-    exchange.noteRecords(count);
+    exchange.noteRecords(static_cast<std::uint32_t>(regions.size()));
+    return count;
 }
 
 } // namespace
@@ -37,24 +40,24 @@ void readRegions(Exchange& exchange, wire::Message& first, std::vector<protocol:
 bool CQVXAdminClass::listRegions(protocol::RegionKind kind, std::int32_t parentId) {
     const protocol::ListRegionsRequest request{.kind = byteOf(kind), .parentId = parentId};
     std::vector<protocol::RegionRecord> regions;
-    regions_.fill({});
+    regions_.clear();
     Exchange exchange(*this, protocol::commandOf<protocol::ListRegionsRequest>(), regionText(parentId));
     if (!exchange.connect())
         return false;
     exchange.send(dataMessageOf(request));
     const auto first = exchange.receive();
-    readRegions(exchange, *first, regions);
-    regions_.fill(std::move(regions));
+    const std::int16_t announced = readRegions(exchange, *first, regions);
+    regions_.fill(std::move(regions), announced);
     return true;
 }
 
 bool CQVXAdminClass::nextRegion(std::int32_t& id, std::int32_t& parentId, wire::WideString& name) {
-    auto region = regions_.next();
-    if (!region)
+    protocol::RegionRecord region;
+    if (!regions_.next(region))
         return false;
-    id = region->id;
-    parentId = region->parentId;
-    name = std::move(region->name);
+    id = region.id;
+    parentId = region.parentId;
+    name = std::move(region.name);
     return true;
 }
 

@@ -93,9 +93,8 @@ std::unique_ptr<wire::Message> Exchange::receive(std::unique_ptr<wire::Message> 
     });
 }
 
-std::uint16_t Exchange::readCount(wire::Message& message) {
-    const std::uint16_t count = message.getUInt16();
-    return count < 0x8000 ? count : 0;
+std::int16_t Exchange::readCount(wire::Message& message) {
+    return static_cast<std::int16_t>(message.getUInt16());
 }
 
 void Exchange::noteRecords(std::uint32_t records) {

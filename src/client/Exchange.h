@@ -39,8 +39,9 @@ public:
     // else throws std::runtime_error with the text of that form. A used message lends its memory to the one that comes.
     [[nodiscard]] std::unique_ptr<wire::Message> receive(std::unique_ptr<wire::Message> used = nullptr);
 
-    // The number of records that a count message announces; 0 from 32,768 on, since a count is a signed 16-bit number.
-    [[nodiscard]] static std::uint16_t readCount(wire::Message& message);
+    // The number of records that a count message announces: a signed 16-bit number, so that 32,768 and more are below 0
+    // and announce no records.
+    [[nodiscard]] static std::int16_t readCount(wire::Message& message);
 
     void noteRecords(std::uint32_t records);
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
-#include <optional>
+#include <cstdint>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -12,41 +13,43 @@ namespace client {
 template <class Record>
 class RecordCursor {
 public:
-    void fill(std::vector<Record> records) {
-        const std::size_t remaining = records.size();
-        fill(std::move(records), remaining);
+    void clear() { fill({}, 0); }
+
+    // The records that came, and how many the server had announced: a signed 16-bit number, below 0 for no records.
+    void fill(std::vector<Record> records, std::int16_t announced) {
+        records_ = std::move(records);
+        announced_ = announced;
+        remaining_ = static_cast<std::size_t>(std::max<std::int16_t>(announced, 0));
     }
 
-    // With the number of records that are to be handed out.
-    void fill(std::vector<Record> records, std::size_t remaining) {
-        records_ = std::move(records);
-        remaining_ = remaining;
-    }
+    // What the server announced, whatever came of it.
+    [[nodiscard]] std::int16_t announced() const { return announced_; }
 
     // Those that have not been handed out, in the order in which they came.
-    const std::vector<Record>& records() const { return records_; }
+    [[nodiscard]] const std::vector<Record>& records() const { return records_; }
 
-    // Hands the next record over; none when all have been. Throws std::out_of_range "invalid vector<T> subscript" when
-    // fewer records are there than remain.
-    std::optional<Record> next() {
+    // Hands the next record over; false when all have been. Throws std::out_of_range "invalid vector<T> subscript" when
+    // the list broke off, since the records that are missing would be the first ones to be handed out.
+    bool next(Record& record) {
         if (remaining_ == 0)
-            return std::nullopt;
+            return false;
         if (remaining_ > records_.size())
             throw std::out_of_range("invalid vector<T> subscript");
         --remaining_;
-        std::optional<Record> record(std::move(records_[remaining_]));
+        record = std::move(records_[remaining_]);
         records_.resize(remaining_);
-        return record;
+        return true;
     }
 
     // All records that remain, in the order in which they came.
-    std::vector<Record> takeAll() {
+    [[nodiscard]] std::vector<Record> takeAll() {
         remaining_ = 0;
         return std::exchange(records_, {});
     }
 
 private:
     std::vector<Record> records_;
+    std::int16_t announced_ = 0;
     std::size_t remaining_ = 0;
 };
 

@@ -3,6 +3,8 @@
 #include "client/Exchange.h"
 #include "protocol/WireOrder.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -48,10 +50,10 @@ template <class Reply, class Request>
 
 // Reads count frames of one record each onto the end of records. Ends early where the row's reader form lets it.
 template <class R>
-void readRecords(Exchange& exchange, std::uint16_t count, std::vector<R>& records) {
-    records.reserve(records.size() + count);
+void readRecords(Exchange& exchange, std::int16_t count, std::vector<R>& records) {
+    records.reserve(records.size() + static_cast<std::size_t>(std::max<std::int16_t>(count, 0)));
     std::unique_ptr<wire::Message> message;
-    for (std::uint16_t index = 0; index < count; ++index) {
+    for (std::uint32_t index = 0; std::cmp_less(index, count); ++index) {
         message = exchange.receive(std::move(message));
         if (!message)
             return;
@@ -68,21 +70,30 @@ void readRecords(Exchange& exchange, std::uint16_t count, std::vector<R>& record
     }
 }
 
-// A command with a list for a reply, which replaces what records held, in the order of the wire. False when there is no
-// connection or no count came and the row lets that pass.
+// A command with a list for a reply, which replaces what records held, in the order of the wire. Gives the count that
+// the server announced, which is more than came of a list that broke off; none when there is no connection or no count
+// came and the row lets that pass.
 template <class R, class Request>
-[[nodiscard]] bool listRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records,
-                               std::string summary = {}) {
+[[nodiscard]] std::optional<std::int16_t> readList(CQVXAdminClass2& client, const Request& request,
+                                                   std::vector<R>& records, std::string summary = {}) {
     records.clear();
     Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
     if (!exchange.connect())
-        return false;
+        return std::nullopt;
     exchange.send(dataMessageOf(request));
     const auto message = exchange.receive();
     if (!message)
-        return false;
-    readRecords(exchange, exchange.run([&] { return Exchange::readCount(*message); }), records);
-    return true;
+        return std::nullopt;
+    const std::int16_t count = exchange.run([&] { return Exchange::readCount(*message); });
+    readRecords(exchange, count, records);
+    return count;
+}
+
+// The same for those who take what came of a list.
+template <class R, class Request>
+[[nodiscard]] bool listRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records,
+                               std::string summary = {}) {
+    return readList(client, request, records, std::move(summary)).has_value();
 }
 
 } // namespace client

@@ -12,7 +12,10 @@ RegionContents readRegionContents(client::CQVXAdminClass& client, std::int32_t r
         !readRegionsBelow(client, protocol::RegionKind::printersAndQueues, regionId, subRegions)) {
         return RegionContents::unknown;
     }
-    return printers == 0 && followQueues == 0 && subRegions.empty() ? RegionContents::empty : RegionContents::something;
+    // A count is what the server announced: where it is not 0, the region is not empty, whatever came of the list.
+    const bool unread = client.announcedRegions() < 0;
+    return printers == 0 && followQueues == 0 && subRegions.empty() && !unread ? RegionContents::empty
+                                                                               : RegionContents::something;
 }
 
 } // namespace regions

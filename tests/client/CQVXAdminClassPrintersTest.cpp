@@ -145,13 +145,16 @@ TEST_F(Printers, aCountOfZeroIsFollowedByNoDataMessage) {
     EXPECT_TRUE(client.printerRecords().empty());
 }
 
-TEST_F(Printers, aCountOf32768OrMoreReadsAsNone) {
+TEST_F(Printers, aCountOf32768OrMoreIsBelowZeroAndReadsAsNone) {
     answer({frame({dataMessage(hex("00 80"))}) + frame({dataMessage(named('A'))})});
     CQVXAdminClass client(settings);
+    PrinterRecord record;
 
     EXPECT_TRUE(client.getPrintersInRegion(12, count));
 
-    EXPECT_EQ(count, 0);
+    EXPECT_EQ(count, -32768);
+    EXPECT_TRUE(client.printerRecords().empty());
+    EXPECT_FALSE(client.nextPrinterRecord(record));
 }
 
 TEST_F(Printers, aListWithoutAServerIsFalseAndEmpty) {
@@ -165,7 +168,7 @@ TEST_F(Printers, aListWithoutAServerIsFalseAndEmpty) {
     EXPECT_FALSE(observer.ended.at(0).connected);
 }
 
-TEST_F(Printers, aListThatBreaksOffHoldsWhatCameBefore) {
+TEST_F(Printers, aListThatBreaksOffHoldsWhatCameBeforeAndCountsWhatWasAnnounced) {
     const Bytes whole = countedList({named('A'), named('B')});
     serve({[whole](Connection& connection) {
         connection.expectFrame();
@@ -175,9 +178,20 @@ TEST_F(Printers, aListThatBreaksOffHoldsWhatCameBefore) {
 
     EXPECT_TRUE(client.getPrintersInRegion(12, count));
 
-    EXPECT_EQ(count, 1);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(client.printerRecords().size(), 1U);
     EXPECT_EQ(observer.ended.at(0).outcome, CommandOutcome::failed);
     EXPECT_EQ(observer.ended.at(0).text, "The server's reply ended early");
+}
+
+TEST_F(Printers, ofAListThatAnnouncedMoreThanCameAreNotHandedOut) {
+    answer({frame({dataMessage(hex("03 00"))}) + frame({dataMessage(named('A'))}) + frame({}, 1)});
+    CQVXAdminClass client(settings);
+    PrinterRecord record;
+    client.getPrintersInRegion(12, count);
+
+    EXPECT_EQ(count, 3);
+    EXPECT_EQ(thrownBy([&] { client.nextPrinterRecord(record); }), "invalid vector<T> subscript");
 }
 
 TEST_F(Printers, aListWithoutACountIsFalse) {

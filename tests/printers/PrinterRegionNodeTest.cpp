@@ -323,6 +323,17 @@ TEST_F(PrinterRegion, thatHoldsAFollowPrintQueueIsNotDeleted) {
     EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
 }
 
+TEST_F(PrinterRegion, isNotDeletedWhenItsListOfPrintersBreaksOff) {
+    expandNode(u"Printers");
+    estate_.brokenLists = {{6, support::frame({support::dataMessage(support::hex("02 00"))})}};
+    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, notEmpty);
+
+    EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
+
+    EXPECT_TRUE(estate_.changes(0).empty());
+}
+
 TEST_F(PrinterRegion, staysInTheTreeWhenTheDeleteCannotBeSent) {
     expandNode(u"Printers");
     estate_.goOffline();

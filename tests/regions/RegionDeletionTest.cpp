@@ -8,6 +8,9 @@ namespace {
 
 using regions::readRegionContents;
 using regions::RegionContents;
+using support::dataMessage;
+using support::frame;
+using support::hex;
 using Strings = std::vector<std::string>;
 
 TEST(RegionContentsCheck, findsARegionEmptyAfterThreeLists) {
@@ -41,6 +44,30 @@ TEST(RegionContentsCheck, seesFollowPrintQueues) {
 TEST(RegionContentsCheck, seesSubRegions) {
     support::FakeEstate estate;
     estate.regions = {support::region(6, 5, u"Harbour")};
+    client::CQVXAdminClass client;
+
+    EXPECT_EQ(readRegionContents(client, 5), RegionContents::something);
+}
+
+TEST(RegionContentsCheck, doesNotTakeAPrinterListThatBreaksOffForAnEmptyRegion) {
+    support::FakeEstate estate;
+    estate.brokenLists = {{6, frame({dataMessage(hex("01 00"))})}};
+    client::CQVXAdminClass client;
+
+    EXPECT_EQ(readRegionContents(client, 5), RegionContents::something);
+}
+
+TEST(RegionContentsCheck, doesNotTakeMorePrintersThanACountCanTellForNone) {
+    support::FakeEstate estate;
+    estate.brokenLists = {{6, frame({dataMessage(hex("00 80"))})}};
+    client::CQVXAdminClass client;
+
+    EXPECT_EQ(readRegionContents(client, 5), RegionContents::something);
+}
+
+TEST(RegionContentsCheck, doesNotTakeMoreRegionsThanACountCanTellForNone) {
+    support::FakeEstate estate;
+    estate.brokenLists = {{0, frame({dataMessage(hex("00 80"))})}};
     client::CQVXAdminClass client;
 
     EXPECT_EQ(readRegionContents(client, 5), RegionContents::something);

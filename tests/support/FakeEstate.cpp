@@ -110,7 +110,9 @@ void FakeEstate::answer(ScriptedServer::Connection& connection) {
         requests_.push_back(std::to_string(request.opcode) + ": " + toHex(fields));
     }
     noted_.notify_all();
-    if (request.opcode == listRegions) {
+    if (const auto broken = brokenLists.find(request.opcode); broken != brokenLists.end()) {
+        connection.send(broken->second);
+    } else if (request.opcode == listRegions) {
         connection.send(listInOneMessage(regions));
     } else if (request.opcode == listRecords) {
         connection.send(countedList(listPrinterRecords(request.message)));

@@ -31,6 +31,8 @@ public:
     std::vector<protocol::PrinterRecord> followQueues;
     std::map<std::string, std::vector<protocol::PrinterRecord>> queuesOfPrinter;
     protocol::StatusReply updateReply;
+    // What goes out in place of a list of regions or of printer records, by opcode, as bytes of frames.
+    std::map<std::uint16_t, Bytes> brokenLists;
     // What the lists of other commands hold, by opcode: the bytes of each record, from the fields of the request.
     std::map<std::uint16_t, std::function<std::vector<Bytes>(const Bytes& fields)>> lists;
     // The same for commands that are answered with one record; no bytes for no answer.

@@ -1,6 +1,6 @@
 #include "client/alarms/AlarmCommands.h"
 
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 #include "protocol/alarms/AddProgramActionRequest.h"
 #include "protocol/alarms/DeleteProgramActionRequest.h"
 #include "protocol/alarms/ListAlarmActionsRequest.h"
@@ -22,33 +22,14 @@ std::string label(const wire::WideString& name, const std::string& id) {
     return name.empty() ? id : wire::toUtf8(name);
 }
 
-// Lists into a cursor, which is empty when the list does not come.
-template <class R, class Request>
-bool listInto(RecordCursor<R>& cursor, CQVXAdminClass2& client, const Request& request, std::string summary) {
-    std::vector<R> records;
-    cursor.fill({});
-    const bool listed = listRecords(client, request, records, std::move(summary));
-    cursor.fill(std::move(records));
-    return listed;
-}
-
-template <class R>
-bool nextInto(RecordCursor<R>& cursor, R& record) {
-    auto next = cursor.next();
-    if (!next)
-        return false;
-    record = std::move(*next);
-    return true;
-}
-
 } // namespace
 
 bool AlarmCommands::listEmailRecipients(const std::string& id) {
-    return listInto(recipients_, client_, protocol::ListEmailRecipientsRequest{.id = id}, id);
+    return fillCursor(client_, recipients_, protocol::ListEmailRecipientsRequest{.id = id}, id);
 }
 
 bool AlarmCommands::nextEmailRecipient(protocol::EmailRecipientRecord& recipient) {
-    return nextInto(recipients_, recipient);
+    return recipients_.next(recipient);
 }
 
 bool AlarmCommands::writeEmailRecipient(const protocol::EmailRecipientRecord& recipient) {
@@ -70,11 +51,11 @@ bool AlarmCommands::setRecipientActive(const std::string& id, bool active) {
 }
 
 bool AlarmCommands::listAlarmPrograms(std::uint8_t kind, const std::string& id) {
-    return listInto(programs_, client_, protocol::ListAlarmProgramsRequest{.kind = kind, .filter = id}, id);
+    return fillCursor(client_, programs_, protocol::ListAlarmProgramsRequest{.kind = kind, .filter = id}, id);
 }
 
 bool AlarmCommands::nextAlarmProgram(protocol::AlarmProgramRecord& program) {
-    return nextInto(programs_, program);
+    return programs_.next(program);
 }
 
 bool AlarmCommands::writeAlarmProgram(std::string& id, const wire::WideString& name, const wire::WideString& comment,
@@ -106,11 +87,11 @@ bool AlarmCommands::listAlarmDestinations(std::uint16_t actionCode, protocol::Al
 }
 
 bool AlarmCommands::listProgramActions(const std::string& programId) {
-    return listInto(programActions_, client_, protocol::ListProgramActionsRequest{.programId = programId}, programId);
+    return fillCursor(client_, programActions_, protocol::ListProgramActionsRequest{.programId = programId}, programId);
 }
 
 bool AlarmCommands::nextProgramAction(protocol::ProgramActionRecord& action) {
-    return nextInto(programActions_, action);
+    return programActions_.next(action);
 }
 
 bool AlarmCommands::addProgramAction(const std::string& programId, const std::string& eventId, std::uint16_t actionCode,

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "client/RecordCursor.h"
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 
 namespace client {
 
@@ -16,13 +15,7 @@ public:
     bool next(CQVXAdminClass2& client, const Request& request, R& record) {
         if (!fetched_)
             fetched_ = fetch(client, request);
-        if (!fetched_)
-            return false;
-        auto one = cursor_.next();
-        if (!one)
-            return false;
-        record = std::move(*one);
-        return true;
+        return fetched_ && cursor_.next(record);
     }
 
     [[nodiscard]] const std::vector<R>& records() const { return cursor_.records(); }
@@ -30,20 +23,7 @@ public:
 private:
     template <class Request>
     bool fetch(CQVXAdminClass2& client, const Request& request) {
-        cursor_.fill({});
-        Exchange exchange(client, protocol::commandOf<Request>());
-        if (!exchange.connect())
-            return false;
-        exchange.send(dataMessageOf(request));
-        const auto first = exchange.receive();
-        if (!first)
-            return false;
-        const auto count = exchange.run([&] { return Exchange::readCount(*first); });
-        std::vector<R> records;
-        readRecords(exchange, count, records);
-        const bool whole = records.size() == count;
-        cursor_.fill(std::move(records));
-        return whole;
+        return fillCursor(client, cursor_, request) && std::cmp_greater_equal(records().size(), cursor_.announced());
     }
 
     RecordCursor<R> cursor_;

@@ -1,6 +1,6 @@
 #include "client/configurations/ConfigurationCommands.h"
 
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 #include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
 #include "protocol/configurations/ApplyQueueConfigurationRequest.h"
 #include "protocol/configurations/DeleteConfigurationRequest.h"
@@ -13,44 +13,23 @@
 #include "wire/WireDate.h"
 
 namespace client {
-namespace {
-
-// Reads a list into its cursor, which is empty when it fails.
-template <class R, class Request>
-bool fill(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary) {
-    std::vector<R> records;
-    cursor.fill({});
-    const bool listed = listRecords(client, request, records, std::move(summary));
-    cursor.fill(std::move(records));
-    return listed;
-}
-
-template <class R>
-bool handOut(RecordCursor<R>& cursor, R& record) {
-    auto next = cursor.next();
-    if (!next)
-        return false;
-    record = std::move(*next);
-    return true;
-}
-
-} // namespace
-
 bool ConfigurationCommands::getConfigurations(const std::string& queueId, const std::string& driverMapId) {
-    return fill(client_, entries_,
-                protocol::ListQueueConfigurationsRequest{.queueId = queueId, .driverMapId = driverMapId}, queueId);
+    return fillCursor(client_, entries_,
+                      protocol::ListQueueConfigurationsRequest{.queueId = queueId, .driverMapId = driverMapId},
+                      queueId);
 }
 
 bool ConfigurationCommands::nextConfiguration(protocol::QueueConfigEntry& entry) {
-    return handOut(entries_, entry);
+    return entries_.next(entry);
 }
 
 bool ConfigurationCommands::getConfigChoices(const std::string& driverMapId) {
-    return fill(client_, choices_, protocol::ListConfigurationChoicesRequest{.driverMapId = driverMapId}, driverMapId);
+    return fillCursor(client_, choices_, protocol::ListConfigurationChoicesRequest{.driverMapId = driverMapId},
+                      driverMapId);
 }
 
 bool ConfigurationCommands::nextConfigChoice(protocol::QueueConfigChoice& choice) {
-    return handOut(choices_, choice);
+    return choices_.next(choice);
 }
 
 bool ConfigurationCommands::applyConfiguration(const std::string& queueId, const std::string& driverMapId,
@@ -62,17 +41,12 @@ bool ConfigurationCommands::applyConfiguration(const std::string& queueId, const
 }
 
 bool ConfigurationCommands::listConfigurations(const std::string& modelId) {
-    std::vector<protocol::ConfigurationRecord> records;
-    records_.fill({});
-    const bool listed = listRecords(client_, protocol::ListConfigurationsRequest{.modelId = modelId}, records, modelId);
-    for (auto& record : records)
-        record.date = wire::formatWireDateWide(record.date);
-    records_.fill(std::move(records));
-    return listed;
+    return fillCursor(client_, records_, protocol::ListConfigurationsRequest{.modelId = modelId}, modelId,
+                      [](auto& record) { record.date = wire::formatWireDateWide(record.date); });
 }
 
 bool ConfigurationCommands::nextConfigurationRecord(protocol::ConfigurationRecord& record) {
-    return handOut(records_, record);
+    return records_.next(record);
 }
 
 bool ConfigurationCommands::setConfigurationComment(const std::string& configId, const wire::WideString& comment) {
@@ -88,11 +62,11 @@ bool ConfigurationCommands::deleteConfiguration(const std::string& configId, boo
 }
 
 bool ConfigurationCommands::listConfigurationQueues(const std::string& configId) {
-    return fill(client_, queues_, protocol::ListConfigurationQueuesRequest{.configId = configId}, configId);
+    return fillCursor(client_, queues_, protocol::ListConfigurationQueuesRequest{.configId = configId}, configId);
 }
 
 bool ConfigurationCommands::nextConfigurationQueue(protocol::ConfigQueueRecord& record) {
-    return handOut(queues_, record);
+    return queues_.next(record);
 }
 
 bool ConfigurationCommands::removeConfigurationFromQueue(const std::string& configId, const std::string& queueId) {

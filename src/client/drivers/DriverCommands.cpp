@@ -1,6 +1,6 @@
 #include "client/drivers/DriverCommands.h"
 
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 #include "client/drivers/VersionText.h"
 #include "protocol/drivers/AddAlternateDriverRequest.h"
 #include "protocol/drivers/AddBuiltInDriverRequest.h"
@@ -22,35 +22,12 @@
 #include "wire/WireDate.h"
 
 namespace client {
-namespace {
-
-// A list for a cursor; whatever becomes of the command, the cursor holds nothing of an earlier one.
-template <class R, class Request>
-bool fill(RecordCursor<R>& cursor, CQVXAdminClass2& client, const Request& request, const std::string& summary = {}) {
-    std::vector<R> records;
-    cursor.fill({});
-    const bool listed = listRecords(client, request, records, summary);
-    cursor.fill(std::move(records));
-    return listed;
-}
-
-template <class R>
-bool handOut(RecordCursor<R>& cursor, R& record) {
-    auto next = cursor.next();
-    if (!next)
-        return false;
-    record = std::move(*next);
-    return true;
-}
-
-} // namespace
-
 bool DriverCommands::listDriverBrands() {
-    return fill(brands_, client_, protocol::ListDriverBrandsRequest{});
+    return fillCursor(client_, brands_, protocol::ListDriverBrandsRequest{});
 }
 
 bool DriverCommands::nextDriverBrand(protocol::DriverBrandRecord& brand) {
-    return handOut(brands_, brand);
+    return brands_.next(brand);
 }
 
 std::vector<protocol::DriverModelRecord> DriverCommands::listDriverModels(std::uint8_t listKind,
@@ -62,41 +39,38 @@ std::vector<protocol::DriverModelRecord> DriverCommands::listDriverModels(std::u
 }
 
 bool DriverCommands::listOperatingSystems() {
-    return fill(systems_, client_, protocol::ListOperatingSystemsRequest{});
+    return fillCursor(client_, systems_, protocol::ListOperatingSystemsRequest{});
 }
 
 bool DriverCommands::nextOperatingSystem(protocol::OperatingSystemRecord& system) {
-    return handOut(systems_, system);
+    return systems_.next(system);
 }
 
 bool DriverCommands::listDrivers(std::uint8_t listKind, const std::string& parentId) {
     const protocol::ListDriversRequest request{.listKind = listKind, .parentId = parentId};
-    drivers_.fill({});
+    drivers_.clear();
     if (listKind == protocol::driverList::shortOfModel) {
         std::vector<protocol::ShortDriverRecord> unused;
         return listRecords(client_, request, unused, parentId);
     }
-    std::vector<protocol::DriverRecord> drivers;
-    const bool listed = listRecords(client_, request, drivers, parentId);
-    for (auto& driver : drivers) {
+    return fillCursor(client_, drivers_, request, parentId, [](auto& driver) {
         driver.version = localVersionText(driver.version);
         driver.uploadDate = wire::formatWireDate(driver.uploadDate);
-    }
-    drivers_.fill(std::move(drivers));
-    return listed;
+    });
 }
 
 bool DriverCommands::nextDriver(protocol::DriverRecord& driver) {
-    return handOut(drivers_, driver);
+    return drivers_.next(driver);
 }
 
 bool DriverCommands::listDriverDeployments(const std::string& modelId, const std::string& driverId) {
-    return fill(deployments_, client_, protocol::ListDriverDeploymentsRequest{.modelId = modelId, .driverId = driverId},
-                driverId.empty() ? modelId : driverId);
+    return fillCursor(client_, deployments_,
+                      protocol::ListDriverDeploymentsRequest{.modelId = modelId, .driverId = driverId},
+                      driverId.empty() ? modelId : driverId);
 }
 
 bool DriverCommands::nextDriverDeployment(protocol::DriverDeploymentRecord& deployment) {
-    return handOut(deployments_, deployment);
+    return deployments_.next(deployment);
 }
 
 bool DriverCommands::deleteDriver(const std::string& driverId) {

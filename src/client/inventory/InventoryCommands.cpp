@@ -1,6 +1,6 @@
 #include "client/inventory/InventoryCommands.h"
 
-#include "client/ServerCalls.h"
+#include "client/CursorCalls.h"
 #include "protocol/inventory/ChangeIpRangeRequest.h"
 #include "protocol/inventory/ChangeSchemaRequest.h"
 #include "protocol/inventory/DeleteInventoryReportRequest.h"
@@ -27,25 +27,6 @@ constexpr std::uint8_t savesRange = 2;
 constexpr std::uint8_t deletesRange = 3;
 constexpr std::uint8_t setsRangeActive = 4;
 
-// A list into its cursor, which holds nothing when the list fails.
-template <class R, class Request>
-bool fillCursor(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary) {
-    std::vector<R> records;
-    cursor.fill({});
-    const bool listed = listRecords(client, request, records, std::move(summary));
-    cursor.fill(std::move(records));
-    return listed;
-}
-
-template <class R>
-bool takeNext(RecordCursor<R>& cursor, R& record) {
-    auto next = cursor.next();
-    if (!next)
-        return false;
-    record = std::move(*next);
-    return true;
-}
-
 } // namespace
 
 bool InventoryCommands::listSchemas(const std::string& reportId) {
@@ -55,7 +36,7 @@ bool InventoryCommands::listSchemas(const std::string& reportId) {
 }
 
 bool InventoryCommands::nextSchema(protocol::SchemaRecord& schema) {
-    return takeNext(schemas_, schema);
+    return schemas_.next(schema);
 }
 
 std::optional<protocol::SchemaRecord> InventoryCommands::getSchema(const std::string& schemaId) {
@@ -91,7 +72,7 @@ bool InventoryCommands::searchQueues(const wire::WideString& pattern) {
 }
 
 bool InventoryCommands::nextFoundQueue(protocol::FoundQueueRecord& queue) {
-    return takeNext(foundQueues_, queue);
+    return foundQueues_.next(queue);
 }
 
 bool InventoryCommands::listInventoryReports() {
@@ -99,7 +80,7 @@ bool InventoryCommands::listInventoryReports() {
 }
 
 bool InventoryCommands::nextInventoryReport(protocol::InventoryReportRecord& report) {
-    return takeNext(reports_, report);
+    return reports_.next(report);
 }
 
 bool InventoryCommands::createInventoryReport(const protocol::CreateInventoryReportRequest& request) {
@@ -115,22 +96,16 @@ bool InventoryCommands::listInventoryModels(std::uint16_t listKind, const std::s
 }
 
 bool InventoryCommands::nextInventoryModel(protocol::InventoryModelRecord& model) {
-    return takeNext(models_, model);
+    return models_.next(model);
 }
 
 bool InventoryCommands::listInventoryPrinters(std::uint16_t listKind, const std::string& id) {
-    std::vector<protocol::InventoryPrinterRecord> records;
-    found_.fill({});
-    const bool listed =
-        listRecords(client_, protocol::ListInventoryPrintersRequest{.listKind = listKind, .id = id}, records, id);
-    for (auto& record : records)
-        record.spare = {};
-    found_.fill(std::move(records));
-    return listed;
+    return fillCursor(client_, found_, protocol::ListInventoryPrintersRequest{.listKind = listKind, .id = id}, id,
+                      [](auto& record) { record.spare = {}; });
 }
 
 bool InventoryCommands::nextInventoryPrinter(protocol::InventoryPrinterRecord& printer) {
-    return takeNext(found_, printer);
+    return found_.next(printer);
 }
 
 bool InventoryCommands::listIpRanges() {
@@ -146,7 +121,7 @@ bool InventoryCommands::listRanges(std::uint8_t listKind, const std::string& id)
 }
 
 bool InventoryCommands::nextIpRange(protocol::IpRangeRecord& range) {
-    return takeNext(ranges_, range);
+    return ranges_.next(range);
 }
 
 bool InventoryCommands::addIpRange(const protocol::IpRangeRecord& range) {

@@ -33,17 +33,17 @@ inline constexpr Command inventoryRows[] = {
         .leftOpen(),
     row(40, "ListInventoryReports", "lists the inventory reports")
         .asks<ListInventoryReportsRequest>()
-        .list<InventoryReportRecord>(ReaderForm::plain)
+        .list<InventoryReportRecord>(ReaderForm::middle)
         .leftOpen(),
     row(41, "CreateInventoryReport", "creates an inventory report").asks<CreateInventoryReportRequest>().leftOpen(),
     row(42, "DeleteInventoryReport", "deletes an inventory report").asks<DeleteInventoryReportRequest>().leftOpen(),
     row(43, "ListInventoryModels", "lists models and drivers of the inventory, by kind of list")
         .asks<ListInventoryModelsRequest>()
-        .list<InventoryModelRecord>(ReaderForm::plain)
+        .list<InventoryModelRecord>(ReaderForm::middle)
         .leftOpen(),
     row(44, "ListInventoryPrinters", "lists printers and queues of the inventory, by kind of list")
         .asks<ListInventoryPrintersRequest>()
-        .list<InventoryPrinterRecord>(ReaderForm::plain)
+        .list<InventoryPrinterRecord>(ReaderForm::middle)
         .leftOpen(),
     row(55, "ListIpRanges", "lists the IP ranges, all or one")
         .asks<ListIpRangesRequest>()

@@ -289,13 +289,15 @@ TEST_F(Alarms, actionsOfAProgramAreListedAddedAndDeleted) {
     EXPECT_EQ(received(2), request(34, "02 00 61 31"));
 }
 
-TEST_F(Alarms, actionsOfAProgramThatBreakOffAreThoseThatCame) {
+TEST_F(Alarms, actionsOfAProgramThatBreakOffStayInTheListButAreNotHandedOut) {
     breakOffFirst(countedList({hex("01 00 61  00 00  00 00  00 00"), hex("01 00 62  00 00  00 00  00 00")}));
     CQVXAdminClass client(settings);
 
     EXPECT_TRUE(client.listProgramActions("p1"));
 
     EXPECT_EQ(client.programActions().size(), 1U);
+    ProgramActionRecord action;
+    EXPECT_EQ(thrownBy([&] { client.nextProgramAction(action); }), "invalid vector<T> subscript");
 }
 
 TEST_F(Alarms, everythingIsFalseAndEmptyWithoutAServer) {
