@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fuzz/PeerClock.h"
+#include "wire/NameLookup.h"
 #include "wire/Socket.h"
 
 namespace fuzz {
@@ -27,7 +28,9 @@ public:
     wire::SocketResult shutdown(wire::SocketHandle, int) override { return {}; }
     wire::SocketResult close(wire::SocketHandle) override { return {}; }
     std::uint32_t parseAddress(const std::string&) override { return 0x0100007F; }
-    wire::ResolveResult resolve(const std::string&) override { return {.result = 1}; }
+    std::unique_ptr<wire::NameLookup> resolve(const std::string&) override {
+        return std::make_unique<wire::KnownLookup>(wire::ResolveResult{.result = 1});
+    }
 
 private:
     enum class Ending : std::uint8_t { closes, resets, stalls, fails };

@@ -6,8 +6,8 @@
 // Lists that come into a cursor.
 namespace client {
 
-// A command with a list for a reply, which takes the place of what the cursor held; the cursor is empty when the command
-// throws. Change is made to each record. False when there is no connection or no count came.
+// A command with a list for a reply, which takes the place of what the cursor held; the cursor is empty when the
+// command throws. Change is made to each record. False when there is no connection or no count came.
 template <class R, class Request, class Change>
 bool fillCursor(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary,
                 Change&& change) {

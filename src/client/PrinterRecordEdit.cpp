@@ -84,7 +84,11 @@ bool PrinterRecordEdit::create() {
     auto reply = server_.createRecord(physicalPrinterId_, record_);
     const bool refused = server_.showRefusal(reply.status);
     record_.id = std::move(reply.id);
-    return !refused;
+    if (refused)
+        return false;
+    exists_ = true;
+    dirty_.reset(); // all that was set has gone out
+    return true;
 }
 
 // Sends the whole record once for each field that was set, all alike: a server is to see an update for each, so the

@@ -25,8 +25,8 @@ public:
     PrinterRecordEdit(const std::string& id, std::uint16_t recordType,
                       std::shared_ptr<CQVXAdminClassProperties> settings = theProperties);
 
-    // Creates the record, or updates it once for each field that was set. False when the server refused, which has been
-    // shown by then. Throws as CQVXAdminClass does.
+    // Creates the record, which is once; or updates it, once for each field that was set. False when the server
+    // refused, which has been shown by then. Throws as CQVXAdminClass does.
     bool save();
 
     [[nodiscard]] const protocol::PrinterRecord& record() const { return record_; }

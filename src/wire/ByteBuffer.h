@@ -40,7 +40,7 @@ public:
     std::uint8_t* extend(std::size_t count) {
         const std::uint64_t wanted = std::uint64_t{size_} + count;
         if (wanted > capacity_) {
-            grow(wanted > std::uint64_t{capacity_} * 2 ? wanted : doubled());
+            grow(std::max(wanted, doubled()));
         }
         std::uint8_t* const end = bytes_.get() + size_;
         size_ = static_cast<std::uint32_t>(wanted);

@@ -3,6 +3,7 @@
 #include "wire/Cancelled.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -71,10 +72,28 @@ std::unique_ptr<Message> CTrans::getMessage(wire::MessageKind kind) {
     return message;
 }
 
+// Makes an attempt that waits for a while until one of them gives something, or until the deadline; asks the observer
+// in between. Gives what the attempt gave.
+template <typename Attempt>
+auto CTrans::retryUntil(std::chrono::nanoseconds deadline, Attempt attempt) {
+    while (true) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - clock_.now());
+        auto outcome = attempt(std::clamp(left, std::chrono::milliseconds{0}, longestWait));
+        if (outcome) {
+            return outcome;
+        }
+        askObserver(clock_.now());
+        if (clock_.now() >= deadline) {
+            return outcome;
+        }
+    }
+}
+
 bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& logger) {
     const std::chrono::milliseconds limit =
         timeoutSeconds == 0 ? defaultConnectTimeout : std::chrono::seconds{timeoutSeconds};
     observedFrom_ = lastObserved_ = clock_.now();
+    const std::chrono::nanoseconds deadline = observedFrom_ + limit; // for the look-up and the attempt together
     if (!wsaStarted_ && !calls_.start()) {
         throw "WSAStartup failed";
     }
@@ -94,7 +113,7 @@ bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& log
     // A failure up to the attempt itself leaves the socket open; the destructor closes it.
     std::uint32_t address = calls_.parseAddress(host_);
     if (address == Socket::noAddress) {
-        address = resolveDNSl(host_, logger);
+        address = resolveDNSl(host_, deadline - clock_.now(), logger);
         if (address == 0) {
             log(logger, "CTrans::iSocketConnect resolveDNSl failed (" + host_ + ")", 0, failureLevel);
             return false;
@@ -115,11 +134,15 @@ bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& log
     if (attempt.fault != SocketFault::wouldBlock) {
         return failConnect("connect failed", attempt.error, logger);
     }
-    return finishConnect(limit, logger);
+    return finishConnect(deadline, logger);
 }
 
-bool CTrans::finishConnect(std::chrono::milliseconds limit, const TransLogger& logger) {
-    const ConnectState state = waitConnected(limit);
+bool CTrans::finishConnect(std::chrono::nanoseconds deadline, const TransLogger& logger) {
+    const auto decided = retryUntil(deadline, [&](std::chrono::milliseconds wait) {
+        const ConnectState state = calls_.waitConnected(socket_, wait);
+        return state.value != 0 ? std::optional(state) : std::nullopt;
+    });
+    const ConnectState state = decided.value_or(ConnectState{});
     if (state.value == -1) {
         return failConnect("select failed", state.error, logger);
     }
@@ -148,29 +171,15 @@ bool CTrans::failConnect(const std::string& what, std::int32_t code, const Trans
     return false;
 }
 
-ConnectState CTrans::waitConnected(std::chrono::milliseconds limit) {
-    const std::chrono::nanoseconds deadline = clock_.now() + limit;
-    std::chrono::milliseconds wait = std::min(limit, longestWait);
-    while (true) {
-        const ConnectState state = calls_.waitConnected(socket_, wait);
-        if (state.value != 0) {
-            return state;
-        }
-        askObserver(clock_.now());
-        const std::chrono::nanoseconds now = clock_.now();
-        if (now >= deadline) {
-            return state;
-        }
-        wait = std::min(std::chrono::ceil<std::chrono::milliseconds>(deadline - now), longestWait);
-    }
-}
-
-std::uint32_t CTrans::resolveDNSl(const std::string& host, const TransLogger& logger) {
+std::uint32_t CTrans::resolveDNSl(const std::string& host, std::chrono::nanoseconds limit, const TransLogger& logger) {
     if (host.empty()) {
         log(logger, "resolveDNSl unable to resolve empty string", 0, misuseLevel);
         return 0;
     }
-    const ResolveResult resolved = calls_.resolve(host);
+    const auto lookup = calls_.resolve(host);
+    const ResolveResult resolved = retryUntil(clock_.now() + limit, [&](std::chrono::milliseconds wait) {
+                                       return lookup->wait(wait);
+                                   }).value_or(ResolveResult{.result = wire::lookupTimedOut});
     if (resolved.result != 0) {
         log(logger, "resolveDNSl getaddrinfo failed (" + host + ")", resolved.result, failureLevel);
         return 0;

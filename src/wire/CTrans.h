@@ -48,8 +48,9 @@ public:
 
     bool iSocketConnect(std::uint32_t timeoutSeconds, const wire::TransLogger& logger);
 
-    // The address in network order, 0 when there is none.
-    [[nodiscard]] std::uint32_t resolveDNSl(const std::string& host, const wire::TransLogger& logger);
+    // The address in network order, 0 when there is none or the limit is up before the resolver answers.
+    [[nodiscard]] std::uint32_t resolveDNSl(const std::string& host, std::chrono::nanoseconds limit,
+                                            const wire::TransLogger& logger);
 
     // Reads until length bytes are there or the peer closed, and returns how many came: -1 after a socket error, -2
     // after the time-out, which is up when the current whole second is later than the first one plus the time-out. A
@@ -74,9 +75,10 @@ public:
     [[nodiscard]] std::uint32_t lastChecksum() const { return lastChecksum_; }
 
 private:
-    bool finishConnect(std::chrono::milliseconds limit, const wire::TransLogger& logger);
+    bool finishConnect(std::chrono::nanoseconds deadline, const wire::TransLogger& logger);
     bool failConnect(const std::string& what, std::int32_t code, const wire::TransLogger& logger);
-    [[nodiscard]] wire::ConnectState waitConnected(std::chrono::milliseconds limit);
+    template <typename Attempt>
+    auto retryUntil(std::chrono::nanoseconds deadline, Attempt attempt);
     [[nodiscard]] std::uint32_t takeReadAhead(std::uint8_t* buffer, std::uint32_t length);
     wire::SocketResult fillReadAhead();
     void askObserver(std::chrono::nanoseconds now);

@@ -83,7 +83,8 @@ std::string shortDate(const DateNumbers& numbers) {
 }
 
 std::string timeOfDay(const DateNumbers& numbers) {
-    if (numbers.hour > 23 || numbers.minute > 59 || numbers.second > 59) {
+    // A fraction is not shown, but one that is no number of milliseconds makes the text none of a time.
+    if (numbers.hour > 23 || numbers.minute > 59 || numbers.second > 59 || numbers.milliseconds > 999) {
         return {};
     }
     std::tm time{};

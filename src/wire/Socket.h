@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -32,6 +34,19 @@ struct ConnectState {
 struct ResolveResult {
     std::int32_t result = 0;
     std::uint32_t address = 0;
+};
+
+// Results of a look-up besides those of the resolver, as Windows numbers them.
+constexpr std::int32_t lookupTimedOut = 11002; // no answer in time
+constexpr std::int32_t lookupFailed = 11003;   // it could not even begin
+
+// A name that is being looked up. Destroying it gives the look-up up and waits for nothing.
+class NameLookup {
+public:
+    virtual ~NameLookup() = default;
+
+    // Waits until the look-up has ended, up to the limit; none when it has not. Its result is handed out once.
+    virtual std::optional<ResolveResult> wait(std::chrono::milliseconds limit) = 0;
 };
 
 // The socket calls of the platform, one function each, so that the order of steps and the time-outs are written once. A
@@ -74,7 +89,9 @@ public:
 
     // A dotted address in network order, or noAddress.
     [[nodiscard]] virtual std::uint32_t parseAddress(const std::string& text) = 0;
-    virtual ResolveResult resolve(const std::string& host) = 0;
+
+    // Begins to look a name up.
+    [[nodiscard]] virtual std::unique_ptr<NameLookup> resolve(const std::string& host) = 0;
 };
 
 // The one of this platform; stateless, usable from every thread.

@@ -1,3 +1,4 @@
+#include "wire/NameLookup.h"
 #include "wire/Socket.h"
 
 #include <arpa/inet.h>
@@ -46,6 +47,21 @@ SocketResult waitFor(int socket, short events, std::chrono::milliseconds limit) 
         return failed(EAGAIN);
     }
     return value == -1 ? failed(errno) : SocketResult{.value = value};
+}
+
+// Asks the resolver, for as long as that takes.
+ResolveResult addressOf(const std::string& host) {
+    addrinfo hints{};
+    hints.ai_family = AF_INET;
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    const int outcome = ::getaddrinfo(host.c_str(), nullptr, &hints, &found);
+    if (outcome != 0) {
+        return {.result = outcome};
+    }
+    const std::uint32_t address = reinterpret_cast<const sockaddr_in*>(found->ai_addr)->sin_addr.s_addr;
+    ::freeaddrinfo(found);
+    return {.address = address};
 }
 
 class PosixSocket final : public Socket {
@@ -127,18 +143,8 @@ public:
 
     std::uint32_t parseAddress(const std::string& text) override { return ::inet_addr(text.c_str()); }
 
-    ResolveResult resolve(const std::string& host) override {
-        addrinfo hints{};
-        hints.ai_family = AF_INET;
-        hints.ai_socktype = SOCK_STREAM;
-        addrinfo* found = nullptr;
-        const int outcome = ::getaddrinfo(host.c_str(), nullptr, &hints, &found);
-        if (outcome != 0) {
-            return {.result = outcome};
-        }
-        const std::uint32_t address = reinterpret_cast<const sockaddr_in*>(found->ai_addr)->sin_addr.s_addr;
-        ::freeaddrinfo(found);
-        return {.address = address};
+    std::unique_ptr<NameLookup> resolve(const std::string& host) override {
+        return std::make_unique<ThreadLookup>([host] { return addressOf(host); });
     }
 
 private:

@@ -1,3 +1,4 @@
+#include "wire/NameLookup.h"
 #include "wire/Socket.h"
 
 #include <winsock2.h>
@@ -33,6 +34,22 @@ timeval timeOf(std::chrono::milliseconds limit) {
 
 int sizeOf(std::size_t size) {
     return static_cast<int>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
+}
+
+// Asks the resolver, for as long as that takes.
+ResolveResult addressOf(const std::string& host) {
+    addrinfo hints{};
+    hints.ai_family = AF_INET;
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    const int outcome = ::getaddrinfo(host.c_str(), nullptr, &hints, &found);
+    if (outcome != 0) {
+        return {.result = outcome};
+    }
+    const auto address =
+        static_cast<std::uint32_t>(reinterpret_cast<const sockaddr_in*>(found->ai_addr)->sin_addr.s_addr);
+    ::freeaddrinfo(found);
+    return {.address = address};
 }
 
 class WinsockSocket final : public Socket {
@@ -111,19 +128,8 @@ public:
         return static_cast<std::uint32_t>(inet_addr(text.c_str()));
     }
 
-    ResolveResult resolve(const std::string& host) override {
-        addrinfo hints{};
-        hints.ai_family = AF_INET;
-        hints.ai_socktype = SOCK_STREAM;
-        addrinfo* found = nullptr;
-        const int outcome = ::getaddrinfo(host.c_str(), nullptr, &hints, &found);
-        if (outcome != 0) {
-            return {.result = outcome};
-        }
-        const auto address =
-            static_cast<std::uint32_t>(reinterpret_cast<const sockaddr_in*>(found->ai_addr)->sin_addr.s_addr);
-        ::freeaddrinfo(found);
-        return {.address = address};
+    std::unique_ptr<NameLookup> resolve(const std::string& host) override {
+        return std::make_unique<ThreadLookup>([host] { return addressOf(host); });
     }
 
 private:

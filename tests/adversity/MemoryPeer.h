@@ -2,6 +2,7 @@
 
 #include "tests/support/Bytes.h"
 #include "wire/Clock.h"
+#include "wire/NameLookup.h"
 #include "wire/Socket.h"
 
 #include <cstdint>
@@ -45,7 +46,9 @@ public:
     wire::SocketResult shutdown(wire::SocketHandle, int) override { return {}; }
     wire::SocketResult close(wire::SocketHandle) override { return {}; }
     [[nodiscard]] std::uint32_t parseAddress(const std::string&) override { return 0x0100007F; }
-    wire::ResolveResult resolve(const std::string&) override { return {}; }
+    std::unique_ptr<wire::NameLookup> resolve(const std::string&) override {
+        return std::make_unique<wire::KnownLookup>(wire::ResolveResult{});
+    }
 
     [[nodiscard]] std::chrono::nanoseconds now() override { return waited_; }
     void sleep(std::chrono::milliseconds) override {}

@@ -212,6 +212,35 @@ TEST_F(PrinterEdit, aNewQueueIsCreatedOnItsPrinterAndKeepsItsNewId) {
     EXPECT_TRUE(messages.boxes.empty());
 }
 
+TEST_F(PrinterEdit, aNewQueueThatIsSavedAgainIsNotCreatedASecondTime) {
+    answer({createdAs("03 00 6E 65 77"), accepted()});
+    PrinterRecordEdit edit(0, "p1", 1, settings);
+    edit.setName(u"q");
+    EXPECT_FALSE(edit.exists());
+    EXPECT_TRUE(edit.save());
+    EXPECT_TRUE(edit.exists());
+
+    EXPECT_TRUE(edit.save());
+    EXPECT_EQ(observer.ended.size(), 1U); // what was set has gone out with the new record
+    edit.setPort(9100);
+    EXPECT_TRUE(edit.save());
+
+    EXPECT_EQ(observer.ended.size(), 2U);
+    EXPECT_EQ(observer.ended.back().opcode, 10);
+}
+
+TEST_F(PrinterEdit, aRefusedCreationCanBeTriedAgain) {
+    answer({frame({dataMessage(hex("02 00 4E 00 02 00 54 00 30 00 00 00 00 00"))}), createdAs("03 00 6E 65 77")});
+    PrinterRecordEdit edit(12, "", 0, settings);
+    EXPECT_FALSE(edit.save());
+    EXPECT_FALSE(edit.exists());
+
+    EXPECT_TRUE(edit.save());
+
+    EXPECT_EQ(observer.ended.back().opcode, 9);
+    EXPECT_EQ(edit.record().id, "new");
+}
+
 TEST_F(PrinterEdit, aRefusedCreationIsShownAndSaveIsFalse) {
     answer({frame({dataMessage(hex("02 00 4E 00 02 00 54 00 30 00 00 00 00 00"))})});
     PrinterRecordEdit edit(12, "", 0, settings);
@@ -231,7 +260,7 @@ TEST_F(PrinterEdit, aCopyOfAPrinterIsCreatedAsANewPrinter) {
     fields[106] = 0x00; // recordType
     EXPECT_EQ(received(1), request(9, hex("00 00") + fields));
     EXPECT_EQ(edit.record().id, "new");
-    EXPECT_FALSE(edit.exists());
+    EXPECT_TRUE(edit.exists());
 }
 
 TEST_F(PrinterEdit, aCopyOfAQueueGoesOutUnderTheIdOfItsPrinter) {

@@ -144,9 +144,70 @@ TEST(CTransConnect, aFailedLookUpLeavesTheSocketToTheDestructor) {
         CTrans connection(socket, wire::steadyClock());
         connection.setHost("nowhere");
         EXPECT_FALSE(connection.connect(1, {}));
-        EXPECT_EQ(socket.calls.back(), "open");
+        EXPECT_EQ(socket.calls.back(), "resolve nowhere");
     }
     EXPECT_EQ(socket.calls.back(), "close");
+}
+
+TEST(CTransConnect, aResolverThatKeepsWaitingEndsWithTheTimeOutOfTheConnection) {
+    FaultySocket socket;
+    ManualClock clock;
+    std::vector<std::chrono::milliseconds> waits;
+    socket.onLookup = [&](std::chrono::milliseconds limit) {
+        waits.push_back(limit);
+        clock.time += limit;
+        return std::nullopt;
+    };
+    LogRecorder log;
+    CTrans connection(socket, clock);
+    connection.setHost("slow");
+
+    EXPECT_FALSE(connection.connect(1, log.logger()));
+
+    EXPECT_EQ(waits, std::vector<std::chrono::milliseconds>(20, 50ms));
+    EXPECT_EQ(log.lines, (Lines{"resolveDNSl getaddrinfo failed (slow) | 11002 | 2",
+                                "CTrans::iSocketConnect resolveDNSl failed (slow) | 0 | 2"}));
+    EXPECT_EQ(socket.calls.back(), "forget name");
+}
+
+TEST(CTransConnect, whatALookUpTakesIsTakenOffTheTimeOutOfTheAttempt) {
+    FaultySocket socket;
+    ManualClock clock;
+    socket.onLookup = [&](std::chrono::milliseconds) {
+        clock.time += 980ms;
+        return std::optional(wire::ResolveResult{.address = 0x0100007F});
+    };
+    socket.connected = wire::SocketResult{.value = -1, .fault = wire::SocketFault::wouldBlock};
+    socket.selected = wire::ConnectState{};
+    CTrans connection(socket, clock);
+    connection.setHost("slow");
+    CallbackObserver observer([&](std::chrono::milliseconds elapsed, std::uint32_t) {
+        clock.time += 20ms;
+        return elapsed == 980ms;
+    });
+    connection.setWaitObserver(&observer);
+
+    EXPECT_FALSE(connection.connect(1, {}));
+
+    EXPECT_EQ(observer.calls, 1);
+}
+
+TEST(CTransConnect, aPersonCanGiveUpALookUp) {
+    FaultySocket socket;
+    ManualClock clock;
+    socket.onLookup = [&](std::chrono::milliseconds limit) {
+        clock.time += limit;
+        return std::nullopt;
+    };
+    CallbackObserver observer([](std::chrono::milliseconds elapsed, std::uint32_t) { return elapsed < 150ms; });
+    CTrans connection(socket, clock);
+    connection.setHost("slow");
+    connection.setWaitObserver(&observer);
+
+    EXPECT_THROW(static_cast<void>(connection.connect(10, {})), wire::Cancelled);
+
+    EXPECT_EQ(observer.calls, 3);
+    EXPECT_EQ(socket.calls.back(), "forget name");
 }
 
 TEST(CTransConnect, aLibraryThatDoesNotStartIsThrown) {

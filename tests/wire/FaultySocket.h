@@ -1,10 +1,12 @@
 #pragma once
 
+#include "wire/NameLookup.h"
 #include "wire/Socket.h"
 
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -73,7 +75,13 @@ public:
         return closed ? *closed : result;
     }
     std::uint32_t parseAddress(const std::string& text) override { return real_.parseAddress(text); }
-    wire::ResolveResult resolve(const std::string& host) override { return resolved ? *resolved : real_.resolve(host); }
+    std::unique_ptr<wire::NameLookup> resolve(const std::string& host) override {
+        calls.push_back("resolve " + host);
+        if (onLookup) {
+            return std::make_unique<Lookup>(*this);
+        }
+        return resolved ? std::make_unique<wire::KnownLookup>(*resolved) : real_.resolve(host);
+    }
 
     bool starts = true;
     std::optional<wire::SocketResult> opened, madeBlocking, madeNonBlocking, connected, received, sent, shutDown,
@@ -82,8 +90,25 @@ public:
     std::optional<wire::ResolveResult> resolved;
     std::deque<std::vector<std::uint8_t>> arrivals; // received before anything else
     std::function<void()> onReceive;
+    // What a wait for a name gives, instead of the resolver's answer.
+    std::function<std::optional<wire::ResolveResult>(std::chrono::milliseconds limit)> onLookup;
     std::vector<std::string> calls;
 
 private:
+    class Lookup final : public wire::NameLookup {
+    public:
+        explicit Lookup(FaultySocket& socket) : socket_(socket) {}
+        ~Lookup() override { socket_.calls.emplace_back("forget name"); }
+        Lookup(const Lookup&) = delete;
+        Lookup& operator=(const Lookup&) = delete;
+
+        std::optional<wire::ResolveResult> wait(std::chrono::milliseconds limit) override {
+            return socket_.onLookup(limit);
+        }
+
+    private:
+        FaultySocket& socket_;
+    };
+
     wire::Socket& real_ = wire::platformSocket();
 };

@@ -62,6 +62,14 @@ TEST_F(WireDate, numbersThatNoClockHasComeBackUnchanged) {
     }
 }
 
+TEST_F(WireDate, aFractionThatIsNoNumberOfMillisecondsComesBackUnchanged) {
+    EXPECT_EQ(formatWireDate("2014-03-05 17:04:09.999"), "03/05/14 17:04:09");
+    for (const char* const text :
+         {"2014-03-05 17:04:09.1000", "2014-03-05 17:04:09.250000", "2014-03-05 17:04:09.-1"}) {
+        EXPECT_EQ(formatWireDate(text), text);
+    }
+}
+
 TEST_F(WireDate, aNumberFarTooLargeComesBackUnchanged) {
     EXPECT_EQ(formatWireDate("99999999999999999999-03-05 17:04:09"), "99999999999999999999-03-05 17:04:09");
 }
