@@ -16,10 +16,8 @@ constexpr bool isDigit(char16_t unit) {
 }
 
 char16_t plainLetter(char16_t unit) {
-    if (unit < 0x80) { // nearly all of them
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
-    }
-    return baseLetter(wire::foldCase(unit));
+    const char16_t folded = wire::foldCase(unit);
+    return folded < 0x80 ? folded : baseLetter(folded); // nearly all of them are below
 }
 
 char16_t* writeKey(wire::WideStringView text, char16_t* out) {

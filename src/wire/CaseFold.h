@@ -1,13 +1,28 @@
 #pragma once
 
-#include <string_view>
+#include "wire/Text.h"
 
+// The one way in which texts are compared without regard to case: the simple case folding of Unicode 14, the same on
+// every platform and in every locale, because keys made by it are kept in databases.
+//
+// A unit folds to one unit, so that a text keeps its length. "ß" and "ẞ" are the same letter, and not "ss". All three
+// sigmas are one. "I" is "i" for Turkish users too, and their "İ" and "ı" are letters of their own, which are not
+// folded. Accents count. Letters outside of the basic plane, which take two units, keep their case.
 namespace wire {
 
-// One UTF-16 unit without its case, for the Latin, Greek and Cyrillic letters that have a single counterpart.
-char16_t foldCase(char16_t unit);
+[[nodiscard]] char16_t foldCaseBeyondAscii(char16_t unit);
+
+// One unit without its case.
+[[nodiscard]] inline char16_t foldCase(char16_t unit) {
+    if (unit < 0x80) { // nearly all of them
+        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
+    }
+    return foldCaseBeyondAscii(unit);
+}
+
+[[nodiscard]] WideString foldCase(WideStringView text);
 
 // How texts stand in a sorted list: by their units, without regard to case. Below 0, 0, or above 0.
-int compareIgnoringCase(std::u16string_view left, std::u16string_view right);
+[[nodiscard]] int compareIgnoringCase(WideStringView left, WideStringView right);
 
 } // namespace wire

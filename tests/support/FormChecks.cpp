@@ -63,11 +63,6 @@ public:
     void visit(TreeView& /*control*/) override {}
 };
 
-wire::WideString withoutCase(wire::WideString text) {
-    std::ranges::transform(text, text.begin(), wire::foldCase);
-    return text;
-}
-
 } // namespace
 
 void expectSound(Form& form) {
@@ -97,7 +92,7 @@ void expectSound(Form& form) {
             ADD_FAILURE() << "a control without a label";
             continue;
         }
-        EXPECT_TRUE(names.insert(withoutCase(fullName(*control))).second) << "two with this label";
+        EXPECT_TRUE(names.insert(wire::foldCase(fullName(*control))).second) << "two with this label";
         const auto found = findControls(form, fullName(*control));
         EXPECT_NE(std::ranges::find(found, control), found.end()) << "not found by its name";
     }

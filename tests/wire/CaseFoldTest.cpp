@@ -2,8 +2,15 @@
 
 #include <gtest/gtest.h>
 
-namespace wire {
+#include <cstdint>
+
+#include <locale.h>
+#include <wctype.h>
+
 namespace {
+
+using wire::compareIgnoringCase;
+using wire::foldCase;
 
 TEST(CaseFold, lettersOfTheUsualScriptsLoseTheirCase) {
     EXPECT_EQ(foldCase(u'A'), u'a');
@@ -24,6 +31,57 @@ TEST(CaseFold, whatHasNoCaseStays) {
     }
 }
 
+TEST(CaseFold, aSmallLetterWithItsCapitalInAnotherBlockFoldsAlike) {
+    EXPECT_EQ(foldCase(u'Ÿ'), foldCase(u'ÿ'));
+    EXPECT_EQ(foldCase(u'ẞ'), foldCase(u'ß'));
+    EXPECT_EQ(foldCase(u'Ɛ'), foldCase(u'ɛ'));
+    EXPECT_EQ(foldCase(u'Ａ'), foldCase(u'ａ'));
+}
+
+TEST(CaseFold, theTurkishLettersWithAndWithoutADotAreLettersOfTheirOwn) {
+    EXPECT_EQ(foldCase(u'I'), u'i');
+    EXPECT_EQ(foldCase(u'İ'), u'İ');
+    EXPECT_EQ(foldCase(u'ı'), u'ı');
+}
+
+TEST(CaseFold, greekLettersFoldAlikeWhereverTheyStandAndWithTheirAccents) {
+    EXPECT_EQ(foldCase(u"ΣΊΣΥΦΟΣ"), foldCase(u"σίσυφος"));
+    EXPECT_EQ(foldCase(u'Ώ'), u'ώ');
+    EXPECT_NE(foldCase(u'ώ'), foldCase(u'ω'));
+    EXPECT_EQ(foldCase(u'\u1F88'), u'\u1F80');
+    EXPECT_EQ(foldCase(u'\u00B5'), u'μ') << "the sign of a millionth";
+}
+
+TEST(CaseFold, aTextKeepsItsLength) {
+    EXPECT_EQ(foldCase(u"STRAẞE \U00010400"), u"straße \U00010400");
+}
+
+TEST(CaseFold, foldingAgainChangesNothing) {
+    for (std::uint32_t number = 0; number <= 0xFFFF; ++number) {
+        const auto unit = static_cast<char16_t>(number);
+        EXPECT_EQ(foldCase(foldCase(unit)), foldCase(unit)) << number;
+    }
+}
+
+#ifndef _WIN32
+// The C library's table of another kind: what it takes for a capital and a small letter is one letter here, too.
+TEST(CaseFold, agreesWithThePlatform) {
+    locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    ASSERT_NE(unicode, nullptr);
+    int letters = 0;
+    for (std::uint32_t number = 0; number <= 0xFFFF; ++number) {
+        const auto unit = static_cast<char16_t>(number);
+        const auto small = static_cast<char16_t>(towlower_l(number, unicode));
+        if (small != unit && unit != u'İ') {
+            ++letters;
+            EXPECT_EQ(foldCase(unit), foldCase(small)) << number;
+        }
+    }
+    freelocale(unicode);
+    EXPECT_GT(letters, 1000);
+}
+#endif
+
 TEST(CaseFold, textsCompareByTheirUnitsWithoutCase) {
     EXPECT_EQ(compareIgnoringCase(u"Printer", u"pRINTER"), 0);
     EXPECT_LT(compareIgnoringCase(u"apple", u"Banana"), 0);
@@ -35,4 +93,3 @@ TEST(CaseFold, textsCompareByTheirUnitsWithoutCase) {
 }
 
 } // namespace
-} // namespace wire

@@ -46,8 +46,8 @@ TEST(NameLookup, thatIsGivenUpEndsByItselfAndLeavesNothingBehind) {
         std::promise<void>& ended;
         ~Held() { ended.set_value(); }
     };
-    auto lookup = std::make_unique<ThreadLookup>(
-        [answer = server.get_future().share(), held = std::make_shared<Held>(ended)] {
+    auto lookup =
+        std::make_unique<ThreadLookup>([answer = server.get_future().share(), held = std::make_shared<Held>(ended)] {
             answer.wait();
             return ResolveResult{};
         });
