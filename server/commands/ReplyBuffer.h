@@ -7,8 +7,8 @@
 
 namespace server {
 
-// What goes out to a console, as the finished bytes of frames that hold one Data message each. Wide text goes out as
-// the units that are stored.
+// A sink of fields: what goes out to a console, as the finished bytes of frames that hold one Data message each. Wide
+// text goes out as the units that are stored.
 class ReplyBuffer {
 public:
     [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {bytes_.data(), bytes_.size()}; }
@@ -32,31 +32,19 @@ public:
 
     template <class Value>
     void put(const Value& value) {
-        if constexpr (protocol::Record<Value>) {
-            protocol::forEachField(value, [&](std::string_view, const auto& member) { put(member); });
-        } else if constexpr (std::same_as<Value, std::string>) {
-            putCounted(value.data(), value.size());
-        } else if constexpr (std::same_as<Value, wire::WideString>) {
-            putCounted(value.data(), value.size() * 2);
-        } else if constexpr (std::same_as<Value, bool>) {
-            bytes_.appendValue(static_cast<std::uint8_t>(value ? 1 : 0));
-        } else if constexpr (std::same_as<Value, wire::Uuid>) {
-            const auto characters = wire::uuidCharacters(value);
-            putCounted(characters.data(), characters.size());
-        } else if constexpr (protocol::detail::isOptional<Value>) {
-            put(value.has_value());
-            if (value)
-                put(*value);
-        } else if constexpr (protocol::detail::isList<Value>) {
-            put(static_cast<std::uint16_t>(value.size()));
-            for (const auto& element : value)
-                put(element);
-        } else if constexpr (std::same_as<Value, std::int64_t>) {
-            bytes_.appendValue(static_cast<std::uint32_t>(value)); // the wire carries the low 32 bits
-        } else {
-            static_assert(std::is_arithmetic_v<Value>);
-            bytes_.appendValue(value);
-        }
+        wire::FieldTraits<Value>::put(*this, value);
+    }
+
+    // What a sink of fields takes.
+    template <class Number>
+    void number(Number value) {
+        bytes_.appendValue(value);
+    }
+    void text(std::string_view value) { putCounted(value.data(), value.size()); }
+    void text(wire::WideStringView value) { putCounted(value.data(), value.size() * 2); }
+    void uuid(const wire::Uuid& value) {
+        const auto characters = wire::uuidCharacters(value);
+        putCounted(characters.data(), characters.size());
     }
 
     // The present row as a record of this type, its columns in the order of the fields.
@@ -70,25 +58,24 @@ public:
 private:
     template <class Value>
     void putColumn(const Rows& rows, int column) {
-        if constexpr (protocol::detail::isOptional<Value>) {
+        using Traits = wire::FieldTraits<Value>;
+        if constexpr (Traits::kind == wire::FieldKind::optional) {
             put(!rows.isNull(column));
             if (!rows.isNull(column))
-                putColumn<typename Value::value_type>(rows, column);
-        } else if constexpr (std::same_as<Value, std::string> || std::same_as<Value, wire::Uuid>) {
-            const auto text = rows.text(column);
-            putCounted(text.data(), text.size());
-        } else if constexpr (std::same_as<Value, wire::WideString>) {
-            const auto text = rows.bytes(column);
-            putCounted(text.data(), text.size());
-        } else if constexpr (std::same_as<Value, bool>) {
-            bytes_.appendValue(static_cast<std::uint8_t>(rows.number(column) != 0 ? 1 : 0));
-        } else if constexpr (std::same_as<Value, float>) {
-            bytes_.appendValue(static_cast<float>(rows.real(column)));
-        } else if constexpr (std::same_as<Value, std::int64_t>) {
-            put(rows.number(column));
+                putColumn<typename Traits::Element>(rows, column);
+        } else if constexpr (Traits::kind == wire::FieldKind::str8 || Traits::kind == wire::FieldKind::uuid) {
+            text(rows.text(column));
+        } else if constexpr (Traits::kind == wire::FieldKind::str16) {
+            const auto units = rows.bytes(column);
+            putCounted(units.data(), units.size());
+        } else if constexpr (Traits::kind == wire::FieldKind::bool8) {
+            put(rows.number(column) != 0);
+        } else if constexpr (Traits::kind == wire::FieldKind::f32) {
+            put(static_cast<float>(rows.real(column)));
         } else {
-            static_assert(std::integral<Value>, "a column holds one value");
-            bytes_.appendValue(static_cast<Value>(rows.number(column)));
+            static_assert(
+                requires { typename Traits::Number; }, "a column holds one value");
+            number(static_cast<typename Traits::Number>(rows.number(column)));
         }
     }
 
@@ -107,7 +94,7 @@ constexpr std::uint32_t largestReceivableFrame = 65535;
 // The bytes that a record takes as the only message of a frame.
 template <protocol::Record R>
 [[nodiscard]] std::size_t frameDataSize(const R& record) {
-    return wire::Message::headerSize + std::size_t{protocol::encodedSize(record)};
+    return wire::Message::headerSize + wire::plainSize(record);
 }
 
 } // namespace server

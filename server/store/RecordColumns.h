@@ -47,7 +47,7 @@ int bindFields(Query& query, const R& record, int index = 1) {
 // The value of a column of the present row.
 template <class Value>
 void readColumn(const Rows& rows, int column, Value& value) {
-    if constexpr (protocol::detail::isOptional<Value>) {
+    if constexpr (wire::FieldTraits<Value>::kind == wire::FieldKind::optional) {
         value.reset();
         if (!rows.isNull(column))
             readColumn(rows, column, value.emplace());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "wire/Text.h"
+#include "wire/WireUuid.h"
 
 #include <array>
 #include <cstdint>
@@ -9,9 +10,9 @@
 
 namespace protocol {
 
-// Writes fields into memory that is known to be large enough, in the form that wire::Message gives them. It copies wide
-// text as it stands and notices when the conversion of the wire would have changed a text: what was written is then of
-// no use. Several times faster than one append for each field, since the texts of a record are short.
+// A sink for fields in memory that is known to be large enough, in the form that wire::Message gives them. It copies
+// wide text as it stands and notices when the conversion of the wire would have changed a text: what was written is
+// then of no use. Several times faster than one append for each field, since the texts of a record are short.
 class PlainWriter {
 public:
     explicit PlainWriter(std::uint8_t* to) : at_(to) {}
@@ -34,6 +35,11 @@ public:
         std::uint8_t* const to = putCount(value.size());
         copy(to, value.data(), value.size());
         at_ = to + value.size();
+    }
+
+    void uuid(const wire::Uuid& value) {
+        const auto characters = wire::uuidCharacters(value);
+        text(std::string_view(characters.data(), characters.size()));
     }
 
     void text(wire::WideStringView value) {

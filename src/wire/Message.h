@@ -63,7 +63,7 @@ public:
 
     // Room for so many bytes more at the end of a message under construction, for the caller to fill at once; none at
     // all once the message is rewound.
-    [[nodiscard]] std::span<std::uint8_t> extend(std::uint32_t count) {
+    [[nodiscard]] std::span<std::uint8_t> extend(std::size_t count) {
         return rewound_ ? std::span<std::uint8_t>() : std::span(buffer_.extend(count), count);
     }
 

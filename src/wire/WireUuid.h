@@ -16,9 +16,11 @@ using Uuid = boost::uuids::uuid;
 // A random (version 4) id, for records that are made here.
 [[nodiscard]] Uuid randomUuid();
 
+constexpr std::size_t uuidLength = 36;
+
 // The 36 lower-case characters of an id.
 [[nodiscard]] std::string toText(const Uuid& uuid);
-[[nodiscard]] std::array<char, 36> uuidCharacters(const Uuid& uuid);
+[[nodiscard]] std::array<char, uuidLength> uuidCharacters(const Uuid& uuid);
 
 // Takes upper and lower case, dashes at their places or nowhere, and braces around; throws std::runtime_error
 // "invalid uuid string" for anything else, an empty text included.

@@ -164,7 +164,7 @@ TEST(WireOrder, aUuidThatIsNoneThrowsInvalidUuidString) {
 }
 
 TEST(WireOrder, theSizeToReserveCountsAUuidAsThirtyTwo) {
-    EXPECT_EQ(encodedSize(sample()), 0x5DU - 5U - 6U);
+    EXPECT_EQ(wire::encodedSize(sample()), 0x5DU - 5U - 6U);
 }
 
 TEST(WireOrder, aMessageIsBuiltWithASingleAllocation) {

@@ -132,7 +132,7 @@ TEST(RecordService, aRecordTooLongToBeReceivedIsRefusedAndOneThatJustFitsIsTaken
     TestEstate place;
     const auto north = place.addRegion(u"North");
     auto record = named(u"P", north);
-    const auto fixed = protocol::encodedSize(record) + 36; // with the id that it will get
+    const auto fixed = wire::plainSize(record) + 36; // with the id that it will get
     record.auxKey = std::string(65535 - 5 - fixed + 1, 'x');
     EXPECT_FALSE(isDone(place.recordService().create({.physicalPrinterId = {}, .record = record}).status));
     record.auxKey.pop_back();
