@@ -1,7 +1,7 @@
 #include "bench/Goals.h"
 #include "bench/PrinterRecord.pb.h"
 #include "bench/SampleRecord.h"
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 #include "wire/Frame.h"
 #include "wire/Message.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 
 #include <string>
 

@@ -1,9 +1,8 @@
 #include "hosts/ctl/WriteCheck.h"
 
 #include "hosts/ctl/Failure.h"
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/DeleteRecordRequest.h"
-#include "protocol/DeleteRegionRequest.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 
 #include <utility>
 

@@ -1,9 +1,7 @@
 #include "server/alarms/AlarmHandlers.h"
 
-#include "protocol/alarms/AlarmActionRecord.h"
-#include "protocol/alarms/AlarmDestinationRecord.h"
-#include "protocol/alarms/AlarmEventRecord.h"
-#include "protocol/alarms/ProgramActionRecord.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/ProgramAction.h"
 #include "server/alarms/AlarmProgramService.h"
 #include "server/alarms/AlarmProgramTable.h"
 #include "server/alarms/EmailRecipientService.h"

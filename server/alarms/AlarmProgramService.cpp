@@ -1,6 +1,6 @@
 #include "server/alarms/AlarmProgramService.h"
 
-#include "protocol/alarms/AlarmProgramKind.h"
+#include "protocol/alarms/AlarmProgram.h"
 #include "server/alarms/AlarmProgramTable.h"
 #include "server/alarms/EmailRecipientTable.h"
 #include "server/alarms/ProgramActionTable.h"

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "protocol/alarms/AddProgramActionRequest.h"
-#include "protocol/alarms/DeleteProgramActionRequest.h"
-#include "protocol/alarms/WriteAlarmProgramReply.h"
-#include "protocol/alarms/WriteAlarmProgramRequest.h"
+#include "protocol/alarms/AlarmProgram.h"
+#include "protocol/alarms/ProgramAction.h"
 #include "server/commands/Change.h"
 
 namespace server {

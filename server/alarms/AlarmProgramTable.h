@@ -1,7 +1,6 @@
 #pragma once
 
-#include "protocol/alarms/AlarmProgramRecord.h"
-#include "protocol/alarms/ListAlarmProgramsRequest.h"
+#include "protocol/alarms/AlarmProgram.h"
 #include "server/store/ListQuery.h"
 
 namespace server {

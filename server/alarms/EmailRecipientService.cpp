@@ -1,6 +1,6 @@
 #include "server/alarms/EmailRecipientService.h"
 
-#include "protocol/alarms/ProgramActionRecord.h"
+#include "protocol/alarms/ProgramAction.h"
 #include "server/alarms/EmailRecipientTable.h"
 #include "server/commands/Refusal.h"
 #include "server/commands/ReplyBuffer.h"

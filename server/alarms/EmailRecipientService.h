@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/alarms/SetRecipientActiveRequest.h"
-#include "protocol/alarms/WriteEmailRecipientRequest.h"
+#include "protocol/alarms/EmailRecipient.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

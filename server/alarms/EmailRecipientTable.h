@@ -1,7 +1,6 @@
 #pragma once
 
-#include "protocol/alarms/EmailRecipientRecord.h"
-#include "protocol/alarms/ListEmailRecipientsRequest.h"
+#include "protocol/alarms/EmailRecipient.h"
 #include "server/store/ListQuery.h"
 
 namespace server {

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "protocol/alarms/AddProgramActionRequest.h"
-#include "protocol/alarms/ListAlarmActionsRequest.h"
-#include "protocol/alarms/ListAlarmDestinationsRequest.h"
-#include "protocol/alarms/ListAlarmEventsRequest.h"
-#include "protocol/alarms/ListProgramActionsRequest.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/ProgramAction.h"
 #include "server/store/ListQuery.h"
 
 namespace server {

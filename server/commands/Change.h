@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/store/StoreConnection.h"
 

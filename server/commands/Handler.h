@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/CreateRecordReply.h"
+#include "protocol/estate/Printer.h"
 #include "server/commands/Change.h"
 #include "server/commands/ListStream.h"
 #include "server/commands/RequestReader.h"

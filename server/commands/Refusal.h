@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
+#include "protocol/estate/StatusReply.h"
 
 namespace server {
 

@@ -1,12 +1,7 @@
 #include "server/configurations/ConfigurationHandlers.h"
 
-#include "protocol/configurations/ConfigQueueRecord.h"
-#include "protocol/configurations/ListConfigurationChoicesRequest.h"
-#include "protocol/configurations/ListConfigurationQueuesRequest.h"
-#include "protocol/configurations/ListConfigurationsRequest.h"
-#include "protocol/configurations/ListQueueConfigurationsRequest.h"
-#include "protocol/configurations/QueueConfigChoice.h"
-#include "protocol/configurations/QueueConfigEntry.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
 #include "server/configurations/ConfigurationService.h"
 
 namespace server {

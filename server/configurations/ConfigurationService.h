@@ -1,11 +1,8 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
-#include "protocol/configurations/ApplyQueueConfigurationRequest.h"
-#include "protocol/configurations/DeleteConfigurationRequest.h"
-#include "protocol/configurations/RemoveConfigurationFromQueueRequest.h"
-#include "protocol/configurations/SetConfigurationCommentRequest.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/configurations/ConfigurationTable.h"
 #include "server/configurations/QueueConfigurationTable.h"
 #include "server/store/StoreConnection.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/configurations/ConfigurationRecord.h"
+#include "protocol/configurations/Configuration.h"
 #include "server/store/ListQuery.h"
 
 #include <optional>

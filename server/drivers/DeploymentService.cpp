@@ -1,7 +1,6 @@
 #include "server/drivers/DeploymentService.h"
 
-#include "protocol/drivers/DriverDeploymentRecord.h"
-#include "protocol/drivers/InstallMethod.h"
+#include "protocol/drivers/DriverDeployment.h"
 #include "server/commands/Refusal.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/drivers/YesOrNo.h"

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/drivers/AddDriverDeploymentRequest.h"
-#include "protocol/drivers/RemoveDriverDeploymentRequest.h"
-#include "protocol/drivers/UpdateDriverDeploymentRequest.h"
+#include "protocol/drivers/DriverDeployment.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/configurations/QueueConfigurationTable.h"
 #include "server/drivers/DeploymentTable.h"
 #include "server/drivers/DriverModelTable.h"

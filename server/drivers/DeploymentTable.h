@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/drivers/OperatingSystemRecord.h"
+#include "protocol/drivers/OperatingSystem.h"
 #include "server/store/ListQuery.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "server/drivers/DriverModelTable.h"
 
-#include "protocol/drivers/DriverModelList.h"
+#include "protocol/drivers/DriverModel.h"
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
 

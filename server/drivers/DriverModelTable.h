@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/drivers/DriverModelRecord.h"
+#include "protocol/drivers/DriverModel.h"
 #include "server/store/ListQuery.h"
 
 #include <cstdint>

@@ -1,13 +1,8 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/drivers/AddAlternateDriverRequest.h"
-#include "protocol/drivers/AddBuiltInDriverRequest.h"
-#include "protocol/drivers/AddDriverModelRequest.h"
-#include "protocol/drivers/DeleteDriverRequest.h"
-#include "protocol/drivers/RemoveAlternateDriverRequest.h"
-#include "protocol/drivers/SetDriverModelVisibleRequest.h"
-#include "protocol/drivers/SetModelOctetOrderRequest.h"
+#include "protocol/drivers/Driver.h"
+#include "protocol/drivers/DriverModel.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/drivers/DriverModelTable.h"
 #include "server/drivers/DriverTable.h"
 #include "server/store/StoreConnection.h"

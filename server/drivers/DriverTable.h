@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/drivers/DriverRecord.h"
+#include "protocol/drivers/Driver.h"
 #include "server/store/ListQuery.h"
 
 #include <optional>

@@ -1,7 +1,6 @@
 #include "server/estate/EstateHandlers.h"
 
-#include "protocol/GetStatusOctetOrderReply.h"
-#include "protocol/GetStatusOctetOrderRequest.h"
+#include "protocol/estate/Printer.h"
 #include "server/estate/RecordService.h"
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionListStream.h"

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "protocol/CreateRecordReply.h"
-#include "protocol/CreateRecordRequest.h"
-#include "protocol/DeleteRecordRequest.h"
-#include "protocol/MovePrinterRequest.h"
-#include "protocol/SetStatusOctetOrderRequest.h"
-#include "protocol/UpdateRecordRequest.h"
+#include "protocol/estate/Printer.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

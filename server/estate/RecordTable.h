@@ -1,7 +1,6 @@
 #pragma once
 
-#include "protocol/ListPrinterRecordsRequest.h"
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 #include "server/store/Query.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/ListRegionsRequest.h"
+#include "protocol/estate/Region.h"
 #include "server/commands/ReplyStream.h"
 
 namespace server {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 #include "server/estate/SampleRandom.h"
 #include "server/store/StoreConnection.h"
 

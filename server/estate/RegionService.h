@@ -1,10 +1,7 @@
 #pragma once
 
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/DeleteRegionRequest.h"
-#include "protocol/MoveRegionRequest.h"
-#include "protocol/RenameRegionRequest.h"
-#include "protocol/StatusReply.h"
+#include "protocol/estate/Region.h"
+#include "protocol/estate/StatusReply.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/RegionRecord.h"
+#include "protocol/estate/Region.h"
 #include "server/store/Query.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "server/inventory/FoundModelList.h"
 
-#include "protocol/inventory/ModelListKind.h"
+#include "protocol/inventory/InventoryModel.h"
 
 namespace server {
 

@@ -1,8 +1,8 @@
 #include "server/inventory/FoundPrinterList.h"
 
-#include "protocol/inventory/FoundListKind.h"
-#include "protocol/inventory/RangeType.h"
-#include "protocol/inventory/SchemaAction.h"
+#include "protocol/inventory/InventoryPrinter.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 #include "server/inventory/OwnPrinters.h"
 #include "server/inventory/PlanCover.h"
 

@@ -1,8 +1,8 @@
 #include "server/inventory/InventorySample.h"
 
-#include "protocol/inventory/RangeType.h"
-#include "protocol/inventory/ReportType.h"
-#include "protocol/inventory/SchemaAction.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 #include "server/estate/SampleNames.h"
 #include "server/inventory/InventoryScan.h"
 #include "server/inventory/IpRangeTable.h"

@@ -1,7 +1,7 @@
 #include "server/inventory/InventoryScan.h"
 
-#include "protocol/inventory/RangeType.h"
-#include "protocol/inventory/ReportType.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
 #include "server/inventory/IpRangeTable.h"
 #include "server/inventory/OldEstateTable.h"
 #include "server/inventory/OwnPrinters.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/inventory/ChangeIpRangeRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/inventory/IpRange.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/inventory/IpRangeRecord.h"
+#include "protocol/inventory/IpRange.h"
 #include "server/inventory/RangeMap.h"
 #include "server/store/ListQuery.h"
 

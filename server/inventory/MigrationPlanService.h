@@ -1,7 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/inventory/ChangeSchemaRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/inventory/Schema.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/inventory/SchemaRecord.h"
+#include "protocol/inventory/Schema.h"
 #include "server/store/ListQuery.h"
 
 #include <optional>

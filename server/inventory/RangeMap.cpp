@@ -1,6 +1,6 @@
 #include "server/inventory/RangeMap.h"
 
-#include "protocol/inventory/RangeType.h"
+#include "protocol/inventory/IpRange.h"
 
 #include <algorithm>
 #include <map>

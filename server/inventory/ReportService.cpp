@@ -1,6 +1,6 @@
 #include "server/inventory/ReportService.h"
 
-#include "protocol/inventory/ReportType.h"
+#include "protocol/inventory/InventoryReport.h"
 #include "server/commands/Refusal.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/inventory/InventoryScan.h"

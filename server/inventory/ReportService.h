@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/inventory/CreateInventoryReportRequest.h"
-#include "protocol/inventory/DeleteInventoryReportRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/inventory/InventoryReport.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

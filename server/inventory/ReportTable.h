@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/inventory/InventoryReportRecord.h"
+#include "protocol/inventory/InventoryReport.h"
 #include "server/inventory/ReportPeriod.h"
 #include "server/store/ListQuery.h"
 

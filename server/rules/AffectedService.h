@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/DeleteAffectedRequest.h"
-#include "protocol/rules/WriteAffectedRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/Affected.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "protocol/rules/AffectedRecord.h"
-#include "protocol/rules/PageLimitName.h"
-#include "protocol/rules/PageLimitRecord.h"
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/RuleGroupRecord.h"
-#include "protocol/rules/ShortIdRecord.h"
-#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleGroup.h"
+#include "protocol/rules/ShortId.h"
+#include "protocol/rules/UserMessage.h"
 #include "server/store/ListQuery.h"
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"

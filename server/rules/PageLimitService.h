@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/DeletePageLimitRequest.h"
-#include "protocol/rules/WritePageLimitRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/PageLimit.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

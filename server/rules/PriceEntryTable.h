@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlan.h"
 #include "server/store/ListQuery.h"
 
 #include <span>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/DeletePricePlanRequest.h"
-#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/PricePlan.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

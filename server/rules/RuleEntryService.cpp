@@ -1,6 +1,6 @@
 #include "server/rules/RuleEntryService.h"
 
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
 #include "server/rules/NamedTable.h"

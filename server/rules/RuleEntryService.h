@@ -1,9 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/AddRuleEntryRequest.h"
-#include "protocol/rules/RemoveRuleEntryRequest.h"
-#include "protocol/rules/UpdateRuleEntryRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/RuleEntry.h"
 #include "server/rules/RuleEntryTable.h"
 #include "server/store/StoreConnection.h"
 

@@ -1,6 +1,6 @@
 #include "server/rules/RuleEntryTable.h"
 
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 
 #include <fmt/format.h>
 

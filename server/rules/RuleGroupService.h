@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/DeleteRuleGroupRequest.h"
-#include "protocol/rules/WriteRuleGroupRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/RuleGroup.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

@@ -1,7 +1,7 @@
 #include "server/rules/RuleSample.h"
 
-#include "protocol/RecordType.h"
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/rules/RuleEntry.h"
 #include "server/estate/SampleNames.h"
 #include "server/rules/NamedTable.h"
 #include "server/rules/PriceEntryTable.h"

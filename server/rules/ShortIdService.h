@@ -1,9 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/AddShortIdRequest.h"
-#include "protocol/rules/DeleteShortIdRequest.h"
-#include "protocol/rules/UpdateShortIdRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/ShortId.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

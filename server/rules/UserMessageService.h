@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/StatusReply.h"
-#include "protocol/rules/DeleteUserMessageRequest.h"
-#include "protocol/rules/WriteUserMessageRequest.h"
+#include "protocol/estate/StatusReply.h"
+#include "protocol/rules/UserMessage.h"
 #include "server/store/StoreConnection.h"
 
 namespace server {

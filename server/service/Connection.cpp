@@ -1,8 +1,7 @@
 #include "server/service/Connection.h"
 
 #include "protocol/Catalogue.h"
-#include "protocol/GetPublicKeyRequest.h"
-#include "protocol/LoginRequest.h"
+#include "protocol/estate/Login.h"
 #include "server/commands/Handler.h"
 #include "server/commands/Refusal.h"
 #include "server/log/Log.h"

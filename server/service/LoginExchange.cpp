@@ -1,9 +1,6 @@
 #include "server/service/LoginExchange.h"
 
-#include "protocol/GetPublicKeyReply.h"
-#include "protocol/LoginReply.h"
-#include "protocol/LoginRequest.h"
-#include "protocol/LoginStatus.h"
+#include "protocol/estate/Login.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/commands/RequestReader.h"
 #include "server/log/Log.h"

@@ -8,14 +8,11 @@
 #include "client/drivers/DriverCommands.h"
 #include "client/inventory/InventoryCommands.h"
 #include "client/rules/RuleCommands.h"
-#include "protocol/CreateRecordReply.h"
 #include "protocol/FieldValue.h"
-#include "protocol/ListPrinterRecordsRequest.h"
-#include "protocol/LoginStatus.h"
-#include "protocol/PrinterRecord.h"
-#include "protocol/RegionKind.h"
-#include "protocol/RegionRecord.h"
-#include "protocol/StatusReply.h"
+#include "protocol/estate/Login.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
+#include "protocol/estate/StatusReply.h"
 #include "wire/Text.h"
 
 #include <cstdint>

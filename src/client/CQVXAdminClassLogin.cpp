@@ -2,10 +2,7 @@
 
 #include "client/Credentials.h"
 #include "client/Exchange.h"
-#include "protocol/GetPublicKeyReply.h"
-#include "protocol/GetPublicKeyRequest.h"
-#include "protocol/LoginReply.h"
-#include "protocol/LoginRequest.h"
+#include "protocol/estate/Login.h"
 #include "wire/CTrans.h"
 
 namespace client {

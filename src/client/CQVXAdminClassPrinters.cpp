@@ -1,13 +1,7 @@
 #include "client/CQVXAdminClass.h"
 
 #include "client/CursorCalls.h"
-#include "protocol/CreateRecordRequest.h"
-#include "protocol/DeleteRecordRequest.h"
-#include "protocol/GetStatusOctetOrderReply.h"
-#include "protocol/GetStatusOctetOrderRequest.h"
-#include "protocol/MovePrinterRequest.h"
-#include "protocol/SetStatusOctetOrderRequest.h"
-#include "protocol/UpdateRecordRequest.h"
+#include "protocol/estate/Printer.h"
 
 namespace client {
 namespace {

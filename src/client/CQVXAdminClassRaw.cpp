@@ -2,8 +2,8 @@
 
 #include "client/ConnectFailed.h"
 #include "client/Exchange.h"
-#include "protocol/ListRegionsRequest.h"
-#include "protocol/LoginRequest.h"
+#include "protocol/estate/Login.h"
+#include "protocol/estate/Region.h"
 
 #include <stdexcept>
 #include <utility>

@@ -1,11 +1,7 @@
 #include "client/CQVXAdminClass.h"
 
 #include "client/ServerCalls.h"
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/DeleteRegionRequest.h"
-#include "protocol/ListRegionsRequest.h"
-#include "protocol/MoveRegionRequest.h"
-#include "protocol/RenameRegionRequest.h"
+#include "protocol/estate/Region.h"
 
 namespace client {
 namespace {

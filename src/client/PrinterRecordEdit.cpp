@@ -1,8 +1,7 @@
 #include "client/PrinterRecordEdit.h"
 
 #include "client/ConnectFailed.h"
-#include "protocol/PrinterListMode.h"
-#include "protocol/RecordType.h"
+#include "protocol/estate/Printer.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "client/CQVXAdminClass.h"
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 
 #include <bitset>
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "console/CBaseNodeItem.h"
 #include "printers/PrinterNode.h"
-#include "protocol/RegionRecord.h"
+#include "protocol/estate/Region.h"
 
 #include <cstdint>
 #include <string>

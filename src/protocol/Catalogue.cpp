@@ -1,9 +1,9 @@
 #include "protocol/Catalogue.h"
 
-#include "protocol/EstateRows.h"
 #include "protocol/alarms/AlarmRows.h"
 #include "protocol/configurations/ConfigurationRows.h"
 #include "protocol/drivers/DriverRows.h"
+#include "protocol/estate/EstateRows.h"
 #include "protocol/inventory/InventoryRows.h"
 #include "protocol/rules/RuleRows.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 
 #include <cstdint>
 #include <string>

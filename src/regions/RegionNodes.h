@@ -2,7 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "console/NodeBase.h"
-#include "protocol/RegionRecord.h"
+#include "protocol/estate/Region.h"
 
 #include <cstdint>
 #include <memory>

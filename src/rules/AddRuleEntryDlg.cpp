@@ -2,7 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 
 #include <utility>
 

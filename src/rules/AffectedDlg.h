@@ -3,7 +3,7 @@
 #include "forms/DropList.h"
 #include "forms/EditBox.h"
 #include "forms/Form.h"
-#include "protocol/rules/AffectedRecord.h"
+#include "protocol/rules/Affected.h"
 #include "rules/SavedChoice.h"
 
 #include <vector>

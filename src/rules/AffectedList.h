@@ -3,8 +3,8 @@
 #include "forms/Button.h"
 #include "forms/DropList.h"
 #include "platform/Platform.h"
-#include "protocol/rules/AffectedRecord.h"
-#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/RuleEntry.h"
 #include "rules/SavedChoice.h"
 
 #include <cstdint>

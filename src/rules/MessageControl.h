@@ -3,7 +3,7 @@
 #include "forms/Button.h"
 #include "forms/DropList.h"
 #include "platform/Platform.h"
-#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/UserMessage.h"
 
 #include <functional>
 #include <optional>

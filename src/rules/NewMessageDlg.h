@@ -4,7 +4,7 @@
 #include "forms/EditBox.h"
 #include "forms/Form.h"
 #include "forms/MultiLineEdit.h"
-#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/UserMessage.h"
 
 namespace rules {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/Form.h"
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
 #include "rules/PapersGroup.h"
 #include "rules/SavedChoice.h"
 

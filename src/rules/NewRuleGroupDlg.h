@@ -4,8 +4,8 @@
 #include "forms/EditBox.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
-#include "protocol/rules/RuleEntryRecord.h"
-#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/RuleGroup.h"
 #include "rules/RuleEntryPlace.h"
 
 #include <vector>

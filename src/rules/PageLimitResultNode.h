@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "protocol/rules/PageLimitRecord.h"
+#include "protocol/rules/PageLimit.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlan.h"
 #include "rules/FourPrices.h"
 #include "rules/TwoPrices.h"
 

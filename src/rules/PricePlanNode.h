@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/PricePlan.h"
 
 #include <string>
 

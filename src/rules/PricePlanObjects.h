@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "protocol/rules/PricePlanRecord.h"
+#include "protocol/rules/PricePlan.h"
 #include "rules/RuleObjects.h"
 
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "forms/ListView.h"
 #include "platform/Locale.h"
-#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlan.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "rules/RuleEntryFields.h"
 
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 #include "rules/Questions.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/rules/RuleEntryRecord.h"
+#include "protocol/rules/RuleEntry.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/RuleGroup.h"
 
 #include <string>
 

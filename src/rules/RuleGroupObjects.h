@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/rules/RuleGroupRecord.h"
+#include "protocol/rules/RuleGroup.h"
 #include "rules/RuleObjects.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #include "rules/RuleObjectList.h"
 
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 #include "rules/NewItem.h"
 #include "rules/Questions.h"
 

@@ -8,7 +8,7 @@
 #include "forms/Label.h"
 #include "forms/RadioButton.h"
 #include "forms/RadioGroup.h"
-#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/ShortId.h"
 #include "rules/MessageControl.h"
 #include "rules/MinutesField.h"
 

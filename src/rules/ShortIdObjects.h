@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/ShortId.h"
 #include "rules/RuleObjects.h"
 
 #include <vector>

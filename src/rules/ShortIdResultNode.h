@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/ShortId.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/Group.h"
-#include "protocol/rules/PriceEntryRecord.h"
+#include "protocol/rules/PricePlan.h"
 #include "rules/PriceBox.h"
 
 namespace rules {

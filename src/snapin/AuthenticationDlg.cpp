@@ -1,7 +1,7 @@
 #include "snapin/AuthenticationDlg.h"
 
 #include "client/CQVXAdminClass.h"
-#include "protocol/LoginStatus.h"
+#include "protocol/estate/Login.h"
 
 #include <algorithm>
 #include <cstdlib>

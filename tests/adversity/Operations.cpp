@@ -1,6 +1,6 @@
 #include "tests/adversity/Operations.h"
 
-#include "protocol/ListPrinterRecordsRequest.h"
+#include "protocol/estate/Printer.h"
 #include "wire/Text.h"
 
 #include <exception>

@@ -1,4 +1,4 @@
-#include "protocol/LoginStatus.h"
+#include "protocol/estate/Login.h"
 #include "tests/client/ClientTest.h"
 #include "tests/client/ServerKey.h"
 

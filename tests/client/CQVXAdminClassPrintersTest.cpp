@@ -1,5 +1,5 @@
 #include "tests/client/ClientTest.h"
-#include "tests/protocol/PrinterRecordBytes.h"
+#include "tests/protocol/estate/PrinterRecordBytes.h"
 
 namespace client {
 namespace {

@@ -1,6 +1,6 @@
 #include "client/ConnectFailed.h"
 #include "tests/client/ClientTest.h"
-#include "tests/protocol/PrinterRecordBytes.h"
+#include "tests/protocol/estate/PrinterRecordBytes.h"
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-#include "protocol/CreateRegionRequest.h"
+#include "protocol/estate/Region.h"
 #include "tests/client/ClientTest.h"
 
 namespace client {

@@ -2,9 +2,8 @@
 
 #include "client/ConnectFailed.h"
 #include "client/ServerCalls.h"
-#include "protocol/ListRegionsRequest.h"
-#include "protocol/MovePrinterRequest.h"
-#include "protocol/RegionRecord.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/client/ClientTest.h"
 
 namespace client {

@@ -1,7 +1,7 @@
 #include "client/PrinterRecordEdit.h"
 
 #include "tests/client/ClientTest.h"
-#include "tests/protocol/PrinterRecordBytes.h"
+#include "tests/protocol/estate/PrinterRecordBytes.h"
 
 namespace client {
 namespace {

@@ -1,10 +1,9 @@
 #include "protocol/FieldValue.h"
 
-#include "protocol/CreateRecordReply.h"
-#include "protocol/ListRegionsReply.h"
-#include "protocol/PrinterRecord.h"
-#include "tests/protocol/PrinterRecordBytes.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/protocol/RecordBytes.h"
+#include "tests/protocol/estate/PrinterRecordBytes.h"
 
 #include <gtest/gtest.h>
 

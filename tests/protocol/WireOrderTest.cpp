@@ -1,7 +1,7 @@
 #include "protocol/WireOrder.h"
 
-#include "protocol/CreateRecordRequest.h"
-#include "protocol/ListRegionsReply.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/protocol/RecordBytes.h"
 
 #include <gtest/gtest.h>

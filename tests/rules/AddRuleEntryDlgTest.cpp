@@ -1,8 +1,7 @@
 #include "rules/AddRuleEntryDlg.h"
 
-#include "protocol/rules/AddRuleEntryRequest.h"
-#include "protocol/rules/DeleteAffectedRequest.h"
-#include "protocol/rules/UpdateRuleEntryRequest.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/RuleEntry.h"
 #include "rules/AffectedDlg.h"
 #include "tests/rules/AddRuleFixture.h"
 

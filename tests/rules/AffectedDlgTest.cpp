@@ -1,6 +1,6 @@
 #include "rules/AffectedDlg.h"
 
-#include "protocol/rules/WriteAffectedRequest.h"
+#include "protocol/rules/Affected.h"
 #include "tests/rules/RuleSamples.h"
 #include "tests/support/RuleEstate.h"
 #include "tests/support/TestPlatform.h"

@@ -1,7 +1,7 @@
 #include "rules/MessageControl.h"
 
 #include "forms/Form.h"
-#include "protocol/rules/DeleteUserMessageRequest.h"
+#include "protocol/rules/UserMessage.h"
 #include "rules/NewMessageDlg.h"
 #include "tests/support/RuleEstate.h"
 #include "tests/support/TestPlatform.h"

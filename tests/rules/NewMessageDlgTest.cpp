@@ -1,6 +1,6 @@
 #include "rules/NewMessageDlg.h"
 
-#include "protocol/rules/WriteUserMessageRequest.h"
+#include "protocol/rules/UserMessage.h"
 #include "tests/support/RuleEstate.h"
 #include "tests/support/TestPlatform.h"
 

@@ -1,7 +1,7 @@
 #include "rules/NewPricePlanDlg.h"
 
-#include "protocol/rules/UpdateRuleEntryRequest.h"
-#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/RuleEstate.h"
 #include "tests/support/TestPlatform.h"

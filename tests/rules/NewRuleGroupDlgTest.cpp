@@ -1,10 +1,8 @@
 #include "rules/NewRuleGroupDlg.h"
 
-#include "protocol/rules/AddRuleEntryRequest.h"
-#include "protocol/rules/DeleteRuleGroupRequest.h"
-#include "protocol/rules/UpdateRuleEntryRequest.h"
-#include "protocol/rules/WritePageLimitRequest.h"
-#include "protocol/rules/WriteRuleGroupRequest.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/RuleGroup.h"
 #include "rules/AddRuleEntryDlg.h"
 #include "rules/CNewRuleDialog.h"
 #include "rules/NewPricePlanDlg.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/rules/WritePageLimitRequest.h"
+#include "protocol/rules/PageLimit.h"
 #include "rules/PageLimitDlg.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/RuleEstate.h"

@@ -1,6 +1,6 @@
 #include "rules/PageLimitersNode.h"
 
-#include "protocol/rules/WritePageLimitRequest.h"
+#include "protocol/rules/PageLimit.h"
 #include "rules/PageLimitDlg.h"
 #include "tests/rules/RuleTree.h"
 

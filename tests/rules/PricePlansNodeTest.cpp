@@ -1,6 +1,6 @@
 #include "rules/PricePlansNode.h"
 
-#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/rules/PricePlan.h"
 #include "rules/NewPricePlanDlg.h"
 #include "tests/rules/RuleTree.h"
 

@@ -1,9 +1,9 @@
 #include "rules/RuleObjectList.h"
 
-#include "protocol/rules/AddRuleEntryRequest.h"
-#include "protocol/rules/DeletePageLimitRequest.h"
-#include "protocol/rules/DeletePricePlanRequest.h"
-#include "protocol/rules/DeleteShortIdRequest.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/ShortId.h"
 #include "rules/NewPricePlanDlg.h"
 #include "rules/PageLimitDlg.h"
 #include "rules/ShortIdDlg.h"

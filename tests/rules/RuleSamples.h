@@ -1,12 +1,12 @@
 #pragma once
 
 #include "forms/DropList.h"
-#include "protocol/rules/AffectedRecord.h"
-#include "protocol/rules/PageLimitRecord.h"
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/RuleEntryRecord.h"
-#include "protocol/rules/RuleGroupRecord.h"
-#include "protocol/rules/ShortIdRecord.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/RuleGroup.h"
+#include "protocol/rules/ShortId.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "rules/RuleSetNode.h"
 
-#include "protocol/rules/WriteRuleGroupRequest.h"
+#include "protocol/rules/RuleGroup.h"
 #include "rules/NewRuleGroupDlg.h"
 #include "tests/rules/RuleSamples.h"
 #include "tests/rules/RuleTree.h"

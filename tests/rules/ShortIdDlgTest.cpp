@@ -1,7 +1,6 @@
 #include "rules/ShortIdDlg.h"
 
-#include "protocol/rules/AddShortIdRequest.h"
-#include "protocol/rules/UpdateShortIdRequest.h"
+#include "protocol/rules/ShortId.h"
 #include "rules/NewMessageDlg.h"
 #include "tests/support/RuleEstate.h"
 #include "tests/support/TestPlatform.h"

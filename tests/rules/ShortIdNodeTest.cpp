@@ -1,7 +1,6 @@
 #include "rules/ShortIdNode.h"
 
-#include "protocol/rules/AddShortIdRequest.h"
-#include "protocol/rules/UpdateShortIdRequest.h"
+#include "protocol/rules/ShortId.h"
 #include "rules/ShortIdDlg.h"
 #include "tests/rules/RuleTree.h"
 

@@ -1,6 +1,6 @@
 #include "server/Schema.h"
 
-#include "protocol/PrinterRecord.h"
+#include "protocol/estate/Printer.h"
 #include "server/SampleEstate.h"
 #include "server/store/StoreError.h"
 #include "tests/server/support/TestEstate.h"

@@ -1,7 +1,7 @@
 #include "tests/support/FakeEstate.h"
 
 #include "client/CQVXAdminClassProperties.h"
-#include "protocol/ListPrinterRecordsRequest.h"
+#include "protocol/estate/Printer.h"
 #include "tests/support/Bytes.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "client/ClientHooks.h"
-#include "protocol/PrinterRecord.h"
-#include "protocol/RegionRecord.h"
-#include "protocol/StatusReply.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
+#include "protocol/estate/StatusReply.h"
 #include "tests/support/ScriptedServer.h"
 
 #include <condition_variable>

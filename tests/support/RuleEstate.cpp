@@ -1,10 +1,8 @@
 #include "tests/support/RuleEstate.h"
 
-#include "protocol/rules/GetPageLimitRequest.h"
-#include "protocol/rules/ListPriceEntriesRequest.h"
-#include "protocol/rules/ListPricePlansRequest.h"
-#include "protocol/rules/ListRuleEntriesRequest.h"
-#include "protocol/rules/PageLimitName.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
 #include "tests/support/Bytes.h"
 
 #include <gtest/gtest.h>

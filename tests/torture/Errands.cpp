@@ -1,6 +1,6 @@
 #include "tests/torture/Errands.h"
 
-#include "protocol/PrinterListMode.h"
+#include "protocol/estate/Printer.h"
 #include "wire/Text.h"
 
 namespace torture {

@@ -1,7 +1,7 @@
 #include "tests/torture/SampleDatabase.h"
 
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/PrinterListMode.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "wire/Text.h"
 
 #include <gmock/gmock.h>

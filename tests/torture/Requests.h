@@ -1,11 +1,8 @@
 #pragma once
 
 #include "protocol/Catalogue.h"
-#include "protocol/CreateRecordReply.h"
-#include "protocol/CreateRecordRequest.h"
-#include "protocol/ListPrinterRecordsRequest.h"
-#include "protocol/ListRegionsReply.h"
-#include "protocol/ListRegionsRequest.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/server/support/TestClient.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/GetPublicKeyRequest.h"
+#include "protocol/estate/Login.h"
 #include "tests/server/support/TestFolder.h"
 #include "tests/torture/Database.h"
 #include "tests/torture/FaultyServer.h"

@@ -1,14 +1,8 @@
 #include "tests/torture/SampleDatabase.h"
 
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/DeleteRecordRequest.h"
-#include "protocol/PrinterListMode.h"
-#include "protocol/UpdateRecordRequest.h"
-#include "protocol/rules/ListPriceEntriesRequest.h"
-#include "protocol/rules/ListPricePlansRequest.h"
-#include "protocol/rules/PriceEntryRecord.h"
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
+#include "protocol/rules/PricePlan.h"
 #include "wire/Text.h"
 #include "wire/WireUuid.h"
 

@@ -1,11 +1,7 @@
 #include "tests/torture/WideCommands.h"
 
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/DeleteRecordRequest.h"
-#include "protocol/MovePrinterRequest.h"
-#include "protocol/MoveRegionRequest.h"
-#include "protocol/PrinterListMode.h"
-#include "protocol/UpdateRecordRequest.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/torture/Requests.h"
 #include "tests/torture/WideDomainCommands.h"
 

@@ -1,18 +1,10 @@
 #include "client/alarms/AlarmCommands.h"
 
 #include "client/CursorCalls.h"
-#include "protocol/alarms/AddProgramActionRequest.h"
-#include "protocol/alarms/DeleteProgramActionRequest.h"
-#include "protocol/alarms/ListAlarmActionsRequest.h"
-#include "protocol/alarms/ListAlarmDestinationsRequest.h"
-#include "protocol/alarms/ListAlarmEventsRequest.h"
-#include "protocol/alarms/ListAlarmProgramsRequest.h"
-#include "protocol/alarms/ListEmailRecipientsRequest.h"
-#include "protocol/alarms/ListProgramActionsRequest.h"
-#include "protocol/alarms/SetRecipientActiveRequest.h"
-#include "protocol/alarms/WriteAlarmProgramReply.h"
-#include "protocol/alarms/WriteAlarmProgramRequest.h"
-#include "protocol/alarms/WriteEmailRecipientRequest.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/AlarmProgram.h"
+#include "protocol/alarms/EmailRecipient.h"
+#include "protocol/alarms/ProgramAction.h"
 
 namespace client {
 namespace {

@@ -3,13 +3,10 @@
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
 #include "client/alarms/OneTimeList.h"
-#include "protocol/alarms/AlarmActionRecord.h"
-#include "protocol/alarms/AlarmDestinationRecord.h"
-#include "protocol/alarms/AlarmEventRecord.h"
-#include "protocol/alarms/AlarmProgramKind.h"
-#include "protocol/alarms/AlarmProgramRecord.h"
-#include "protocol/alarms/EmailRecipientRecord.h"
-#include "protocol/alarms/ProgramActionRecord.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/AlarmProgram.h"
+#include "protocol/alarms/EmailRecipient.h"
+#include "protocol/alarms/ProgramAction.h"
 
 namespace client {
 

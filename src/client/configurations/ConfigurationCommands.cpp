@@ -1,15 +1,8 @@
 #include "client/configurations/ConfigurationCommands.h"
 
 #include "client/CursorCalls.h"
-#include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
-#include "protocol/configurations/ApplyQueueConfigurationRequest.h"
-#include "protocol/configurations/DeleteConfigurationRequest.h"
-#include "protocol/configurations/ListConfigurationChoicesRequest.h"
-#include "protocol/configurations/ListConfigurationQueuesRequest.h"
-#include "protocol/configurations/ListConfigurationsRequest.h"
-#include "protocol/configurations/ListQueueConfigurationsRequest.h"
-#include "protocol/configurations/RemoveConfigurationFromQueueRequest.h"
-#include "protocol/configurations/SetConfigurationCommentRequest.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
 #include "wire/WireDate.h"
 
 namespace client {

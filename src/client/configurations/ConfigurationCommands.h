@@ -2,10 +2,8 @@
 
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
-#include "protocol/configurations/ConfigQueueRecord.h"
-#include "protocol/configurations/ConfigurationRecord.h"
-#include "protocol/configurations/QueueConfigChoice.h"
-#include "protocol/configurations/QueueConfigEntry.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
 
 #include <string>
 #include <vector>

@@ -2,17 +2,11 @@
 
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
-#include "protocol/drivers/AddDriverDeploymentRequest.h"
-#include "protocol/drivers/CountDeploymentConfigsReply.h"
-#include "protocol/drivers/DriverBrandRecord.h"
-#include "protocol/drivers/DriverDeploymentRecord.h"
-#include "protocol/drivers/DriverList.h"
-#include "protocol/drivers/DriverModelList.h"
-#include "protocol/drivers/DriverModelRecord.h"
-#include "protocol/drivers/DriverRecord.h"
-#include "protocol/drivers/InstallMethod.h"
-#include "protocol/drivers/OperatingSystemRecord.h"
-#include "protocol/drivers/UpdateDriverDeploymentRequest.h"
+#include "protocol/drivers/Driver.h"
+#include "protocol/drivers/DriverBrand.h"
+#include "protocol/drivers/DriverDeployment.h"
+#include "protocol/drivers/DriverModel.h"
+#include "protocol/drivers/OperatingSystem.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,17 +1,12 @@
 #include "client/inventory/InventoryCommands.h"
 
 #include "client/CursorCalls.h"
-#include "protocol/inventory/ChangeIpRangeRequest.h"
-#include "protocol/inventory/ChangeSchemaRequest.h"
-#include "protocol/inventory/DeleteInventoryReportRequest.h"
-#include "protocol/inventory/ListInventoryModelsRequest.h"
-#include "protocol/inventory/ListInventoryPrintersRequest.h"
-#include "protocol/inventory/ListInventoryReportsRequest.h"
-#include "protocol/inventory/ListIpRangesRequest.h"
-#include "protocol/inventory/ListSchemasRequest.h"
-#include "protocol/inventory/RangeListKind.h"
-#include "protocol/inventory/SchemaListKind.h"
-#include "protocol/inventory/SearchQueuesRequest.h"
+#include "protocol/inventory/FoundQueue.h"
+#include "protocol/inventory/InventoryModel.h"
+#include "protocol/inventory/InventoryPrinter.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 
 namespace client {
 namespace {

@@ -2,13 +2,12 @@
 
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
-#include "protocol/inventory/CreateInventoryReportRequest.h"
-#include "protocol/inventory/FoundQueueRecord.h"
-#include "protocol/inventory/InventoryModelRecord.h"
-#include "protocol/inventory/InventoryPrinterRecord.h"
-#include "protocol/inventory/InventoryReportRecord.h"
-#include "protocol/inventory/IpRangeRecord.h"
-#include "protocol/inventory/SchemaRecord.h"
+#include "protocol/inventory/FoundQueue.h"
+#include "protocol/inventory/InventoryModel.h"
+#include "protocol/inventory/InventoryPrinter.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 
 #include <optional>
 #include <string>

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "client/CQVXAdminClass2.h"
-#include "protocol/rules/AffectedRecord.h"
-#include "protocol/rules/PageLimitRecord.h"
-#include "protocol/rules/PriceEntryRecord.h"
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/RuleEntryRecord.h"
-#include "protocol/rules/RuleGroupRecord.h"
-#include "protocol/rules/ShortIdRecord.h"
-#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/PageLimit.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/RuleGroup.h"
+#include "protocol/rules/ShortId.h"
+#include "protocol/rules/UserMessage.h"
 
 #include <optional>
 #include <string>

@@ -1,24 +1,10 @@
 #pragma once
 
 #include "protocol/CatalogueRow.h"
-#include "protocol/alarms/AddProgramActionRequest.h"
-#include "protocol/alarms/AlarmActionRecord.h"
-#include "protocol/alarms/AlarmDestinationRecord.h"
-#include "protocol/alarms/AlarmEventRecord.h"
-#include "protocol/alarms/AlarmProgramRecord.h"
-#include "protocol/alarms/DeleteProgramActionRequest.h"
-#include "protocol/alarms/EmailRecipientRecord.h"
-#include "protocol/alarms/ListAlarmActionsRequest.h"
-#include "protocol/alarms/ListAlarmDestinationsRequest.h"
-#include "protocol/alarms/ListAlarmEventsRequest.h"
-#include "protocol/alarms/ListAlarmProgramsRequest.h"
-#include "protocol/alarms/ListEmailRecipientsRequest.h"
-#include "protocol/alarms/ListProgramActionsRequest.h"
-#include "protocol/alarms/ProgramActionRecord.h"
-#include "protocol/alarms/SetRecipientActiveRequest.h"
-#include "protocol/alarms/WriteAlarmProgramReply.h"
-#include "protocol/alarms/WriteAlarmProgramRequest.h"
-#include "protocol/alarms/WriteEmailRecipientRequest.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/AlarmProgram.h"
+#include "protocol/alarms/EmailRecipient.h"
+#include "protocol/alarms/ProgramAction.h"
 
 namespace protocol {
 

@@ -1,22 +1,12 @@
 #pragma once
 
 #include "protocol/CatalogueRow.h"
-#include "protocol/inventory/ChangeIpRangeRequest.h"
-#include "protocol/inventory/ChangeSchemaRequest.h"
-#include "protocol/inventory/CreateInventoryReportRequest.h"
-#include "protocol/inventory/DeleteInventoryReportRequest.h"
-#include "protocol/inventory/FoundQueueRecord.h"
-#include "protocol/inventory/InventoryModelRecord.h"
-#include "protocol/inventory/InventoryPrinterRecord.h"
-#include "protocol/inventory/InventoryReportRecord.h"
-#include "protocol/inventory/IpRangeRecord.h"
-#include "protocol/inventory/ListInventoryModelsRequest.h"
-#include "protocol/inventory/ListInventoryPrintersRequest.h"
-#include "protocol/inventory/ListInventoryReportsRequest.h"
-#include "protocol/inventory/ListIpRangesRequest.h"
-#include "protocol/inventory/ListSchemasRequest.h"
-#include "protocol/inventory/SchemaRecord.h"
-#include "protocol/inventory/SearchQueuesRequest.h"
+#include "protocol/inventory/FoundQueue.h"
+#include "protocol/inventory/InventoryModel.h"
+#include "protocol/inventory/InventoryPrinter.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 
 namespace protocol {
 

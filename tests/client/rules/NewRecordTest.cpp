@@ -1,8 +1,8 @@
 #include "client/rules/NewRecord.h"
 
-#include "protocol/rules/PricePlanRecord.h"
-#include "protocol/rules/RuleEntryRecord.h"
-#include "protocol/rules/UserMessageRecord.h"
+#include "protocol/rules/PricePlan.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/UserMessage.h"
 
 #include <gtest/gtest.h>
 

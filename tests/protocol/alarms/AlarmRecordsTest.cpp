@@ -1,10 +1,7 @@
-#include "protocol/alarms/AlarmActionRecord.h"
-#include "protocol/alarms/AlarmDestinationRecord.h"
-#include "protocol/alarms/AlarmEventRecord.h"
-#include "protocol/alarms/AlarmProgramRecord.h"
-#include "protocol/alarms/EmailRecipientRecord.h"
-#include "protocol/alarms/ProgramActionRecord.h"
-#include "protocol/alarms/WriteAlarmProgramReply.h"
+#include "protocol/alarms/AlarmChoices.h"
+#include "protocol/alarms/AlarmProgram.h"
+#include "protocol/alarms/EmailRecipient.h"
+#include "protocol/alarms/ProgramAction.h"
 #include "tests/protocol/RecordBytes.h"
 
 #include <gtest/gtest.h>

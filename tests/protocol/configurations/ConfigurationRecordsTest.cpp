@@ -1,16 +1,5 @@
-#include "protocol/configurations/ApplyConfigurationForDriverRequest.h"
-#include "protocol/configurations/ApplyQueueConfigurationRequest.h"
-#include "protocol/configurations/ConfigQueueRecord.h"
-#include "protocol/configurations/ConfigurationRecord.h"
-#include "protocol/configurations/DeleteConfigurationRequest.h"
-#include "protocol/configurations/ListConfigurationChoicesRequest.h"
-#include "protocol/configurations/ListConfigurationQueuesRequest.h"
-#include "protocol/configurations/ListConfigurationsRequest.h"
-#include "protocol/configurations/ListQueueConfigurationsRequest.h"
-#include "protocol/configurations/QueueConfigChoice.h"
-#include "protocol/configurations/QueueConfigEntry.h"
-#include "protocol/configurations/RemoveConfigurationFromQueueRequest.h"
-#include "protocol/configurations/SetConfigurationCommentRequest.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
 #include "tests/protocol/RecordBytes.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,8 @@
-#include "protocol/drivers/CountDeploymentConfigsReply.h"
-#include "protocol/drivers/DriverBrandRecord.h"
-#include "protocol/drivers/DriverDeploymentRecord.h"
-#include "protocol/drivers/DriverModelRecord.h"
-#include "protocol/drivers/DriverRecord.h"
-#include "protocol/drivers/GetModelOctetOrderReply.h"
-#include "protocol/drivers/OperatingSystemRecord.h"
-#include "protocol/drivers/ShortDriverRecord.h"
+#include "protocol/drivers/Driver.h"
+#include "protocol/drivers/DriverBrand.h"
+#include "protocol/drivers/DriverDeployment.h"
+#include "protocol/drivers/DriverModel.h"
+#include "protocol/drivers/OperatingSystem.h"
 #include "tests/protocol/RecordBytes.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "protocol/inventory/InventoryModelRecord.h"
-#include "protocol/inventory/InventoryPrinterRecord.h"
-#include "protocol/inventory/InventoryReportRecord.h"
-#include "protocol/inventory/IpRangeRecord.h"
-#include "protocol/inventory/SchemaRecord.h"
+#include "protocol/inventory/InventoryModel.h"
+#include "protocol/inventory/InventoryPrinter.h"
+#include "protocol/inventory/InventoryReport.h"
+#include "protocol/inventory/IpRange.h"
+#include "protocol/inventory/Schema.h"
 
 // Records with something of their own in every field, and their fields on the wire.
 namespace protocol {

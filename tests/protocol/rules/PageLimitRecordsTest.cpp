@@ -1,8 +1,4 @@
-#include "protocol/rules/DeletePageLimitRequest.h"
-#include "protocol/rules/GetPageLimitRequest.h"
-#include "protocol/rules/ListPageLimitsRequest.h"
-#include "protocol/rules/PageLimitName.h"
-#include "protocol/rules/WritePageLimitRequest.h"
+#include "protocol/rules/PageLimit.h"
 #include "tests/protocol/rules/RuleBytes.h"
 
 namespace protocol {

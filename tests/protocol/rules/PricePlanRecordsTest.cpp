@@ -1,8 +1,5 @@
-#include "protocol/rules/DeletePricePlanRequest.h"
-#include "protocol/rules/ListPriceEntriesRequest.h"
-#include "protocol/rules/ListPricePlansRequest.h"
 #include "protocol/rules/PaperCode.h"
-#include "protocol/rules/WritePricePlanRequest.h"
+#include "protocol/rules/PricePlan.h"
 #include "tests/protocol/rules/RuleBytes.h"
 
 #include <set>

@@ -1,15 +1,6 @@
-#include "protocol/rules/AddRuleEntryRequest.h"
-#include "protocol/rules/AffectedRecord.h"
-#include "protocol/rules/DeleteAffectedRequest.h"
-#include "protocol/rules/DeleteRuleGroupRequest.h"
-#include "protocol/rules/ListAffectedRequest.h"
-#include "protocol/rules/ListRuleEntriesRequest.h"
-#include "protocol/rules/ListRuleGroupsRequest.h"
-#include "protocol/rules/RemoveRuleEntryRequest.h"
-#include "protocol/rules/RuleEntryType.h"
-#include "protocol/rules/UpdateRuleEntryRequest.h"
-#include "protocol/rules/WriteAffectedRequest.h"
-#include "protocol/rules/WriteRuleGroupRequest.h"
+#include "protocol/rules/Affected.h"
+#include "protocol/rules/RuleEntry.h"
+#include "protocol/rules/RuleGroup.h"
 #include "tests/protocol/rules/RuleBytes.h"
 
 namespace protocol {

@@ -1,7 +1,4 @@
-#include "protocol/rules/AddShortIdRequest.h"
-#include "protocol/rules/DeleteShortIdRequest.h"
-#include "protocol/rules/ListShortIdsRequest.h"
-#include "protocol/rules/UpdateShortIdRequest.h"
+#include "protocol/rules/ShortId.h"
 #include "tests/protocol/rules/RuleBytes.h"
 
 namespace protocol {

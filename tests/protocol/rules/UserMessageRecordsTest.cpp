@@ -1,6 +1,4 @@
-#include "protocol/rules/DeleteUserMessageRequest.h"
-#include "protocol/rules/ListUserMessagesRequest.h"
-#include "protocol/rules/WriteUserMessageRequest.h"
+#include "protocol/rules/UserMessage.h"
 #include "tests/protocol/rules/RuleBytes.h"
 
 namespace protocol {

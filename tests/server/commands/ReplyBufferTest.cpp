@@ -1,7 +1,7 @@
 #include "server/commands/ReplyBuffer.h"
 
-#include "protocol/RegionRecord.h"
-#include "protocol/StatusReply.h"
+#include "protocol/estate/Region.h"
+#include "protocol/estate/StatusReply.h"
 #include "tests/support/Bytes.h"
 
 #include <gtest/gtest.h>

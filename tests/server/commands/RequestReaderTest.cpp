@@ -1,7 +1,7 @@
 #include "server/commands/RequestReader.h"
 
-#include "protocol/CreateRegionRequest.h"
-#include "protocol/ListPrinterRecordsRequest.h"
+#include "protocol/estate/Printer.h"
+#include "protocol/estate/Region.h"
 #include "tests/support/Bytes.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "protocol/configurations/ConfigQueueRecord.h"
-#include "protocol/configurations/QueueConfigChoice.h"
-#include "protocol/configurations/QueueConfigEntry.h"
+#include "protocol/configurations/Configuration.h"
+#include "protocol/configurations/QueueConfiguration.h"
 #include "server/configurations/ConfigurationService.h"
 #include "server/estate/RecordService.h"
 #include "server/estate/RecordTable.h"

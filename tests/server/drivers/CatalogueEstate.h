@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/drivers/DriverDeploymentRecord.h"
+#include "protocol/drivers/DriverDeployment.h"
 #include "server/commands/Refusal.h"
 #include "server/drivers/DeploymentService.h"
 #include "server/drivers/DriverService.h"

@@ -1,7 +1,7 @@
 #include "server/drivers/DriverService.h"
 
-#include "protocol/drivers/DriverBrandRecord.h"
-#include "protocol/drivers/ShortDriverRecord.h"
+#include "protocol/drivers/Driver.h"
+#include "protocol/drivers/DriverBrand.h"
 #include "tests/server/drivers/CatalogueEstate.h"
 #include "tests/server/support/TestEstate.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "protocol/inventory/ReportType.h"
+#include "protocol/inventory/InventoryReport.h"
 #include "server/inventory/FoundModelList.h"
 #include "server/inventory/FoundPrinterList.h"
 #include "server/inventory/IpRangeService.h"
@@ -14,9 +14,9 @@
 #include "server/store/RecordColumns.h"
 #include "tests/server/support/TestEstate.h"
 
-#include "protocol/inventory/FoundQueueRecord.h"
-#include "protocol/inventory/InventoryModelRecord.h"
-#include "protocol/inventory/InventoryPrinterRecord.h"
+#include "protocol/inventory/FoundQueue.h"
+#include "protocol/inventory/InventoryModel.h"
+#include "protocol/inventory/InventoryPrinter.h"
 
 namespace server::test {
 

@@ -1,6 +1,6 @@
 #include "server/inventory/InventoryScan.h"
 
-#include "protocol/inventory/RangeType.h"
+#include "protocol/inventory/IpRange.h"
 #include "server/inventory/IpScope.h"
 #include "tests/server/inventory/InventoryPlace.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "protocol/rules/ListRuleEntriesRequest.h"
-#include "protocol/rules/RuleEntryType.h"
+#include "protocol/rules/RuleEntry.h"
 #include "server/rules/AffectedService.h"
 #include "server/rules/NamedTable.h"
 #include "server/rules/PageLimitService.h"

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "protocol/WireOrder.h"
+
+namespace protocol {
+
+// What print jobs cost: the general figures of a plan, whose prices for papers and areas are PriceEntryRecords.
+struct PricePlanRecord {
+    std::string id;             // uuid text, made by the console
+    std::uint8_t payMethod = 0; // 0 log, 1 wallet, 2 external debit, 3 wallet and external debit
+    wire::WideString name;
+    wire::WideString comment;
+    float defaultPrice = 0;
+    float colorMultiplier = 0;
+    float duplexMultiplier = 0;
+    float copyMultiplier = 0;
+    float scanMultiplier = 0;
+    std::uint32_t vat = 0; // in hundredths of a percent: 2500 is 25 %
+
+    static constexpr auto fields =
+        wireOrder(field("id", &PricePlanRecord::id), field("payMethod", &PricePlanRecord::payMethod),
+                  field("name", &PricePlanRecord::name), field("comment", &PricePlanRecord::comment),
+                  field("defaultPrice", &PricePlanRecord::defaultPrice),
+                  field("colorMultiplier", &PricePlanRecord::colorMultiplier),
+                  field("duplexMultiplier", &PricePlanRecord::duplexMultiplier),
+                  field("copyMultiplier", &PricePlanRecord::copyMultiplier),
+                  field("scanMultiplier", &PricePlanRecord::scanMultiplier), field("vat", &PricePlanRecord::vat));
+
+    bool operator==(const PricePlanRecord&) const = default;
+};
+
+// The price of a paper or of a unit of area within a price plan. A price without a meaning for the kind is 0.
+struct PriceEntryRecord {
+    std::string id;        // uuid text, made by the console
+    std::string paperName; // label of the paper or area, in 8-bit text
+    std::uint8_t kind =
+        0; // of a paper: 0 multiplier, 1 print, 2 copy, 3 scan, 4 other; of an area: 5 multiplier, 6 print
+    std::uint16_t paperCode = 0; // of paperSizes or areaUnits
+    float basePrice = 0;         // the only price of a multiplier
+    float bwSimplex = 0;
+    float bwDuplex = 0;
+    float colorSimplex = 0;
+    float colorDuplex = 0;
+
+    static constexpr auto fields = wireOrder(
+        field("id", &PriceEntryRecord::id), field("paperName", &PriceEntryRecord::paperName),
+        field("kind", &PriceEntryRecord::kind), field("paperCode", &PriceEntryRecord::paperCode),
+        field("basePrice", &PriceEntryRecord::basePrice), field("bwSimplex", &PriceEntryRecord::bwSimplex),
+        field("bwDuplex", &PriceEntryRecord::bwDuplex), field("colorSimplex", &PriceEntryRecord::colorSimplex),
+        field("colorDuplex", &PriceEntryRecord::colorDuplex));
+
+    bool operator==(const PriceEntryRecord&) const = default;
+};
+
+// Asks for one price plan or for all.
+struct ListPricePlansRequest {
+    static constexpr std::uint16_t opcode = 69;
+
+    std::string filter; // the id of a plan, empty for all
+
+    static constexpr auto fields = wireOrder(field("filter", &ListPricePlansRequest::filter));
+
+    bool operator==(const ListPricePlansRequest&) const = default;
+};
+
+// Asks for the prices of a plan.
+struct ListPriceEntriesRequest {
+    static constexpr std::uint16_t opcode = 71;
+
+    std::string planId;
+
+    static constexpr auto fields = wireOrder(field("planId", &ListPriceEntriesRequest::planId));
+
+    bool operator==(const ListPriceEntriesRequest&) const = default;
+};
+
+// Adds or changes a price plan together with all of its prices, which replace those that it had.
+struct WritePricePlanRequest {
+    static constexpr std::uint16_t opcode = 70;
+    static constexpr std::string_view form = "action 1 adds, 2 updates";
+    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+
+    std::uint8_t action = 1;
+    PricePlanRecord plan;
+    std::vector<PriceEntryRecord> entries;
+
+    static constexpr auto fields =
+        wireOrder(field("action", &WritePricePlanRequest::action), field("plan", &WritePricePlanRequest::plan),
+                  field("entries", &WritePricePlanRequest::entries));
+
+    bool operator==(const WritePricePlanRequest&) const = default;
+};
+
+// Deletes a price plan with its prices.
+struct DeletePricePlanRequest {
+    static constexpr std::uint16_t opcode = 70;
+    static constexpr std::string_view form = "action 3 deletes";
+    static constexpr std::array<std::uint8_t, 1> actions = {3};
+
+    std::uint8_t action = 3;
+    std::string id;
+
+    static constexpr auto fields =
+        wireOrder(field("action", &DeletePricePlanRequest::action), field("id", &DeletePricePlanRequest::id));
+
+    bool operator==(const DeletePricePlanRequest&) const = default;
+};
+
+} // namespace protocol
