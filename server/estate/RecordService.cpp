@@ -17,8 +17,7 @@ namespace {
 
 namespace type = protocol::recordType;
 
-constexpr std::uint8_t deletesPrinters = 1;
-constexpr std::uint8_t deletesQueues = 2;
+namespace deletion = protocol::recordDeletion;
 
 // What a person calls such a record, to begin a sentence with.
 WideString wordFor(std::uint16_t recordType) {
@@ -61,8 +60,8 @@ std::optional<std::uint16_t> storedType(std::uint16_t recordType) {
 
 bool mayDelete(std::uint8_t requested, std::uint16_t recordType) {
     if (recordType == type::localPrinter)
-        return requested == deletesPrinters || requested == deletesQueues;
-    return requested == (recordType == type::printer ? deletesPrinters : deletesQueues);
+        return requested == deletion::printer || requested == deletion::queue;
+    return requested == (recordType == type::printer ? deletion::printer : deletion::queue);
 }
 
 } // namespace
@@ -153,7 +152,7 @@ StatusReply RecordService::move(const protocol::MovePrinterRequest& request) {
 StatusReply RecordService::remove(const protocol::DeleteRecordRequest& request) {
     const auto found = connection_.table<RecordTable>().find(request.id);
     if (!found || !mayDelete(request.type, found->record.recordType))
-        return notSaved(u"There is no such " + WideString(request.type == deletesPrinters ? u"printer." : u"queue."));
+        return notSaved(u"There is no such " + WideString(request.type == deletion::printer ? u"printer." : u"queue."));
     connection_.table<RecordTable>().removeWithQueues(request.id);
     return done();
 }

@@ -12,9 +12,7 @@ using protocol::StatusReply;
 
 namespace {
 
-constexpr std::uint8_t adds = 1;
-constexpr std::uint8_t saves = 2;
-constexpr std::uint8_t deletes = 3;
+namespace operation = protocol::rangeOperation;
 
 StatusReply notSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
@@ -46,19 +44,19 @@ std::optional<StatusReply> refuse(const IpRangeRecord& range) {
 StatusReply IpRangeService::change(const protocol::ChangeIpRangeRequest& request) {
     auto& ranges = connection_.table<IpRangeTable>();
     auto range = request.range;
-    if (request.operation == adds)
+    if (request.operation == operation::add)
         range.rangeId = wire::toText(wire::randomUuid());
-    if (request.operation == adds || request.operation == saves) {
+    if (request.operation == operation::add || request.operation == operation::save) {
         if (const auto refused = refuse(range))
             return *refused;
     }
     switch (request.operation) {
-    case adds:
+    case operation::add:
         ranges.insert(range);
         return done();
-    case saves:
+    case operation::save:
         return doneIf(ranges.update(range));
-    case deletes:
+    case operation::remove:
         return doneIf(ranges.remove(range.rangeId));
     default:
         return doneIf(ranges.setActive(range.rangeId, range.active));

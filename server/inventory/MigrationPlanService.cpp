@@ -11,8 +11,7 @@ using protocol::StatusReply;
 
 namespace {
 
-constexpr std::uint8_t creates = 1;
-constexpr std::uint8_t deletes = 4;
+namespace operation = protocol::schemaOperation;
 
 StatusReply notSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
@@ -27,16 +26,16 @@ StatusReply doneIf(bool isThere) {
 StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& request) {
     auto& plans = connection_.table<MigrationPlanTable>();
     auto plan = request.schema;
-    if (request.operation == deletes)
+    if (request.operation == operation::remove)
         return doneIf(plans.remove(plan.schemaId));
-    if (request.operation == creates)
+    if (request.operation == operation::create)
         plan.schemaId = wire::toText(wire::randomUuid());
     // A plan outlives its queue and goes by the queue's name then.
     if (!plans.isQueue(plan.newQueueId))
         plan.newQueueId = plans.queueNamed(plan.newPrinterName).value_or(std::string());
     if (frameDataSize(plan) > largestReceivableFrame)
         return notSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
-    if (request.operation != creates)
+    if (request.operation != operation::create)
         return doneIf(plans.update(plan));
     plans.insert(plan);
     return done();

@@ -19,9 +19,9 @@ protocol::StatusReply AffectedService::write(const protocol::WriteAffectedReques
         return *refused;
     if (const auto refused = refuseName(word, record.name))
         return *refused;
-    if (record.type != 1 && record.type != 2)
+    if (record.type != protocol::affectedType::user && record.type != protocol::affectedType::group)
         return ruleRefused(u"Only users and groups can be affected.");
-    if (record.equals > 1)
+    if (record.equals > protocol::affectedSense::is)
         return ruleRefused(u"A user or group is affected or is not.");
     return store(table, request.action, record);
 }

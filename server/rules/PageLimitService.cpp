@@ -8,9 +8,6 @@ namespace server {
 namespace {
 
 const wire::WideString word = u"page limit";
-constexpr std::uint8_t lastColor = 2;
-constexpr std::uint8_t lastDuplex = 2;
-constexpr std::uint8_t lastAction = 6;
 
 } // namespace
 
@@ -21,9 +18,9 @@ protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequ
         return *refused;
     if (const auto refused = refuseName(word, limit.name))
         return *refused;
-    if (limit.color > lastColor || limit.duplex > lastDuplex || limit.enforce > 1)
+    if (limit.color > protocol::limitedColor::last || limit.duplex > protocol::limitedDuplex::last || limit.enforce > 1)
         return ruleRefused(u"There is no such color, duplex or enforce of a page limit.");
-    if (limit.action > lastAction)
+    if (limit.action > protocol::limitAction::last)
         return ruleRefused(u"There is no such action of a page limit.");
     return store(limits, request.action, limit);
 }

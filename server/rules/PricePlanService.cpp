@@ -10,13 +10,11 @@ namespace {
 
 const wire::WideString word = u"price plan";
 const wire::WideString entryWord = u"price of the plan";
-constexpr std::uint8_t lastPayMethod = 3;
-constexpr std::uint8_t lastKind = 6;
 
 Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
     if (auto refused = refuseId(entryWord, entry.id))
         return refused;
-    if (entry.kind > lastKind)
+    if (entry.kind > protocol::priceKind::last)
         return ruleRefused(u"There is no such kind of price.");
     return refuseFrameSize(entryWord, frameDataSize(entry));
 }
@@ -29,7 +27,7 @@ protocol::StatusReply PricePlanService::write(const protocol::WritePricePlanRequ
         return *refused;
     if (const auto refused = refuseName(word, request.plan.name))
         return *refused;
-    if (request.plan.payMethod > lastPayMethod)
+    if (request.plan.payMethod > protocol::payMethod::last)
         return ruleRefused(u"There is no such pay method.");
     for (const auto& entry : request.entries)
         if (const auto refused = refuseEntry(entry))

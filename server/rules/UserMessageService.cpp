@@ -8,9 +8,6 @@ namespace server {
 namespace {
 
 const wire::WideString word = u"user message";
-constexpr std::uint32_t firstType = 1;
-constexpr std::uint32_t lastType = 3;
-constexpr std::uint32_t lastIcon = 3;
 
 } // namespace
 
@@ -21,7 +18,8 @@ protocol::StatusReply UserMessageService::write(const protocol::WriteUserMessage
         return *refused;
     if (const auto refused = refuseName(word, message.name))
         return *refused;
-    if (message.type < firstType || message.type > lastType || message.icon > lastIcon)
+    if (message.type < protocol::messageType::first || message.type > protocol::messageType::last ||
+        message.icon > protocol::messageIcon::last)
         return ruleRefused(u"There is no such type or icon of a user message.");
     const auto before = messages.find(message.id);
     message.builtIn = before && before->builtIn;

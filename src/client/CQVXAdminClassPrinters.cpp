@@ -9,9 +9,6 @@ namespace {
 namespace mode = protocol::printerListMode;
 using protocol::ListPrinterRecordsRequest;
 
-constexpr std::uint8_t deletesPrinter = 1;
-constexpr std::uint8_t deletesQueue = 2;
-
 std::string regionText(std::int32_t id) {
     return "region " + std::to_string(id);
 }
@@ -85,11 +82,11 @@ bool CQVXAdminClass::movePrinter(const std::string& printerId, std::int32_t regi
 }
 
 bool CQVXAdminClass::deletePrinter(const std::string& id) {
-    return deleteRecord(deletesPrinter, id);
+    return deleteRecord(protocol::recordDeletion::printer, id);
 }
 
 bool CQVXAdminClass::deleteQueue(const std::string& id) {
-    return deleteRecord(deletesQueue, id);
+    return deleteRecord(protocol::recordDeletion::queue, id);
 }
 
 bool CQVXAdminClass::deleteRecord(std::uint8_t type, const std::string& id) {

@@ -10,22 +10,10 @@ inline constexpr RequestForm requestForms[] = {{Forms::form, &layoutOf<Forms>}..
 
 // A command without a reply on a member connection that is closed, and what makes another one of it.
 struct Row : Command {
-    constexpr Row ofVersion(std::uint16_t number) const {
+    // By another name than that of its first form.
+    constexpr Row called(std::string_view otherName) const {
         Row row = *this;
-        row.version = number;
-        return row;
-    }
-    template <Record Request>
-    constexpr Row asks() const {
-        Row row = *this;
-        row.request = &layoutOf<Request>;
-        return row;
-    }
-    // Several forms under one opcode, each with its own fields.
-    template <Record... Forms>
-    constexpr Row asksOneOf() const {
-        Row row = *this;
-        row.forms = requestForms<Forms...>;
+        row.name = otherName;
         return row;
     }
     constexpr Row replies(ReplyShape shape, ReaderForm form, const RecordLayout* layout = nullptr) const {
@@ -73,9 +61,28 @@ struct Row : Command {
     }
 };
 
-// A row to begin with.
-constexpr Row row(std::uint16_t opcode, std::string_view name, std::string_view purpose) {
-    return {{.opcode = opcode, .name = name, .purpose = purpose}};
+// What a command is called after its request.
+template <Record Request>
+constexpr std::string_view commandName() {
+    constexpr std::string_view suffix = "Request";
+    constexpr std::string_view name = layoutOf<Request>.name;
+    static_assert(name.ends_with(suffix));
+    return name.substr(0, name.size() - suffix.size());
+}
+
+// A row to begin with: opcode, version and name are those of the request's type. A request may have several forms, each
+// with its own fields.
+template <Record Request, Record... OtherForms>
+constexpr Row row(std::string_view purpose) {
+    static_assert(((Request::opcode == OtherForms::opcode) && ...), "the forms of a request share an opcode");
+    Row row{{.opcode = Request::opcode, .name = commandName<Request>(), .purpose = purpose}};
+    if constexpr (requires { Request::version; })
+        row.version = Request::version;
+    if constexpr (sizeof...(OtherForms) == 0)
+        row.request = &layoutOf<Request>;
+    else
+        row.forms = requestForms<Request, OtherForms...>;
+    return row;
 }
 
 } // namespace protocol

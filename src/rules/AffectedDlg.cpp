@@ -12,8 +12,9 @@ namespace {
 
 using protocol::AffectedRecord;
 
-constexpr std::uint8_t user = 1;
-constexpr std::uint8_t group = 2;
+namespace sense = protocol::affectedSense;
+using protocol::affectedType::group;
+using protocol::affectedType::user;
 constexpr std::size_t userRow = 1;
 constexpr std::size_t isRow = 1;
 
@@ -32,7 +33,7 @@ void AffectedDlg::onInitDialog() {
     equals.addItem(u"IS");
     name.setText(affected_.name);
     type.select(editing_ && affected_.type == user ? userRow : 0);
-    equals.select(!editing_ || affected_.equals == 1 ? isRow : 0);
+    equals.select(!editing_ || affected_.equals == sense::is ? isRow : 0);
 }
 
 void AffectedDlg::onOk() {
@@ -42,7 +43,7 @@ void AffectedDlg::onOk() {
     }
     affected_.name = name.text();
     affected_.type = type.selection() == userRow ? user : group;
-    affected_.equals = equals.selection() == isRow ? 1 : 0;
+    affected_.equals = equals.selection() == isRow ? sense::is : sense::isNot;
     client::CQVXAdminClass client;
     if (editing_) {
         client.updateAffected(affected_);

@@ -8,9 +8,9 @@
 namespace rules {
 namespace {
 
-constexpr std::uint32_t webPage = 3;
+using protocol::messageType::webPage;
+
 constexpr std::size_t webPageRow = 2;
-constexpr std::uint32_t lastIcon = 3;
 
 } // namespace
 
@@ -67,7 +67,7 @@ void NewMessageDlg::showMessage() {
         caption.setText(message_.caption);
         text.setText(message_.text);
     }
-    if (message_.icon <= lastIcon) {
+    if (message_.icon <= protocol::messageIcon::last) {
         icon.select(message_.icon);
     }
 }

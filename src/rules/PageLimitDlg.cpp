@@ -17,8 +17,7 @@ namespace {
 
 using protocol::PageLimitRecord;
 
-constexpr std::uint8_t move = 3;
-constexpr std::uint8_t divert = 5;
+namespace limitAction = protocol::limitAction;
 
 struct Action {
     std::u16string_view label;
@@ -26,13 +25,13 @@ struct Action {
 };
 
 // In the order of the list, where the last two stand the other way round than their numbers; this must stay.
-constexpr std::array<Action, 7> actions = {{{u"Do nothing", 0},
-                                            {u"Allow", 1},
-                                            {u"Delete", 2},
-                                            {u"Move", move},
-                                            {u"Pause", 4},
-                                            {u"Require PIN-Code", 6},
-                                            {u"Printjob divert", divert}}};
+constexpr std::array<Action, 7> actions = {{{u"Do nothing", limitAction::nothing},
+                                            {u"Allow", limitAction::allow},
+                                            {u"Delete", limitAction::remove},
+                                            {u"Move", limitAction::move},
+                                            {u"Pause", limitAction::pause},
+                                            {u"Require PIN-Code", limitAction::requirePin},
+                                            {u"Printjob divert", limitAction::divert}}};
 
 constexpr std::u16string_view missingField = u"Required field is empty";
 
@@ -234,13 +233,13 @@ void PageLimitDlg::takeMaximum() {
 // A diverted print job has no destination, even where one has been found; this must stay.
 bool PageLimitDlg::takeDestination() {
     const bool none = destination.text().empty();
-    if (none && limit_.action == move) {
+    if (none && limit_.action == limitAction::move) {
         messageBox(u"Destination field should not be blank, when Move action is selected!",
                    wire::WideString(missingField), platform::boxStyle::ok);
         destination.setFocus();
         return false;
     }
-    limit_.destinationId = none || limit_.action == divert ? std::string() : pickedId_;
+    limit_.destinationId = none || limit_.action == limitAction::divert ? std::string() : pickedId_;
     return true;
 }
 

@@ -1,13 +1,15 @@
 #include "rules/PapersGroup.h"
 
 #include "client/rules/NewRecord.h"
-#include "rules/PriceKind.h"
+#include "protocol/rules/PricePlan.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace rules {
 namespace {
+
+namespace priceKind = protocol::priceKind;
 
 using protocol::PriceEntryRecord;
 

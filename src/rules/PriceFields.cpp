@@ -1,11 +1,13 @@
 #include "rules/PriceFields.h"
 
-#include "rules/PriceKind.h"
+#include "protocol/rules/PricePlan.h"
 
 #include <algorithm>
 #include <array>
 
 namespace rules {
+
+namespace priceKind = protocol::priceKind;
 
 PriceFields::PriceFields(forms::Container& container, const platform::Locale& locale)
     : basePrice(container, locale, u"Base Price"),

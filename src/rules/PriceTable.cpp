@@ -1,6 +1,6 @@
 #include "rules/PriceTable.h"
 
-#include "rules/PriceKind.h"
+#include "protocol/rules/PricePlan.h"
 #include "rules/PriceText.h"
 
 #include <algorithm>
@@ -9,6 +9,8 @@
 
 namespace rules {
 namespace {
+
+namespace priceKind = protocol::priceKind;
 
 using protocol::PriceEntryRecord;
 

@@ -9,20 +9,9 @@
 #include "protocol/inventory/Schema.h"
 
 namespace client {
-namespace {
 
-// The operations of a changed plan.
-constexpr std::uint8_t createsSchema = 1;
-constexpr std::uint8_t savesSchema = 2;
-constexpr std::uint8_t deletesSchema = 4;
-
-// The operations of a changed range.
-constexpr std::uint8_t addsRange = 1;
-constexpr std::uint8_t savesRange = 2;
-constexpr std::uint8_t deletesRange = 3;
-constexpr std::uint8_t setsRangeActive = 4;
-
-} // namespace
+namespace schemaOperation = protocol::schemaOperation;
+namespace rangeOperation = protocol::rangeOperation;
 
 bool InventoryCommands::listSchemas(const std::string& reportId) {
     return fillCursor(client_, schemas_,
@@ -43,17 +32,17 @@ std::optional<protocol::SchemaRecord> InventoryCommands::getSchema(const std::st
 }
 
 bool InventoryCommands::createSchema(const protocol::SchemaRecord& schema) {
-    return changeSchema(createsSchema, schema, wire::toUtf8(schema.schemaName));
+    return changeSchema(schemaOperation::create, schema, wire::toUtf8(schema.schemaName));
 }
 
 bool InventoryCommands::updateSchema(const protocol::SchemaRecord& schema) {
-    return changeSchema(savesSchema, schema, wire::toUtf8(schema.schemaName));
+    return changeSchema(schemaOperation::save, schema, wire::toUtf8(schema.schemaName));
 }
 
 bool InventoryCommands::deleteSchema(const std::string& schemaId) {
     protocol::SchemaRecord schema;
     schema.schemaId = schemaId;
-    return changeSchema(deletesSchema, schema, schemaId);
+    return changeSchema(schemaOperation::remove, schema, schemaId);
 }
 
 bool InventoryCommands::changeSchema(std::uint8_t operation, const protocol::SchemaRecord& schema,
@@ -120,24 +109,24 @@ bool InventoryCommands::nextIpRange(protocol::IpRangeRecord& range) {
 }
 
 bool InventoryCommands::addIpRange(const protocol::IpRangeRecord& range) {
-    return changeIpRange(addsRange, range, wire::toUtf8(range.name));
+    return changeIpRange(rangeOperation::add, range, wire::toUtf8(range.name));
 }
 
 bool InventoryCommands::updateIpRange(const protocol::IpRangeRecord& range) {
-    return changeIpRange(savesRange, range, wire::toUtf8(range.name));
+    return changeIpRange(rangeOperation::save, range, wire::toUtf8(range.name));
 }
 
 bool InventoryCommands::deleteIpRange(const std::string& rangeId) {
     protocol::IpRangeRecord range;
     range.rangeId = rangeId;
-    return changeIpRange(deletesRange, range, rangeId);
+    return changeIpRange(rangeOperation::remove, range, rangeId);
 }
 
 bool InventoryCommands::setIpRangeActive(const std::string& rangeId, bool active) {
     protocol::IpRangeRecord range;
     range.rangeId = rangeId;
     range.active = active;
-    return changeIpRange(setsRangeActive, range, rangeId);
+    return changeIpRange(rangeOperation::setActive, range, rangeId);
 }
 
 bool InventoryCommands::changeIpRange(std::uint8_t operation, const protocol::IpRangeRecord& range,

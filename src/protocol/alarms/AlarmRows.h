@@ -10,39 +10,25 @@ namespace protocol {
 
 // The commands for alarm programs and e-mail recipients.
 inline constexpr Command alarmRows[] = {
-    row(23, "ListEmailRecipients", "lists the e-mail recipients")
-        .asks<ListEmailRecipientsRequest>()
+    row<ListEmailRecipientsRequest>("lists the e-mail recipients")
         .list<EmailRecipientRecord>(ReaderForm::middle)
         .leftOpen(),
-    row(24, "WriteEmailRecipient", "adds, changes or deletes a recipient")
-        .asks<WriteEmailRecipientRequest>()
-        .leftOpen(),
-    row(25, "SetRecipientActive", "switches a recipient on or off").asks<SetRecipientActiveRequest>(),
-    row(27, "ListAlarmPrograms", "lists the alarm programs")
-        .asks<ListAlarmProgramsRequest>()
+    row<WriteEmailRecipientRequest>("adds, changes or deletes a recipient").leftOpen(),
+    row<SetRecipientActiveRequest>("switches a recipient on or off"),
+    row<ListAlarmProgramsRequest>("lists the alarm programs")
         .list<AlarmProgramRecord>(ReaderForm::middle)
         .leftOpen()
         .guarded(),
-    row(28, "WriteAlarmProgram", "adds, changes or deletes a program")
-        .asks<WriteAlarmProgramRequest>()
+    row<WriteAlarmProgramRequest>("adds, changes or deletes a program")
         .single<WriteAlarmProgramReply>(ReaderForm::plain),
-    row(29, "ListAlarmEvents", "lists the alarm events")
-        .asks<ListAlarmEventsRequest>()
-        .list<AlarmEventRecord>(ReaderForm::plain)
-        .leftOpen(),
-    row(30, "ListAlarmActions", "lists the alarm actions")
-        .asks<ListAlarmActionsRequest>()
-        .list<AlarmActionRecord>(ReaderForm::plain)
-        .leftOpen(),
-    row(31, "ListAlarmDestinations", "lists the destinations of an alarm")
-        .asks<ListAlarmDestinationsRequest>()
+    row<ListAlarmEventsRequest>("lists the alarm events").list<AlarmEventRecord>(ReaderForm::plain).leftOpen(),
+    row<ListAlarmActionsRequest>("lists the alarm actions").list<AlarmActionRecord>(ReaderForm::plain).leftOpen(),
+    row<ListAlarmDestinationsRequest>("lists the destinations of an alarm")
         .list<AlarmDestinationRecord>(ReaderForm::plain)
         .leftOpen(),
-    row(32, "ListProgramActions", "lists the actions of a program")
-        .asks<ListProgramActionsRequest>()
-        .list<ProgramActionRecord>(ReaderForm::plain),
-    row(33, "AddProgramAction", "adds an action to a program").asks<AddProgramActionRequest>(),
-    row(34, "DeleteProgramAction", "removes an action from a program").asks<DeleteProgramActionRequest>(),
+    row<ListProgramActionsRequest>("lists the actions of a program").list<ProgramActionRecord>(ReaderForm::plain),
+    row<AddProgramActionRequest>("adds an action to a program"),
+    row<DeleteProgramActionRequest>("removes an action from a program"),
 };
 
 } // namespace protocol

@@ -11,43 +11,35 @@ namespace protocol {
 
 // The commands for brands, models, drivers and deployments.
 inline constexpr Command driverRows[] = {
-    row(4, "ListDriverBrands", "lists the driver brands")
-        .asks<ListDriverBrandsRequest>()
-        .list<DriverBrandRecord>(ReaderForm::plain),
-    row(5, "ListDriverModels", "lists driver models by kind of list")
-        .asks<ListDriverModelsRequest>()
+    row<ListDriverBrandsRequest>("lists the driver brands").list<DriverBrandRecord>(ReaderForm::plain),
+    row<ListDriverModelsRequest>("lists driver models by kind of list")
         .list<DriverModelRecord>(ReaderForm::strict)
         .over(Connection::open)
         .guarded(),
-    row(11, "ListOperatingSystems", "lists the operating systems known to the driver catalogue")
-        .asks<ListOperatingSystemsRequest>()
+    row<ListOperatingSystemsRequest>("lists the operating systems known to the driver catalogue")
         .list<OperatingSystemRecord>(ReaderForm::plain),
-    row(12, "ListDrivers", "lists drivers by kind of list")
-        .asks<ListDriversRequest>()
+    row<ListDriversRequest>("lists drivers by kind of list")
         .list<DriverRecord>(ReaderForm::plain)
         .orWhenFirstIs<ShortDriverRecord>(driverList::shortOfModel)
         .leftOpen(),
-    row(13, "DeleteDriver", "deletes a driver").asks<DeleteDriverRequest>().leftOpen(),
-    row(14, "ListDriverDeployments", "lists the deployments of a model or of one of its drivers")
-        .asks<ListDriverDeploymentsRequest>()
+    row<DeleteDriverRequest>("deletes a driver").leftOpen(),
+    row<ListDriverDeploymentsRequest>("lists the deployments of a model or of one of its drivers")
         .list<DriverDeploymentRecord>(ReaderForm::plain)
         .leftOpen(),
-    row(15, "AddDriverDeployment", "adds a deployment, or replaces one").asks<AddDriverDeploymentRequest>().leftOpen(),
-    row(16, "ChangeDriverDeployment", "changes or removes a deployment")
-        .asksOneOf<UpdateDriverDeploymentRequest, RemoveDriverDeploymentRequest>()
+    row<AddDriverDeploymentRequest>("adds a deployment, or replaces one").leftOpen(),
+    row<UpdateDriverDeploymentRequest, RemoveDriverDeploymentRequest>("changes or removes a deployment")
+        .called("ChangeDriverDeployment")
         .leftOpen(),
-    row(20, "SetDriverModelVisible", "shows or hides a model").asks<SetDriverModelVisibleRequest>().leftOpen(),
-    row(46, "AddDriverModel", "adds a model to a brand").asks<AddDriverModelRequest>().leftOpen(),
-    row(47, "AddBuiltInDriver", "adds the built-in driver to a model").asks<AddBuiltInDriverRequest>().leftOpen(),
-    row(48, "AddAlternateDriver", "links an alternate model").asks<AddAlternateDriverRequest>().leftOpen(),
-    row(49, "RemoveAlternateDriver", "unlinks an alternate model").asks<RemoveAlternateDriverRequest>().leftOpen(),
-    row(75, "SetModelOctetOrder", "sets the status octet order of a driver model").asks<SetModelOctetOrderRequest>(),
-    row(77, "GetModelOctetOrder", "gets the status octet order of a driver model")
-        .asks<GetModelOctetOrderRequest>()
+    row<SetDriverModelVisibleRequest>("shows or hides a model").leftOpen(),
+    row<AddDriverModelRequest>("adds a model to a brand").leftOpen(),
+    row<AddBuiltInDriverRequest>("adds the built-in driver to a model").leftOpen(),
+    row<AddAlternateDriverRequest>("links an alternate model").leftOpen(),
+    row<RemoveAlternateDriverRequest>("unlinks an alternate model").leftOpen(),
+    row<SetModelOctetOrderRequest>("sets the status octet order of a driver model"),
+    row<GetModelOctetOrderRequest>("gets the status octet order of a driver model")
         .single<GetModelOctetOrderReply>(ReaderForm::plain)
         .leftOpen(),
-    row(80, "CountDeploymentConfigs", "counts the queues with configurations of a deployment")
-        .asks<CountDeploymentConfigsRequest>()
+    row<CountDeploymentConfigsRequest>("counts the queues with configurations of a deployment")
         .single<CountDeploymentConfigsReply>(ReaderForm::plain)
         .leftOpen(),
 };

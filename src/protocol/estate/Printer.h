@@ -154,6 +154,7 @@ struct CreateRecordReply {
 // Replaces a printer record as a whole.
 struct UpdateRecordRequest {
     static constexpr std::uint16_t opcode = 10;
+    static constexpr std::uint16_t version = 2; // all other commands have 1
 
     PrinterRecord record;
 
@@ -162,11 +163,17 @@ struct UpdateRecordRequest {
     bool operator==(const UpdateRecordRequest&) const = default;
 };
 
+// What is to be deleted.
+namespace recordDeletion {
+constexpr std::uint8_t printer = 1;
+constexpr std::uint8_t queue = 2;
+} // namespace recordDeletion
+
 // Deletes a printer or a queue.
 struct DeleteRecordRequest {
     static constexpr std::uint16_t opcode = 36;
 
-    std::uint8_t type = 0; // 1 printer, 2 queue
+    std::uint8_t type = 0; // one of recordDeletion
     std::string id;
 
     static constexpr auto fields =

@@ -12,34 +12,24 @@ namespace protocol {
 
 // The commands for inventory reports, migration plans and IP ranges.
 inline constexpr Command inventoryRows[] = {
-    row(37, "ListSchemas", "lists migration plans: all, of a report, or one")
-        .asks<ListSchemasRequest>()
+    row<ListSchemasRequest>("lists migration plans: all, of a report, or one")
         .list<SchemaRecord>(ReaderForm::middle)
         .leftOpen(),
-    row(38, "ChangeSchema", "adds, changes or deletes a migration plan").asks<ChangeSchemaRequest>().leftOpen(),
-    row(39, "SearchQueues", "finds queues by name pattern")
-        .asks<SearchQueuesRequest>()
-        .list<FoundQueueRecord>(ReaderForm::middle)
-        .leftOpen(),
-    row(40, "ListInventoryReports", "lists the inventory reports")
-        .asks<ListInventoryReportsRequest>()
+    row<ChangeSchemaRequest>("adds, changes or deletes a migration plan").leftOpen(),
+    row<SearchQueuesRequest>("finds queues by name pattern").list<FoundQueueRecord>(ReaderForm::middle).leftOpen(),
+    row<ListInventoryReportsRequest>("lists the inventory reports")
         .list<InventoryReportRecord>(ReaderForm::middle)
         .leftOpen(),
-    row(41, "CreateInventoryReport", "creates an inventory report").asks<CreateInventoryReportRequest>().leftOpen(),
-    row(42, "DeleteInventoryReport", "deletes an inventory report").asks<DeleteInventoryReportRequest>().leftOpen(),
-    row(43, "ListInventoryModels", "lists models and drivers of the inventory, by kind of list")
-        .asks<ListInventoryModelsRequest>()
+    row<CreateInventoryReportRequest>("creates an inventory report").leftOpen(),
+    row<DeleteInventoryReportRequest>("deletes an inventory report").leftOpen(),
+    row<ListInventoryModelsRequest>("lists models and drivers of the inventory, by kind of list")
         .list<InventoryModelRecord>(ReaderForm::middle)
         .leftOpen(),
-    row(44, "ListInventoryPrinters", "lists printers and queues of the inventory, by kind of list")
-        .asks<ListInventoryPrintersRequest>()
+    row<ListInventoryPrintersRequest>("lists printers and queues of the inventory, by kind of list")
         .list<InventoryPrinterRecord>(ReaderForm::middle)
         .leftOpen(),
-    row(55, "ListIpRanges", "lists the IP ranges, all or one")
-        .asks<ListIpRangesRequest>()
-        .list<IpRangeRecord>(ReaderForm::middle)
-        .leftOpen(),
-    row(56, "ChangeIpRange", "adds, changes, deletes or switches an IP range").asks<ChangeIpRangeRequest>().leftOpen(),
+    row<ListIpRangesRequest>("lists the IP ranges, all or one").list<IpRangeRecord>(ReaderForm::middle).leftOpen(),
+    row<ChangeIpRangeRequest>("adds, changes, deletes or switches an IP range").leftOpen(),
 };
 
 } // namespace protocol

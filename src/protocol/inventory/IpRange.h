@@ -23,6 +23,16 @@ constexpr std::uint8_t one = 2;
 
 } // namespace protocol::rangeListKind
 
+// What is to be done with an IP range.
+namespace protocol::rangeOperation {
+
+constexpr std::uint8_t add = 1;
+constexpr std::uint8_t save = 2;
+constexpr std::uint8_t remove = 3;    // by the rangeId alone
+constexpr std::uint8_t setActive = 4; // by the rangeId and active alone
+
+} // namespace protocol::rangeOperation
+
 namespace protocol {
 
 // A block of addresses and what a migration does with the printers in it. The numbered values and texts belong to the
@@ -70,9 +80,10 @@ struct ListIpRangesRequest {
 // Adds, changes, deletes or switches an IP range.
 struct ChangeIpRangeRequest {
     static constexpr std::uint16_t opcode = 56;
-    static constexpr std::array<std::uint8_t, 4> actions = {1, 2, 3, 4};
+    static constexpr std::array<std::uint8_t, 4> actions = {rangeOperation::add, rangeOperation::save,
+                                                            rangeOperation::remove, rangeOperation::setActive};
 
-    std::uint8_t operation = 0; // 1 adds, 2 saves an edit, 3 deletes, 4 sets active; 3 and 4 name only the rangeId
+    std::uint8_t operation = 0; // one of rangeOperation
     IpRangeRecord range;
 
     static constexpr auto fields =

@@ -21,6 +21,15 @@ constexpr std::uint32_t one = 1;
 
 } // namespace protocol::schemaListKind
 
+// What is to be done with a migration plan.
+namespace protocol::schemaOperation {
+
+constexpr std::uint8_t create = 1;
+constexpr std::uint8_t save = 2;
+constexpr std::uint8_t remove = 4; // by the schemaId alone
+
+} // namespace protocol::schemaOperation
+
 namespace protocol {
 
 // A migration plan: what is to become of one printer of the old estate. A field of the old printer that is empty is not
@@ -66,9 +75,10 @@ struct ListSchemasRequest {
 // Adds, changes or deletes a migration plan.
 struct ChangeSchemaRequest {
     static constexpr std::uint16_t opcode = 38;
-    static constexpr std::array<std::uint8_t, 3> actions = {1, 2, 4};
+    static constexpr std::array<std::uint8_t, 3> actions = {schemaOperation::create, schemaOperation::save,
+                                                            schemaOperation::remove};
 
-    std::uint8_t operation = 0; // 1 creates, 2 saves an edit, 4 deletes by the schemaId alone
+    std::uint8_t operation = 0; // one of schemaOperation
     SchemaRecord schema;
 
     static constexpr auto fields =

@@ -1,15 +1,31 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
+
+namespace protocol::affectedType {
+
+constexpr std::uint8_t user = 1;
+constexpr std::uint8_t group = 2;
+
+} // namespace protocol::affectedType
+
+// Whether a rule holds for whom a record names, or for all others.
+namespace protocol::affectedSense {
+
+constexpr std::uint8_t isNot = 0;
+constexpr std::uint8_t is = 1;
+
+} // namespace protocol::affectedSense
 
 namespace protocol {
 
 // A user or a group whom rule entries affect, or all but whom. This is the order of a reply; a request has another one,
 // see WriteAffectedRequest.
 struct AffectedRecord {
-    std::string id;          // uuid text, made by the console
-    std::uint8_t type = 1;   // 1 user, 2 group
-    std::uint8_t equals = 1; // 1 is, 0 is not
+    std::string id; // uuid text, made by the console
+    std::uint8_t type = affectedType::user;
+    std::uint8_t equals = affectedSense::is;
     wire::WideString name;
 
     static constexpr auto fields =
@@ -35,12 +51,12 @@ struct ListAffectedRequest {
 struct WriteAffectedRequest {
     static constexpr std::uint16_t opcode = 60;
     static constexpr std::string_view form = "action 1 adds, 2 updates";
-    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+    static constexpr std::array<std::uint8_t, 2> actions = {ruleWriteAction::add, ruleWriteAction::update};
 
-    std::uint8_t action = 1;
-    std::uint8_t equals = 1;
+    std::uint8_t action = ruleWriteAction::add;
+    std::uint8_t equals = affectedSense::is;
     std::string id;
-    std::uint8_t type = 1;
+    std::uint8_t type = affectedType::user;
     wire::WideString name;
 
     static constexpr auto fields =
@@ -55,9 +71,9 @@ struct WriteAffectedRequest {
 struct DeleteAffectedRequest {
     static constexpr std::uint16_t opcode = 60;
     static constexpr std::string_view form = "action 3 deletes";
-    static constexpr std::array<std::uint8_t, 1> actions = {3};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::remove};
 
-    std::uint8_t action = 3;
+    std::uint8_t action = ruleWriteAction::remove;
     std::string id;
 
     static constexpr auto fields =

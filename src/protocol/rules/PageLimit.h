@@ -1,6 +1,40 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
+
+// Which jobs a page limit is about, by their color and by whether they are printed on both sides.
+namespace protocol::limitedColor {
+
+constexpr std::uint8_t any = 0;
+constexpr std::uint8_t blackAndWhite = 1;
+constexpr std::uint8_t color = 2;
+constexpr std::uint8_t last = color;
+
+} // namespace protocol::limitedColor
+
+namespace protocol::limitedDuplex {
+
+constexpr std::uint8_t any = 0;
+constexpr std::uint8_t no = 1;
+constexpr std::uint8_t yes = 2;
+constexpr std::uint8_t last = yes;
+
+} // namespace protocol::limitedDuplex
+
+// What is done with a job beyond a page limit.
+namespace protocol::limitAction {
+
+constexpr std::uint8_t nothing = 0;
+constexpr std::uint8_t allow = 1;
+constexpr std::uint8_t remove = 2;
+constexpr std::uint8_t move = 3; // to the destination
+constexpr std::uint8_t pause = 4;
+constexpr std::uint8_t divert = 5;
+constexpr std::uint8_t requirePin = 6;
+constexpr std::uint8_t last = requirePin;
+
+} // namespace protocol::limitAction
 
 namespace protocol {
 
@@ -12,10 +46,10 @@ struct PageLimitRecord {
     wire::WideString comment;
     wire::WideString document;
     std::uint16_t format = 0; // a code of paperSizes, 0 for any
-    std::uint8_t color = 0;   // 0 any, 1 black and white, 2 color
-    std::uint8_t duplex = 0;  // 0 any, 1 no, 2 yes
+    std::uint8_t color = 0;   // one of limitedColor
+    std::uint8_t duplex = 0;  // one of limitedDuplex
     std::uint16_t maxPages = 0;
-    std::uint8_t action = 0; // 0 nothing, 1 allow, 2 delete, 3 move, 4 pause, 5 divert, 6 require a PIN
+    std::uint8_t action = 0; // one of limitAction
     float maxCost = 0;
     std::optional<wire::Uuid> messageId; // the user message to show
     std::string destinationId;           // of a queue, empty for none
@@ -73,9 +107,9 @@ struct GetPageLimitRequest {
 struct WritePageLimitRequest {
     static constexpr std::uint16_t opcode = 64;
     static constexpr std::string_view form = "action 1 adds a page limit, 2 updates one";
-    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+    static constexpr std::array<std::uint8_t, 2> actions = {ruleWriteAction::add, ruleWriteAction::update};
 
-    std::uint8_t action = 1;
+    std::uint8_t action = ruleWriteAction::add;
     PageLimitRecord limit;
 
     static constexpr auto fields =

@@ -1,13 +1,52 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
+
+// How a job is paid for.
+namespace protocol::payMethod {
+
+constexpr std::uint8_t log = 0; // it is only noted down
+constexpr std::uint8_t wallet = 1;
+constexpr std::uint8_t externalDebit = 2;
+constexpr std::uint8_t walletAndExternalDebit = 3;
+constexpr std::uint8_t last = walletAndExternalDebit;
+
+} // namespace protocol::payMethod
+
+// What a row of a price plan prices, and how.
+namespace protocol::priceKind {
+
+constexpr std::uint8_t multiplier = 0; // a paper, by its base price and the plan's multipliers
+constexpr std::uint8_t print = 1;      // a paper, absolutely
+constexpr std::uint8_t copy = 2;       // the same
+constexpr std::uint8_t scan = 3;       // the same, without duplex
+constexpr std::uint8_t other = 4;      // a paper, absolutely; no console makes such a row, and it can't be edited
+constexpr std::uint8_t areaMultiplier = 5;
+constexpr std::uint8_t areaPrint = 6; // absolutely, without duplex
+constexpr std::uint8_t last = areaPrint;
+
+// Several rows of one paper may stand side by side when each is of another one of these kinds.
+constexpr bool isAbsoluteOfPaper(std::uint8_t kind) {
+    return kind >= print && kind <= other;
+}
+
+constexpr bool isArea(std::uint8_t kind) {
+    return kind == areaMultiplier || kind == areaPrint;
+}
+
+constexpr bool isMultiplier(std::uint8_t kind) {
+    return kind == multiplier || kind == areaMultiplier;
+}
+
+} // namespace protocol::priceKind
 
 namespace protocol {
 
 // What print jobs cost: the general figures of a plan, whose prices for papers and areas are PriceEntryRecords.
 struct PricePlanRecord {
     std::string id;             // uuid text, made by the console
-    std::uint8_t payMethod = 0; // 0 log, 1 wallet, 2 external debit, 3 wallet and external debit
+    std::uint8_t payMethod = 0; // one of protocol::payMethod
     wire::WideString name;
     wire::WideString comment;
     float defaultPrice = 0;
@@ -31,10 +70,9 @@ struct PricePlanRecord {
 
 // The price of a paper or of a unit of area within a price plan. A price without a meaning for the kind is 0.
 struct PriceEntryRecord {
-    std::string id;        // uuid text, made by the console
-    std::string paperName; // label of the paper or area, in 8-bit text
-    std::uint8_t kind =
-        0; // of a paper: 0 multiplier, 1 print, 2 copy, 3 scan, 4 other; of an area: 5 multiplier, 6 print
+    std::string id;              // uuid text, made by the console
+    std::string paperName;       // label of the paper or area, in 8-bit text
+    std::uint8_t kind = 0;       // one of priceKind
     std::uint16_t paperCode = 0; // of paperSizes or areaUnits
     float basePrice = 0;         // the only price of a multiplier
     float bwSimplex = 0;
@@ -78,9 +116,9 @@ struct ListPriceEntriesRequest {
 struct WritePricePlanRequest {
     static constexpr std::uint16_t opcode = 70;
     static constexpr std::string_view form = "action 1 adds, 2 updates";
-    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+    static constexpr std::array<std::uint8_t, 2> actions = {ruleWriteAction::add, ruleWriteAction::update};
 
-    std::uint8_t action = 1;
+    std::uint8_t action = ruleWriteAction::add;
     PricePlanRecord plan;
     std::vector<PriceEntryRecord> entries;
 
@@ -95,9 +133,9 @@ struct WritePricePlanRequest {
 struct DeletePricePlanRequest {
     static constexpr std::uint16_t opcode = 70;
     static constexpr std::string_view form = "action 3 deletes";
-    static constexpr std::array<std::uint8_t, 1> actions = {3};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::remove};
 
-    std::uint8_t action = 3;
+    std::uint8_t action = ruleWriteAction::remove;
     std::string id;
 
     static constexpr auto fields =

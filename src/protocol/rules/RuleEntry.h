@@ -1,6 +1,7 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
 
 #include <array>
 #include <cstdint>
@@ -79,9 +80,9 @@ struct ListRuleEntriesRequest {
 struct AddRuleEntryRequest {
     static constexpr std::uint16_t opcode = 64;
     static constexpr std::string_view form = "action 5 adds a rule entry";
-    static constexpr std::array<std::uint8_t, 1> actions = {5};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::addEntry};
 
-    std::uint8_t action = 5;
+    std::uint8_t action = ruleWriteAction::addEntry;
     std::int32_t ownerNumber = 0; // of a region, else 0
     std::string parentId;
     std::string ownerId;
@@ -99,9 +100,9 @@ struct AddRuleEntryRequest {
 struct UpdateRuleEntryRequest {
     static constexpr std::uint16_t opcode = 64;
     static constexpr std::string_view form = "action 88 updates a rule entry";
-    static constexpr std::array<std::uint8_t, 1> actions = {88};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::updateEntry};
 
-    std::uint8_t action = 88;
+    std::uint8_t action = ruleWriteAction::updateEntry;
     RuleEntryRecord entry;
 
     static constexpr auto fields =
@@ -114,9 +115,9 @@ struct UpdateRuleEntryRequest {
 struct RemoveRuleEntryRequest {
     static constexpr std::uint16_t opcode = 62;
     static constexpr std::string_view form = "action 3 removes";
-    static constexpr std::array<std::uint8_t, 1> actions = {3};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::remove};
 
-    std::uint8_t action = 3; // no other one exists
+    std::uint8_t action = ruleWriteAction::remove; // no other one exists
     std::string id;
     std::uint16_t type = 0; // that of the entry
 

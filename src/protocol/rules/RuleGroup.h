@@ -1,6 +1,7 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
 
 namespace protocol {
 
@@ -35,9 +36,9 @@ struct ListRuleGroupsRequest {
 struct WriteRuleGroupRequest {
     static constexpr std::uint16_t opcode = 58;
     static constexpr std::string_view form = "action 1 adds, 2 updates";
-    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+    static constexpr std::array<std::uint8_t, 2> actions = {ruleWriteAction::add, ruleWriteAction::update};
 
-    std::uint8_t action = 1;
+    std::uint8_t action = ruleWriteAction::add;
     RuleGroupRecord group;
 
     static constexpr auto fields =
@@ -50,9 +51,9 @@ struct WriteRuleGroupRequest {
 struct DeleteRuleGroupRequest {
     static constexpr std::uint16_t opcode = 58;
     static constexpr std::string_view form = "action 3 deletes";
-    static constexpr std::array<std::uint8_t, 1> actions = {3};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::remove};
 
-    std::uint8_t action = 3;
+    std::uint8_t action = ruleWriteAction::remove;
     std::string id;
 
     static constexpr auto fields =

@@ -1,6 +1,28 @@
 #pragma once
 
 #include "protocol/WireOrder.h"
+#include "protocol/rules/RuleWriteAction.h"
+
+namespace protocol::messageIcon {
+
+constexpr std::uint32_t ok = 0;
+constexpr std::uint32_t warning = 1;
+constexpr std::uint32_t stop = 2;
+constexpr std::uint32_t info = 3;
+constexpr std::uint32_t last = info;
+
+} // namespace protocol::messageIcon
+
+// How a user message shows.
+namespace protocol::messageType {
+
+constexpr std::uint32_t box = 1;
+constexpr std::uint32_t balloon = 2;
+constexpr std::uint32_t webPage = 3;
+constexpr std::uint32_t first = box;
+constexpr std::uint32_t last = webPage;
+
+} // namespace protocol::messageType
 
 namespace protocol {
 
@@ -10,10 +32,10 @@ struct UserMessageRecord {
     wire::WideString name;
     wire::WideString subtitle; // never travels, and so is always empty
     wire::WideString caption;
-    wire::WideString text;  // or the address of a web page
-    std::uint32_t icon = 0; // 0 OK, 1 warning, 2 stop, 3 info
-    std::uint32_t type = 1; // 1 message box, 2 balloon, 3 web page
-    bool builtIn = false;   // told by the server: may be edited but not deleted
+    wire::WideString text; // or the address of a web page
+    std::uint32_t icon = messageIcon::ok;
+    std::uint32_t type = messageType::box;
+    bool builtIn = false; // told by the server: may be edited but not deleted
 
     static constexpr auto fields =
         wireOrder(field("id", &UserMessageRecord::id), field("name", &UserMessageRecord::name),
@@ -41,9 +63,9 @@ struct ListUserMessagesRequest {
 struct WriteUserMessageRequest {
     static constexpr std::uint16_t opcode = 68;
     static constexpr std::string_view form = "action 1 adds, 2 updates";
-    static constexpr std::array<std::uint8_t, 2> actions = {1, 2};
+    static constexpr std::array<std::uint8_t, 2> actions = {ruleWriteAction::add, ruleWriteAction::update};
 
-    std::uint8_t action = 1;
+    std::uint8_t action = ruleWriteAction::add;
     UserMessageRecord message;
 
     static constexpr auto fields = wireOrder(field("action", &WriteUserMessageRequest::action),
@@ -56,9 +78,9 @@ struct WriteUserMessageRequest {
 struct DeleteUserMessageRequest {
     static constexpr std::uint16_t opcode = 68;
     static constexpr std::string_view form = "action 3 deletes";
-    static constexpr std::array<std::uint8_t, 1> actions = {3};
+    static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::remove};
 
-    std::uint8_t action = 3;
+    std::uint8_t action = ruleWriteAction::remove;
     wire::Uuid id = {};
 
     static constexpr auto fields =
