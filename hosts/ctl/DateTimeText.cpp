@@ -1,31 +1,56 @@
 #include "hosts/ctl/DateTimeText.h"
 
-#include <regex>
+#include <algorithm>
+#include <charconv>
+#include <string_view>
 
 namespace ctl {
+namespace {
+
+// Takes off the front of the text what is like the pattern, in which 0 stands for any digit; nothing when it is not.
+std::optional<std::string_view> takeLike(std::string_view& text, std::string_view pattern) {
+    const auto taken = text.substr(0, pattern.size());
+    const bool like = std::ranges::equal(taken, pattern, [](char character, char expected) {
+        return expected == '0' ? character >= '0' && character <= '9' : character == expected;
+    });
+    if (!like) {
+        return std::nullopt;
+    }
+    text.remove_prefix(pattern.size());
+    return taken;
+}
+
+template <class Field>
+void readNumber(std::string_view digits, Field& field) {
+    std::from_chars(digits.data(), digits.data() + digits.size(), field);
+}
+
+} // namespace
 
 std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& text) {
     if (text == "none") {
         return std::optional<forms::DateTime>();
     }
-    static const std::regex form(R"((?:(\d{4})-(\d\d)-(\d\d))?[ T]?(?:(\d\d):(\d\d)(?::(\d\d))?)?)");
-    std::smatch parts;
-    if (!std::regex_match(text, parts, form)) {
-        return std::nullopt;
-    }
     forms::DateTime value;
-    const auto take = [&](std::size_t part, auto& field) {
-        if (parts[part].matched) {
-            field = static_cast<std::remove_reference_t<decltype(field)>>(std::stoi(parts[part]));
+    std::string_view rest = text;
+    const auto date = takeLike(rest, "0000-00-00");
+    if (date) {
+        readNumber(date->substr(0, 4), value.year);
+        readNumber(date->substr(5, 2), value.month);
+        readNumber(date->substr(8, 2), value.day);
+    }
+    if (rest.starts_with(' ') || rest.starts_with('T')) {
+        rest.remove_prefix(1);
+    }
+    const auto time = takeLike(rest, "00:00");
+    if (time) {
+        readNumber(time->substr(0, 2), value.hour);
+        readNumber(time->substr(3, 2), value.minute);
+        if (const auto seconds = takeLike(rest, ":00")) {
+            readNumber(seconds->substr(1), value.second);
         }
-    };
-    take(1, value.year);
-    take(2, value.month);
-    take(3, value.day);
-    take(4, value.hour);
-    take(5, value.minute);
-    take(6, value.second);
-    if ((!parts[1].matched && !parts[4].matched) || !forms::isValid(value)) {
+    }
+    if (!rest.empty() || (!date && !time) || !forms::isValid(value)) {
         return std::nullopt;
     }
     return std::optional<forms::DateTime>(value);

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <map>
 #include <optional>
-#include <regex>
 #include <set>
 #include <string_view>
 
@@ -110,14 +110,61 @@ struct Include {
     bool quoted = false;
 };
 
+// The lines of a text, without their ends.
+std::vector<std::string_view> linesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const auto length = std::min(text.find('\n'), text.size());
+        lines.push_back(text.substr(0, length));
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    return lines;
+}
+
+void skipBlanks(std::string_view& text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+}
+
+bool take(std::string_view& text, std::string_view word) {
+    skipBlanks(text);
+    if (!text.starts_with(word)) {
+        return false;
+    }
+    text.remove_prefix(word.size());
+    skipBlanks(text);
+    return true;
+}
+
 std::vector<Include> includesOf(const std::string& text) {
-    static const std::regex line(R"re((?:^|\n)[ \t]*#[ \t]*include[ \t]*(?:"([^"\n]*)"|<([^>\n]*)>))re");
     std::vector<Include> includes;
-    for (std::sregex_iterator match(text.begin(), text.end(), line), end; match != end; ++match) {
-        const bool quoted = (*match)[1].matched;
-        includes.push_back({(*match)[quoted ? 1 : 2], quoted});
+    for (auto line : linesOf(text)) {
+        if (!take(line, "#") || !take(line, "include") || !(line.starts_with('"') || line.starts_with('<'))) {
+            continue;
+        }
+        const bool quoted = line.front() == '"';
+        const auto end = line.find(quoted ? '"' : '>', 1);
+        if (end != std::string_view::npos) {
+            includes.push_back({std::string(line.substr(1, end - 1)), quoted});
+        }
     }
     return includes;
+}
+
+bool isWordCharacter(char character) {
+    return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
+}
+
+// The words of a line of a build script, as far as no comment begins.
+std::set<std::string_view> wordsOf(std::string_view line) {
+    std::set<std::string_view> words;
+    line = line.substr(0, line.find('#'));
+    while (!line.empty()) {
+        const auto* const end = std::ranges::find_if_not(line, isWordCharacter);
+        const auto length = static_cast<std::size_t>(end - line.begin());
+        words.insert(line.substr(0, length));
+        line.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return words;
 }
 
 void addWithBelow(const std::string& folder, std::set<std::string>& below) {
@@ -133,8 +180,20 @@ std::size_t lineCount(const SourceFile& file) {
 }
 
 bool isQtHeader(const std::string& name) {
-    static const std::regex qt(R"re((Qt[A-Z]\w*/.*|Q[A-Z]\w*|Qt|q[a-z]+\.h))re");
-    return std::regex_match(name, qt);
+    const auto isUpper = [&](std::size_t at) { return at < name.size() && name[at] >= 'A' && name[at] <= 'Z'; };
+    const auto isLower = [](char character) { return character >= 'a' && character <= 'z'; };
+    if (name == "Qt") {
+        return true;
+    }
+    if (name.starts_with("Qt") && isUpper(2) && name.find('/') != std::string::npos) {
+        return std::all_of(name.begin(), std::ranges::find(name, '/'), isWordCharacter);
+    }
+    if (name.starts_with('Q')) {
+        return isUpper(1) && std::ranges::all_of(name, isWordCharacter);
+    }
+    const auto stem = std::string_view(name).substr(0, name.find('.'));
+    return stem.size() > 1 && stem.front() == 'q' && std::ranges::all_of(stem, isLower) &&
+           name.substr(stem.size()) == ".h";
 }
 
 bool isWin32Header(std::string name) {
@@ -296,10 +355,13 @@ Complaints longSources(const SourceTree& tree) {
 }
 
 Complaints globbedSources(const SourceTree& tree) {
-    static const std::regex glob(R"re((^|\n)[^#\n]*(\bGLOB(_RECURSE)?\b|\baux_source_directory\b))re");
+    const auto globs = [](std::string_view line) {
+        const auto words = wordsOf(line);
+        return words.contains("GLOB") || words.contains("GLOB_RECURSE") || words.contains("aux_source_directory");
+    };
     Complaints complaints;
     for (const auto& file : tree) {
-        if (!isSource(file) && std::regex_search(file.text, glob)) {
+        if (!isSource(file) && std::ranges::any_of(linesOf(file.text), globs)) {
             complaints.push_back(file.path + ": names its sources by a pattern");
         }
     }
