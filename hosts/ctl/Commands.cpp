@@ -107,6 +107,7 @@ void call(const Options& options, Session& session, std::ostream& out) {
             throw Failure(ExitStatus::refused,
                           "The reply to " + std::string(command.name) + " did not come or broke off");
         }
+        session.check();
         out << dump(replyJson(reply), 2) << '\n';
     } catch (const Failure&) {
         throw;

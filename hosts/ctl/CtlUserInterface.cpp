@@ -41,6 +41,17 @@ void CtlUserInterface::fail(const Failure& failure) {
     }
 }
 
+bool CtlUserInterface::goesOn() {
+    if (!failure_ && beforeStep) {
+        try {
+            beforeStep();
+        } catch (const Failure& failure) {
+            fail(failure);
+        }
+    }
+    return !failure_;
+}
+
 void CtlUserInterface::finish() {
     if (failure_) {
         throw *failure_;
@@ -54,7 +65,7 @@ Answer CtlUserInterface::messageBox(platform::WindowHandle /*owner*/, const wire
                                     const wire::WideString& caption, std::uint32_t boxStyle) {
     const Buttons buttons = buttonsOf(boxStyle);
     const std::string line = shown(caption) + ": " + shown(text.substr(0, text.find_last_not_of(u' ') + 1));
-    if (failure_) {
+    if (!goesOn()) {
         return buttons.least;
     }
     const Step* const step = steps_.next();
@@ -84,7 +95,7 @@ Answer CtlUserInterface::statement(const std::string& line, std::uint32_t icon) 
 int CtlUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {
     form.open();
     try {
-        while (!form.ended() && !failure_) {
+        while (!form.ended() && goesOn()) {
             drive(form);
         }
     } catch (const Failure& failure) {

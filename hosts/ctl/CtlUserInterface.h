@@ -4,6 +4,7 @@
 #include "hosts/ctl/StepList.h"
 #include "shell/ShellUserInterface.h"
 
+#include <functional>
 #include <optional>
 #include <ostream>
 
@@ -25,6 +26,9 @@ public:
         steps_ = StepList();
         failure_.reset();
     }
+    // Called before a step is taken; a Failure that it throws ends the steps.
+    std::function<void()> beforeStep;
+
     // Throws the failure, if there was one, or for steps that were not used.
     void finish();
 
@@ -34,6 +38,8 @@ public:
 
 private:
     void fail(const Failure& failure);
+    // Whether a step may be taken.
+    bool goesOn();
     platform::Answer statement(const std::string& line, std::uint32_t icon);
     void drive(forms::Form& form);
 

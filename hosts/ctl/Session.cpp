@@ -28,7 +28,7 @@ Session::Session(const Options& options, std::ostream& errors)
       settings_(options.settings ? *options.settings : common::IniSettingsStore::defaultPath()),
       platform_{.ui = ui_,
                 .settings = settings_,
-                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_, .requests = &writes_},
                 .productVersion = {},
                 .locale = locale_} {
     observers_.add(failures_);
@@ -82,6 +82,7 @@ wire::WideString Session::logIn() {
     }
     snapin::loginDone = 1;
     loggedIn_ = dialog.statusText();
+    ui_.beforeStep = [this] { checkCommands(); };
     return *loggedIn_;
 }
 
@@ -99,11 +100,20 @@ shell::Shell& Session::start() {
 
 void Session::beginCommand() {
     failures_.forget();
+    writes_.forget();
     ui_.begin();
 }
 
-void Session::check() {
+void Session::checkCommands() {
+    const auto write = writes_.notCarriedOut();
     failures_.check();
+    if (write) {
+        throw Failure(ExitStatus::refused, "The server did not carry out the command " + *write);
+    }
+}
+
+void Session::check() {
+    checkCommands();
     ui_.finish();
 }
 

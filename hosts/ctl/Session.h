@@ -3,6 +3,7 @@
 #include "hosts/common/IniSettingsStore.h"
 #include "hosts/common/SystemLocale.h"
 #include "hosts/common/TwoSidedSnapIn.h"
+#include "hosts/common/WriteCheck.h"
 #include "hosts/ctl/Activity.h"
 #include "hosts/ctl/CtlUserInterface.h"
 #include "hosts/ctl/FailureWatch.h"
@@ -36,11 +37,11 @@ public:
     shell::Shell& start();
     // Another command of a script begins: what the one before has left behind is forgotten.
     void beginCommand();
-    // Throws Failure when a command has failed, or a question or a step was left over.
+    // Throws Failure when a command has failed or the server did not carry it out, or a question or a step was left
+    // over.
     void check();
 
     CtlUserInterface& ui() { return ui_; }
-    shell::Observers& observers() { return observers_; }
 
 private:
     // What was given, else what the settings have under the name. Throws Failure (no connection) without either.
@@ -55,6 +56,8 @@ private:
         shell::Shell shell;
     };
 
+    // Throws Failure when a command has failed, or the server did not carry it out.
+    void checkCommands();
     StepList loginSteps(const wire::WideString& server, const wire::WideString& port) const;
 
     const Options& options_;
@@ -62,6 +65,7 @@ private:
     shell::TaskQueue tasks_;
     std::optional<Activity> activity_;
     FailureWatch failures_;
+    common::WriteCheck writes_;
     shell::CommandWatch watch_{observers_};
     CtlUserInterface ui_;
     platform::RefusalBox refusals_{ui_};

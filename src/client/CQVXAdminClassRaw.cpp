@@ -57,6 +57,8 @@ RawReply CQVXAdminClass::rawCall(std::uint16_t opcode, std::span<const protocol:
     RawReply reply;
     reply.command = &callable(opcode);
     auto data = protocol::makeDataMessage(fields);
+    if (reply.command->reply == protocol::ReplyShape::none)
+        announceRequest(*this, *reply.command, data.get());
     Exchange exchange(*this, *reply.command);
     if (!exchange.connect())
         throw ConnectFailed();

@@ -1,6 +1,7 @@
 #include "client/Exchange.h"
 
 #include "client/ConnectFailed.h"
+#include "client/RequestObserver.h"
 #include "wire/Cancelled.h"
 
 #include <stdexcept>
@@ -14,6 +15,11 @@ namespace {
 }
 
 } // namespace
+
+void announceRequest(CQVXAdminClass2& client, const protocol::Command& command, const wire::Message* data) {
+    if (RequestObserver* const observer = client.settings().hooks.requests)
+        observer->requestMade(command, data != nullptr ? data->bytes() : std::span<const std::uint8_t>());
+}
 
 Exchange::Exchange(CQVXAdminClass2& client, const protocol::Command& command, std::string summary)
     : client_(client), command_(command), start_(std::chrono::steady_clock::now()) {
@@ -68,6 +74,8 @@ bool Exchange::connect(std::unique_ptr<wire::ITransport> own, std::uint32_t time
 
 void Exchange::send(std::unique_ptr<wire::Message> data) {
     run([&] {
+        if (command_.reply != protocol::ReplyShape::none)
+            announceRequest(client_, command_, data.get());
         transport_->addMessage(wire::makeCommandMessage(command_.opcode, command_.version));
         if (data)
             transport_->addMessage(std::move(data));

@@ -14,6 +14,9 @@
 
 namespace client {
 
+// Tells the request observer what a command asks for; null data is a command without fields.
+void announceRequest(CQVXAdminClass2& client, const protocol::Command& command, const wire::Message* data);
+
 // One command on a connection of its own, in the ways that its row of the catalogue tells. Ends the connection and
 // reports to the command observer when it goes out of scope, exactly once.
 class Exchange {
@@ -31,7 +34,8 @@ public:
     // Takes a connection that was made elsewhere, its own settings included.
     [[nodiscard]] bool connect(std::unique_ptr<wire::ITransport> own, std::uint32_t timeoutSeconds);
 
-    // Sends the command with its fields; null data means a command without fields. Throws std::runtime_error "failed to
+    // Sends the command with its fields; null data means a command without fields. Announces the request of a command
+    // that is answered; of any other one that was done before. Throws std::runtime_error "failed to
     // send messages" for a guarded send without a connection.
     void send(std::unique_ptr<wire::Message> data);
 

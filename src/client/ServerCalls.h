@@ -27,10 +27,13 @@ template <class Request>
 // A command without a reply; false when there is no connection.
 template <class Request>
 bool sendCommand(CQVXAdminClass2& client, const Request& request, std::string summary = {}) {
-    Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
+    const auto& command = protocol::commandOf<Request>();
+    auto data = dataMessageOf(request);
+    announceRequest(client, command, data.get());
+    Exchange exchange(client, command, std::move(summary));
     if (!exchange.connect())
         return false;
-    exchange.send(dataMessageOf(request));
+    exchange.send(std::move(data));
     return true;
 }
 

@@ -115,5 +115,27 @@ TEST_F(CtlUserInterface, stepsThatAreLeftOverFail) {
     EXPECT_EQ(failure(), "Nothing was there to take the step --press \"OK\"");
 }
 
+TEST_F(CtlUserInterface, noStepIsTakenAfterACommandHasFailed) {
+    give({parseStep(Step::Kind::set, "Name=Hall"), press("OK")});
+    ui.beforeStep = [&] {
+        if (!form.name.text().empty()) {
+            throw ctl::Failure(ctl::ExitStatus::refused, "It has failed");
+        }
+    };
+
+    ui.runModal(form, 0);
+
+    EXPECT_EQ(form.result(), forms::idCancel);
+    EXPECT_EQ(failure(), "It has failed");
+}
+
+TEST_F(CtlUserInterface, noQuestionIsAnsweredAfterACommandHasFailed) {
+    give({answer("ok")});
+    ui.beforeStep = [] { throw ctl::Failure(ctl::ExitStatus::refused, "It has failed"); };
+
+    EXPECT_EQ(ui.messageBox(0, u"Sure?", u"Warning", style::okCancel), Answer::cancel);
+    EXPECT_EQ(failure(), "It has failed");
+}
+
 } // namespace
 } // namespace hosttest

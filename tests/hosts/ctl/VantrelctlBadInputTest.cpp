@@ -97,7 +97,7 @@ TEST_F(VantrelctlBadInput, aNameThatIsTakenIsNotTakenAgain) {
 TEST_F(VantrelctlBadInput, aRenameToATakenNameIsNotCarriedOut) {
     createRegion("North");
 
-    expectFailure(ctl({"rename", "Printers/North", "Berlin"}), 1, "did not carry out the rename");
+    expectFailure(ctl({"rename", "Printers/North", "Berlin"}), 1, "did not carry out the command RenameRegion");
     EXPECT_THAT(below("Printers"), Contains("North"));
 }
 
@@ -110,7 +110,8 @@ TEST_F(VantrelctlBadInput, aPrinterOffersNoRename) {
 TEST_F(VantrelctlBadInput, aRegionIsNotMovedBelowItself) {
     const auto inner = below("Printers/Berlin").front();
 
-    expectFailure(ctl({"move", "Printers/Berlin", "Printers/Berlin/" + inner}), 1, "did not carry out the move");
+    expectFailure(ctl({"move", "Printers/Berlin", "Printers/Berlin/" + inner}), 1,
+                  "did not carry out the command MoveRegion");
     EXPECT_THAT(below("Printers"), Contains("Berlin"));
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "hosts/common/WriteLookup.h"
+
+#include <span>
+
+namespace common {
+
+// The look-ups of regions, printers and queues.
+std::span<const WriteLookup> estateWriteLookups();
+
+} // namespace common
