@@ -93,7 +93,8 @@ std::vector<Texts> rowNames(const Control& control) {
 
 bool hasRow(const Control& control, const wire::WideString& name) {
     return std::ranges::any_of(rowNames(control), [&](const Texts& names) {
-        return std::ranges::any_of(names, [&](const wire::WideString& text) { return sameWord(text, name); });
+        return std::ranges::any_of(names, [&](const wire::WideString& text) { return sameWord(text, name); }) ||
+               placeOf(name, names, "row") < names.size();
     });
 }
 

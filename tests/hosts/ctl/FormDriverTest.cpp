@@ -167,5 +167,19 @@ TEST_F(FormDriver, aDayThatIsNoneIsRefused) {
     EXPECT_THAT(refusal(Kind::set, "From=2023-02-29"), HasSubstr("a day and a time"));
 }
 
+TEST_F(FormDriver, rowsThatLookAlikeAreToldApartByTheirNumbers) {
+    form.drivers.setRows(
+        {{{u"1", u"Same", u"new"}, ""}, {{u"2", u"Other", u"old"}, ""}, {{u"3", u"Same", u"new"}, ""}});
+
+    perform(form, parseStep(Kind::select, "Drivers=Same#2"));
+    EXPECT_EQ(form.drivers.selection(), 2U);
+
+    perform(form, parseStep(Kind::select, "Drivers=#1"));
+    EXPECT_EQ(form.drivers.selection(), 0U);
+
+    EXPECT_THAT(refusal(Kind::select, "Drivers=Same"), HasSubstr("\"Same#1\" to \"Same#2\""));
+    EXPECT_THAT(refusal(Kind::select, "Drivers=Same#3"), HasSubstr("there is \"Same#1\", \"Other\", \"Same#2\""));
+}
+
 } // namespace
 } // namespace hosttest
