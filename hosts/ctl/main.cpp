@@ -1,3 +1,4 @@
+#include "hosts/common/DiagnosticsLog.h"
 #include "hosts/ctl/CommandLine.h"
 #include "hosts/ctl/Commands.h"
 #include "hosts/ctl/Failure.h"
@@ -10,8 +11,12 @@
 namespace {
 
 // One line, whatever the text holds.
-int fail(ctl::ExitStatus status, const std::string& text) {
+void say(const std::string& text) {
     std::cerr << "vantrelctl: " << ctl::shown(wire::toWide(text)) << std::endl;
+}
+
+int fail(ctl::ExitStatus status, const std::string& text) {
+    say(text);
     return static_cast<int>(status);
 }
 
@@ -39,6 +44,7 @@ int run(int count, const char* const* arguments) {
 
 int main(int count, char** arguments) {
     std::setlocale(LC_ALL, "");
+    common::installDiagnosticsLog(say);
     try {
         return run(count, arguments);
     } catch (const ctl::Failure& failure) {

@@ -1,3 +1,4 @@
+#include "hosts/common/DiagnosticsLog.h"
 #include "hosts/desktop/window/Application.h"
 #include "hosts/desktop/window/Program.h"
 
@@ -38,6 +39,8 @@ int main(int argc, char** argv) {
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    common::installDiagnosticsLog(
+        [](const std::string& line) { std::fprintf(stderr, "vantrel-admin: %s\n", line.c_str()); });
     if (options.scale > 0) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     }
