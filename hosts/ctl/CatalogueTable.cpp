@@ -5,6 +5,8 @@
 #include "hosts/ctl/ReplyJson.h"
 #include "shell/ListExport.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 #include <charconv>
 

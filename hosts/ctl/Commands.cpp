@@ -12,6 +12,8 @@
 #include "hosts/ctl/TreeWriter.h"
 #include "shell/ListExport.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 
 namespace ctl {

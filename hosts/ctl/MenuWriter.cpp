@@ -3,6 +3,8 @@
 #include "hosts/ctl/ReplyJson.h"
 #include "shell/ListExport.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <array>
 #include <vector>

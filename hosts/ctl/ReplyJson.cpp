@@ -2,6 +2,8 @@
 
 #include "wire/WireUuid.h"
 
+#include <nlohmann/json.hpp>
+
 #include <array>
 #include <charconv>
 

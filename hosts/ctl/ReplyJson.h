@@ -2,7 +2,7 @@
 
 #include "client/RawReply.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 namespace ctl {
 

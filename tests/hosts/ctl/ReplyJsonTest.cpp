@@ -1,6 +1,7 @@
 #include "hosts/ctl/ReplyJson.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace {
 
