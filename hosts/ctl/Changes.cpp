@@ -58,6 +58,9 @@ void runEntry(const Options& options, Session& session) {
                       "The menu has no entry \"" + shown(wire::toWide(options.entry)) + '"' +
                           (menu.empty() ? "; it is empty" : "; there is " + listed(textsOf(menu))));
     }
+    if (entry->disabled) {
+        throw Failure(ExitStatus::refused, "The entry \"" + shown(entry->text) + "\" is disabled");
+    }
     session.ui().setSteps(StepList(options.steps));
     shell.invoke(entry->id, target);
     session.check();

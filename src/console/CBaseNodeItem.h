@@ -2,8 +2,10 @@
 
 #include "console/NodeBase.h"
 
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace console {
 
@@ -21,9 +23,10 @@ std::string classNameOf() {
 }
 
 // The base of every node class X, as CBaseNodeItem<X>. X names itself with a
-// `static constexpr NodeIdentity identity{.displayName = u"Price Plans", ...}`.
-template <class T>
-class CBaseNodeItem : public NodeBase {
+// `static constexpr NodeIdentity identity{.displayName = u"Price Plans", ...}`, and its commands in commands(), from
+// which menu, handlers and keys follow. Base is NodeBase, or what several classes share on top of it.
+template <class T, class Base = NodeBase>
+class CBaseNodeItem : public Base {
 public:
     const NodeIdentity& nodeIdentity() const final { return T::identity; }
     const std::string& className() const final {
@@ -32,7 +35,24 @@ public:
     }
 
 protected:
-    explicit CBaseNodeItem(platform::Platform& platform) : NodeBase(platform, T::identity) {}
+    // What stands behind the platform goes to the base.
+    template <class... More>
+    explicit CBaseNodeItem(platform::Platform& platform, More&&... more)
+        : Base(platform, T::identity, std::forward<More>(more)...) {}
+
+    // In the order of the menu.
+    virtual std::span<const NodeCommand<T>> commands() const { return {}; }
+
+    MenuEntries menu() const override { return menuOf(static_cast<const T&>(*this), commands()); }
+    Result runCommand(std::int32_t commandId, CommandOrigin origin) override {
+        const auto* const command = findCommand(commands(), commandId);
+        return command != nullptr && command->run != nullptr ? (static_cast<T&>(*this).*command->run)(origin)
+                                                             : Result::notDone;
+    }
+    KeySequence keysAfterCommand(std::int32_t commandId, CommandOrigin /*origin*/) const override {
+        const auto* const command = findCommand(commands(), commandId);
+        return command != nullptr ? command->keys : KeySequence();
+    }
 };
 
 } // namespace console

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -29,7 +30,9 @@ enum class ExpandCode : std::uint8_t { collapse = 0, expand = 1, refresh = 2 };
 
 // Everything that the console can ask of a node: the object behind a cookie.
 // Nodes are made with std::make_shared; the console holds a shared pointer for each row that it shows, a parent one for
-// each child, and a node that neither refers to any more is gone.
+// each child, and a node that neither refers to any more is gone. A host whose console knows a node only by its raw
+// cookie holds that pointer in the console's stead: from the insertion of a row until it has been removed and the
+// handler in which that happened has returned, since the console may name the cookie up to then.
 class CSnapInItem : public std::enable_shared_from_this<CSnapInItem> {
 public:
     CSnapInItem() = default;
@@ -69,6 +72,12 @@ public:
     // What makes this node the same one after a refresh, among the children of one parent: an id, else the display
     // name.
     virtual std::string refreshKey() const = 0;
+    // A number by which a list is sorted by this column, where the text would put it wrong: the time of a date, a
+    // price. Nothing where the text says it.
+    virtual std::optional<std::int64_t> sortValue(std::int32_t column) const = 0;
+    // Shows columns and rows as they stand after a refresh, for a console that gets no keys from which it would show
+    // them again. Reads from the server only what the refresh has not.
+    virtual Result showAnew(IConsole& console) = 0;
 };
 
 } // namespace console

@@ -12,14 +12,18 @@ class IHeaderCtrl;
 class IImageList;
 class IResultData;
 
-// The console as a node sees it. The accessors give the console's other faces, which live as long as it does.
+// The console as a node sees it: that of the whole snap-in, or that of one view, which may be closed long before the
+// snap-in ends. A node keeps neither: it asks its component data for the first, and uses the second only while it
+// handles what came from there.
 class IConsole {
 public:
     virtual ~IConsole() = default;
 
-    virtual IConsoleNameSpace& nameSpace() = 0;
-    virtual IResultData& resultData() = 0;
-    virtual IHeaderCtrl& headerCtrl() = 0;
+    // The console's other faces, which live as long as it does. Null when it does not have one, as a query for an
+    // interface can fail.
+    virtual IConsoleNameSpace* nameSpace() = 0;
+    virtual IResultData* resultData() = 0;
+    virtual IHeaderCtrl* headerCtrl() = 0;
 
     // The verbs of the current selection; null when there are none to set.
     virtual Result QueryConsoleVerb(IConsoleVerb*& verb) = 0;
@@ -29,10 +33,12 @@ public:
     virtual Result GetMainWindow(platform::WindowHandle& window) = 0;
 };
 
-// The snap-in's scope side, of which a node needs only the console.
+// The snap-in's scope side, of which a node needs only the console. It outlives all use of its nodes: once it has gone,
+// the hosts ask a node that they still hold for nothing more than its end.
 class IComponentData {
 public:
     virtual ~IComponentData() = default;
+    // Null before the snap-in has been given its console, and after that was taken away.
     virtual IConsole* console() = 0;
 };
 

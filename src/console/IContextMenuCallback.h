@@ -9,7 +9,11 @@ namespace console {
 constexpr std::int32_t insertionPointPrimaryTop =
     static_cast<std::int32_t>(0xA0000000U);     // CCM_INSERTIONPOINTID_PRIMARY_TOP
 constexpr std::int32_t insertionAllowedTop = 1; // CCM_INSERTIONALLOWED_TOP
-constexpr std::int32_t menuSeparator = 0x800;   // MF_SEPARATOR
+
+// Bits of ContextMenuItem::fFlags.
+constexpr std::int32_t menuDisabled = 0x1;    // MF_GRAYED: can't be chosen
+constexpr std::int32_t menuChecked = 0x8;     // MF_CHECKED
+constexpr std::int32_t menuSeparator = 0x800; // MF_SEPARATOR
 
 // One entry on its way into a context menu (CONTEXTMENUITEM).
 struct ContextMenuItem {

@@ -13,6 +13,8 @@ public:
     // Adds a row and writes its id to row.itemID; a row that brings an id that is free keeps it.
     virtual Result InsertItem(ResultItemFields& row) = 0;
     virtual Result DeleteItem(ResultId itemId, std::int32_t column) = 0;
+    // Has one row shown anew, its texts and its image, where it stands.
+    virtual Result UpdateItem(ResultId itemId) = 0;
     virtual Result DeleteAllRsltItems() = 0;
 };
 

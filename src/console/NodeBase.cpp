@@ -3,46 +3,15 @@
 #include "console/IConsoleNameSpace.h"
 #include "console/IHeaderCtrl.h"
 #include "console/IResultData.h"
+#include "console/IdentityData.h"
+#include "console/StandardVerbs.h"
 #include "platform/Guard.h"
 
 #include <array>
+#include <exception>
 
 namespace console {
 namespace {
-
-// When the selection does not offer Paste, enables the standard verbs, Paste among them. The answer is that of the last
-// question put to the console.
-Result offerVerbs(IConsole& console) {
-    IConsoleVerb* verb = nullptr;
-    Result result = console.QueryConsoleVerb(verb);
-    if (verb == nullptr) {
-        return result;
-    }
-    bool offersPaste = false;
-    result = verb->GetVerbState(Verb::paste, VerbState::enabled, offersPaste);
-    if (!offersPaste) {
-        for (const Verb each : {Verb::deleteItem, Verb::copy, Verb::refresh, Verb::rename, Verb::paste}) {
-            result = verb->SetVerbState(each, VerbState::enabled, true);
-        }
-    }
-    return result;
-}
-
-void append(std::vector<std::uint8_t>& stream, const Guid& value) {
-    stream.insert(stream.end(), value.bytes.begin(), value.bytes.end());
-}
-
-// As UTF-16LE with its terminator.
-void append(std::vector<std::uint8_t>& stream, std::u16string_view text) {
-    const auto appendUnit = [&stream](char16_t unit) {
-        stream.push_back(static_cast<std::uint8_t>(unit & 0xFF));
-        stream.push_back(static_cast<std::uint8_t>(unit >> 8));
-    };
-    for (const char16_t unit : text) {
-        appendUnit(unit);
-    }
-    appendUnit(0);
-}
 
 ExpandCode expandCode(std::intptr_t arg) {
     switch (arg) {
@@ -55,10 +24,6 @@ ExpandCode expandCode(std::intptr_t arg) {
     }
 }
 
-std::string placeOf(const std::string& className, std::string_view doing, std::uint32_t number) {
-    return className + ": " + std::string(doing) + " " + std::to_string(number);
-}
-
 } // namespace
 
 NodeBase::NodeBase(platform::Platform& platform, const NodeIdentity& identity)
@@ -67,35 +32,37 @@ NodeBase::NodeBase(platform::Platform& platform, const NodeIdentity& identity)
     scope_.nOpenImage = identity.openImage;
     scope_.cChildren = identity.children;
     scope_.lParam = this;
-    result_.nImage = identity.image;
+    result_.nImage = identity.resultImage;
     result_.lParam = this;
 }
 
-Result NodeBase::Notify(const Notification& notification) {
+Result NodeBase::guarded(std::string_view doing, std::uint32_t number, Result ifThrown,
+                         const std::function<Result()>& work) {
     const auto keptAlive = weak_from_this().lock(); // a handler may remove its own row
-    auto result = Result::failed;
-    const auto place = [&] {
-        return placeOf(className(), "notification", static_cast<std::uint32_t>(notification.event));
-    };
-    platform::guarded(platform_, place, [&] {
-        IConsole* const console = consoleOf(notification);
-        result = console != nullptr ? dispatch(notification, *console) : Result::unexpected;
-    });
+    auto result = ifThrown;
+    const auto place = [&] { return className() + ": " + std::string(doing) + " " + std::to_string(number); };
+    platform::guarded(platform_, place, [&] { result = work(); });
     return result;
+}
+
+Result NodeBase::Notify(const Notification& notification) {
+    return guarded("notification", static_cast<std::uint32_t>(notification.event), Result::failed, [&] {
+        IConsole* const console = consoleOf(notification);
+        return console != nullptr ? dispatch(notification, *console) : Result::unexpected;
+    });
 }
 
 IConsole* NodeBase::consoleOf(const Notification& notification) {
     if (notification.componentData != nullptr) {
         componentData_ = notification.componentData;
-        console_ = componentData_->console();
-        return console_;
+        return console();
     }
     return notification.component != nullptr ? notification.component->console() : nullptr;
 }
 
 Result NodeBase::dispatch(const Notification& notification, IConsole& console) {
     // On every notification, whatever it is about, and before a selection sets its own verbs.
-    const Result verbsOffered = offerVerbs(console);
+    const Result verbsOffered = offerStandardVerbs(console);
     switch (notification.event) {
     case Event::addImages:
         return notification.images != nullptr ? OnAddImages(*notification.images) : Result::badPointer;
@@ -105,7 +72,7 @@ Result NodeBase::dispatch(const Notification& notification, IConsole& console) {
         return console.SelectScopeItem(scope_.ID);
     case Event::deleteItem:
         // The row only: what it stands for is deleted on the server by a menu command.
-        return console.nameSpace().DeleteItem(scope_.ID, true);
+        return console.nameSpace() != nullptr ? console.nameSpace()->DeleteItem(scope_.ID, true) : Result::failed;
     case Event::expand:
         return OnExpand(expandCode(notification.arg), console, notification.param);
     case Event::paste:
@@ -205,6 +172,7 @@ Result NodeBase::AddMenuItems(IContextMenuCallback& callback, std::int32_t inser
             item.strName = entry.text;
             item.strStatusBarText = entry.statusBarText;
             item.lCommandID = entry.id;
+            item.fFlags = (entry.checked ? menuChecked : 0) | (entry.disabled ? menuDisabled : 0);
         }
         result = callback.AddItem(item);
     }
@@ -212,16 +180,12 @@ Result NodeBase::AddMenuItems(IContextMenuCallback& callback, std::int32_t inser
 }
 
 Result NodeBase::Command(std::int32_t commandId, DataObjectType type) {
-    const auto keptAlive = weak_from_this().lock(); // "Delete" removes the node's own row
-    auto result = Result::notDone;
-    const auto place = [&] { return placeOf(className(), "command", static_cast<std::uint32_t>(commandId)); };
-    const bool finished = platform::guarded(platform_, place, [&] {
-        result = runCommand(commandId, type == DataObjectType::scope ? CommandOrigin::scope : CommandOrigin::result);
-        for (int i = 0; i < refreshesAfterCommand(); ++i) {
-            PressRefreshKey();
-        }
+    const auto origin = type == DataObjectType::scope ? CommandOrigin::scope : CommandOrigin::result;
+    return guarded("command", static_cast<std::uint32_t>(commandId), Result::notDone, [&] {
+        const Result result = runCommand(commandId, origin);
+        press(keysAfterCommand(commandId, origin));
+        return result;
     });
-    return finished ? result : Result::notDone;
 }
 
 Result NodeBase::CreatePropertyPages(DataObjectType /*type*/) {
@@ -253,22 +217,7 @@ Result NodeBase::GetResultData(ResultItemFields** out) {
 }
 
 Result NodeBase::FillData(ClipboardFormat format, std::vector<std::uint8_t>& stream) {
-    const NodeIdentity& identity = nodeIdentity();
-    switch (format) {
-    case ClipboardFormat::nodeType:
-        append(stream, identity.nodeType.guid);
-        return Result::ok;
-    case ClipboardFormat::nodeTypeText:
-        append(stream, identity.nodeType.text);
-        return Result::ok;
-    case ClipboardFormat::displayName:
-        append(stream, identity.displayName); // that of the class, whatever this node is called
-        return Result::ok;
-    case ClipboardFormat::snapInClassId:
-        append(stream, snapInClassId);
-        return Result::ok;
-    }
-    return Result::badClipboardFormat;
+    return appendIdentity(nodeIdentity(), format, stream);
 }
 
 const char16_t* NodeBase::GetResultPaneColInfo(std::int32_t column) {
@@ -288,25 +237,96 @@ std::string NodeBase::refreshKey() const {
     return wire::toUtf8(m_bstrDisplayName);
 }
 
-Result NodeBase::OnExpand(ExpandCode /*code*/, IConsole& /*console*/, ScopeId /*scopeId*/) {
-    return Result::ok;
+Result NodeBase::showAnew(IConsole& console) {
+    return guarded("notification", static_cast<std::uint32_t>(Event::viewChange), Result::failed, [&] {
+        if (rowReading() == RowReading::whenShown) {
+            return OnShow(console, true, 0);
+        }
+        if (!columns().empty() || rowReading() == RowReading::onEveryShow) {
+            visible_ = true;
+            insertColumns(console, columns());
+            insertRows(console);
+        }
+        return Result::ok;
+    });
 }
 
+Result NodeBase::OnExpand(ExpandCode code, IConsole& console, ScopeId scopeId) {
+    const auto kinds = childKinds();
+    if (kinds.empty() || !beginExpand(code, console, scopeId)) {
+        return Result::ok;
+    }
+    const auto read = insertKinds(console, kinds);
+    if (read.failure) {
+        std::rethrow_exception(read.failure);
+    }
+    return read.all() ? Result::ok : Result::notDone;
+}
+
+ReadKinds NodeBase::insertKinds(IConsole& console, std::span<const ChildKind> kinds) {
+    auto read = readKinds(kinds, CarryOver::resultRow);
+    for (std::size_t place = 0; place < kinds.size(); ++place) {
+        if (read.read[place]) {
+            for (NodeBase* const child : kinds[place].nodes()) {
+                insertChild(console, *child);
+            }
+        }
+    }
+    return read;
+}
+
+bool NodeBase::readChildren(CarryOver what) {
+    const auto kinds = childKinds();
+    const auto read = readKinds(kinds, what);
+    if (read.failure) {
+        std::rethrow_exception(read.failure);
+    }
+    return read.all();
+}
+
+void NodeBase::readRows() {
+    readChildren(CarryOver::resultRowAndScopeId);
+}
+
+// A row that can be read stands though another kind could not be: the failure is told once all is shown.
 Result NodeBase::OnShow(IConsole& console, bool show, int again) {
+    if (rowReading() != RowReading::onEveryShow) {
+        return showRows(console, show, again);
+    }
+    std::exception_ptr failure;
+    try {
+        readRows();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    const Result result = showRows(console, show, again);
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
+    return result;
+}
+
+Result NodeBase::showRows(IConsole& console, bool show, int again) {
     const auto titles = columns();
+    const auto reading = rowReading();
+    const bool fills = show || again == 1;
     if (titles.empty()) {
+        if (reading == RowReading::onEveryShow && fills) {
+            insertRows(console); // none: what stood here may have gone
+        }
         return Result::ok;
     }
     if (again == 0) {
-        visible_ = false;
+        visible_ = show;
     }
     if (show) {
         visible_ = true;
         insertColumns(console, titles);
-        readRows();
-        insertRows(console);
     }
-    if (again == 1) {
+    if ((reading == RowReading::whenShown && show) || (reading == RowReading::whenShownOrAgain && fills)) {
+        readRows();
+    }
+    if (fills) {
         insertRows(console);
     }
     return Result::ok;
@@ -358,43 +378,78 @@ Result NodeBase::OnCutOrMove(CSnapInItem& /*source*/) {
 }
 
 bool NodeBase::beginExpand(ExpandCode code, IConsole& console, ScopeId scopeId) {
-    if (code == ExpandCode::collapse) {
+    IConsoleNameSpace* const tree = console.nameSpace();
+    if (code == ExpandCode::collapse || tree == nullptr) {
         return false;
     }
     scope_.ID = scopeId;
-    console_ = &console;
     ScopeId child = 0;
     CSnapInItem* cookie = nullptr;
-    console.nameSpace().GetChildItem(scope_.ID, child, cookie);
+    tree->GetChildItem(scope_.ID, child, cookie);
     if (child != 0) {
-        console.nameSpace().DeleteItem(scope_.ID, false);
+        tree->DeleteItem(scope_.ID, false);
     }
     return true;
 }
 
 void NodeBase::insertChild(IConsole& console, NodeBase& child) const {
     child.setParent(*this);
-    console.nameSpace().InsertItem(child.scope_);
+    if (IConsoleNameSpace* const tree = console.nameSpace(); tree != nullptr && child.standsInTree()) {
+        tree->InsertItem(child.scope_);
+    }
 }
 
 void NodeBase::insertColumns(IConsole& console, std::span<const Column> columns) {
-    IHeaderCtrl& header = console.headerCtrl();
+    IHeaderCtrl* const header = console.headerCtrl();
+    if (header == nullptr) {
+        return;
+    }
     std::int32_t index = 0;
     for (const Column& column : columns) {
-        header.InsertColumn(index, column.title, columnLeft, automaticWidth);
+        header->InsertColumn(index, column.title, columnLeft, automaticWidth);
         std::int32_t width = 0;
-        if (column.widthFactor != 0 && succeeded(header.GetColumnWidth(index, width))) {
-            header.SetColumnWidth(index, static_cast<std::int32_t>(width * column.widthFactor));
+        if (column.widthFactor != 0 && succeeded(header->GetColumnWidth(index, width))) {
+            header->SetColumnWidth(index, static_cast<std::int32_t>(width * column.widthFactor));
         }
         ++index;
     }
 }
 
 void NodeBase::insertRows(IConsole& console) const {
-    IResultData& list = console.resultData();
-    list.DeleteAllRsltItems();
+    IResultData* const list = console.resultData();
+    if (list == nullptr) {
+        return;
+    }
+    list->DeleteAllRsltItems();
     for (NodeBase* row : rows()) {
-        list.InsertItem(row->result_);
+        list->InsertItem(row->result_);
+    }
+}
+
+void NodeBase::removeFromTree() {
+    if (IConsole* const where = console(); where != nullptr && where->nameSpace() != nullptr) {
+        where->nameSpace()->DeleteItem(scope_.ID, true);
+    }
+}
+
+void NodeBase::removeFromList() {
+    IConsole* const where = console();
+    if (where != nullptr && where->resultData() != nullptr && result_.itemID != 0) {
+        where->resultData()->DeleteItem(result_.itemID, 0);
+    }
+}
+
+void NodeBase::redrawRow() {
+    IConsole* const where = console();
+    if (where != nullptr && where->resultData() != nullptr && result_.itemID != 0) {
+        where->resultData()->UpdateItem(result_.itemID);
+    }
+}
+
+void NodeBase::selectAndPress(ScopeId scopeId, const KeySequence& keys) const {
+    if (console() != nullptr) {
+        console()->SelectScopeItem(scopeId);
+        press(keys);
     }
 }
 
@@ -411,8 +466,10 @@ int NodeBase::runModal(forms::Form& form) const {
     return platform_.ui.runModal(form, platform_.ui.activeWindow());
 }
 
-void NodeBase::press(std::initializer_list<platform::Key> keys) const {
-    platform_.ui.press({keys.begin(), keys.size()});
+void NodeBase::press(const KeySequence& keys) const {
+    if (!keys.empty()) {
+        platform_.ui.press(keys.keys());
+    }
 }
 
 void NodeBase::PressRefreshKey() const {

@@ -1,13 +1,18 @@
 #pragma once
 
 #include "console/CSnapInItem.h"
+#include "console/ChildKind.h"
 #include "console/IConsole.h"
 #include "console/IConsoleVerb.h"
+#include "console/KeySequence.h"
+#include "console/MenuEntry.h"
+#include "console/NodeCommand.h"
 #include "console/NodeIdentity.h"
 #include "platform/Platform.h"
 
-#include <initializer_list>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,8 +22,13 @@
 
 namespace console {
 
-// Whether a command or a notification came from the scope tree or from a row of the result pane.
-enum class CommandOrigin : std::uint8_t { scope, result };
+// When a node reads its rows from the server.
+enum class RowReading : std::uint8_t {
+    never,            // they are the children of the last expansion
+    whenShown,        // once the columns stand; a refresh shows those of before
+    whenShownOrAgain, // also on a refresh
+    onEveryShow       // also when it leaves the screen; before the columns, which depend on what was read
+};
 
 // A standard verb and whether the selected node offers it.
 struct VerbChoice {
@@ -31,8 +41,8 @@ template <class Node>
 using NodeArray = std::vector<std::shared_ptr<Node>>;
 
 // What all nodes of the tree have in common. A node class derives from CBaseNodeItem and says only what is its own:
-// columns, menu, verbs, rows, how it reads its children, what its commands do. Everything runs on the console's one
-// thread.
+// columns, commands, verbs, kinds of children, rows. Everything runs on the console's one thread; what the login does
+// on a thread of its own reaches no node.
 class NodeBase : public CSnapInItem {
 public:
     Result Notify(const Notification& notification) final;
@@ -54,21 +64,23 @@ public:
 
     const wire::WideString& displayName() const final { return m_bstrDisplayName; }
     std::string refreshKey() const override;
+    std::optional<std::int64_t> sortValue(std::int32_t /*column*/) const override { return std::nullopt; }
+    Result showAnew(IConsole& console) final;
 
     // A node that gets its name from the server is named right after it is made.
     void setDisplayName(wire::WideString name) { m_bstrDisplayName = std::move(name); }
     // The row of the parent under which the console is to insert this node.
     void setParentRow(ScopeId parent) { scope_.relativeID = parent; }
-    // Places this node under its parent, which passes on its row and the console that it stands in. A node that stands
-    // only as a row of a list gets to know its console in no other way.
+    // Places this node under its parent, which passes on its row and the component data. A node that stands only as a
+    // row of a list gets to know its console in no other way.
     void setParent(const NodeBase& parent) {
         setParentRow(parent.scope_.ID);
-        console_ = parent.console_;
+        componentData_ = parent.componentData_;
     }
     ScopeItemFields& scopeFields() { return scope_; }
     ResultItemFields& resultFields() { return result_; }
 
-    // Fills the children. The default is Result::ok and nothing.
+    // Fills the children: reads the kinds, and inserts those that were read. Nothing for a node without kinds.
     virtual Result OnExpand(ExpandCode code, IConsole& console, ScopeId scopeId);
     // Fills the result pane: with `show` columns() and rows(), with `again` 1 rows() alone, since the columns stand
     // already. A node without columns shows nothing.
@@ -78,19 +90,25 @@ protected:
     NodeBase(platform::Platform& platform, const NodeIdentity& identity);
 
     virtual std::span<const Column> columns() const { return {}; }
-    virtual std::span<const MenuEntry> menu() const { return {}; }
+    // As they stand at this moment.
+    virtual MenuEntries menu() const { return {}; }
+    // The kinds of children, in the order in which they stand.
+    virtual std::vector<ChildKind> childKinds() { return {}; }
+    // Whether the tree shows this child of its parent. One that it does not show may still stand as a row.
+    virtual bool standsInTree() const { return true; }
     // The nodes that stand as rows in this node's result pane, in order.
     virtual std::vector<NodeBase*> rows() const { return {}; }
-    // For a node that reads the server whenever it is shown, and not when it is expanded: fills what rows() gives, once
-    // the columns stand. Leaves no rows when it throws.
-    virtual void readRows() {}
+    virtual RowReading rowReading() const { return RowReading::never; }
+    // Fills what rows() gives. The default reads the kinds of children.
+    virtual void readRows();
     // In the order in which they are set. The default offers Refresh and nothing else.
     virtual std::span<const VerbChoice> verbs() const;
     // Runs the handler of a menu entry. May throw whatever the client throws: the guard around it reports it, skips the
-    // closing F5 and answers Result::notDone. A number that is not the class's own has no effect.
+    // keys and answers Result::notDone. A number that is not the class's own has no effect.
     virtual Result runCommand(std::int32_t commandId, CommandOrigin origin);
-    // How often F5 is pressed after a command that did not fail.
-    virtual int refreshesAfterCommand() const { return 0; }
+    // What is pressed after every command that did not throw, whatever came of it: also after a Cancel, and for a
+    // number that is not the class's own.
+    virtual KeySequence keysAfterCommand(std::int32_t /*commandId*/, CommandOrigin /*origin*/) const { return {}; }
     virtual Result OnSelect(IConsole& console);
     virtual Result OnRename(IConsole& console, const wire::WideString& newName);
     virtual Result OnAddImages(IImageList& images);
@@ -99,35 +117,48 @@ protected:
     virtual Result OnCutOrMove(CSnapInItem& source);
 
     platform::Platform& platform() const { return platform_; }
-    // The component data and its console as Notify saw them last, the console also as OnExpand did; null before.
+    // The component data as Notify saw it last, or the parent before that, and its console; null before. It is the only
+    // one of the console's faces that a node keeps.
     IComponentData* componentData() const { return componentData_; }
-    IConsole* console() const { return console_; }
+    IConsole* console() const { return componentData_ != nullptr ? componentData_->console() : nullptr; }
     // Whether the result pane shows this node.
     bool visible() const { return visible_; }
     ScopeId parentRow() const { return scope_.relativeID; }
     ScopeId row() const { return scope_.ID; }
 
-    // For OnExpand. False when there is nothing to do (a collapse). Else remembers row and console and removes the
-    // children that stand.
+    // For OnExpand. False when there is nothing to do: on a collapse, or without a tree. Else remembers the row and
+    // removes the children that stand.
     bool beginExpand(ExpandCode code, IConsole& console, ScopeId scopeId);
-    // Inserts the scope row of a child under this node.
+    // Inserts the scope row of a child under this node, unless the tree does not show it.
     void insertChild(IConsole& console, NodeBase& child) const;
     // Inserts a column per entry, with its width.
     static void insertColumns(IConsole& console, std::span<const Column> columns);
     // Empties the result pane and inserts rows().
     void insertRows(IConsole& console) const;
+    // Reads the kinds of children. Throws the first failure when all that can be read has been.
+    bool readChildren(CarryOver what);
+
+    // For commands. Nothing of this happens while the node stands in no console.
+    void removeFromTree();
+    void removeFromList();
+    // Has this node's own row of the list shown anew, after a change of its state.
+    void redrawRow();
+    void setResultImage(std::int32_t image) { result_.nImage = image; }
+    void setScopeImages(std::int32_t image, std::int32_t openImage) {
+        scope_.nImage = image;
+        scope_.nOpenImage = openImage;
+    }
+    // Selects an item of the tree and presses keys there.
+    void selectAndPress(ScopeId scopeId, const KeySequence& keys) const;
 
     // Asks as every destructive command does: caption "Warning", OK and Cancel. True on OK.
     bool confirm(const wire::WideString& question) const;
     platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption,
                                 std::uint32_t style) const;
     int runModal(forms::Form& form) const;
-    void press(std::initializer_list<platform::Key> keys) const;
+    void press(const KeySequence& keys) const;
     void PressRefreshKey() const;
     void PressTabKey() const;
-
-    // How much of an old child a new one takes over.
-    enum class CarryOver : std::uint8_t { resultRow, resultRowAndScopeId };
 
     // Puts fresh in the place of current. A new child with the refreshKey of an old one takes over its row in the
     // result pane, so that the row's identity survives; lParam stays the new node, which holds the record just read.
@@ -145,22 +176,78 @@ protected:
         }
         current = std::move(fresh);
     }
+    // A node for each record, made as Node(platform, record, more...) and placed under this one.
+    template <class Node, class Record, class... More>
+    NodeArray<Node> childrenFor(std::vector<Record> records, const More&... more) const {
+        NodeArray<Node> nodes;
+        nodes.reserve(records.size());
+        for (auto& record : records) {
+            nodes.push_back(std::make_shared<Node>(platform(), std::move(record), more...));
+            nodes.back()->setParent(*this);
+        }
+        return nodes;
+    }
     // A row for each record that was read, with what it takes over from the rows of before.
     template <class Node, class Record>
-    NodeArray<Node> rowsFor(std::vector<Record> records, NodeArray<Node> before) {
-        NodeArray<Node> fresh;
-        fresh.reserve(records.size());
-        for (auto& record : records) {
-            fresh.push_back(std::make_shared<Node>(platform(), std::move(record)));
-            fresh.back()->setParent(*this);
-        }
-        replaceChildren(before, std::move(fresh));
+    NodeArray<Node> rowsFor(std::vector<Record> records, NodeArray<Node> before) const {
+        replaceChildren(before, childrenFor<Node>(std::move(records)));
         return before;
+    }
+    // The kind of child that has a Node(platform, record, more...) in the array for each record that list(records)
+    // gives; false of it is no answer.
+    template <class Record, class Node, class... More>
+    ChildKind childrenOf(NodeArray<Node>& array, std::function<bool(std::vector<Record>&)> list, const More&... more) {
+        return {.read =
+                    [this, &array, list = std::move(list), more...](CarryOver what) {
+                        std::vector<Record> records;
+                        if (!list(records)) {
+                            return false;
+                        }
+                        replaceChildren(array, childrenFor<Node>(std::move(records), more...), what);
+                        return true;
+                    },
+                .nodes = [&array] { return pointersTo(array); }};
+    }
+    // The same with a second set of nodes, which stand as rows while those of the first stand in the tree.
+    template <class Record, class Node, class... More>
+    ChildKind childrenAndRowsOf(NodeArray<Node>& array, NodeArray<Node>& rows,
+                                std::function<bool(std::vector<Record>&)> list, const More&... more) {
+        return {.read =
+                    [this, &array, &rows, list = std::move(list), more...](CarryOver what) {
+                        std::vector<Record> records;
+                        if (!list(records)) {
+                            return false;
+                        }
+                        replaceChildren(rows, childrenFor<Node>(records, more...), what);
+                        replaceChildren(array, childrenFor<Node>(std::move(records), more...), what);
+                        return true;
+                    },
+                .nodes = [&array] { return pointersTo(array); }};
+    }
+    // Children that the node has from its constructor on.
+    static ChildKind fixedChildren(std::vector<NodeBase*> nodes) {
+        return {.read = {}, .nodes = [nodes = std::move(nodes)] { return nodes; }};
+    }
+    // The nodes of some arrays one after the other.
+    template <class... Nodes>
+    static std::vector<NodeBase*> pointersTo(const Nodes&... arrays) {
+        std::vector<NodeBase*> pointers;
+        pointers.reserve((std::size(arrays) + ...));
+        const auto append = [&pointers](const auto& array) {
+            for (const auto& node : array) {
+                pointers.push_back(node.get());
+            }
+        };
+        (append(arrays), ...);
+        return pointers;
     }
 
 private:
     void takeOver(const NodeBase& old, CarryOver what);
     IConsole* consoleOf(const Notification& notification);
+    Result guarded(std::string_view doing, std::uint32_t number, Result ifThrown, const std::function<Result()>& work);
+    Result showRows(IConsole& console, bool show, int again);
+    ReadKinds insertKinds(IConsole& console, std::span<const ChildKind> kinds);
     Result dispatch(const Notification& notification, IConsole& console);
     Result paste(const Notification& notification, IConsole& console);
     Result refresh(const Notification& notification, IConsole& console);
@@ -170,7 +257,6 @@ private:
     ScopeItemFields scope_;
     ResultItemFields result_;
     IComponentData* componentData_ = nullptr;
-    IConsole* console_ = nullptr;
     bool visible_ = false;
 };
 

@@ -33,7 +33,8 @@ struct NodeIdentity {
     NodeType nodeType = noNodeType;    // of a class that the console must tell apart
     std::int32_t image = 0;
     std::int32_t openImage = image;
-    std::int32_t children = 0; // 0 for a leaf
+    std::int32_t resultImage = image; // as a row of a list, whose strip may be another one than the tree's
+    std::int32_t children = 0;        // 0 for a leaf
     ImageStrip strip = commonStrip;
     std::int32_t viewOptions = excludeScopeItemsFromList; // 0 lets the console list the scope children itself
 };
@@ -43,14 +44,5 @@ struct Column {
     const char16_t* title = u"";
     double widthFactor = 0; // times the automatic width, cut to whole pixels; 0 leaves it automatic
 };
-
-// An entry of a context menu; the texts are literals. Id 0 is a separator.
-struct MenuEntry {
-    const char16_t* text = nullptr;
-    const char16_t* statusBarText = nullptr;
-    std::int32_t id = 0;
-};
-
-inline constexpr MenuEntry separator{};
 
 } // namespace console

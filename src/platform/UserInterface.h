@@ -35,7 +35,9 @@ constexpr std::uint32_t iconMask = 0xF0;
 // What a message box answers; the numbers are the platform's ID values.
 enum class Answer : int { ok = 1, cancel = 2, yes = 6, no = 7 };
 
-// What a host lends to nodes and forms to talk with the person at the screen.
+// What a host lends to nodes and forms to talk with the person at the screen. The login, which runs on a thread started
+// by startThread, calls messageBox, runModal, press, setForeground and close; everything else comes from the console's
+// own thread alone.
 class UserInterface {
 public:
     virtual ~UserInterface() = default;
@@ -49,8 +51,8 @@ public:
     virtual int runModal(forms::Form& form, WindowHandle owner) = 0;
 
     // Presses the keys one after the other, each down and up, as one sequence. Acted on after the running handler has
-    // returned. A host without a keyboard of its own makes one refresh of the current view of a sequence that holds F5,
-    // and nothing of others.
+    // returned. Sequences are there to have the console read again what a command has changed: a host without a
+    // keyboard of its own makes one refresh of the current view of each, whatever keys it holds.
     virtual void press(std::span<const Key> keys) = 0;
 
     // Runs the work beside the handler that asked for it. A host may run it later on its own thread instead.

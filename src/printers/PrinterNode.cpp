@@ -2,28 +2,22 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/PrinterRecordEdit.h"
-#include "console/IConsoleNameSpace.h"
-#include "console/IResultData.h"
 #include "printers/SnmpStatus.h"
 #include "queues/PrintingStatus.h"
 #include "queues/QueuesRootNode.h"
-#include "regions/NodePointers.h"
+#include "regions/PrinterRecords.h"
 
 #include <array>
 
 namespace printers {
-namespace {
-
-constexpr std::int32_t deletePrinterCommand = 293;
-
-} // namespace
 
 PrinterNode::PrinterNode(platform::Platform& platform, protocol::PrinterRecord record)
     : CBaseNodeItem(platform),
       id_(std::move(record.id)),
       modelName_(std::move(record.modelName)),
       location_(std::move(record.location)),
-      jobs_(wire::toWide(std::to_string(record.jobs))),
+      jobs_(record.jobs),
+      jobsText_(wire::toWide(std::to_string(record.jobs))),
       snmpStatus_(record.snmpStatus),
       printingStatus_(record.printingStatus) {
     setDisplayName(std::move(record.name));
@@ -42,35 +36,27 @@ const char16_t* PrinterNode::GetResultPaneColInfo(std::int32_t column) {
     case 4:
         return queues::printingStatusText(printingStatus_);
     case 5:
-        return jobs_.c_str();
+        return jobsText_.c_str();
     default:
         return u"";
     }
 }
 
-console::Result PrinterNode::OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) {
-    if (!beginExpand(code, console, scopeId)) {
-        return console::Result::ok;
-    }
-    if (code != console::ExpandCode::refresh) {
-        queryId_ = id_;
-    }
-    client::CQVXAdminClass client;
-    std::int16_t count = 0;
-    if (!client.getQueuesOfPrinter(queryId_, count)) {
-        return console::Result::notDone;
-    }
-    console::NodeArray<queues::QueueNode> fresh;
-    fresh.reserve(client.printerRecords().size());
-    protocol::PrinterRecord record;
-    while (client.nextPrinterRecord(record)) {
-        fresh.push_back(std::make_shared<queues::QueueNode>(platform(), std::move(record), queues::QueueMode::queue));
-    }
-    replaceChildren(queues_, std::move(fresh));
-    for (const auto& queue : queues_) {
-        insertChild(console, *queue);
-    }
-    return console::Result::ok;
+std::optional<std::int64_t> PrinterNode::sortValue(std::int32_t column) const {
+    return column == 5 ? std::optional<std::int64_t>(jobs_) : std::nullopt;
+}
+
+std::vector<console::ChildKind> PrinterNode::childKinds() {
+    const auto list = [this](std::vector<protocol::PrinterRecord>& records) {
+        client::CQVXAdminClass client;
+        std::int16_t count = 0;
+        if (!client.getQueuesOfPrinter(id_, count)) {
+            return false;
+        }
+        records = regions::takePrinterRecords(client);
+        return true;
+    };
+    return {childrenOf<protocol::PrinterRecord>(queues_, list, queues::QueueMode::queue)};
 }
 
 std::span<const console::Column> PrinterNode::columns() const {
@@ -79,10 +65,15 @@ std::span<const console::Column> PrinterNode::columns() const {
     return titles;
 }
 
-std::span<const console::MenuEntry> PrinterNode::menu() const {
-    static constexpr std::array entries{
-        console::MenuEntry{u"Delete Printer", u"To delete printer", deletePrinterCommand}};
-    return entries;
+std::span<const console::NodeCommand<PrinterNode>> PrinterNode::commands() const {
+    static constexpr std::array table{console::NodeCommand<PrinterNode>{
+        .entry{u"Delete Printer", u"To delete printer", 293}, .run = &PrinterNode::deletePrinter}};
+    return table;
+}
+
+console::KeySequence PrinterNode::keysAfterCommand(std::int32_t /*commandId*/,
+                                                   console::CommandOrigin /*origin*/) const {
+    return {platform::Key::f5, platform::Key::f5};
 }
 
 std::span<const console::VerbChoice> PrinterNode::verbs() const {
@@ -95,11 +86,7 @@ std::span<const console::VerbChoice> PrinterNode::verbs() const {
 }
 
 std::vector<console::NodeBase*> PrinterNode::rows() const {
-    return regions::nodePointers(queues_);
-}
-
-console::Result PrinterNode::runCommand(std::int32_t commandId, console::CommandOrigin origin) {
-    return commandId == deletePrinterCommand ? deletePrinter(origin) : console::Result::notDone;
+    return pointersTo(queues_);
 }
 
 console::Result PrinterNode::deletePrinter(console::CommandOrigin origin) {
@@ -110,22 +97,15 @@ console::Result PrinterNode::deletePrinter(console::CommandOrigin origin) {
     if (!client.deletePrinter(id_)) {
         return console::Result::notDone;
     }
-    if (console() != nullptr) {
-        leaveConsole(origin);
+    removeFromTree();
+    if (origin == console::CommandOrigin::result) {
+        removeFromList();
+    }
+    if (console() != nullptr && parentRow() != 0) {
+        queues::QueuesRootNode::refreshInstance(*console());
+        selectAndPress(parentRow(), {platform::Key::f5});
     }
     return console::Result::ok;
-}
-
-void PrinterNode::leaveConsole(console::CommandOrigin origin) {
-    console()->nameSpace().DeleteItem(row(), true);
-    if (origin == console::CommandOrigin::result && resultFields().itemID != 0) {
-        console()->resultData().DeleteItem(resultFields().itemID, 0);
-    }
-    if (parentRow() != 0) {
-        queues::QueuesRootNode::refreshInstance(*console());
-        console()->SelectScopeItem(parentRow());
-        PressRefreshKey();
-    }
 }
 
 console::Result PrinterNode::OnRename(console::IConsole& console, const wire::WideString& newName) {

@@ -19,27 +19,26 @@ public:
     const std::string& id() const { return id_; }
     std::string refreshKey() const override { return id_; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+    std::optional<std::int64_t> sortValue(std::int32_t column) const override;
 
 protected:
+    std::vector<console::ChildKind> childKinds() override;
     std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::NodeCommand<PrinterNode>> commands() const override;
     std::span<const console::VerbChoice> verbs() const override;
     std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-    int refreshesAfterCommand() const override { return 2; }
+    console::KeySequence keysAfterCommand(std::int32_t commandId, console::CommandOrigin origin) const override;
     console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
     console::Result OnCutOrMove(console::CSnapInItem& source) override;
 
 private:
     console::Result deletePrinter(console::CommandOrigin origin);
-    void leaveConsole(console::CommandOrigin origin);
 
     std::string id_;
-    std::string queryId_; // the id of the last expansion, which a refresh asks for again
     wire::WideString modelName_;
     wire::WideString location_;
-    wire::WideString jobs_; // as shown
+    std::uint16_t jobs_;
+    wire::WideString jobsText_;
     std::uint8_t snmpStatus_;
     std::uint8_t printingStatus_;
     console::NodeArray<queues::QueueNode> queues_;

@@ -1,76 +1,39 @@
 #include "printers/PrinterRegionNode.h"
 
-#include "client/CQVXAdminClass.h"
-#include "console/IConsoleNameSpace.h"
-#include "console/IResultData.h"
 #include "queues/QueuesRootNode.h"
-#include "regions/CreateRegionDlg.h"
-#include "regions/NodePointers.h"
-#include "regions/RegionDeletion.h"
-#include "regions/RegionNodes.h"
+#include "regions/PrinterRecords.h"
+
+#include <array>
+#include <utility>
 
 namespace printers {
-namespace {
-
-constexpr std::int32_t createRegionCommand = 247;
-constexpr std::int32_t deleteRegionCommand = 302;
-
-} // namespace
 
 PrinterRegionNode::PrinterRegionNode(platform::Platform& platform, protocol::RegionRecord record)
-    : CBaseNodeItem(platform), regionId_(record.id) {
-    setDisplayName(std::move(record.name));
+    : CBaseNodeItem(platform, regions::printersAndQueues, std::move(record)) {}
+
+std::shared_ptr<regions::RegionNode> PrinterRegionNode::makeRegion(protocol::RegionRecord record) const {
+    return std::make_shared<PrinterRegionNode>(platform(), std::move(record));
 }
 
-std::string PrinterRegionNode::refreshKey() const {
-    return regions::regionKey(regionId_);
+void PrinterRegionNode::refreshOthers() {
+    if (console() != nullptr) {
+        queues::QueuesRootNode::refreshInstance(*console());
+    }
 }
 
-console::Result PrinterRegionNode::OnExpand(console::ExpandCode code, console::IConsole& console,
-                                            console::ScopeId scopeId) {
-    if (!beginExpand(code, console, scopeId)) {
-        return console::Result::ok;
-    }
-    if (!readChildren(CarryOver::resultRow)) {
-        return console::Result::notDone;
-    }
-    for (const auto& region : regions_) {
-        insertChild(console, *region);
-    }
-    for (const auto& printer : printers_) {
-        insertChild(console, *printer);
-    }
-    return console::Result::ok;
-}
-
-console::Result PrinterRegionNode::OnShow(console::IConsole& console, bool show, int again) {
-    readChildren(CarryOver::resultRowAndScopeId);
-    if (columns().empty() && (show || again == 1)) {
-        console.resultData().DeleteAllRsltItems(); // what stood here may have gone
-    }
-    return CBaseNodeItem::OnShow(console, show, again);
-}
-
-bool PrinterRegionNode::readChildren(CarryOver what) {
-    client::CQVXAdminClass client;
-    std::int16_t count = 0;
-    if (!client.getPrintersInRegion(regionId_, count)) {
-        return false;
-    }
-    console::NodeArray<PrinterNode> printers;
-    printers.reserve(client.printerRecords().size());
-    protocol::PrinterRecord record;
-    while (client.nextPrinterRecord(record)) {
-        printers.push_back(std::make_shared<PrinterNode>(platform(), std::move(record)));
-        printers.back()->setParent(*this);
-    }
-    std::vector<protocol::RegionRecord> below;
-    if (!regions::readRegionsBelow(client, protocol::RegionKind::printersAndQueues, regionId_, below)) {
-        return false;
-    }
-    replaceChildren(printers_, std::move(printers), what);
-    replaceChildren(regions_, regions::makeRegionNodes<PrinterRegionNode>(platform(), *this, std::move(below)), what);
-    return true;
+// The printers are asked for before the regions, and stand below them.
+std::vector<console::ChildKind> PrinterRegionNode::childKinds() {
+    auto printers = childrenOf<protocol::PrinterRecord>(printers_, [this](auto& records) {
+        client::CQVXAdminClass client;
+        std::int16_t count = 0;
+        if (!client.getPrintersInRegion(regionId(), count)) {
+            return false;
+        }
+        records = regions::takePrinterRecords(client);
+        return true;
+    });
+    printers.readFirst = true;
+    return {regionsBelow(), std::move(printers)};
 }
 
 // The columns of printers stand in the place of those of regions where a region holds both.
@@ -82,14 +45,16 @@ std::span<const console::Column> PrinterRegionNode::columns() const {
     if (!printers_.empty()) {
         return ofPrinters;
     }
-    return regions_.empty() ? std::span<const console::Column>() : ofRegions;
+    return regions().empty() ? std::span<const console::Column>() : ofRegions;
 }
 
-std::span<const console::MenuEntry> PrinterRegionNode::menu() const {
-    static constexpr std::array entries{
-        console::MenuEntry{u"Create region", u"To create a new region", createRegionCommand}, console::separator,
-        console::MenuEntry{u"Delete region", u"To delete region", deleteRegionCommand}};
-    return entries;
+std::span<const console::NodeCommand<PrinterRegionNode>> PrinterRegionNode::commands() const {
+    using Command = console::NodeCommand<PrinterRegionNode>;
+    static constexpr std::array table{
+        Command{.entry{u"Create region", u"To create a new region", 247}, .run = &PrinterRegionNode::createRegion},
+        Command{.entry = console::separator},
+        Command{.entry{u"Delete region", u"To delete region", 302}, .run = &PrinterRegionNode::deleteRegion}};
+    return table;
 }
 
 std::span<const console::VerbChoice> PrinterRegionNode::verbs() const {
@@ -102,104 +67,20 @@ std::span<const console::VerbChoice> PrinterRegionNode::verbs() const {
 }
 
 std::vector<console::NodeBase*> PrinterRegionNode::rows() const {
-    return regions::nodePointers(regions_, printers_);
+    return pointersTo(regions(), printers_);
 }
 
-console::Result PrinterRegionNode::runCommand(std::int32_t commandId, console::CommandOrigin origin) {
-    if (commandId == createRegionCommand) {
-        return createRegion(origin);
-    }
-    if (commandId == deleteRegionCommand) {
-        return deleteRegion();
-    }
-    return console::Result::notDone;
-}
-
-console::Result PrinterRegionNode::createRegion(console::CommandOrigin origin) {
-    regions::CreateRegionDlg dialog(platform(), regionId_, regions::CreateRegionDlg::Mode::printerTree);
-    if (runModal(dialog) != forms::idOk) {
-        return console::Result::notDone;
-    }
-    if (origin == console::CommandOrigin::result) {
-        press({platform::Key::tab, platform::Key::tab});
-    } else if (console() == nullptr) {
-        return console::Result::ok;
-    } else if (dialog.newRegionId != 0) {
-        addRegion(dialog.newRegionId, dialog.name.text());
-    } else {
-        console()->SelectScopeItem(row());
-        PressRefreshKey();
-    }
-    return console::Result::ok;
-}
-
-void PrinterRegionNode::addRegion(std::int32_t newRegionId, const wire::WideString& name) {
-    const auto region = std::make_shared<PrinterRegionNode>(
-        platform(), protocol::RegionRecord{.name = name, .id = newRegionId, .parentId = regionId_});
-    regions_.push_back(region);
-    insertChild(*console(), *region);
-    console()->SelectScopeItem(region->scopeFields().ID);
-}
-
-console::Result PrinterRegionNode::deleteRegion() {
-    if (!confirm(regions::deleteRegionQuestion)) {
-        return console::Result::notDone;
-    }
+bool PrinterRegionNode::movePrinterHere(const PrinterNode& printer) const {
     client::CQVXAdminClass client;
-    const auto contents = regions::readRegionContents(client, regionId_);
-    if (contents == regions::RegionContents::something) {
-        messageBox(regions::regionNotEmptyText, u"Information", platform::boxStyle::iconInformation);
-    }
-    if (contents != regions::RegionContents::empty ||
-        !client.deleteRegion(protocol::RegionKind::printersAndQueues, regionId_)) {
-        return console::Result::notDone;
-    }
-    if (console() != nullptr) {
-        console()->nameSpace().DeleteItem(row(), true);
-        if (resultFields().itemID != 0) {
-            console()->resultData().DeleteItem(resultFields().itemID, 0);
-        }
-        console()->SelectScopeItem(parentRow());
-        PressRefreshKey();
-    }
-    return console::Result::ok;
+    return client.movePrinter(printer.id(), regionId());
 }
 
-// The new text stands at once and goes again when the command can't be sent.
-console::Result PrinterRegionNode::OnRename(console::IConsole& console, const wire::WideString& newName) {
-    console.nameSpace().SetItem(row(), newName);
-    client::CQVXAdminClass client;
-    if (!client.renameRegion(protocol::RegionKind::printersAndQueues, regionId_, newName)) {
-        console.nameSpace().SetItem(row(), displayName());
-        return console::Result::notDone;
-    }
-    console.SelectScopeItem(parentRow());
-    PressRefreshKey();
-    return console::Result::ok;
-}
-
-// Whether a region may stand below another, itself included, is the server's to decide. A move presses F5 twice, and
-// twice again once the queues have been refreshed; this must stay.
 console::Result PrinterRegionNode::OnPaste(console::CSnapInItem& source) {
-    client::CQVXAdminClass client;
-    bool moved = false;
     if (const auto* printer = dynamic_cast<const PrinterNode*>(&source)) {
-        moved = client.movePrinter(printer->id(), regionId_);
-    } else if (const auto* region = dynamic_cast<const PrinterRegionNode*>(&source)) {
-        moved = client.moveRegion(protocol::RegionKind::printersAndQueues, region->regionId(), regionId_);
-    } else {
-        return console::Result::notDone;
+        return finishMove(movePrinterHere(*printer));
     }
-    if (moved) {
-        PressRefreshKey();
-        PressRefreshKey();
-    }
-    if (console() != nullptr) {
-        queues::QueuesRootNode::refreshInstance(*console());
-    }
-    PressRefreshKey();
-    PressRefreshKey();
-    return moved ? console::Result::ok : console::Result::notDone;
+    const auto* region = dynamic_cast<const PrinterRegionNode*>(&source);
+    return region != nullptr ? finishMove(moveHere(*region)) : console::Result::notDone;
 }
 
 console::Result PrinterRegionNode::OnQueryPaste(const console::CSnapInItem& source) {

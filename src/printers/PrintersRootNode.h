@@ -1,32 +1,27 @@
 #pragma once
 
 #include "console/CBaseNodeItem.h"
-#include "printers/PrinterRegionNode.h"
+#include "regions/RegionHolder.h"
 
 namespace printers {
 
 // The top of the regions with their printers.
-class PrintersRootNode final : public console::CBaseNodeItem<PrintersRootNode> {
+class PrintersRootNode final : public console::CBaseNodeItem<PrintersRootNode, regions::RegionHolder> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Printers", .nodeType = console::folderNodeType, .image = 7, .children = 1};
 
     explicit PrintersRootNode(platform::Platform& platform);
 
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
-
 protected:
+    std::shared_ptr<regions::RegionNode> makeRegion(protocol::RegionRecord record) const override;
+    void refreshOthers() override;
+    std::vector<console::ChildKind> childKinds() override { return {regionsBelow()}; }
     std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::NodeCommand<PrintersRootNode>> commands() const override;
     std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
     console::Result OnPaste(console::CSnapInItem& source) override;
     console::Result OnQueryPaste(const console::CSnapInItem& source) override;
-
-private:
-    console::Result createRegion(console::CommandOrigin origin);
-
-    console::NodeArray<PrinterRegionNode> regions_;
 };
 
 } // namespace printers

@@ -3,22 +3,16 @@
 #include "client/CQVXAdminClass.h"
 #include "queues/PrintingStatus.h"
 
+#include <array>
+
 namespace queues {
-namespace {
-
-constexpr std::int32_t deleteQueueCommand = 294;
-
-constexpr std::array queueMenu{console::MenuEntry{u"Delete Queue", u"To delete queue", deleteQueueCommand}};
-constexpr std::array followPrintMenu{
-    console::MenuEntry{u"Delete Follow Print Queue", u"To delete follow print queue", deleteQueueCommand}};
-
-} // namespace
 
 QueueNode::QueueNode(platform::Platform& platform, protocol::PrinterRecord record, QueueMode mode)
     : CBaseNodeItem(platform),
       mode_(mode),
       id_(std::move(record.id)),
-      jobs_(wire::toWide(std::to_string(record.jobs))),
+      jobs_(record.jobs),
+      jobsText_(wire::toWide(std::to_string(record.jobs))),
       printingStatus_(record.printingStatus) {
     setDisplayName(std::move(record.name));
 }
@@ -28,7 +22,7 @@ const char16_t* QueueNode::GetResultPaneColInfo(std::int32_t column) {
     case 0:
         return displayName().c_str();
     case 1:
-        return jobs_.c_str();
+        return jobsText_.c_str();
     case 2:
         return printingStatusText(printingStatus_);
     default:
@@ -36,14 +30,20 @@ const char16_t* QueueNode::GetResultPaneColInfo(std::int32_t column) {
     }
 }
 
-std::span<const console::MenuEntry> QueueNode::menu() const {
-    switch (mode_) {
-    case QueueMode::queue:
-        return queueMenu;
-    case QueueMode::followPrint:
-        return followPrintMenu;
-    }
-    return {};
+std::optional<std::int64_t> QueueNode::sortValue(std::int32_t column) const {
+    return column == 1 ? std::optional<std::int64_t>(jobs_) : std::nullopt;
+}
+
+std::span<const console::NodeCommand<QueueNode>> QueueNode::commands() const {
+    using Command = console::NodeCommand<QueueNode>;
+    static constexpr std::array table{
+        Command{.entry{u"Delete Queue", u"To delete queue", 294},
+                .run = &QueueNode::deleteQueue,
+                .offered = &QueueNode::isOfPrinters},
+        Command{.entry{u"Delete Follow Print Queue", u"To delete follow print queue", 294},
+                .run = &QueueNode::deleteQueue,
+                .offered = &QueueNode::isOfFollowPrint}};
+    return table;
 }
 
 std::span<const console::VerbChoice> QueueNode::verbs() const {
@@ -55,13 +55,9 @@ std::span<const console::VerbChoice> QueueNode::verbs() const {
     return choices;
 }
 
-console::Result QueueNode::runCommand(std::int32_t commandId, console::CommandOrigin) {
-    return commandId == deleteQueueCommand ? deleteQueue() : console::Result::notDone;
-}
-
 // The Delete key takes the row away at once, whatever the server made of the command; the two refreshes then show what
 // stands. This order must stay.
-console::Result QueueNode::deleteQueue() {
+console::Result QueueNode::deleteQueue(console::CommandOrigin /*origin*/) {
     if (!confirm(u"Are you sure you want to delete the selected queue?")) {
         return console::Result::notDone;
     }

@@ -21,18 +21,21 @@ public:
     const std::string& id() const { return id_; }
     std::string refreshKey() const override { return id_; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    std::optional<std::int64_t> sortValue(std::int32_t column) const override;
 
 protected:
-    std::span<const console::MenuEntry> menu() const override;
+    std::span<const console::NodeCommand<QueueNode>> commands() const override;
     std::span<const console::VerbChoice> verbs() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
 
 private:
-    console::Result deleteQueue();
+    bool isOfPrinters() const { return mode_ == QueueMode::queue; }
+    bool isOfFollowPrint() const { return mode_ == QueueMode::followPrint; }
+    console::Result deleteQueue(console::CommandOrigin origin);
 
     QueueMode mode_;
     std::string id_;
-    wire::WideString jobs_; // as shown
+    std::uint16_t jobs_;
+    wire::WideString jobsText_;
     std::uint8_t printingStatus_;
 };
 

@@ -1,6 +1,6 @@
 #include "regions/RegionDeletion.h"
 
-#include "regions/RegionNodes.h"
+#include "regions/RegionsBelow.h"
 
 namespace regions {
 

@@ -6,11 +6,6 @@
 
 namespace regions {
 
-// What is asked before a region goes. The blank at the end is meant.
-inline constexpr const char16_t* deleteRegionQuestion = u"Are you sure you want to delete the selected region? ";
-inline constexpr const char16_t* regionNotEmptyText =
-    u"Cannot delete as the region includes Printers or Follow Printer Queue or Sub Regions!";
-
 // What the three lists before a delete have shown. Unknown when one of them could not be read: then nothing is deleted.
 enum class RegionContents : std::uint8_t { empty, something, unknown };
 

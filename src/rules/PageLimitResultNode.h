@@ -1,32 +1,25 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordRow.h"
 #include "protocol/rules/PageLimit.h"
-
-#include <string>
 
 namespace rules {
 
 // A page limit as a row of the list of all.
-class PageLimitResultNode final : public console::CBaseNodeItem<PageLimitResultNode> {
+class PageLimitResultNode final : public console::RecordRow<PageLimitResultNode, protocol::PageLimitRecord> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Page Limit", .image = 10, .strip = console::driverAndShortIdStrip};
+    static constexpr std::array cells{console::RecordCell(&protocol::PageLimitRecord::comment)};
+    static constexpr console::RowCommands rowCommands{.edit{u"Edit page limit", u"To edit page limit", 372},
+                                                      .remove{u"Remove page limit", u"To remove page limit", 373},
+                                                      .question = u"Do you want to delete the selected limit rule? "};
 
-    PageLimitResultNode(platform::Platform& platform, protocol::PageLimitRecord limit);
-
-    std::string refreshKey() const override { return limit_.id; }
-    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    using RecordRow::RecordRow;
 
 protected:
-    std::span<const console::MenuEntry> menu() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::Result edit();
-    console::Result remove();
-
-    protocol::PageLimitRecord limit_;
+    void openEditor() override;
+    void deleteRecord() override;
 };
 
 } // namespace rules

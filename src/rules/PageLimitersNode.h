@@ -1,27 +1,27 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordList.h"
 #include "rules/PageLimitResultNode.h"
 
 namespace rules {
 
 // The page limits known to the server, one row each.
-class PageLimitersNode final : public console::CBaseNodeItem<PageLimitersNode> {
+class PageLimitersNode final : public console::RecordList<PageLimitersNode, PageLimitResultNode> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Page Limiters", .image = 20, .strip = console::driverAndShortIdStrip};
+    static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3}};
+    static constexpr console::MenuEntry newEntry{u"New Page Limit Rule...", u"To create a new page limit rule", 381};
 
-    explicit PageLimitersNode(platform::Platform& platform);
+    using RecordList::RecordList;
 
 protected:
-    std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
+    bool listRecords(std::vector<Record>& records) override;
+    void openEditor() override;
     void readRows() override;
-    std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
 
 private:
-    console::NodeArray<PageLimitResultNode> limits_;
+    std::vector<wire::WideString> names_; // as the list has them
 };
 
 } // namespace rules

@@ -1,27 +1,24 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordList.h"
 #include "rules/PricePlanNode.h"
 
 namespace rules {
 
 // The price plans known to the server, one row each.
-class PricePlansNode final : public console::CBaseNodeItem<PricePlansNode> {
+class PricePlansNode final : public console::RecordList<PricePlansNode, PricePlanNode> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Price Plans", .image = 20, .strip = console::driverAndShortIdStrip};
+    static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3},
+                                       console::Column{u"Pay Method", 2}};
+    static constexpr console::MenuEntry newEntry{u"New Price Plan...", u"To create a new price plan", 375};
 
-    explicit PricePlansNode(platform::Platform& platform);
+    using RecordList::RecordList;
 
 protected:
-    std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
-    void readRows() override;
-    std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::NodeArray<PricePlanNode> plans_;
+    bool listRecords(std::vector<Record>& records) override;
+    void openEditor() override;
 };
 
 } // namespace rules

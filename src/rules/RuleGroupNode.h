@@ -1,31 +1,25 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordRow.h"
 #include "protocol/rules/RuleGroup.h"
-
-#include <string>
 
 namespace rules {
 
 // A rule group as a row of the list of all.
-class RuleGroupNode final : public console::CBaseNodeItem<RuleGroupNode> {
+class RuleGroupNode final : public console::RecordRow<RuleGroupNode, protocol::RuleGroupRecord> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Rule Group", .image = 19};
+    static constexpr std::array cells{console::RecordCell(&protocol::RuleGroupRecord::comment)};
+    // The blank at the end of the question must stay.
+    static constexpr console::RowCommands rowCommands{.edit{u"Edit rule group", u"To edit rule group", 372},
+                                                      .remove{u"Remove rule group", u"To remove rule group", 373},
+                                                      .question = u"Do you want to delete the selected rule? "};
 
-    RuleGroupNode(platform::Platform& platform, protocol::RuleGroupRecord group);
-
-    std::string refreshKey() const override { return group_.id; }
-    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    using RecordRow::RecordRow;
 
 protected:
-    std::span<const console::MenuEntry> menu() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::Result edit();
-    console::Result remove();
-
-    protocol::RuleGroupRecord group_;
+    void openEditor() override;
+    void deleteRecord() override;
 };
 
 } // namespace rules

@@ -1,26 +1,23 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordList.h"
 #include "rules/RuleGroupNode.h"
 
 namespace rules {
 
 // The rule groups known to the server, one row each: the rule set.
-class RuleSetNode final : public console::CBaseNodeItem<RuleSetNode> {
+class RuleSetNode final : public console::RecordList<RuleSetNode, RuleGroupNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Rule Groups", .image = 20};
+    static constexpr std::array titles{console::Column{u"Rule Group Name", 2},
+                                       console::Column{u"Rule Group Comment", 3}};
+    static constexpr console::MenuEntry newEntry{u"New Rule Group...", u"To create a new rule group", 374};
 
-    explicit RuleSetNode(platform::Platform& platform);
+    using RecordList::RecordList;
 
 protected:
-    std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
-    void readRows() override;
-    std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::NodeArray<RuleGroupNode> groups_;
+    bool listRecords(std::vector<Record>& records) override;
+    void openEditor() override;
 };
 
 } // namespace rules

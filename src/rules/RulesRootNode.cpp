@@ -12,15 +12,8 @@ RulesRootNode::RulesRootNode(platform::Platform& platform)
       children_{std::make_shared<RuleSetNode>(platform), std::make_shared<PricePlansNode>(platform),
                 std::make_shared<PageLimitersNode>(platform), std::make_shared<ShortIdNode>(platform)} {}
 
-console::Result RulesRootNode::OnExpand(console::ExpandCode code, console::IConsole& console,
-                                        console::ScopeId scopeId) {
-    if (!beginExpand(code, console, scopeId)) {
-        return console::Result::ok;
-    }
-    for (const auto& child : children_) {
-        insertChild(console, *child);
-    }
-    return console::Result::ok;
+std::vector<console::ChildKind> RulesRootNode::childKinds() {
+    return {fixedChildren(pointersTo(children_))};
 }
 
 } // namespace rules

@@ -15,7 +15,8 @@ public:
 
     explicit RulesRootNode(platform::Platform& platform);
 
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+protected:
+    std::vector<console::ChildKind> childKinds() override;
 
 private:
     std::vector<std::shared_ptr<console::NodeBase>> children_; // in the order in which they stand

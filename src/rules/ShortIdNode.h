@@ -1,27 +1,23 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordList.h"
 #include "rules/ShortIdResultNode.h"
 
 namespace rules {
 
 // The rules about short ids known to the server, one row each.
-class ShortIdNode final : public console::CBaseNodeItem<ShortIdNode> {
+class ShortIdNode final : public console::RecordList<ShortIdNode, ShortIdResultNode> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Short Id", .image = 20, .strip = console::driverAndShortIdStrip};
+    static constexpr std::array titles{console::Column{u"Name", 2}, console::Column{u"Comment", 3}};
+    static constexpr console::MenuEntry newEntry{u"New Short id Rule...", u"To create a new short id rule", 465};
 
-    explicit ShortIdNode(platform::Platform& platform);
+    using RecordList::RecordList;
 
 protected:
-    std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
-    void readRows() override;
-    std::vector<console::NodeBase*> rows() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::NodeArray<ShortIdResultNode> shortIds_;
+    bool listRecords(std::vector<Record>& records) override;
+    void openEditor() override;
 };
 
 } // namespace rules

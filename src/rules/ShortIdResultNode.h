@@ -1,32 +1,27 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "console/RecordRow.h"
 #include "protocol/rules/ShortId.h"
-
-#include <string>
 
 namespace rules {
 
 // A rule about short ids as a row of the list of all.
-class ShortIdResultNode final : public console::CBaseNodeItem<ShortIdResultNode> {
+class ShortIdResultNode final : public console::RecordRow<ShortIdResultNode, protocol::ShortIdRecord> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Short Id", .image = 14, .strip = console::driverAndShortIdStrip};
+    static constexpr std::array cells{console::RecordCell(&protocol::ShortIdRecord::comment)};
+    // "Short id", "Short Id" and "Short ID": all three spellings of the term must stay.
+    static constexpr console::RowCommands rowCommands{.edit{u"Edit Short ID rule", u"To edit Short ID rule", 372},
+                                                      .remove{u"Remove Short ID rule", u"To remove Short ID rule", 373},
+                                                      .question =
+                                                          u"Do you want to delete the selected Short ID rule? "};
 
-    ShortIdResultNode(platform::Platform& platform, protocol::ShortIdRecord shortId);
-
-    std::string refreshKey() const override;
-    const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    using RecordRow::RecordRow;
 
 protected:
-    std::span<const console::MenuEntry> menu() const override;
-    console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;
-
-private:
-    console::Result edit();
-    console::Result remove();
-
-    protocol::ShortIdRecord shortId_;
+    void openEditor() override;
+    void deleteRecord() override;
 };
 
 } // namespace rules

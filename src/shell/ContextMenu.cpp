@@ -13,6 +13,8 @@ console::Result ContextMenu::AddItem(const console::ContextMenuItem& item) {
         added.text = item.strName;
         added.statusText = item.strStatusBarText != nullptr ? item.strStatusBarText : u"";
         added.id = item.lCommandID;
+        added.checked = (item.fFlags & console::menuChecked) != 0;
+        added.disabled = (item.fFlags & console::menuDisabled) != 0;
     }
     return console::Result::ok;
 }

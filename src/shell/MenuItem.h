@@ -12,6 +12,8 @@ struct MenuItem {
     wire::WideString statusText;
     std::int32_t id = 0;
     bool separator = false;
+    bool checked = false;
+    bool disabled = false; // shown, and can't be chosen
 
     friend bool operator==(const MenuItem&, const MenuItem&) = default;
 };

@@ -35,8 +35,10 @@ Result Notifier::show(const Node& node, ScopeId id, bool show) const {
     return send(Side::view, node, {.event = Event::show, .arg = show ? 1 : 0, .param = id});
 }
 
-Result Notifier::viewChange(const Node& node, ScopeId id) const {
-    return send(Side::view, node, {.event = Event::viewChange, .param = id});
+Result Notifier::showAnew(const Node& node, console::IConsole& console) const {
+    auto result = Result::failed;
+    guard(node->className(), [&, keptAlive = node] { result = keptAlive->showAnew(console); });
+    return result;
 }
 
 Result Notifier::select(const Node& node, DataObjectType type, bool selected) const {

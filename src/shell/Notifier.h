@@ -21,8 +21,8 @@ public:
     console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
     console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
     console::Result show(const Node& node, console::ScopeId id, bool show) const;
-    // The shown node is to show its columns and rows anew.
-    console::Result viewChange(const Node& node, console::ScopeId id) const;
+    // The shown node is to show its columns and rows as a refresh has left them.
+    console::Result showAnew(const Node& node, console::IConsole& console) const;
     console::Result select(const Node& node, console::DataObjectType type, bool selected) const;
     console::Result refresh(const Node& node, console::DataObjectType type, console::ScopeId scopeId) const;
     console::Result doubleClick(const Node& node, console::DataObjectType type) const;

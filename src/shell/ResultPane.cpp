@@ -55,6 +55,14 @@ Result ResultPane::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
     return Result::ok;
 }
 
+Result ResultPane::UpdateItem(ResultId itemId) {
+    if (itemId <= 0 || find(itemId) == nullptr) {
+        return Result::failed;
+    }
+    redrawn_.push_back(itemId);
+    return Result::ok;
+}
+
 Result ResultPane::DeleteAllRsltItems() {
     if (working_) {
         discarded_ = std::move(*working_);
@@ -209,7 +217,28 @@ std::vector<const Row*> ResultPane::arrangedLike(const std::vector<Row>& scopeBe
     return rows;
 }
 
+void ResultPane::redraw() {
+    for (const ResultId id : std::exchange(redrawn_, {})) {
+        const auto row = std::ranges::find(rows_, id, &Row::id);
+        const auto place = indexOf(id);
+        if (row == rows_.end()) {
+            continue;
+        }
+        console::ResultItemFields item{.mask = console::resultMask::image, .nImage = row->image};
+        row->node->GetResultPaneInfo(item);
+        row->image = item.nImage;
+        if (place) {
+            observers_.tell([&](auto& observer) { observer.rowsChanged(*place, 1); });
+        }
+    }
+}
+
 void ResultPane::commit() {
+    commitRows();
+    redraw();
+}
+
+void ResultPane::commitRows() {
     if (!working_ && !nextScope_) {
         return;
     }

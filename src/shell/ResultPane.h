@@ -21,6 +21,8 @@ public:
 
     console::Result InsertItem(console::ResultItemFields& row) override;
     console::Result DeleteItem(console::ResultId itemId, std::int32_t column) override;
+    // The row keeps its place, also where its new texts would be sorted elsewhere or filtered out.
+    console::Result UpdateItem(console::ResultId itemId) override;
     console::Result DeleteAllRsltItems() override;
 
     // What people see. A row is named by where it stands now.
@@ -60,6 +62,8 @@ public:
 private:
     // The rows as handlers have them.
     const std::vector<Row>& current() const { return working_ ? *working_ : rows_; }
+    void commitRows();
+    void redraw();
     // The node of the row that comes next; null when nobody owns it.
     std::shared_ptr<console::CSnapInItem> takeNode(console::CSnapInItem& node);
     void beginChange();
@@ -78,6 +82,7 @@ private:
     std::vector<Row> scopeRows_;
     std::vector<Row> rows_;                     // in order of insertion
     std::optional<std::vector<Row>> working_;   // the same as handlers have it, while it differs; removed: no node
+    std::vector<console::ResultId> redrawn_;    // to be shown anew when it is committed
     std::vector<Row> discarded_;                // removed before anybody saw them; a refresh hands out its rows twice
     std::optional<std::vector<Row>> nextScope_; // scope rows that are not committed yet
     std::optional<std::unordered_map<console::ResultId, std::size_t>> places_; // see places()

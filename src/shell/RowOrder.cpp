@@ -39,7 +39,11 @@ void sortRun(Rows run, const SortOrder& order, Places likely) {
     SortKeys keys;
     keys.reserve(run.size());
     for (const Row* const row : run) {
-        keys.add(cellOf(*row, order.column));
+        if (const auto number = row->node->sortValue(order.column)) {
+            keys.add(*number);
+        } else {
+            keys.add(cellOf(*row, order.column));
+        }
     }
     const std::vector<const Row*> before(run.begin(), run.end());
     std::ranges::transform(keys.sorted(order.ascending, likely), run.begin(),

@@ -19,7 +19,7 @@ Shell::Shell(SnapIn& snapIn, TaskQueue& tasks, const Observers& observers)
       observers_(observers),
       notifier_(snapIn, observers),
       tree_(observers),
-      view_(notifier_, tree_, observers) {}
+      view_(*this, notifier_, tree_, observers) {}
 
 Shell::~Shell() {
     if (started_) {
@@ -239,22 +239,32 @@ std::shared_ptr<console::CSnapInItem> Shell::nodeOf(const Target& target) {
     return item != nullptr ? item->node : nullptr;
 }
 
-std::vector<MenuItem> Shell::menu(const Target& target) {
+std::vector<MenuItem> Shell::menuOf(const Target& target) {
     ContextMenu menu;
-    operate([&] {
-        const auto node = nodeOf(target);
-        return node != nullptr &&
-               console::succeeded(node->AddMenuItems(menu, console::insertionAllowedTop,
-                                                     target.row > 0 ? DataObjectType::result : DataObjectType::scope));
-    });
+    if (const auto node = nodeOf(target)) {
+        node->AddMenuItems(menu, console::insertionAllowedTop,
+                           target.row > 0 ? DataObjectType::result : DataObjectType::scope);
+    }
     return std::move(menu.items);
+}
+
+std::vector<MenuItem> Shell::menu(const Target& target) {
+    std::vector<MenuItem> items;
+    operate([&] {
+        items = menuOf(target);
+        return !items.empty();
+    });
+    return items;
 }
 
 bool Shell::invoke(std::int32_t commandId, const Target& target) {
     return operate([&] {
         const auto node = nodeOf(target);
-        return node != nullptr && console::succeeded(node->Command(commandId, target.row > 0 ? DataObjectType::result
-                                                                                             : DataObjectType::scope));
+        const bool disabled = std::ranges::any_of(
+            menuOf(target), [commandId](const MenuItem& item) { return item.disabled && item.id == commandId; });
+        return node != nullptr && !disabled &&
+               console::succeeded(
+                   node->Command(commandId, target.row > 0 ? DataObjectType::result : DataObjectType::scope));
     });
 }
 

@@ -61,6 +61,7 @@ public:
     bool canGoForward() const;
 
     std::vector<MenuItem> menu(const Target& target);
+    // False for an entry that the menu has disabled at this moment.
     bool invoke(std::int32_t commandId, const Target& target);
 
     // The verbs, for what is selected. Each is done only where it is offered.
@@ -98,9 +99,9 @@ public:
     }
 
     // What nodes see.
-    console::IConsoleNameSpace& nameSpace() override { return tree_; }
-    console::IResultData& resultData() override { return view_.pane; }
-    console::IHeaderCtrl& headerCtrl() override { return view_.header; }
+    console::IConsoleNameSpace* nameSpace() override { return &tree_; }
+    console::IResultData* resultData() override { return &view_.pane; }
+    console::IHeaderCtrl* headerCtrl() override { return &view_.header; }
     console::Result QueryConsoleVerb(console::IConsoleVerb*& verb) override;
     console::Result QueryScopeImageList(console::IImageList*& images) override;
     // Done when the running handler has returned.
@@ -117,6 +118,7 @@ private:
     bool offers(console::Verb verb) const { return view_.active() && verbs().offers(verb); }
     bool accepts(const std::shared_ptr<console::CSnapInItem>& source);
     std::shared_ptr<console::CSnapInItem> nodeOf(const Target& target);
+    std::vector<MenuItem> menuOf(const Target& target);
     ViewHistory::Exists exists() const;
 
     SnapIn& snapIn_;

@@ -1,12 +1,11 @@
 #include "shell/ShellUserInterface.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace shell {
 
 void ShellUserInterface::press(std::span<const platform::Key> keys) {
-    if (std::ranges::find(keys, platform::Key::f5) != keys.end()) {
+    if (!keys.empty()) {
         tasks_.add({.kind = Task::Kind::refresh});
     }
 }

@@ -12,6 +12,20 @@ void SortKeys::add(wire::WideStringView text) {
     }
     const auto begin = units_.size();
     appendNaturalKey(units_, text);
+    addKey(begin);
+}
+
+void SortKeys::add(std::int64_t number) {
+    const auto begin = units_.size();
+    const auto bits = static_cast<std::uint64_t>(number) ^ (std::uint64_t{1} << 63U); // the negative ones first
+    for (unsigned shift = 64; shift != 0;) {
+        shift -= 16;
+        units_.push_back(static_cast<char16_t>(bits >> shift & 0xFFFFU));
+    }
+    addKey(begin);
+}
+
+void SortKeys::addKey(std::size_t begin) {
     keys_.push_back({.begin = begin,
                      .length = static_cast<std::uint32_t>(units_.size() - begin),
                      .place = static_cast<std::uint32_t>(keys_.size())});

@@ -9,11 +9,13 @@
 
 namespace shell {
 
-// The texts by which rows are put into order, in one piece of memory and not one for each row.
+// The texts or numbers by which rows are put into order, in one piece of memory and not one for each row.
 class SortKeys {
 public:
     void reserve(std::size_t count) { keys_.reserve(count); }
     void add(wire::WideStringView text);
+    // Numbers stand in their order, behind rows with an empty text.
+    void add(std::int64_t number);
     // The places of the texts, counted in the order of adding, as they stand in natural order; equal ones as added.
     // `likely` is that or something else of all places, or nothing. Nothing can be added afterwards.
     std::vector<std::uint32_t> sorted(bool ascending, std::span<const std::uint32_t> likely = {});
@@ -26,6 +28,7 @@ private:
         std::uint32_t place = 0;
     };
 
+    void addKey(std::size_t begin);
     wire::WideStringView textOf(const Key& key) const { return {units_.data() + key.begin, key.length}; }
     void skipCommonBeginning();
     void setHeads();

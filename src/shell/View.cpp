@@ -9,8 +9,8 @@ using console::DataObjectType;
 using console::ResultId;
 using console::ScopeId;
 
-View::View(const Notifier& notifier, ScopeTree& tree, const Observers& observers)
-    : pane(observers), notifier_(notifier), tree_(tree), observers_(observers) {}
+View::View(console::IConsole& console, const Notifier& notifier, ScopeTree& tree, const Observers& observers)
+    : pane(observers), console_(console), notifier_(notifier), tree_(tree), observers_(observers) {}
 
 void View::load(ScopeItem& item) {
     if (!std::exchange(item.loaded, true)) {
@@ -117,7 +117,7 @@ void View::refresh() {
 void View::showAnew() {
     if (tree_.alive(scope_) != nullptr) {
         header.restart();
-        notifier_.viewChange(shown_, scope_);
+        notifier_.showAnew(shown_, console_);
         pane.takeReplaced();
     }
 }

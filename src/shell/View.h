@@ -22,14 +22,15 @@ namespace shell {
 //                         verbs, columns and rows begin anew
 //                         add images, show on, select on
 //   a row                 to what was selected: select off; verbs begin anew; to the row's node: select on
-//   a refresh             refresh, then view change, so that no row of before stands; after that the open items below
-//                         are expanded again, and the selected row is selected again
+//   a refresh             refresh; after that the open items below are expanded again, and the selected row is
+//                         selected again. That no row of before stands, the node is asked to show itself anew: no
+//                         notification of the console is that, and most nodes read nothing for it
 //
 // A node that was replaced or removed meanwhile is not told that it is no longer selected or shown.
 class View {
 public:
-    // All three outlive it.
-    View(const Notifier& notifier, ScopeTree& tree, const Observers& observers);
+    // All outlive it. The console is the one that it belongs to.
+    View(console::IConsole& console, const Notifier& notifier, ScopeTree& tree, const Observers& observers);
 
     console::ScopeId scope() const { return scope_; }
     console::ResultId row() const { return row_; }
@@ -66,6 +67,7 @@ private:
     bool settleRow();
     std::vector<Row> scopeRows();
 
+    console::IConsole& console_;
     const Notifier& notifier_;
     ScopeTree& tree_;
     const Observers& observers_;

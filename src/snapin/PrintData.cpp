@@ -45,13 +45,8 @@ console::Result PrintData::QueryPagesFor(console::DataObjectType type) {
     return type == console::DataObjectType::snapinManager ? console::Result::ok : console::Result::notDone;
 }
 
-console::Result PrintData::OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) {
-    if (!beginExpand(code, console, scopeId)) {
-        return console::Result::ok;
-    }
-    printServer_->setParent(*this);
-    insertChild(console, *printServer_);
-    return console::Result::ok;
+std::vector<console::ChildKind> PrintData::childKinds() {
+    return {fixedChildren({printServer_.get()})};
 }
 
 } // namespace snapin

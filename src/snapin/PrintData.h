@@ -4,6 +4,7 @@
 #include "snapin/PrintServer.h"
 
 #include <memory>
+#include <vector>
 
 namespace snapin {
 
@@ -21,9 +22,11 @@ public:
     // Adds no page: logs in there and then, and answers whether the snap-in may be added.
     console::Result CreatePropertyPages(console::DataObjectType type) override;
     console::Result QueryPagesFor(console::DataObjectType type) override;
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
 
     PrintServer& printServer() const { return *printServer_; }
+
+protected:
+    std::vector<console::ChildKind> childKinds() override;
 
 private:
     std::shared_ptr<PrintServer> printServer_;

@@ -2,8 +2,8 @@
 
 #include "alarms/AlarmRootNode.h"
 #include "drivers/DriversRootNode.h"
+#include "inventory/MigrationRootNode.h"
 #include "localprinters/LocalPrintersRootNode.h"
-#include "migration/MigrationRootNode.h"
 #include "printers/PrintersRootNode.h"
 #include "queues/FollowPrintersRootNode.h"
 #include "queues/QueuesRootNode.h"
@@ -20,17 +20,10 @@ PrintServer::PrintServer(platform::Platform& platform)
                 std::make_shared<drivers::DriversRootNode>(platform),
                 std::make_shared<alarms::AlarmRootNode>(platform),
                 std::make_shared<rules::RulesRootNode>(platform),
-                std::make_shared<migration::MigrationRootNode>(platform)} {}
+                std::make_shared<inventory::MigrationRootNode>(platform)} {}
 
-console::Result PrintServer::OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) {
-    if (!beginExpand(code, console, scopeId)) {
-        return console::Result::ok;
-    }
-    for (const auto& branch : branches_) {
-        branch->setParent(*this);
-        insertChild(console, *branch);
-    }
-    return console::Result::ok;
+std::vector<console::ChildKind> PrintServer::childKinds() {
+    return {fixedChildren(pointersTo(branches_))};
 }
 
 } // namespace snapin

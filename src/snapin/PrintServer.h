@@ -5,6 +5,7 @@
 #include <array>
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace snapin {
 
@@ -16,10 +17,11 @@ public:
 
     explicit PrintServer(platform::Platform& platform);
 
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
-
     // In the order in which they stand in the tree.
     std::span<const std::shared_ptr<console::NodeBase>> branches() const { return branches_; }
+
+protected:
+    std::vector<console::ChildKind> childKinds() override;
 
 private:
     std::array<std::shared_ptr<console::NodeBase>, 8> branches_;

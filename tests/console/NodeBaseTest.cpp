@@ -261,7 +261,7 @@ TEST_F(Node, aCarriedRowLeavesTheScopeRowToTheNewNodeUnlessAskedFor) {
     expand();
     const ScopeId before = shelf->boxes[0]->row();
     host.scopeRows.clear();
-    shelf->carryOver = ShelfNode::CarryOver::resultRow;
+    shelf->carryOver = CarryOver::resultRow;
     expand(ExpandCode::refresh);
     EXPECT_NE(shelf->boxes[0]->row(), before);
 }
@@ -272,7 +272,7 @@ TEST_F(Node, theScopeRowIsCarriedWhereAskedFor) {
     current[0]->resultFields().itemID = 7;
     NodeArray<BoxNode> fresh{std::make_shared<BoxNode>(platform, "a", u"New"),
                              std::make_shared<BoxNode>(platform, "n", u"Newcomer")};
-    ShelfNode::replaceBoxes(current, std::move(fresh), ShelfNode::CarryOver::resultRowAndScopeId);
+    ShelfNode::replaceBoxes(current, std::move(fresh), CarryOver::resultRowAndScopeId);
     EXPECT_EQ(current[0]->row(), 42);
     EXPECT_EQ(current[0]->resultFields().itemID, 7);
     EXPECT_EQ(current[0]->displayName(), u"New");
@@ -355,6 +355,81 @@ TEST_F(Node, showingReadsNothing) {
     shelf->reading = [] { FAIL() << "the server was asked"; };
     shelf->Notify(from(Event::show, 1));
     EXPECT_EQ(host.resultRows.size(), 2U);
+}
+
+TEST_F(Node, aListThatIsReadWhenItIsShownIsNotReadByARefresh) {
+    shelf->whenRead = RowReading::whenShown;
+    shelf->Notify(from(Event::show, 1));
+    shelf->records.pop_back();
+    shelf->OnShow(host, false, 1);
+    EXPECT_EQ(host.resultRows.size(), 2U);
+    shelf->Notify(from(Event::show, 1));
+    EXPECT_EQ(host.resultRows.size(), 1U);
+}
+
+TEST_F(Node, aListMayBeReadOnARefreshToo) {
+    shelf->whenRead = RowReading::whenShownOrAgain;
+    shelf->Notify(from(Event::show, 1));
+    shelf->records.pop_back();
+    shelf->OnShow(host, false, 1);
+    EXPECT_EQ(host.resultRows.size(), 1U);
+    shelf->reading = [] { FAIL() << "nobody sees what is read for a list that goes"; };
+    shelf->Notify(from(Event::show, 0));
+}
+
+TEST_F(Node, aListThatIsReadOnEveryShowIsReadBeforeItsColumnsAndAlsoWhenItGoes) {
+    std::vector<std::size_t> callsBefore;
+    shelf->whenRead = RowReading::onEveryShow;
+    shelf->reading = [&] { callsBefore.push_back(host.calls.size()); };
+    shelf->Notify(from(Event::show, 1));
+    shelf->Notify(from(Event::show, 0));
+    EXPECT_THAT(callsBefore, ElementsAre(0U, 8U));
+}
+
+TEST_F(Node, aListThatCantBeReadOnEveryShowShowsWhatStoodAndTellsTheFailure) {
+    shelf->whenRead = RowReading::onEveryShow;
+    shelf->Notify(from(Event::show, 1));
+    shelf->reading = [] { throw "Reading outside scope"; };
+    EXPECT_EQ(shelf->Notify(from(Event::viewChange)), Result::failed);
+    EXPECT_EQ(host.resultRows.size(), 2U);
+    EXPECT_EQ(platform.failures().size(), 1U);
+}
+
+TEST_F(Node, showsItselfAnewFromMemoryUnlessOnlyAShowReadsIt) {
+    expand();
+    shelf->reading = [] { FAIL() << "the server was asked"; };
+    for (const auto reading : {RowReading::never, RowReading::whenShownOrAgain, RowReading::onEveryShow}) {
+        shelf->whenRead = reading;
+        EXPECT_EQ(shelf->showAnew(host), Result::ok);
+        EXPECT_EQ(host.resultRows.size(), 2U);
+    }
+    bool read = false;
+    shelf->reading = [&] { read = true; };
+    shelf->whenRead = RowReading::whenShown;
+    EXPECT_EQ(shelf->showAnew(host), Result::ok);
+    EXPECT_TRUE(read);
+}
+
+TEST_F(Node, hasJustItsOwnRowRedrawn) {
+    expand();
+    shelf->boxes[0]->redrawRow();
+    EXPECT_EQ(host.calls.back(), "InsertItem Bolts under 1") << "it stands in no list yet";
+    shelf->Notify(from(Event::show, 1));
+    shelf->boxes[1]->redrawRow();
+    EXPECT_EQ(host.calls.back(), "UpdateRow 2");
+}
+
+TEST_F(Node, mayHaveAnotherImageInTheListThanInTheTree) {
+    expand();
+    shelf->boxes[0]->setResultImage(13);
+    ScopeItemFields inTree;
+    ResultItemFields inList;
+    shelf->boxes[0]->GetScopePaneInfo(inTree);
+    shelf->boxes[0]->GetResultPaneInfo(inList);
+    EXPECT_EQ(inTree.nImage, 4);
+    EXPECT_EQ(inList.nImage, 13);
+    EXPECT_EQ((NodeIdentity{.image = 4}.resultImage), 4);
+    EXPECT_EQ((NodeIdentity{.image = 4, .resultImage = 9}.resultImage), 9);
 }
 
 TEST_F(Node, aRefreshInTheTreeShowsTheOldRowsAndThenReads) {

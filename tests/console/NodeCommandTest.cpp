@@ -58,10 +58,16 @@ TEST_F(NodeCommand, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF
     EXPECT_FALSE(shelf->lastExpand.has_value());
 }
 
-TEST_F(NodeCommand, pressingF5TwiceQueuesTwoRefreshes) {
-    shelf->refreshes = 2;
+TEST_F(NodeCommand, theKeysAfterItAreOneSequence) {
+    shelf->keys = {platform::Key::tab, platform::Key::f5};
     shelf->Command(12, DataObjectType::scope);
-    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5), ElementsAre(platform::Key::f5)));
+    EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::tab, platform::Key::f5)));
+}
+
+TEST_F(NodeCommand, withoutKeysAfterItNothingIsPressed) {
+    shelf->keys = {};
+    shelf->Command(12, DataObjectType::scope);
+    EXPECT_THAT(platform.ui.presses(), IsEmpty());
 }
 
 TEST_F(NodeCommand, theHandlerKnowsWhetherItWasReachedFromTheTree) {

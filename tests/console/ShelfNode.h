@@ -10,6 +10,12 @@
 
 namespace console {
 
+// What a shelf reads of a box.
+struct BoxRecord {
+    std::string id;
+    wire::WideString name;
+};
+
 // A box on a shelf: a leaf that stands as a row in the shelf's list and in the tree.
 class BoxNode final : public CBaseNodeItem<BoxNode> {
 public:
@@ -19,10 +25,17 @@ public:
         : CBaseNodeItem(platform), id_(std::move(id)) {
         setDisplayName(std::move(name));
     }
+    BoxNode(platform::Platform& platform, BoxRecord record)
+        : BoxNode(platform, std::move(record.id), std::move(record.name)) {}
 
     std::string refreshKey() const override { return id_; }
     using NodeBase::console;
+    using NodeBase::redrawRow;
+    using NodeBase::removeFromList;
+    using NodeBase::removeFromTree;
     using NodeBase::row;
+    using NodeBase::selectAndPress;
+    using NodeBase::setResultImage;
 
 private:
     std::string id_;
@@ -35,10 +48,7 @@ public:
     static constexpr NodeIdentity identity{
         .displayName = u"Shelf", .nodeType = folderNodeType, .image = 0, .openImage = 1, .children = 2};
 
-    struct Record {
-        std::string id;
-        wire::WideString name;
-    };
+    using Record = BoxRecord;
 
     explicit ShelfNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
@@ -51,11 +61,11 @@ public:
     CSnapInItem* cut = nullptr;
     std::optional<ExpandCode> lastExpand;
     std::vector<std::pair<bool, int>> shows;
-    int refreshes = 1;
+    KeySequence keys{platform::Key::f5};
     CarryOver carryOver = CarryOver::resultRow;
+    RowReading whenRead = RowReading::never;
     NodeArray<BoxNode> boxes;
 
-    using NodeBase::CarryOver;
     using NodeBase::componentData;
     using NodeBase::confirm;
     using NodeBase::console;
@@ -97,22 +107,21 @@ protected:
         static constexpr std::array<Column, 3> all{{{u"Name", 2.5}, {u"Weight", 1.333}, {u"Kept automatic"}}};
         return all;
     }
-    std::span<const MenuEntry> menu() const override {
-        static constexpr std::array<MenuEntry, 3> all{
-            {{u"Add Box", u"To add a box", 12}, separator, {u"Empty", u"To empty the shelf", 13}}};
-        return all;
+    MenuEntries menu() const override {
+        return {{u"Add Box", u"To add a box", 12}, separator, {u"Empty", u"To empty the shelf", 13}};
     }
-    std::vector<NodeBase*> rows() const override {
-        std::vector<NodeBase*> all;
-        for (const auto& box : boxes) {
-            all.push_back(box.get());
+    std::vector<NodeBase*> rows() const override { return pointersTo(boxes); }
+    RowReading rowReading() const override { return whenRead; }
+    void readRows() override {
+        if (reading) {
+            reading();
         }
-        return all;
+        boxes = rowsFor<BoxNode>(records, boxes);
     }
     Result runCommand(std::int32_t commandId, CommandOrigin origin) override {
         return command ? command(commandId, origin) : Result::notDone;
     }
-    int refreshesAfterCommand() const override { return refreshes; }
+    KeySequence keysAfterCommand(std::int32_t /*commandId*/, CommandOrigin /*origin*/) const override { return keys; }
     Result OnRename(IConsole& /*console*/, const wire::WideString& newName) override {
         renamedTo = newName;
         return Result::ok;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printers/PrinterRegionNode.h"
 #include "printers/PrintersRootNode.h"
 #include "queues/QueuesRootNode.h"
 #include "tests/support/FakeEstate.h"

@@ -30,6 +30,10 @@ std::span<const VerbChoice> LeafNode::verbs() const {
     return leafVerbs;
 }
 
+std::optional<std::int64_t> LeafNode::sortValue(std::int32_t column) const {
+    return column == 1 ? entry.time : std::nullopt;
+}
+
 FolderNode::FolderNode(platform::Platform& platform, Estate& itsEstate, Estate::Entry itsEntry)
     : NodeOfEstate(itsEstate, std::move(itsEntry)), CBaseNodeItem(platform) {
     setDisplayName(entry.name);
@@ -76,10 +80,10 @@ std::span<const console::Column> FolderNode::columns() const {
     return entry.key == "top" ? std::span<const console::Column>() : titles;
 }
 
-std::span<const console::MenuEntry> FolderNode::menu() const {
-    static constexpr std::array entries{console::MenuEntry{u"Do it", u"To do it", 1}, console::separator,
-                                        console::MenuEntry{u"Undo it", u"To undo it", 2}};
-    return entries;
+console::MenuEntries FolderNode::menu() const {
+    return {{.text = u"Do it", .statusBarText = u"To do it", .id = 1, .disabled = estate.disabled},
+            console::separator,
+            {.text = u"Undo it", .statusBarText = u"To undo it", .id = 2, .checked = true}};
 }
 
 std::span<const VerbChoice> FolderNode::verbs() const {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,12 +21,14 @@ struct Estate {
         wire::WideString name;
         wire::WideString number{};
         bool leaf = false;
+        std::optional<std::int64_t> time{}; // by which its number is sorted
     };
 
     std::map<std::string, std::vector<Entry>> below; // by the key of the parent
     std::map<std::int32_t, std::function<void(FolderNode&, console::CommandOrigin)>> commands;
     std::function<void(FolderNode&, const wire::WideString&)> renamed;
     std::function<void(FolderNode&, console::CSnapInItem&)> pasted;
+    bool disabled = false;  // the folders' entry 1
     std::string unreadable; // the key of a node whose children can't be read
     bool pasteAllowed = true;
     std::vector<std::string> lists; // the keys of the nodes whose children were read, in order
@@ -54,6 +57,9 @@ public:
 
     std::string refreshKey() const override { return entry.key; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
+    std::optional<std::int64_t> sortValue(std::int32_t column) const override;
+    using NodeBase::redrawRow;
+    using NodeBase::setResultImage;
 
 protected:
     std::span<const console::VerbChoice> verbs() const override;
@@ -72,11 +78,11 @@ public:
     using NodeBase::PressRefreshKey;
 
     console::IConsole& itsConsole() { return *console(); }
-    void press(std::initializer_list<platform::Key> keys) { NodeBase::press(keys); }
+    void press(const console::KeySequence& keys) { NodeBase::press(keys); }
 
 protected:
     std::span<const console::Column> columns() const override;
-    std::span<const console::MenuEntry> menu() const override;
+    console::MenuEntries menu() const override;
     std::span<const console::VerbChoice> verbs() const override;
     std::vector<console::NodeBase*> rows() const override;
     console::Result runCommand(std::int32_t commandId, console::CommandOrigin origin) override;

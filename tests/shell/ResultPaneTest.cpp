@@ -1,6 +1,8 @@
 #include "shell/ResultPane.h"
 #include "tests/shell/ShellFixture.h"
 
+#include <array>
+
 namespace shelltest {
 namespace {
 
@@ -57,6 +59,74 @@ protected:
     RowEvents events;
     shell::ResultPane pane{observers};
 };
+
+TEST_F(ResultPane, redrawsARowWhereItStands) {
+    const auto a = insert(u"a");
+    const auto b = insert(u"b");
+    pane.commit();
+    events.log.clear();
+    b->entry.name = u"0";
+    b->setResultImage(7);
+
+    EXPECT_EQ(pane.UpdateItem(b->resultFields().itemID), console::Result::ok);
+    EXPECT_TRUE(events.log.empty()) << "before the handler has returned";
+    pane.commit();
+
+    EXPECT_EQ(events.log, (Lines{"changed 1 1"}));
+    EXPECT_EQ(rows(), (Lines{"a", "0"}));
+    EXPECT_EQ(pane.row(1).image, 7);
+    EXPECT_EQ(pane.row(0).image, 3);
+}
+
+TEST_F(ResultPane, redrawsNoRowThatIsNotThere) {
+    const auto a = insert(u"a");
+    pane.commit();
+    events.log.clear();
+
+    EXPECT_EQ(pane.UpdateItem(0), console::Result::failed);
+    EXPECT_EQ(pane.UpdateItem(99), console::Result::failed);
+    EXPECT_EQ(pane.UpdateItem(a->resultFields().itemID), console::Result::ok);
+    pane.DeleteItem(a->resultFields().itemID, 0);
+    pane.commit();
+
+    EXPECT_EQ(events.log, (Lines{"out 0 1"}));
+}
+
+TEST_F(ResultPane, redrawsARowThatAFilterHidesOnceItIsShown) {
+    const auto a = insert(u"a");
+    insert(u"b");
+    pane.commit();
+    pane.filter(u"b", 1);
+    events.log.clear();
+    a->setResultImage(7);
+
+    pane.UpdateItem(a->resultFields().itemID);
+    pane.commit();
+
+    EXPECT_TRUE(events.log.empty());
+    pane.filter(u"", 1);
+    EXPECT_EQ(pane.row(0).image, 7);
+}
+
+// Dates of the last month of one year and the first of the next, as an American reads them.
+TEST_F(ResultPane, sortsDatesByTheirTimesAndNotByTheirTexts) {
+    const auto add = [&](const wire::WideString& name, const wire::WideString& date, std::optional<std::int64_t> time) {
+        const auto node = std::make_shared<LeafNode>(
+            platform, estate,
+            Estate::Entry{.key = wire::toUtf8(name), .name = name, .number = date, .leaf = true, .time = time});
+        pane.InsertItem(node->resultFields());
+        return node;
+    };
+    const auto nodes = std::array{add(u"last", u"01/02/27", 20270102), add(u"first", u"12/01/25", 20251201),
+                                  add(u"never", u"", std::nullopt), add(u"second", u"03/14/26", 20260314),
+                                  add(u"before Christ", u"03/15/-44", -440315)};
+    pane.commit();
+
+    pane.sort(shell::SortOrder{1, true});
+    EXPECT_EQ(rows(), (Lines{"never", "before Christ", "first", "second", "last"}));
+    pane.sort(shell::SortOrder{1, false});
+    EXPECT_EQ(rows(), (Lines{"last", "second", "first", "before Christ", "never"}));
+}
 
 TEST_F(ResultPane, rowsAreShownWhenTheyAreCommitted) {
     insert(u"one");

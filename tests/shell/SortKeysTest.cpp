@@ -19,6 +19,16 @@ TEST(SortKeys, textsStandInNaturalOrder) {
     EXPECT_EQ(sorted({u"Floor 10", u"floor 9", u"Attic"}), (Places{2, 1, 0}));
 }
 
+TEST(SortKeys, numbersStandByTheirValuesBehindRowsWithoutAnything) {
+    shell::SortKeys keys;
+    for (const std::int64_t number : {std::int64_t{70000}, std::int64_t{-2}, std::int64_t{9}, std::int64_t{-1}}) {
+        keys.add(number);
+    }
+    keys.add(u"");
+
+    EXPECT_EQ(keys.sorted(true), (Places{4, 1, 3, 2, 0}));
+}
+
 TEST(SortKeys, descendingTurnsTheOrderRound) {
     EXPECT_EQ(sorted({u"b", u"c", u"a"}, false), (Places{1, 0, 2}));
 }

@@ -1,4 +1,8 @@
+#include "client/CommandObserver.h"
 #include "tests/snapin/LoginSteps.h"
+
+#include <set>
+#include <thread>
 
 namespace {
 
@@ -46,6 +50,25 @@ TEST_F(LoginThread, onlyPressesF5OnceTheLoginIsDone) {
 
     EXPECT_TRUE(platform_.ui.forms().empty());
     EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
+}
+
+// A host that gives the login a thread has its hooks called from there.
+TEST_F(LoginThread, tellsTheObserverOfItsCommandsOnItsOwnThread) {
+    struct Threads final : client::CommandObserver {
+        void commandStarted(const client::CommandReport&) override { seen.insert(std::this_thread::get_id()); }
+        void commandEnded(const client::CommandReport&) override { seen.insert(std::this_thread::get_id()); }
+        std::set<std::thread::id> seen;
+    } threads;
+    platform_.platform().hooks.commands = &threads;
+    support::FakeLoginServer server({1});
+    expectLogin(server);
+    platform_.ui.expectBox(Answer::ok, connected);
+
+    std::thread login([&] { snapin::runLoginThread(platform_, mainWindow); });
+    const auto id = login.get_id();
+    login.join();
+
+    EXPECT_EQ(threads.seen, std::set{id});
 }
 
 TEST_F(LoginThread, letsNoExceptionOut) {

@@ -179,6 +179,11 @@ Result RecordingConsole::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
     return removed > 0 ? Result::ok : Result::failed;
 }
 
+Result RecordingConsole::UpdateItem(ResultId itemId) {
+    calls.push_back("UpdateRow " + std::to_string(itemId));
+    return std::ranges::find(resultRows, itemId, &ResultRow::id) != resultRows.end() ? Result::ok : Result::failed;
+}
+
 Result RecordingConsole::DeleteAllRsltItems() {
     calls.emplace_back("DeleteAllRsltItems");
     resultRows.clear();

@@ -55,8 +55,8 @@ public:
     };
 
     // The calls, such as "InsertItem Printers under 1", "DeleteItem 1 children", "InsertRow North",
-    // "SetColumnWidth 0 200", "SelectScopeItem 1". Questions (GetChildItem, GetColumnWidth) and verbs are not among
-    // them.
+    // "UpdateRow 3", "SetColumnWidth 0 200", "SelectScopeItem 1". Questions (GetChildItem, GetColumnWidth) and verbs
+    // are not among them.
     std::vector<std::string> calls;
     // "refresh on", "cut off", ... in the order in which they were set.
     std::vector<std::string> verbCalls;
@@ -70,6 +70,7 @@ public:
     std::int32_t automaticColumnWidth = 100;
     bool hasVerbs = true;
     bool hasImages = true;
+    bool hasFaces = true; // tree, list and columns
     platform::WindowHandle mainWindow = 11;
 
     // Puts a node into the tree, as the console does with the root, without noting it down.
@@ -82,9 +83,9 @@ public:
     // The column titles.
     std::vector<wire::WideString> titles() const;
 
-    console::IConsoleNameSpace& nameSpace() override { return *this; }
-    console::IResultData& resultData() override { return *this; }
-    console::IHeaderCtrl& headerCtrl() override { return *this; }
+    console::IConsoleNameSpace* nameSpace() override { return hasFaces ? this : nullptr; }
+    console::IResultData* resultData() override { return hasFaces ? this : nullptr; }
+    console::IHeaderCtrl* headerCtrl() override { return hasFaces ? this : nullptr; }
     console::IConsole* console() override { return this; }
     console::Result QueryConsoleVerb(console::IConsoleVerb*& verb) override;
     console::Result QueryScopeImageList(console::IImageList*& images) override;
@@ -99,6 +100,7 @@ public:
 
     console::Result InsertItem(console::ResultItemFields& row) override;
     console::Result DeleteItem(console::ResultId itemId, std::int32_t column) override;
+    console::Result UpdateItem(console::ResultId itemId) override;
     console::Result DeleteAllRsltItems() override;
 
     console::Result InsertColumn(std::int32_t index, const char16_t* title, std::int32_t format,

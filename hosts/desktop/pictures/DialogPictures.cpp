@@ -10,7 +10,7 @@
 #include "hosts/desktop/window/DesktopUserInterface.h"
 #include "hosts/desktop/window/PrefilledSettings.h"
 #include "regions/CreateRegionDlg.h"
-#include "regions/RegionDeletion.h"
+#include "regions/RegionHolder.h"
 #include "snapin/AuthenticationDlg.h"
 
 #include <QApplication>
@@ -44,7 +44,7 @@ QImage boxPicture() {
         image = framed(*box);
         box->close();
     });
-    showMessageBox(nullptr, regions::deleteRegionQuestion, u"Warning", platform::boxStyle::okCancel);
+    showMessageBox(nullptr, regions::printersAndQueues.deleteQuestion, u"Warning", platform::boxStyle::okCancel);
     return image;
 }
 

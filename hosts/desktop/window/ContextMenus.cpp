@@ -23,6 +23,9 @@ bool ContextMenus::addEntries(QMenu& menu, const shell::Target& target) const {
         }
         QAction* const action = menu.addAction(oneLine(item.text));
         action->setStatusTip(oneLine(item.statusText));
+        action->setCheckable(item.checked);
+        action->setChecked(item.checked);
+        action->setEnabled(!item.disabled);
         QObject::connect(action, &QAction::triggered, &menu, [&operations = operations_, target, id = item.id] {
             operations.later([&operations, target, id] {
                 operations.perform([&](shell::Shell& console) { return console.invoke(id, target); });

@@ -50,4 +50,43 @@ TEST(MenuWriter, csvLeavesSeparatorsOut) {
               "Id,Text,Status\r\n247,Create region,To create a new region\r\n302,Delete region,\r\n");
 }
 
+TEST(MenuWriter, tellsWhatIsCheckedAndWhatIsDisabled) {
+    const std::vector<shell::MenuItem> menu{
+        {.text = u"Set Verbose", .statusText = u"To set Verbose", .id = 339, .checked = true, .disabled = true},
+        {.text = u"Set Quiet", .statusText = u"To set Quiet", .id = 337, .checked = true},
+        {.text = u"Properties", .statusText = u"", .id = 386}};
+    std::ostringstream table;
+    std::ostringstream json;
+
+    ctl::writeMenu(table, menu, ctl::Format::table);
+    ctl::writeMenu(json, menu, ctl::Format::json);
+
+    EXPECT_EQ(table.str(), "Id   Text         Status          Mark\n"
+                           "---  -----------  --------------  -----------------\n"
+                           "339  Set Verbose  To set Verbose  checked, disabled\n"
+                           "337  Set Quiet    To set Quiet    checked\n"
+                           "386  Properties\n");
+    EXPECT_EQ(json.str(), R"([
+  {
+    "text": "Set Verbose",
+    "status": "To set Verbose",
+    "id": 339,
+    "checked": true,
+    "disabled": true
+  },
+  {
+    "text": "Set Quiet",
+    "status": "To set Quiet",
+    "id": 337,
+    "checked": true
+  },
+  {
+    "text": "Properties",
+    "status": "",
+    "id": 386
+  }
+]
+)");
+}
+
 } // namespace

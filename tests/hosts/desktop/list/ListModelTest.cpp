@@ -55,6 +55,23 @@ TEST_F(ListModelTest, rowsThatStayKeepTheirPlaceInViewsAcrossARefresh) {
     EXPECT_EQ(0, resets.count());
 }
 
+TEST_F(ListModelTest, aRowThatIsRedrawnChangesAlone) {
+    start();
+    show(a());
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    const auto row = shell.pane().row(2).node;
+    estate.commands[1] = [&](shelltest::FolderNode&, console::CommandOrigin) {
+        auto& leaf = dynamic_cast<shelltest::LeafNode&>(*row);
+        leaf.entry.number = u"31";
+        leaf.redrawRow();
+    };
+    perform([&](shell::Shell& console) { return console.invoke(1, console.selection()); });
+    ASSERT_EQ(1, changes.count());
+    EXPECT_EQ(2, changes.front().at(0).toModelIndex().row());
+    EXPECT_EQ(2, changes.front().at(1).toModelIndex().row());
+    EXPECT_EQ(QStringLiteral("31"), model.index(2, 1).data().toString());
+}
+
 TEST_F(ListModelTest, sortingAndFilteringResetTheRows) {
     start();
     show(a());

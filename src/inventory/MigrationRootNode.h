@@ -2,7 +2,7 @@
 
 #include "console/CBaseNodeItem.h"
 
-namespace migration {
+namespace inventory {
 
 // The top of the branch that brings old printers over: inventory, plans and address ranges.
 class MigrationRootNode final : public console::CBaseNodeItem<MigrationRootNode> {
@@ -12,4 +12,4 @@ public:
     explicit MigrationRootNode(platform::Platform& platform);
 };
 
-} // namespace migration
+} // namespace inventory

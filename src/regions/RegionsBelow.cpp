@@ -1,4 +1,4 @@
-#include "regions/RegionNodes.h"
+#include "regions/RegionsBelow.h"
 
 namespace regions {
 

@@ -1,7 +1,7 @@
-#include "migration/MigrationRootNode.h"
+#include "inventory/MigrationRootNode.h"
 
-namespace migration {
+namespace inventory {
 
 MigrationRootNode::MigrationRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
-} // namespace migration
+} // namespace inventory

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "console/CBaseNodeItem.h"
+
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace console {
+
+// The base of a class T whose node lists the records of one kind, a Row each, whenever it is shown. T tells in
+// constants its `titles` and the entry of its menu that makes a record, `newEntry`, and in functions how the records
+// are listed and which dialog makes one.
+template <class T, class Row>
+class RecordList : public CBaseNodeItem<T> {
+public:
+    using Record = typename Row::Record;
+
+    explicit RecordList(platform::Platform& platform) : CBaseNodeItem<T>(platform) {}
+
+    static constexpr KeySequence keysAfterNew{platform::Key::up, platform::Key::down, platform::Key::f5,
+                                              platform::Key::f5};
+
+protected:
+    // False without an answer: then there are no rows.
+    virtual bool listRecords(std::vector<Record>& records) = 0;
+    virtual void openEditor() = 0;
+
+    const NodeArray<Row>& recordRows() const { return rows_; }
+    void addRow(Record record) {
+        rows_.push_back(std::make_shared<Row>(this->platform(), std::move(record)));
+        rows_.back()->setParent(*this);
+    }
+
+    std::span<const Column> columns() const override { return T::titles; }
+    std::vector<NodeBase*> rows() const override { return this->pointersTo(rows_); }
+    RowReading rowReading() const override { return RowReading::whenShown; }
+    void readRows() override {
+        auto before = std::exchange(rows_, {});
+        std::vector<Record> records;
+        if (listRecords(records)) {
+            rows_ = this->template rowsFor<Row>(std::move(records), std::move(before));
+        }
+    }
+
+    std::span<const NodeCommand<T>> commands() const override {
+        static constexpr std::array table{
+            NodeCommand<T>{.entry = T::newEntry, .run = &RecordList::make, .keys = T::keysAfterNew}};
+        return table;
+    }
+    Result make(CommandOrigin /*origin*/) {
+        openEditor();
+        this->selectAndPress(this->row(), {});
+        return Result::ok;
+    }
+
+private:
+    NodeArray<Row> rows_;
+};
+
+} // namespace console

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "console/Result.h"
+
+namespace console {
+
+class IConsole;
+
+// When the selection does not offer Paste, enables the standard verbs, Paste among them. The answer is that of the last
+// question put to the console.
+Result offerStandardVerbs(IConsole& console);
+
+} // namespace console

@@ -1,0 +1,68 @@
+#include "regions/RegionNode.h"
+
+#include "console/IConsoleNameSpace.h"
+#include "regions/RegionsBelow.h"
+
+#include <utility>
+
+namespace regions {
+
+RegionNode::RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const RegionTree& tree,
+                       protocol::RegionRecord record)
+    : RegionHolder(platform, identity, tree, record.id) {
+    setDisplayName(std::move(record.name));
+}
+
+std::string RegionNode::refreshKey() const {
+    return regionKey(regionId());
+}
+
+void RegionNode::regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name) {
+    if (origin == console::CommandOrigin::scope && newRegionId != 0 && console() != nullptr) {
+        addRegion({.name = name, .id = newRegionId, .parentId = regionId()});
+    } else {
+        RegionHolder::regionCreated(origin, newRegionId, name);
+    }
+}
+
+console::Result RegionNode::deleteRegion(console::CommandOrigin /*origin*/) {
+    if (!confirm(tree().deleteQuestion)) {
+        return console::Result::notDone;
+    }
+    client::CQVXAdminClass client;
+    const auto contents = readContents(client);
+    if (contents == RegionContents::something) {
+        messageBox(tree().notEmptyText, u"Information", platform::boxStyle::iconInformation);
+    }
+    if (contents != RegionContents::empty || !client.deleteRegion(tree().kind, regionId())) {
+        return console::Result::notDone;
+    }
+    removeFromTree();
+    removeFromList();
+    selectAndPress(parentRow(), {platform::Key::f5});
+    return console::Result::ok;
+}
+
+RegionContents RegionNode::readContents(client::CQVXAdminClass& client) const {
+    return readRegionContents(client, regionId());
+}
+
+// The new text stands at once and goes again when the command can't be sent.
+console::Result RegionNode::OnRename(console::IConsole& console, const wire::WideString& newName) {
+    const auto showText = [&](const wire::WideString& text) {
+        if (console.nameSpace() != nullptr) {
+            console.nameSpace()->SetItem(row(), text);
+        }
+    };
+    showText(newName);
+    client::CQVXAdminClass client;
+    if (!client.renameRegion(tree().kind, regionId(), newName)) {
+        showText(displayName());
+        return console::Result::notDone;
+    }
+    console.SelectScopeItem(parentRow());
+    PressRefreshKey();
+    return console::Result::ok;
+}
+
+} // namespace regions

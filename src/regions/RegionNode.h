@@ -1,0 +1,29 @@
+#pragma once
+
+#include "client/CQVXAdminClass.h"
+#include "regions/RegionDeletion.h"
+#include "regions/RegionHolder.h"
+
+#include <string>
+
+namespace regions {
+
+// A region in one of the trees of regions. Its class says what else it holds.
+class RegionNode : public RegionHolder {
+public:
+    std::string refreshKey() const override;
+
+protected:
+    RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const RegionTree& tree,
+               protocol::RegionRecord record);
+
+    console::RowReading rowReading() const override { return console::RowReading::onEveryShow; }
+    void regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name) override;
+    console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
+
+    // Asks, looks whether the region is empty, and deletes it.
+    console::Result deleteRegion(console::CommandOrigin origin);
+    virtual RegionContents readContents(client::CQVXAdminClass& client) const;
+};
+
+} // namespace regions
