@@ -50,7 +50,7 @@ std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& t
             readNumber(seconds->substr(1), value.second);
         }
     }
-    if (!rest.empty() || (!date && !time) || !forms::isValid(value)) {
+    if (!rest.empty() || (!date && !time) || !platform::isValid(value)) {
         return std::nullopt;
     }
     return std::optional<forms::DateTime>(value);

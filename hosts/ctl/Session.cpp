@@ -30,7 +30,9 @@ Session::Session(const Options& options, std::ostream& errors)
                 .settings = settings_,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_, .requests = &writes_},
                 .productVersion = {},
-                .locale = locale_} {
+                .locale = locale_,
+                .environment = environment_,
+                .launcher = launcher_} {
     observers_.add(failures_);
     if (options.activity) {
         observers_.add(activity_.emplace(*options.activity));

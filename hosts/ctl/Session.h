@@ -1,6 +1,8 @@
 #pragma once
 
 #include "hosts/common/IniSettingsStore.h"
+#include "hosts/common/SystemEnvironment.h"
+#include "hosts/common/SystemLauncher.h"
 #include "hosts/common/SystemLocale.h"
 #include "hosts/common/TwoSidedSnapIn.h"
 #include "hosts/common/WriteCheck.h"
@@ -71,6 +73,8 @@ private:
     platform::RefusalBox refusals_{ui_};
     common::IniSettingsStore settings_;
     common::SystemLocale locale_;
+    common::SystemEnvironment environment_;
+    common::SystemLauncher launcher_;
     platform::Platform platform_;
     std::optional<wire::WideString> loggedIn_; // the words of the login
     std::optional<Console> console_;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "client/ClientHooks.h"
+#include "platform/Environment.h"
 #include "platform/Locale.h"
+#include "platform/ProcessLauncher.h"
 #include "platform/SettingsStore.h"
 #include "platform/UserInterface.h"
 
@@ -18,6 +20,8 @@ struct Platform {
     client::ClientHooks hooks{}; // who watches commands and shows the server's refusals
     std::optional<std::array<std::uint16_t, 4>> productVersion{}; // of the module; empty when it can't be read
     const Locale& locale = plainLocale;                           // how the user writes numbers
+    const Environment& environment = unknownEnvironment;          // the machine that the program runs on
+    ProcessLauncher& launcher = noLauncher;                       // by which other programs are started
 };
 
 } // namespace platform

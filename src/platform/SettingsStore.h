@@ -7,8 +7,8 @@
 
 namespace platform {
 
-// Where the login keeps its four values between sessions: "ServerName", "ServerPort", "UserName", "DomainName".
-// The registry on Windows, a small INI file elsewhere. Never holds a password.
+// Where the login keeps its four values between sessions: "ServerName", "ServerPort", "UserName", "DomainName". The
+// registry on Windows, a small INI file elsewhere. Never holds a password.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
@@ -17,6 +17,11 @@ public:
     virtual bool exists() const = 0;
     // Empty when the store has no such value.
     virtual std::optional<wire::WideString> read(std::string_view name) const = 0;
+    // A value that another program has left under a key of the registry, such as "SOFTWARE\\VantrelSrv". Where there is
+    // no registry, such values stand among those of this store, by their names alone.
+    virtual std::optional<wire::WideString> readOf(std::string_view /*key*/, std::string_view name) const {
+        return read(name);
+    }
     // False when the value could not be stored; nothing else is lost then.
     virtual bool write(std::string_view name, const wire::WideString& value) = 0;
 };

@@ -6,6 +6,8 @@
 namespace forms {
 namespace {
 
+using platform::isValid;
+
 class DateTimePickerTest : public testing::Test {
 protected:
     support::TestPlatform platform;

@@ -2,6 +2,8 @@
 
 #include "client/CommandObserver.h"
 #include "platform/Platform.h"
+#include "tests/support/FakeEnvironment.h"
+#include "tests/support/FakeLauncher.h"
 #include "tests/support/FakeUserInterface.h"
 #include "tests/support/MemorySettingsStore.h"
 
@@ -16,9 +18,16 @@ class TestPlatform {
 public:
     FakeUserInterface ui;
     MemorySettingsStore settings;
+    FakeEnvironment environment;
+    FakeLauncher launcher;
 
     explicit TestPlatform(const platform::Locale& locale = platform::plainLocale)
-        : platform_{.ui = ui, .settings = settings, .hooks = {.commands = &observer_}, .locale = locale} {}
+        : platform_{.ui = ui,
+                    .settings = settings,
+                    .hooks = {.commands = &observer_},
+                    .locale = locale,
+                    .environment = environment,
+                    .launcher = launcher} {}
     TestPlatform(const TestPlatform&) = delete;
     TestPlatform& operator=(const TestPlatform&) = delete;
 

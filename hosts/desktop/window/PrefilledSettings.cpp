@@ -17,6 +17,10 @@ std::optional<wire::WideString> PrefilledSettings::read(std::string_view name) c
     return found != given_.end() ? std::optional(found->second) : store_.read(name);
 }
 
+std::optional<wire::WideString> PrefilledSettings::readOf(std::string_view key, std::string_view name) const {
+    return store_.readOf(key, name);
+}
+
 bool PrefilledSettings::write(std::string_view name, const wire::WideString& value) {
     return store_.write(name, value);
 }

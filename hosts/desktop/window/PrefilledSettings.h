@@ -15,6 +15,7 @@ public:
 
     bool exists() const override;
     std::optional<wire::WideString> read(std::string_view name) const override;
+    std::optional<wire::WideString> readOf(std::string_view key, std::string_view name) const override;
     bool write(std::string_view name, const wire::WideString& value) override;
 
 private:

@@ -12,6 +12,8 @@ Session::Session(platform::SettingsStore& settings)
                 .settings = settings,
                 .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_},
                 .productVersion = version,
-                .locale = locale_} {}
+                .locale = locale_,
+                .environment = environment_,
+                .launcher = launcher_} {}
 
 } // namespace desktop

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/common/SystemEnvironment.h"
+#include "hosts/common/SystemLauncher.h"
 #include "hosts/common/SystemLocale.h"
 #include "hosts/common/TwoSidedSnapIn.h"
 #include "hosts/desktop/activity/ActivityLog.h"
@@ -37,6 +39,8 @@ private:
     DesktopUserInterface ui_{tasks_};
     platform::RefusalBox refusals_{ui_};
     common::SystemLocale locale_;
+    common::SystemEnvironment environment_;
+    common::SystemLauncher launcher_;
     platform::Platform platform_;
     snapin::Print print_{platform_};
     common::TwoSidedSnapIn<snapin::Print, snapin::CPrintComponent> snapIn_{print_};
