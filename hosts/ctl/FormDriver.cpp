@@ -74,12 +74,17 @@ Texts cellsOf(const forms::ListView& list, std::size_t column) {
     return texts;
 }
 
-// What the rows of a list may be called by: the texts of each column that people see.
+// What the rows of a list may be called by: the texts of each column that people see. Those of a tree by their paths
+// from the top, and by their texts.
 std::vector<Texts> rowNames(const Control& control) {
     std::vector<Texts> names;
     if (const auto* const drop = dynamic_cast<const forms::DropList*>(&control)) {
         std::ranges::transform(drop->items(), std::back_inserter(names.emplace_back()), &forms::DropListItem::text);
     } else if (const auto* const tree = dynamic_cast<const forms::TreeView*>(&control)) {
+        auto& paths = names.emplace_back();
+        for (std::size_t item = 0; item < tree->items().size(); ++item) {
+            paths.push_back(tree->path(item));
+        }
         std::ranges::transform(tree->items(), std::back_inserter(names.emplace_back()), &forms::TreeItem::text);
     } else if (const auto* const list = dynamic_cast<const forms::ListView*>(&control)) {
         for (std::size_t column = 0; column < list->columns().size(); ++column) {
@@ -127,13 +132,16 @@ void chooseByValue(std::vector<Control*>& found, const Step& step) {
 Control& findControl(forms::Form& form, const Step& step) {
     auto found = forms::findControls(form, step.label);
     std::erase_if(found, [&](const Control* control) { return !takes(control, step.kind); });
+    if (std::ranges::any_of(found, [](const Control* control) { return forms::isOffered(*control); })) {
+        std::erase_if(found, [](const Control* control) { return !forms::isOffered(*control); });
+    }
     chooseByValue(found, step);
     if (found.size() == 1) {
         return *found.front();
     }
     Texts choices;
     for (const Control* control : found.empty() ? forms::controlsOf(form) : found) {
-        if (takes(control, step.kind) && control->visible()) {
+        if (takes(control, step.kind) && forms::isOffered(*control)) {
             choices.push_back(forms::fullName(*control));
         }
     }

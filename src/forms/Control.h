@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 namespace forms {
@@ -13,7 +14,7 @@ class ControlVisitor;
 class Form;
 
 // What of a control has changed, so that a host need mirror only that.
-enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visible, focus, limits, columns };
+enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visible, focus, limits, columns, pages };
 
 // What every control of a form has: a label, whether it is enabled and visible, and the form that it stands on.
 // A control is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own
@@ -37,6 +38,10 @@ public:
     void setFocus();
     // The control and all that it stands on are visible (its page is the one shown) and enabled.
     bool reachable() const;
+
+    // The number by which the platform's own dialogs know the control; none for most.
+    std::optional<int> resourceId() const { return resourceId_; }
+    void setResourceId(int id) { resourceId_ = id; }
 
     // What this control stands beside and goes with: a unit beside its number, a list beside its radio button, the
     // buttons of a list, a group beside a group; null for most. Without a label of its own it is called by that of the
@@ -64,6 +69,7 @@ private:
     Container& container_;
     wire::WideString label_;
     const Control* beside_ = nullptr;
+    std::optional<int> resourceId_;
     bool enabled_ = true;
     bool visible_ = true;
 };

@@ -1,6 +1,7 @@
 #include "forms/Form.h"
 
 #include "forms/FormWalk.h"
+#include "forms/SendableText.h"
 #include "platform/Guard.h"
 
 #include <utility>
@@ -29,13 +30,24 @@ Form::Form(platform::Platform& platform, std::u16string_view title, FormOptions 
       cancel_(std::make_unique<Button>(*footer_, options.cancelLabel)) {
     ok_->setVisible(!options.okLabel.empty());
     cancel_->setVisible(!options.cancelLabel.empty());
-    ok_->onPress = [this] { onOk(); };
+    ok_->setResourceId(idOk);
+    cancel_->setResourceId(idCancel);
+    ok_->onPress = [this] { confirm(); };
     cancel_->onPress = [this] { onCancel(); };
 }
 
 void Form::open() {
     if (!std::exchange(opened_, true)) {
-        guarded([this] { onInitDialog(); });
+        const bool filled = guarded([this] { onInitDialog(); });
+        if (!filled) {
+            ok_->setEnabled(false);
+        }
+    }
+}
+
+void Form::confirm() {
+    if (canSendTexts(*this)) {
+        onOk();
     }
 }
 
@@ -85,8 +97,8 @@ void Form::controlChanged(Control& control, Aspect aspect) {
     }
 }
 
-void Form::guarded(const std::function<void()>& handler) {
-    platform::guarded(
+bool Form::guarded(const std::function<void()>& handler) {
+    return platform::guarded(
         platform_, [this] { return wire::toUtf8(title_); }, handler);
 }
 

@@ -22,7 +22,8 @@ struct FormOptions {
 
 // A dialog without a screen: controls as members, handlers as functions. A dialog class derives from it; a host shows
 // it with UserInterface::runModal and never needs to know the class. Handlers run inside a guard: what they throw is
-// reported and dropped, and the form stays as it is.
+// reported and dropped, and the form stays as it is. A form whose opening has failed cannot be confirmed: it would
+// write what it could not read.
 class Form : public Container {
 public:
     const wire::WideString& title() const { return title_; }
@@ -48,26 +49,28 @@ public:
     // The control that has, or should get, the focus; null for the first reachable one.
     Control* focus() const { return focus_; }
 
+    // For the form and its helpers. The window of this form is the owner of both.
+    platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style);
+    int runModal(Form& nested);
+    platform::Platform& platform() const { return platform_; }
+
 protected:
     Form(platform::Platform& platform, std::u16string_view title, FormOptions options = {});
 
     virtual void onInitDialog() {}
+    // Comes only once every text of the form is one that a message can carry.
     virtual void onOk() { EndDialog(idOk); }
     virtual void onCancel() { EndDialog(idCancel); }
 
     // Ends the form with this result. Once: a second call changes nothing.
     void EndDialog(int result);
     void setTitle(wire::WideString title);
-    // The window of this form is the owner of both.
-    platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style);
-    int runModal(Form& nested);
-
-    platform::Platform& platform() const { return platform_; }
 
 private:
     friend class Control;
     void controlChanged(Control& control, Aspect aspect);
-    void guarded(const std::function<void()>& handler);
+    bool guarded(const std::function<void()>& handler);
+    void confirm();
 
     platform::Platform& platform_;
     wire::WideString title_;

@@ -42,6 +42,10 @@ KeyedLabel FormLabels::of(const Page& page) const {
 void FormLabels::changed(const Control& control) {
     if (const auto found = controls_.find(&control); found != controls_.end()) {
         keys_.change(found->second, control.label());
+    } else if (const auto* const tabs = dynamic_cast<const Tabs*>(&control)) {
+        for (const Page* page : tabs->pages()) {
+            keys_.change(pages_.at(page), page->title());
+        }
     }
 }
 

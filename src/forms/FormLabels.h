@@ -20,7 +20,7 @@ public:
 
     KeyedLabel of(const Control& control) const;
     KeyedLabel of(const Page& page) const;
-    // The form has given it another label.
+    // The form has given it another label, or a page of it another title.
     void changed(const Control& control);
 
 private:

@@ -27,11 +27,6 @@ void collect(const Container& container, std::vector<Control*>& all) {
     }
 }
 
-wire::WideString ownName(const Control& control) {
-    const bool borrows = control.label().empty() && control.beside() != nullptr;
-    return borrows ? ownName(*control.beside()) : readableLabel(control.label());
-}
-
 // The control's own name, then those of what it stands beside and on, from the inside out.
 std::vector<wire::WideString> namesOf(const Control& control) {
     std::vector<wire::WideString> names{ownName(control)};
@@ -101,6 +96,11 @@ wire::WideString readableLabel(std::u16string_view label) {
                                            : text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
+wire::WideString ownName(const Control& control) {
+    const bool borrows = control.label().empty() && control.beside() != nullptr;
+    return borrows ? ownName(*control.beside()) : readableLabel(control.label());
+}
+
 wire::WideString fullName(const Control& control) {
     const auto names = namesOf(control);
     return join(names, names.size());
@@ -121,6 +121,17 @@ std::vector<Control*> findControls(Form& form, std::u16string_view name) {
         }
     }
     return found;
+}
+
+bool isOffered(const Control& control) {
+    if (!control.visible()) {
+        return false;
+    }
+    if (const auto* const group = dynamic_cast<const Group*>(&control.container())) {
+        return isOffered(*group);
+    }
+    const auto* const page = dynamic_cast<const Page*>(&control.container());
+    return page == nullptr || (page->visible() && isOffered(page->tabs()));
 }
 
 bool reveal(Control& control) {

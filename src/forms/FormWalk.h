@@ -17,6 +17,9 @@ std::vector<Control*> controlsOf(Form& form);
 // A label as a person reads it: without access keys ("&Name" is "Name", "&&" is "&") and blanks at the ends.
 wire::WideString readableLabel(std::u16string_view label);
 
+// A control's label as a person reads it; that of what it stands beside where it has none of its own.
+wire::WideString ownName(const Control& control);
+
 // How a person calls a control: its label. One that stands beside another has that one's label when it has none of its
 // own, else "Other: Label"; a control in a group is "Group: Label", and one on a page "Page: Label" or
 // "Page: Group: Label".
@@ -41,6 +44,9 @@ Kind* findControl(Form& form, std::u16string_view name) {
     }
     return found;
 }
+
+// Whether the control is there for a person, be it on a page behind: it and all that it stands on are visible.
+bool isOffered(const Control& control);
 
 // Brings the pages on which the control stands to the front, as a person does before using it. False when a page can't
 // be shown now.

@@ -9,12 +9,16 @@ namespace forms {
 
 class Tabs;
 
-// One page of a tab control.
+// One page of a tab control. A hidden one has no tab, and cannot be shown.
 class Page final : public Container {
 public:
     Page(Tabs& tabs, std::u16string_view title);
 
     const wire::WideString& title() const { return title_; }
+    void setTitle(wire::WideString title);
+    bool visible() const { return visible_; }
+    // Hiding the page in front brings the next one there, or the one before where there is none.
+    void setVisible(bool visible);
     Tabs& tabs() const { return tabs_; }
     Form& form() override;
     bool shown() const override;
@@ -23,6 +27,7 @@ public:
 private:
     Tabs& tabs_;
     wire::WideString title_;
+    bool visible_ = true;
 };
 
 } // namespace forms

@@ -1,7 +1,10 @@
 #include "forms/Tabs.h"
 
 #include "forms/ControlVisitor.h"
+#include "forms/Page.h"
 
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace forms {
@@ -13,7 +16,7 @@ void Tabs::accept(ControlVisitor& visitor) {
 }
 
 void Tabs::show(std::size_t page) {
-    if (page >= pages_.size()) {
+    if (!canShow(page)) {
         throw std::out_of_range("Tabs::show: no such page");
     }
     if (current_ != page) {
@@ -23,12 +26,31 @@ void Tabs::show(std::size_t page) {
 }
 
 bool Tabs::userShowed(std::size_t page) {
-    if (!takesInput() || page >= pages_.size()) {
+    if (!takesInput() || !canShow(page)) {
         return false;
     }
     current_ = page;
     run(onShow);
     return true;
+}
+
+bool Tabs::canShow(std::size_t page) const {
+    return page < pages_.size() && pages_[page]->visible();
+}
+
+void Tabs::leaveHiddenPage() {
+    if (canShow(current_)) {
+        return;
+    }
+    const auto front = pages_.begin() + static_cast<std::ptrdiff_t>(current_);
+    const auto next = std::find_if(front, pages_.end(), [](const Page* page) { return page->visible(); });
+    const auto before = std::find_if(std::make_reverse_iterator(front), pages_.rend(),
+                                     [](const Page* page) { return page->visible(); });
+    if (next != pages_.end()) {
+        show(static_cast<std::size_t>(next - pages_.begin()));
+    } else if (before != pages_.rend()) {
+        show(static_cast<std::size_t>(before.base() - pages_.begin()) - 1);
+    }
 }
 
 } // namespace forms

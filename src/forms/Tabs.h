@@ -16,9 +16,9 @@ public:
     void accept(ControlVisitor& visitor) override;
 
     const std::vector<Page*>& pages() const { return pages_; }
-    // The page shown; 0 at first.
+    // The page in front; 0 at first.
     std::size_t current() const { return current_; }
-    // Throws std::out_of_range for a page that is not there.
+    // Throws std::out_of_range for a page that is not there, or hidden.
     void show(std::size_t page);
 
     std::function<void()> onShow;
@@ -26,6 +26,9 @@ public:
 
 private:
     friend class Page;
+    bool canShow(std::size_t page) const;
+    void leaveHiddenPage();
+
     std::vector<Page*> pages_;
     std::size_t current_ = 0;
 };

@@ -9,10 +9,12 @@ namespace forms {
 
 // Limits of a box that takes text.
 struct TextOptions {
-    std::size_t limit =
-        std::numeric_limits<std::size_t>::max(); // in UTF-16 units; of what a person types, not of setText
-    bool digitsOnly = false;                     // other characters are not taken from the keyboard
+    static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+
+    std::size_t limit = unlimited; // in UTF-16 units; of what a person types, not of setText
+    bool digitsOnly = false;       // other characters are not taken from the keyboard
     bool readOnly = false;
+    std::size_t codePageBytes = unlimited; // of a text that goes out in the user's code page; tested on OK
 };
 
 // A box that takes text; the base of the one-line, the many-line and the password box.

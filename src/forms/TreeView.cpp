@@ -6,6 +6,20 @@
 #include <utility>
 
 namespace forms {
+namespace {
+
+wire::WideString withEscapes(wire::WideStringView text) {
+    wire::WideString escaped;
+    for (const char16_t unit : text) {
+        if (unit == u'/' || unit == u'\\') {
+            escaped += u'\\';
+        }
+        escaped += unit;
+    }
+    return escaped;
+}
+
+} // namespace
 
 TreeView::TreeView(Container& container, std::u16string_view label) : Control(container, label) {}
 
@@ -26,6 +40,14 @@ void TreeView::clear() {
     items_.clear();
     selection_.reset();
     changed(Aspect::items);
+}
+
+wire::WideString TreeView::path(std::size_t item) const {
+    wire::WideString path = withEscapes(items_.at(item).text);
+    for (auto parent = items_[item].parent; parent; parent = items_[*parent].parent) {
+        path.insert(0, withEscapes(items_[*parent].text) + u'/');
+    }
+    return path;
 }
 
 void TreeView::select(std::optional<std::size_t> item) {

@@ -25,6 +25,9 @@ public:
     // Answers the number of the item. Throws std::out_of_range when the parent is not there yet.
     std::size_t addItem(TreeItem item);
     void clear();
+    // The texts from the top down to the item, with slashes in between, so that items of one text can be told apart. A
+    // slash in a text is "\/", a backslash "\\". Throws std::out_of_range for an item that is not there.
+    wire::WideString path(std::size_t item) const;
 
     std::optional<std::size_t> selection() const { return selection_; }
     // Does not fire onSelect. An item that is not there takes the selection away.

@@ -2,7 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
-#include "rules/Questions.h"
+#include "forms/Questions.h"
 
 #include <algorithm>
 #include <utility>
@@ -38,7 +38,7 @@ void AffectedDlg::onInitDialog() {
 
 void AffectedDlg::onOk() {
     if (name.text().empty()) {
-        refuseBlank(platform(), u"Name field should not be blank!", name);
+        forms::refuseBlank(name, u"Name field should not be blank!");
         return;
     }
     affected_.name = name.text();

@@ -1,9 +1,9 @@
 #include "rules/AffectedList.h"
 
 #include "client/CQVXAdminClass.h"
+#include "forms/Questions.h"
 #include "rules/AffectedDlg.h"
 #include "rules/NewItem.h"
-#include "rules/Questions.h"
 
 #include <algorithm>
 
@@ -109,7 +109,8 @@ void AffectedList::edit() {
 
 void AffectedList::remove() {
     const auto* const record = named();
-    if (record == nullptr || !confirmDelete(platform_, u"Are you sure you want to delete this Affected group?")) {
+    if (record == nullptr ||
+        !forms::confirmDelete(list.form(), u"Are you sure you want to delete this Affected group?")) {
         return;
     }
     client::CQVXAdminClass client;

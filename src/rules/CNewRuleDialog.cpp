@@ -2,8 +2,8 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
-#include "rules/Questions.h"
 
 #include <array>
 #include <utility>
@@ -66,15 +66,15 @@ void CNewRuleDialog::onOk() {
 // "shoud" must stay, and so must the comment that has to be there although most rules need none.
 bool CNewRuleDialog::take() {
     if (name.text().empty()) {
-        refuseBlank(platform(), u"Name field shoud not be blank!", name);
+        forms::refuseBlank(name, u"Name field shoud not be blank!");
         return false;
     }
     if (comment.text().empty()) {
-        refuseBlank(platform(), u"Comment field shoud not be blank!", comment);
+        forms::refuseBlank(comment, u"Comment field shoud not be blank!");
         return false;
     }
     if (affected.selected() == nullptr) {
-        refuseBlank(platform(), u"Affected field should not be blank!", affected.list);
+        forms::refuseBlank(affected.list, u"Affected field should not be blank!");
         return false;
     }
     entry_.name = name.text();

@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 
 #include <utility>
 
@@ -11,6 +12,7 @@ namespace {
 using protocol::messageType::webPage;
 
 constexpr std::size_t webPageRow = 2;
+constexpr std::u16string_view emptyField = u"A required field is empty!";
 
 } // namespace
 
@@ -92,24 +94,19 @@ void NewMessageDlg::onOk() {
 bool NewMessageDlg::takeNames() {
     if (isWebPage()) {
         if (name.text().empty()) {
-            refuse(u"Name cannot be blank!");
+            forms::refuseBlank(name, u"Name cannot be blank!", emptyField);
             return false;
         }
         message_.name = name.text();
         return true;
     }
     if (name.text().empty() && caption.text().empty()) {
-        refuse(u"Please enter either name or caption!");
+        forms::refuseBlank(name, u"Please enter either name or caption!", emptyField);
         return false;
     }
     message_.name = name.text().empty() ? caption.text() : name.text();
     message_.caption = caption.text();
     return true;
-}
-
-void NewMessageDlg::refuse(const wire::WideString& why) {
-    messageBox(why, u"A required field is empty!", platform::boxStyle::iconWarning);
-    name.setFocus();
 }
 
 } // namespace rules

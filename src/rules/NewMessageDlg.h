@@ -35,7 +35,6 @@ private:
     void showMessage();
     // False, with a message, when the names given do not do.
     bool takeNames();
-    void refuse(const wire::WideString& why);
 
     bool editing_;
     protocol::UserMessageRecord message_;

@@ -2,12 +2,12 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
 #include "rules/AddRuleEntryDlg.h"
 #include "rules/CNewRuleDialog.h"
 #include "rules/NewPricePlanDlg.h"
 #include "rules/PageLimitDlg.h"
-#include "rules/Questions.h"
 
 #include <algorithm>
 #include <utility>
@@ -42,9 +42,8 @@ void NewRuleGroupDlg::onInitDialog() {
 
 void NewRuleGroupDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Group name can not be empty, please provide a group name", u"Required field is empty",
-                   platform::boxStyle::iconWarning);
-        name.setFocus();
+        forms::refuseBlank(name, u"Group name can not be empty, please provide a group name",
+                           u"Required field is empty");
         return;
     }
     group_.name = name.text();
@@ -98,7 +97,7 @@ void NewRuleGroupDlg::add() {
 
 void NewRuleGroupDlg::remove() {
     const auto* const entry = selectedEntry();
-    if (entry == nullptr || !confirmDelete(platform(), u"Are you sure you want to delete this rule entry?")) {
+    if (entry == nullptr || !forms::confirmDelete(*this, u"Are you sure you want to delete this rule entry?")) {
         return;
     }
     client::CQVXAdminClass client;

@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 #include "protocol/rules/PaperCode.h"
 #include "rules/SearchDestinationDlg.h"
 
@@ -188,8 +189,7 @@ void PageLimitDlg::searchDestination() {
 
 void PageLimitDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field shoud not be blank!", wire::WideString(missingField), platform::boxStyle::iconWarning);
-        name.setFocus();
+        forms::refuseBlank(name, u"Name field shoud not be blank!", missingField);
         return;
     }
     takeJobs();
@@ -234,9 +234,8 @@ void PageLimitDlg::takeMaximum() {
 bool PageLimitDlg::takeDestination() {
     const bool none = destination.text().empty();
     if (none && limit_.action == limitAction::move) {
-        messageBox(u"Destination field should not be blank, when Move action is selected!",
-                   wire::WideString(missingField), platform::boxStyle::ok);
-        destination.setFocus();
+        forms::refuseBlank(destination, u"Destination field should not be blank, when Move action is selected!",
+                           missingField, platform::boxStyle::ok);
         return false;
     }
     limit_.destinationId = none || limit_.action == limitAction::divert ? std::string() : pickedId_;

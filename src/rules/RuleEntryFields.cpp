@@ -1,7 +1,7 @@
 #include "rules/RuleEntryFields.h"
 
+#include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
-#include "rules/Questions.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,7 +60,7 @@ void RuleEntryFields::typeChanged() {
 
 bool RuleEntryFields::take(std::u16string_view blankNameText) {
     if (name.text().empty()) {
-        refuseBlank(platform_, blankNameText, name);
+        forms::refuseBlank(name, blankNameText);
         return false;
     }
     entry.name = name.text();

@@ -1,8 +1,8 @@
 #include "rules/RuleObjectList.h"
 
+#include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
 #include "rules/NewItem.h"
-#include "rules/Questions.h"
 
 namespace rules {
 
@@ -111,7 +111,7 @@ bool RuleObjectList::take(protocol::RuleEntryRecord& entry) {
     }
     const auto row = selectedObject();
     if (!row) {
-        refuseBlank(platform_, objects_->blankText(), list);
+        forms::refuseBlank(list, objects_->blankText());
         return false;
     }
     entry.targetId = objects_->id(*row);
@@ -152,7 +152,7 @@ void RuleObjectList::edit() {
 
 void RuleObjectList::remove() {
     auto* const objects = editableSelection();
-    if (objects != nullptr && confirmDelete(platform_, objects->deleteQuestion())) {
+    if (objects != nullptr && forms::confirmDelete(list.form(), objects->deleteQuestion())) {
         objects->remove(*list.selection());
         objects->saved = {};
         fill();

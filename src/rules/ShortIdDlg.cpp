@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 
 #include <utility>
 
@@ -84,8 +85,7 @@ void ShortIdDlg::timesClicked() {
 
 void ShortIdDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field shoud not be blank!", u"Required field is empty", platform::boxStyle::iconWarning);
-        name.setFocus();
+        forms::refuseBlank(name, u"Name field shoud not be blank!", u"Required field is empty");
         return;
     }
     shortId_.name = name.text();

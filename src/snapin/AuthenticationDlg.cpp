@@ -36,6 +36,13 @@ bool isDigit(char16_t unit) {
 AuthenticationDlg::AuthenticationDlg(platform::Platform& platform)
     : Form(platform, u"Connect to Vantrel Print Management Server", {.okLabel = u"Login"}) {
     port.onLeave = [this] { checkPort(); };
+    userAuthentication.setResourceId(296);
+    serverName.setResourceId(294);
+    port.setResourceId(295);
+    userName.setResourceId(276);
+    password.setResourceId(260);
+    domain.setResourceId(292);
+    version.setResourceId(461);
 }
 
 void AuthenticationDlg::onInitDialog() {
@@ -62,21 +69,8 @@ void AuthenticationDlg::checkPort() {
     }
 }
 
-bool AuthenticationDlg::fits(const forms::EditBox& box) {
-    if (wire::toCodePage(box.text()).size() <= maximumBytes) {
-        return true;
-    }
-    const auto name = box.label().substr(0, box.label().find_last_not_of(u' ') + 1);
-    messageBox(name + u" should not be longer than " + wire::toWide(std::to_string(maximumBytes)) + u" bytes",
-               u"Warning", style::iconWarning);
-    return false;
-}
-
 // New settings take the place of the old ones whether or not the login succeeds.
 void AuthenticationDlg::onOk() {
-    if (!fits(serverName) || !fits(port)) {
-        return;
-    }
     auto properties = std::make_shared<client::CQVXAdminClassProperties>();
     properties->host = wire::toCodePage(serverName.text());
     properties->port = portNumber(port.text());

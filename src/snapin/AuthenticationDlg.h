@@ -23,7 +23,7 @@ enum class AuthenticationStatus : std::int32_t {
 // Asks for server, user and password, logs in, and makes the settings that all commands go by.
 class AuthenticationDlg final : public forms::Form {
 public:
-    // A host or a port of more bytes than this is refused.
+    // Of a host, and of a port.
     static constexpr std::size_t maximumBytes = 124;
 
     explicit AuthenticationDlg(platform::Platform& platform);
@@ -34,8 +34,8 @@ public:
 
     // The blanks behind the labels are part of them.
     forms::Group userAuthentication{*this, u"User Authentication"};
-    forms::EditBox serverName{userAuthentication, u"Server Name       "};
-    forms::EditBox port{userAuthentication, u"Port                     "};
+    forms::EditBox serverName{userAuthentication, u"Server Name       ", {.codePageBytes = maximumBytes}};
+    forms::EditBox port{userAuthentication, u"Port                     ", {.codePageBytes = maximumBytes}};
     forms::EditBox userName{userAuthentication, u"User Name          "};
     forms::PasswordBox password{userAuthentication, u"Password            "};
     forms::EditBox domain{userAuthentication, u"Domain                "};
@@ -50,8 +50,6 @@ private:
     void readSettings();
     void storeSettings();
     void checkPort();
-    // False, with a message, when the text is too long to be sent to the system.
-    bool fits(const forms::EditBox& box);
     void showStatus(std::uint16_t loginStatus);
     void fail(AuthenticationStatus status, const wire::WideString& text, const wire::WideString& caption,
               std::uint32_t icon);

@@ -81,15 +81,31 @@ TEST_F(FormTest, openingFillsItOnce) {
 TEST_F(FormTest, aHandlerThatThrowsIsReportedAndTheFormStays) {
     form.confirming = [] { throw "Reading outside scope"; };
     form.cancelling = [] { throw std::runtime_error("no connection"); };
-    form.opening = [] { throw wire::Cancelled(); };
     form.apply.onPress = [] { throw 1; };
-    form.open();
     EXPECT_TRUE(form.okButton().userPressed());
     form.userCancelled();
     EXPECT_TRUE(form.apply.userPressed());
     EXPECT_FALSE(form.ended());
-    EXPECT_THAT(platform.failures(), ElementsAre("Sample: Cancelled", "Sample: Reading outside scope",
-                                                 "Sample: no connection", "Sample: Unknown exception"));
+    EXPECT_THAT(platform.failures(),
+                ElementsAre("Sample: Reading outside scope", "Sample: no connection", "Sample: Unknown exception"));
+}
+
+TEST_F(FormTest, whatCouldNotBeFilledCannotBeConfirmed) {
+    form.opening = [] { throw wire::Cancelled(); };
+    form.open();
+    EXPECT_FALSE(form.okButton().enabled());
+    form.userPressedDefault();
+    EXPECT_FALSE(form.ended());
+    EXPECT_THAT(platform.failures(), ElementsAre("Sample: Cancelled"));
+    EXPECT_TRUE(form.cancelButton().userPressed());
+}
+
+TEST_F(FormTest, itsStandardButtonsAreKnownByTheirIdsAndOthersByNone) {
+    EXPECT_EQ(form.okButton().resourceId(), idOk);
+    EXPECT_EQ(form.cancelButton().resourceId(), idCancel);
+    EXPECT_EQ(form.name.resourceId(), std::nullopt);
+    form.name.setResourceId(294);
+    EXPECT_EQ(form.name.resourceId(), 294);
 }
 
 TEST_F(FormTest, escapeIsTheCancelButtonAsLongAsThatCanBePressed) {

@@ -46,8 +46,6 @@ public:
     TreeView regions{more, u"Regions"};
 
     using Form::EndDialog;
-    using Form::messageBox;
-    using Form::runModal;
     using Form::setTitle;
 
     std::function<void()> opening;

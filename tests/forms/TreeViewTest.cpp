@@ -50,5 +50,24 @@ TEST_F(TreeViewTest, clearingTakesItemsAndSelection) {
     EXPECT_FALSE(tree.selection().has_value());
 }
 
+TEST_F(TreeViewTest, itemsOfOneTextAreToldApartByTheirPaths) {
+    tree.addItem({u"North", 1, {}});
+    tree.addItem({u"South", 2, {}});
+    tree.addItem({u"Office", 3, 0U});
+    tree.addItem({u"Office", 4, 1U});
+    tree.addItem({u"First floor", 5, 3U});
+    EXPECT_EQ(tree.path(0), u"North");
+    EXPECT_EQ(tree.path(2), u"North/Office");
+    EXPECT_EQ(tree.path(3), u"South/Office");
+    EXPECT_EQ(tree.path(4), u"South/Office/First floor");
+    EXPECT_THROW(tree.path(5), std::out_of_range);
+}
+
+TEST_F(TreeViewTest, slashesAndBackslashesOfATextAreMarkedInAPath) {
+    tree.addItem({u"A/B", 1, {}});
+    tree.addItem({u"C\\D", 2, 0U});
+    EXPECT_EQ(tree.path(1), u"A\\/B/C\\\\D");
+}
+
 } // namespace
 } // namespace forms

@@ -52,6 +52,18 @@ TEST_F(AuthenticationDialog, isDrawnAsItsUsersKnowIt) {
     EXPECT_EQ(dialog_.version.text(), u"VERSION");
 }
 
+TEST_F(AuthenticationDialog, hasControlsWithTheNumbersThatTheyHaveAlwaysHad) {
+    EXPECT_EQ(dialog_.serverName.resourceId(), 294);
+    EXPECT_EQ(dialog_.port.resourceId(), 295);
+    EXPECT_EQ(dialog_.userName.resourceId(), 276);
+    EXPECT_EQ(dialog_.password.resourceId(), 260);
+    EXPECT_EQ(dialog_.domain.resourceId(), 292);
+    EXPECT_EQ(dialog_.version.resourceId(), 461);
+    EXPECT_EQ(dialog_.userAuthentication.resourceId(), 296);
+    EXPECT_EQ(dialog_.okButton().resourceId(), 1);
+    EXPECT_EQ(dialog_.cancelButton().resourceId(), 2);
+}
+
 TEST_F(AuthenticationDialog, showsTheVersionOfTheModule) {
     platform_.platform().productVersion = {1, 0, 2, 77};
 

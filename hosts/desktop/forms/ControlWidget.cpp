@@ -93,7 +93,7 @@ wire::WideString ControlWidget::spokenName() const {
 
 void ControlWidget::mirrorAll() {
     using enum forms::Aspect;
-    for (const auto aspect : {label, columns, limits, items, text, selection, enabled}) {
+    for (const auto aspect : {label, columns, limits, items, text, pages, selection, enabled}) {
         mirror(aspect);
     }
     refillNow();

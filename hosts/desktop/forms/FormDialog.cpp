@@ -94,7 +94,8 @@ void FormDialog::showEvent(QShowEvent* event) {
 void FormDialog::controlChanged(forms::Control& control, forms::Aspect aspect) {
     if (widgets_ != nullptr) {
         widgets_->controlChanged(control, aspect);
-        if (aspect == forms::Aspect::visible && isVisible() && !std::exchange(growsSoon_, true)) {
+        const bool mayGrow = aspect == forms::Aspect::visible || aspect == forms::Aspect::pages;
+        if (mayGrow && isVisible() && !std::exchange(growsSoon_, true)) {
             QMetaObject::invokeMethod(this, &FormDialog::growToFit, Qt::QueuedConnection);
         }
     }

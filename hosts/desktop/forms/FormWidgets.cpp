@@ -42,7 +42,7 @@ void FormWidgets::controlChanged(forms::Control& control, forms::Aspect aspect) 
     if (widget == nullptr) {
         return;
     }
-    if (aspect == forms::Aspect::label) {
+    if (aspect == forms::Aspect::label || aspect == forms::Aspect::pages) {
         labels_.changed(control);
         widget->showLabels(labels_);
     }

@@ -1,6 +1,7 @@
 #include "hosts/desktop/forms/TabsWidget.h"
 
 #include "forms/FormLabels.h"
+#include "forms/Page.h"
 #include "forms/Tabs.h"
 #include "hosts/desktop/forms/ShownText.h"
 
@@ -38,6 +39,10 @@ std::vector<QWidget*> TabsWidget::tabStops() const {
 void TabsWidget::update(forms::Aspect aspect) {
     if (aspect == forms::Aspect::selection) {
         pages_->setCurrentIndex(static_cast<int>(tabs_.current()));
+    } else if (aspect == forms::Aspect::pages) {
+        for (std::size_t page = 0; page < tabs_.pages().size(); ++page) {
+            pages_->setTabVisible(static_cast<int>(page), tabs_.pages()[page]->visible());
+        }
     }
 }
 

@@ -181,5 +181,38 @@ TEST_F(FormDriver, rowsThatLookAlikeAreToldApartByTheirNumbers) {
     EXPECT_THAT(refusal(Kind::select, "Drivers=Same#3"), HasSubstr("there is \"Same#1\", \"Other\", \"Same#2\""));
 }
 
+TEST_F(FormDriver, selectFindsAnItemOfATreeByItsPath) {
+    perform(form, parseStep(Kind::select, "Regions=South/Office"));
+    EXPECT_EQ(form.regions.selection(), 3U);
+
+    perform(form, parseStep(Kind::select, "Regions=north/office"));
+    EXPECT_EQ(form.regions.selection(), 2U);
+
+    perform(form, parseStep(Kind::select, "Regions=South/Office/1\\/2"));
+    EXPECT_EQ(form.regions.selection(), 4U);
+}
+
+TEST_F(FormDriver, selectFindsAnItemOfATreeByATextThatNoOtherHas) {
+    perform(form, parseStep(Kind::select, "Regions=1/2"));
+
+    EXPECT_EQ(form.regions.selection(), 4U);
+}
+
+TEST_F(FormDriver, selectWantsThePathOfAnItemWhoseTextStandsAtSeveralPlaces) {
+    EXPECT_THAT(refusal(Kind::select, "Regions=Office"), HasSubstr("more than one"));
+    EXPECT_THAT(refusal(Kind::select, "Regions=East"), HasSubstr("\"North/Office\""));
+}
+
+TEST_F(FormDriver, setFindsTheOneThatIsLeftWhenAPageIsHidden) {
+    EXPECT_THAT(refusal(Kind::set, "Place=Hall"), HasSubstr("more than one"));
+    form.first.setVisible(false);
+
+    perform(form, parseStep(Kind::set, "Place=Hall"));
+
+    EXPECT_EQ(form.secondPlace.text(), u"Hall");
+    EXPECT_THAT(refusal(Kind::set, "First: Place=Hall"), HasSubstr("can't be reached"));
+    EXPECT_THAT(refusal(Kind::set, "Nothing=Hall"), testing::Not(HasSubstr("First: Place")));
+}
+
 } // namespace
 } // namespace hosttest

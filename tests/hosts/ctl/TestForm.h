@@ -7,8 +7,11 @@
 #include "forms/Form.h"
 #include "forms/Group.h"
 #include "forms/ListView.h"
+#include "forms/Page.h"
 #include "forms/RadioButton.h"
 #include "forms/RadioGroup.h"
+#include "forms/Tabs.h"
+#include "forms/TreeView.h"
 
 namespace hosttest {
 
@@ -33,6 +36,11 @@ public:
         paper.addItem(u"A3");
         for (auto* const price : {&printPrice, &copyPrice}) {
             price->onChange = [this, price] { changed = price; };
+        }
+        for (const auto& region :
+             {forms::TreeItem{u"North", 1, {}}, forms::TreeItem{u"South", 2, {}}, forms::TreeItem{u"Office", 3, 0U},
+              forms::TreeItem{u"Office", 4, 1U}, forms::TreeItem{u"1/2", 5, 3U}}) {
+            regions.addItem(region);
         }
         ask.onPress = [this] { answer = messageBox(u"Go on?", u"Warning", style); };
     }
@@ -60,6 +68,12 @@ public:
     forms::Group copy{*this, u"Copy"};
     forms::EditBox copyPrice{copy, u"B/W"};
     const forms::EditBox* changed = nullptr;
+    forms::TreeView regions{*this, u"Regions"};
+    forms::Tabs tabs{*this};
+    forms::Page first{tabs, u"First"};
+    forms::EditBox firstPlace{first, u"Place"};
+    forms::Page second{tabs, u"Second"};
+    forms::EditBox secondPlace{second, u"Place"};
 
     wire::WideString chosen; // the row and whether its second or first entry was
     std::uint32_t style = platform::boxStyle::okCancel;

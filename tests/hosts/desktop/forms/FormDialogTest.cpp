@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -82,6 +83,37 @@ TEST_F(FormDialogs, aPageThatMayNotBeShownNowStaysBehind) {
     tabs.setCurrentIndex(1);
     EXPECT_EQ(form.tabs.current(), 0U);
     EXPECT_EQ(tabs.currentIndex(), 0);
+}
+
+TEST_F(FormDialogs, aPageIsHiddenAndRetitledByTheForm) {
+    form.general.setVisible(false);
+    show();
+    auto& tabs = widget<QTabWidget>(form.tabs);
+    EXPECT_FALSE(tabs.isTabVisible(0));
+    EXPECT_EQ(tabs.currentIndex(), 1);
+
+    form.more.setTitle(u"Schedule");
+    form.general.setVisible(true);
+    EXPECT_TRUE(tabs.isTabVisible(0));
+    EXPECT_EQ(tabs.tabText(1).remove(QLatin1Char('&')), QStringLiteral("Schedule"));
+    EXPECT_EQ(tabs.currentIndex(), 1);
+
+    form.more.setVisible(false);
+    EXPECT_EQ(tabs.currentIndex(), 0);
+    EXPECT_EQ(form.tabs.current(), 0U);
+}
+
+TEST_F(FormDialogs, aTextThatNoMessageCarriesIsRefusedAndNotCut) {
+    show();
+    form.comment.setLimit(forms::TextOptions::unlimited);
+    widget<QPlainTextEdit>(form.comment).setPlainText(QString(40000, QLatin1Char('x')));
+    EXPECT_EQ(form.comment.text().size(), 40000U);
+    platform.ui.expectBox(platform::Answer::ok, u"Comment should not be longer than 32767 characters");
+
+    QTest::mouseClick(&widget<QPushButton>(form.okButton()), Qt::LeftButton);
+
+    EXPECT_FALSE(form.ended());
+    EXPECT_EQ(form.comment.text().size(), 40000U);
 }
 
 TEST_F(FormDialogs, aButtonReachesItsHandler) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace forms {
+
+class Control;
+class Form;
+
+// Asks before something is deleted; true on OK.
+[[nodiscard]] bool confirmDelete(platform::Platform& platform, std::u16string_view question);
+[[nodiscard]] bool confirmDelete(Form& form, std::u16string_view question);
+
+// Tells that a form can't end without the field, and leads there.
+void refuseBlank(Control& field, std::u16string_view text, std::u16string_view caption = u"Required field is Empty!",
+                 std::uint32_t style = platform::boxStyle::iconWarning);
+
+} // namespace forms
