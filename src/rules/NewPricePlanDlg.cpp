@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
+#include "forms/Questions.h"
 #include "rules/PriceText.h"
 
 #include <algorithm>
@@ -81,8 +82,7 @@ void NewPricePlanDlg::showPlan() {
 
 void NewPricePlanDlg::onOk() {
     if (name.text().empty()) {
-        messageBox(u"Name field should not be blank!", u"A required field is empty!", platform::boxStyle::iconWarning);
-        name.setFocus();
+        forms::refuseBlank(name, u"Name field should not be blank!", u"A required field is empty!");
         return;
     }
     takePlan();
@@ -108,16 +108,8 @@ void NewPricePlanDlg::takePlan() {
     plan_.copyMultiplier = copyMultiplier.priceOr(plan_.copyMultiplier);
     plan_.scanMultiplier = scanMultiplier.priceOr(plan_.scanMultiplier);
     if (!vat.text().empty() && vat.text() != shownVat_) {
-        plan_.vat = vatTyped();
+        plan_.vat = static_cast<std::uint32_t>(parseHundredths(platform().locale, vat.text()));
     }
-}
-
-// Cut to whole hundredths of a percent, not rounded; this must stay.
-std::uint32_t NewPricePlanDlg::vatTyped() const {
-    constexpr double tooLarge = 9.2e18;
-    const double hundredths = parsePrice(platform().locale, vat.text()) * 100.0;
-    const bool fits = hundredths < tooLarge && hundredths > -tooLarge;
-    return fits ? static_cast<std::uint32_t>(static_cast<std::int64_t>(hundredths)) : 0;
 }
 
 // The entry is updated on the server although it may not be there yet, when the rule is a new one; this must stay.

@@ -52,7 +52,6 @@ private:
 
     void showPlan();
     void takePlan();
-    std::uint32_t vatTyped() const;
     void tellOpener();
 
     bool isNew_;

@@ -76,6 +76,7 @@ PriceEntryRecord PapersGroup::newRow(std::uint8_t kind) const {
 }
 
 void PapersGroup::rowSelected() {
+    fields.forget();
     const auto selected = prices.selection();
     if (!selected || rows()[*selected].paperName.empty()) {
         unselect();
@@ -102,6 +103,7 @@ void PapersGroup::showRow(const PriceEntryRecord& row) {
 }
 
 void PapersGroup::unselect() {
+    fields.forget();
     prices.select(std::nullopt);
     updated_.reset();
     paper.choose();
@@ -161,6 +163,7 @@ void PapersGroup::remove() {
 }
 
 void PapersGroup::finish() {
+    fields.forget();
     prices.setRows(table_.listRows(locale_));
     updated_.reset();
     follow();

@@ -6,7 +6,7 @@
 namespace rules {
 
 // A box for a price in the user's way of writing. As long as its text is left alone it means the very number that it
-// shows, whatever was rounded or grouped for showing.
+// shows, whatever was rounded or grouped for showing; until that is forgotten.
 class PriceBox {
 public:
     PriceBox(forms::Container& container, const platform::Locale& locale, std::u16string_view label);
@@ -14,6 +14,8 @@ public:
     void show(float price);
     // The same with two decimals.
     void showAmount(float amount);
+    // The text stays, and from now on means what it says.
+    void forget() { shownText_.clear(); }
     bool empty() const { return box.text().empty(); }
     float price() const;
     // The same, but that of before where the box is empty.

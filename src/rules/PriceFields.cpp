@@ -3,7 +3,6 @@
 #include "protocol/rules/PricePlan.h"
 
 #include <algorithm>
-#include <array>
 
 namespace rules {
 
@@ -85,10 +84,20 @@ void PriceFields::read(protocol::PriceEntryRecord& row) const {
     }
 }
 
+void PriceFields::forget() {
+    basePrice.forget();
+    for (PriceBox* box : absoluteBoxes()) {
+        box->forget();
+    }
+}
+
+std::array<PriceBox*, 10> PriceFields::absoluteBoxes() {
+    return {&print.bwSimplex, &print.bwDuplex,    &print.colorSimplex, &print.colorDuplex, &copy.bwSimplex,
+            &copy.bwDuplex,   &copy.colorSimplex, &copy.colorDuplex,   &scan.bw,           &scan.color};
+}
+
 PriceBox* PriceFields::firstEmptyAbsolute() {
-    const std::array boxes{&print.bwSimplex, &print.bwDuplex, &print.colorSimplex, &print.colorDuplex,
-                           &copy.bwSimplex,  &copy.bwDuplex,  &copy.colorSimplex,  &copy.colorDuplex,
-                           &scan.bw,         &scan.color};
+    const auto boxes = absoluteBoxes();
     const auto* const found = std::ranges::find_if(boxes, &PriceBox::empty);
     return found != boxes.end() ? *found : nullptr;
 }

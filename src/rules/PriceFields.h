@@ -4,6 +4,8 @@
 #include "rules/FourPrices.h"
 #include "rules/TwoPrices.h"
 
+#include <array>
+
 namespace rules {
 
 // The boxes for the prices of a paper or an area: one base price, or absolute prices for print, copy and scan.
@@ -21,6 +23,8 @@ public:
     void show(const protocol::PriceEntryRecord& row);
     // Puts the prices of the row's kind into it and nought into the others.
     void read(protocol::PriceEntryRecord& row) const;
+    // The texts stay, and from now on mean what they say: those of a row are not those of another one.
+    void forget();
     // The first of the ten boxes for absolute prices that is empty; null when all are filled.
     PriceBox* firstEmptyAbsolute();
 
@@ -28,6 +32,9 @@ public:
     FourPrices print;
     FourPrices copy;
     TwoPrices scan;
+
+private:
+    std::array<PriceBox*, 10> absoluteBoxes();
 };
 
 } // namespace rules

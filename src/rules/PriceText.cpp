@@ -76,6 +76,18 @@ double numberAtStart(std::string_view text) {
     return negative ? -value : value;
 }
 
+// A text with a point before its decimals, fit to be read as a number.
+std::string withPoint(const platform::Locale& locale, wire::WideStringView text) {
+    const auto& separator = locale.numberFormat().decimalSeparator;
+    wire::WideString number(text);
+    if (const auto place = number.find(separator); place != wire::WideString::npos) {
+        number.replace(place, separator.size(), u".");
+    }
+    std::string plain(number.size(), '?'); // which ends a number
+    std::ranges::transform(number, plain.begin(), [](char16_t unit) { return unit < 0x80 ? char(unit) : '?'; });
+    return plain;
+}
+
 } // namespace
 
 wire::WideString formatPrice(const platform::Locale& locale, double value, int digits) {
@@ -88,15 +100,22 @@ wire::WideString formatAmount(const platform::Locale& locale, double value) {
 }
 
 float parsePrice(const platform::Locale& locale, wire::WideStringView text) {
-    const auto& separator = locale.numberFormat().decimalSeparator;
-    wire::WideString number(text);
-    if (const auto place = number.find(separator); place != wire::WideString::npos) {
-        number.replace(place, separator.size(), u".");
-    }
-    std::string plain(number.size(), '?'); // which ends a number
-    std::ranges::transform(number, plain.begin(), [](char16_t unit) { return unit < 0x80 ? char(unit) : '?'; });
-    const auto price = static_cast<float>(numberAtStart(plain));
+    const auto price = static_cast<float>(numberAtStart(withPoint(locale, text)));
     return std::isfinite(price) ? price : 0.0F;
+}
+
+std::int64_t parseHundredths(const platform::Locale& locale, wire::WideStringView text) {
+    constexpr double tooLarge = 9.2e18;
+    std::string number = withPoint(locale, text);
+    const auto point = std::min(number.find('.'), number.size());
+    const auto end = std::min(number.find_first_not_of("0123456789", point + 1), number.size());
+    const bool plain = end == number.size() || std::string_view("eE").find(number[end]) == std::string_view::npos;
+    if (plain) {
+        number.resize(std::min(point + 3, end));
+    }
+    const double hundredths = numberAtStart(number) * 100.0;
+    const bool fits = hundredths < tooLarge && hundredths > -tooLarge;
+    return fits ? static_cast<std::int64_t>(plain ? std::round(hundredths) : hundredths) : 0;
 }
 
 } // namespace rules

@@ -3,6 +3,8 @@
 #include "platform/Locale.h"
 #include "wire/Text.h"
 
+#include <cstdint>
+
 namespace rules {
 
 // Prices and multipliers are shown and read with this many decimals.
@@ -18,5 +20,9 @@ constexpr int priceDigits = 4;
 // what follows the number is not looked at. A text that is no number, or none that a price can hold, reads as 0.
 // Thousands separators are not understood: "1.234,5" is 1.234 where the comma separates. That must stay.
 [[nodiscard]] float parsePrice(const platform::Locale& locale, wire::WideStringView text);
+
+// The same in whole hundredths, cut and not rounded: "19.999" is 1999, and "7.70" no less than 770, although no number
+// of the machine is as much as that. A text that is no number, or too large a one, reads as 0.
+[[nodiscard]] std::int64_t parseHundredths(const platform::Locale& locale, wire::WideStringView text);
 
 } // namespace rules

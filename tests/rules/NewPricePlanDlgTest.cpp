@@ -161,6 +161,12 @@ TEST_F(NewPricePlanDialog, aVatIsCutAndNotRounded) {
     EXPECT_EQ(vatOf(u"0,009"), 0U);
 }
 
+TEST_F(NewPricePlanDialog, aVatOfTwoDecimalsIsStoredAsItWasTyped) {
+    EXPECT_EQ(vatOf(u"7.70"), 770U);
+    EXPECT_EQ(vatOf(u"8,41"), 841U);
+    EXPECT_EQ(vatOf(u"19,99"), 1999U);
+}
+
 TEST_F(NewPricePlanDialog, anEmptyVatKeepsTheOldValue) {
     EXPECT_EQ(vatOf(u""), 2500U);
 }

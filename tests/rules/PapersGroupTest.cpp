@@ -1,6 +1,7 @@
 #include "rules/PapersGroup.h"
 
 #include "forms/Form.h"
+#include "rules/PriceText.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/TestPlatform.h"
 
@@ -446,6 +447,55 @@ TEST_F(Papers, aRowWithoutANameCannotBeUpdated) {
     papers_.prices.userSelected(0);
 
     expectAdding();
+}
+
+// A row whose exact price the boxes round when they show it.
+protocol::PriceEntryRecord exactRow(std::uint8_t kind, std::uint16_t paperCode) {
+    return {.id = "row",
+            .paperName = "A4",
+            .kind = kind,
+            .paperCode = paperCode,
+            .basePrice = 0.12345F,
+            .bwSimplex = 0.12345F,
+            .bwDuplex = 0.12345F,
+            .colorSimplex = 0.12345F,
+            .colorDuplex = 0.12345F};
+}
+
+TEST_F(Papers, thePriceOfARowThatIsUnselectedMeansNoMoreThanItsText) {
+    papers_.setRows({exactRow(0, protocol::paperSizes[0].code)});
+    papers_.prices.userSelected(0);
+    const auto shown = papers_.fields.basePrice.box.text();
+    EXPECT_EQ(papers_.fields.basePrice.price(), 0.12345F);
+
+    papers_.unselectButton.userPressed();
+
+    EXPECT_EQ(papers_.fields.basePrice.box.text(), shown);
+    papers_.paperList.userSelected(1);
+    papers_.addButton.userPressed();
+    EXPECT_EQ(papers_.rows()[1].basePrice, rules::parsePrice(support::germanLocale(), shown));
+    EXPECT_NE(papers_.rows()[1].basePrice, 0.12345F);
+}
+
+TEST_F(Papers, thePricesOfARowMeanNoMoreThanTheirTextsOnceAnotherRowIsChosen) {
+    papers_.setRows({exactRow(1, protocol::paperSizes[0].code), exactRow(0, protocol::paperSizes[1].code)});
+    papers_.prices.userSelected(0);
+    EXPECT_EQ(papers_.fields.print.bwSimplex.price(), 0.12345F);
+
+    papers_.prices.userSelected(1);
+
+    EXPECT_NE(papers_.fields.print.bwSimplex.price(), 0.12345F);
+    EXPECT_EQ(papers_.fields.basePrice.price(), 0.12345F);
+}
+
+TEST_F(Papers, thePriceOfAnUpdatedRowMeansNoMoreThanItsTextAfterThat) {
+    papers_.setRows({exactRow(0, protocol::paperSizes[0].code)});
+    papers_.prices.userSelected(0);
+
+    papers_.addButton.userPressed();
+
+    EXPECT_EQ(papers_.rows()[0].basePrice, 0.12345F);
+    EXPECT_NE(papers_.fields.basePrice.price(), 0.12345F);
 }
 
 } // namespace

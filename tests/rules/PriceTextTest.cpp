@@ -10,11 +10,13 @@
 #include <clocale>
 #include <cstdint>
 #include <limits>
+#include <string>
 
 namespace {
 
 using rules::formatAmount;
 using rules::formatPrice;
+using rules::parseHundredths;
 using rules::parsePrice;
 using support::englishLocale;
 using support::FixedLocale;
@@ -157,6 +159,40 @@ TEST(PriceText, followsTheEnvironmentAndNotTheLocaleOfTheProcess) {
     EXPECT_EQ(parsePrice(inGerman, u"0.2000"), 0.2F);
 
     std::setlocale(LC_ALL, "C");
+}
+
+TEST(PriceText, hundredthsAreCutOnTheirDigits) {
+    const auto& german = support::germanLocale();
+
+    EXPECT_EQ(parseHundredths(german, u"7,70"), 770);
+    EXPECT_EQ(parseHundredths(german, u"7.7"), 770);
+    EXPECT_EQ(parseHundredths(german, u"19,999"), 1999);
+    EXPECT_EQ(parseHundredths(german, u"0,29 per page"), 29);
+    EXPECT_EQ(parseHundredths(german, u"7,6999999999999999999999"), 769);
+    EXPECT_EQ(parseHundredths(german, u"-1,999"), -199);
+    EXPECT_EQ(parseHundredths(german, u"25"), 2500);
+    EXPECT_EQ(parseHundredths(german, u"25,"), 2500);
+    EXPECT_EQ(parseHundredths(german, u",5"), 50);
+}
+
+TEST(PriceText, everyNumberOfTwoDecimalsIsItsHundredths) {
+    for (int hundredths = 0; hundredths < 20000; ++hundredths) {
+        const auto text = std::to_string(hundredths / 100) + "," + std::to_string(hundredths / 10 % 10) +
+                          std::to_string(hundredths % 10);
+        ASSERT_EQ(parseHundredths(support::germanLocale(), wire::toWide(text)), hundredths) << text;
+    }
+}
+
+TEST(PriceText, hundredthsAreReadAsFreelyAsPrices) {
+    const auto& german = support::germanLocale();
+
+    EXPECT_EQ(parseHundredths(german, u"1.234,5"), 123);
+    EXPECT_EQ(parseHundredths(german, u"1,5e1"), 1500);
+    EXPECT_EQ(parseHundredths(german, u"0x10"), 1600);
+    EXPECT_EQ(parseHundredths(german, u""), 0);
+    EXPECT_EQ(parseHundredths(german, u"many"), 0);
+    EXPECT_EQ(parseHundredths(german, u"1e38"), 0);
+    EXPECT_EQ(parseHundredths(german, u"1e999"), 0);
 }
 
 } // namespace
