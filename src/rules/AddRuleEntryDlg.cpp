@@ -21,7 +21,7 @@ AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEn
 AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
                                  RuleEntryRecord entry)
     : Form(platform, u"Add Rule"),
-      fields(*this, platform, std::move(entry),
+      fields(*this, std::move(entry),
              mode == Mode::group ? RuleEntryFields::Types::withinGroup : RuleEntryFields::Types::all),
       mode_(mode),
       place_(std::move(place)),

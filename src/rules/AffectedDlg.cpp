@@ -4,7 +4,6 @@
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace rules {
@@ -57,12 +56,7 @@ void AffectedDlg::onOk() {
 void AffectedDlg::tellOpener() {
     client::CQVXAdminClass client;
     client.listAffected(opener_.list);
-    opener_.saved.name = affected_.name;
-    opener_.saved.index.reset();
-    const auto place = std::ranges::find(opener_.list, affected_.id, &AffectedRecord::id);
-    if (place != opener_.list.end()) {
-        opener_.saved.index = static_cast<std::size_t>(place - opener_.list.begin());
-    }
+    opener_.saved.become(affected_.name, opener_.list, affected_.id, &AffectedRecord::id);
 }
 
 } // namespace rules

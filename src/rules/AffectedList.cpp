@@ -1,73 +1,46 @@
 #include "rules/AffectedList.h"
 
 #include "client/CQVXAdminClass.h"
-#include "forms/Questions.h"
 #include "rules/AffectedDlg.h"
-#include "rules/NewItem.h"
-
-#include <algorithm>
 
 namespace rules {
 
 using protocol::AffectedRecord;
 
-AffectedList::AffectedList(forms::Container& container, platform::Platform& platform, EmptyRow emptyRow)
-    : list(container, u"Affected"),
-      editButton(container, u"Edit..."),
-      deleteButton(container, u"Delete"),
-      platform_(platform),
-      emptyRow_(emptyRow) {
-    editButton.setBeside(list);
-    deleteButton.setBeside(list);
-    list.onSelect = [this] { rowSelected(); };
-    editButton.onPress = [this] { edit(); };
-    deleteButton.onPress = [this] { remove(); };
+AffectedList::AffectedList(forms::Container& container, EmptyRow emptyRow)
+    : EditableList(container, u"Affected", u"Edit...") {
+    setOtherRows(emptyRow == EmptyRow::first, {wire::WideString(newItem)});
 }
 
 void AffectedList::fill() {
-    list.clear();
-    records_.clear();
-    client::CQVXAdminClass client;
-    client.listAffected(records_);
-    if (emptyRow_ == EmptyRow::first) {
-        list.addItem({});
-    }
-    for (const auto& record : records_) {
-        list.addItem(record.name);
-    }
-    list.addItem(wire::WideString(newItem));
-    const auto record = savedRecord();
-    list.select(record ? *record + rowsAbove() : 0);
+    refill();
     enableButtons(true);
 }
 
-std::optional<std::size_t> AffectedList::savedRecord() const {
+bool AffectedList::read() {
+    records_.clear();
+    return client::CQVXAdminClass().listAffected(records_);
+}
+
+std::optional<std::size_t> AffectedList::rowToGoBackTo() const {
     if (saved_.index && *saved_.index < records_.size()) {
-        return saved_.index;
+        return rowOf(*saved_.index);
     }
     const auto match = std::ranges::find(records_, saved_.name, &AffectedRecord::name);
-    return saved_.name.empty() || match == records_.end()
-               ? std::nullopt
-               : std::optional(static_cast<std::size_t>(match - records_.begin()));
+    const bool found = !saved_.name.empty() && match != records_.end();
+    return found ? rowOf(static_cast<std::size_t>(match - records_.begin())) : 0;
 }
 
 void AffectedList::select(std::string_view id) {
     const auto match = std::ranges::find(records_, id, &AffectedRecord::id);
     if (match != records_.end()) {
-        list.select(static_cast<std::size_t>(match - records_.begin()) + rowsAbove());
+        list.select(rowOf(static_cast<std::size_t>(match - records_.begin())));
     }
 }
 
 const AffectedRecord* AffectedList::selected() const {
-    const auto row = list.selection();
-    const bool isRecord =
-        row && *row >= rowsAbove() && *row - rowsAbove() < records_.size() && list.selectedText() != newItem;
-    return isRecord ? &records_[*row - rowsAbove()] : nullptr;
-}
-
-const AffectedRecord* AffectedList::named() const {
-    const auto* const record = selected();
-    return record != nullptr && !record->name.empty() ? record : nullptr;
+    const auto record = selectedRecord();
+    return record ? &records_[*record] : nullptr;
 }
 
 void AffectedList::take(protocol::RuleEntryRecord& entry) const {
@@ -76,52 +49,27 @@ void AffectedList::take(protocol::RuleEntryRecord& entry) const {
     entry.affectedName = record != nullptr ? record->name : wire::WideString();
 }
 
-void AffectedList::setVisible(bool visible) {
-    list.setVisible(visible);
-    editButton.setVisible(visible);
-    deleteButton.setVisible(visible);
-}
-
-void AffectedList::rowSelected() {
-    if (list.selectedText() == newItem) {
-        make();
-    } else {
-        enableButtons(!list.selectedText().empty());
-    }
+std::u16string_view AffectedList::deleteQuestion() const {
+    return u"Are you sure you want to delete this Affected group?";
 }
 
 void AffectedList::make() {
-    AffectedDlg dialog(platform_, {.list = records_, .saved = saved_});
-    platform_.ui.runModal(dialog, platform_.ui.activeWindow());
+    AffectedDlg dialog(list.form().platform(), {.list = records_, .saved = saved_});
+    list.form().runModal(dialog);
     fill();
 }
 
-void AffectedList::edit() {
-    const auto* const record = named();
-    if (record == nullptr) {
-        return;
-    }
-    saved_ = {.index = static_cast<std::size_t>(record - records_.data()), .name = record->name};
-    AffectedDlg dialog(platform_, {.list = records_, .saved = saved_}, *record);
-    platform_.ui.runModal(dialog, platform_.ui.activeWindow());
+void AffectedList::edit(std::size_t record) {
+    saved_ = {.index = record, .name = records_[record].name};
+    AffectedDlg dialog(list.form().platform(), {.list = records_, .saved = saved_}, records_[record]);
+    list.form().runModal(dialog);
     fill();
 }
 
-void AffectedList::remove() {
-    const auto* const record = named();
-    if (record == nullptr ||
-        !forms::confirmDelete(list.form(), u"Are you sure you want to delete this Affected group?")) {
-        return;
-    }
-    client::CQVXAdminClass client;
-    client.deleteAffected(record->id);
+void AffectedList::remove(std::size_t record) {
+    client::CQVXAdminClass().deleteAffected(records_[record].id);
     saved_ = {};
     fill();
-}
-
-void AffectedList::enableButtons(bool enabled) {
-    editButton.setEnabled(enabled);
-    deleteButton.setEnabled(enabled);
 }
 
 } // namespace rules

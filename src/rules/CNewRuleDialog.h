@@ -16,7 +16,7 @@ public:
     forms::DropList type{*this, u"Type"};
     forms::EditBox name{*this, u"Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Comment", {.limit = 255}};
-    AffectedList affected{*this, platform(), AffectedList::EmptyRow::none};
+    AffectedList affected{*this, AffectedList::EmptyRow::none};
 
 protected:
     void onInitDialog() override;

@@ -4,44 +4,34 @@
 #include "rules/NewMessageDlg.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace rules {
 
-MessageControl::MessageControl(forms::Container& container, platform::Platform& platform,
-                               std::vector<wire::WideString> extraItems)
-    : list(container, u"Message"),
-      editButton(container, u"Edit"),
-      deleteButton(container, u"Delete"),
-      platform_(platform),
-      extraItems_(std::move(extraItems)) {
-    editButton.setBeside(list);
-    deleteButton.setBeside(list);
-    list.onSelect = [this] { selected(); };
-    editButton.onPress = [this] { editMessage(); };
-    deleteButton.onPress = [this] { deleteMessage(); };
+MessageControl::MessageControl(forms::Container& container, std::vector<wire::WideString> extraItems)
+    : EditableList(container, u"Message", u"Edit"), extraItems_(extraItems.size()) {
+    setOtherRows(false, {extraItems.rbegin(), extraItems.rend()});
 }
 
 void MessageControl::fill(const std::optional<wire::Uuid>& currentId) {
+    current_ = currentId;
+    refill();
+}
+
+bool MessageControl::read() {
     messages_.clear();
-    list.clear();
-    client::CQVXAdminClass client;
-    client.listUserMessages(messages_);
-    for (const auto& message : messages_) {
-        list.addItem(message.name);
-    }
-    std::for_each(extraItems_.rbegin(), extraItems_.rend(), [this](const auto& item) { list.addItem(item); });
+    return client::CQVXAdminClass().listUserMessages(messages_);
+}
+
+std::optional<std::size_t> MessageControl::rowToGoBackTo() const {
     if (messages_.empty()) {
-        return;
+        return std::nullopt;
     }
-    const auto match = std::ranges::find_if(messages_, [&](const auto& message) { return message.id == currentId; });
-    const auto row = match != messages_.end() ? match - messages_.begin() : std::ssize(messages_) - 1;
-    list.select(static_cast<std::size_t>(row));
-    updateButtons(list.selection());
+    const auto match = std::ranges::find_if(messages_, [&](const auto& message) { return message.id == current_; });
+    return match != messages_.end() ? static_cast<std::size_t>(match - messages_.begin()) : messages_.size() - 1;
 }
 
 void MessageControl::updateButtons(std::optional<std::size_t> row) {
-    if (messages_.empty() || !row || *row >= messages_.size() + extraItems_.size()) {
+    if (messages_.empty() || !row || *row >= messages_.size() + extraItems_) {
         return;
     }
     const bool isMessage = *row < messages_.size();
@@ -50,55 +40,34 @@ void MessageControl::updateButtons(std::optional<std::size_t> row) {
 }
 
 std::optional<wire::Uuid> MessageControl::selectedId() const {
-    const auto* const message = selectedMessage();
-    return message != nullptr ? std::optional(message->id) : std::nullopt;
+    const auto record = namedRecord();
+    return record ? std::optional(messages_[*record].id) : std::nullopt;
 }
 
-// A message whose name is empty, or that of an extra item, can't be told from what is none; this must stay.
-const protocol::UserMessageRecord* MessageControl::selectedMessage() const {
-    const auto row = list.selection();
-    const auto text = list.selectedText();
-    const bool isNone = text.empty() || std::ranges::find(extraItems_, text) != extraItems_.end();
-    return !isNone && *row < messages_.size() ? &messages_[*row] : nullptr;
-}
-
-void MessageControl::selected() {
-    updateButtons(list.selection());
-    if (list.selectedText() == newItem) {
-        makeMessage();
-    }
-    if (onSelect) {
-        onSelect();
-    }
-}
-
-void MessageControl::makeMessage() {
-    NewMessageDlg dialog(platform_);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk) {
+void MessageControl::make() {
+    NewMessageDlg dialog(list.form().platform());
+    if (list.form().runModal(dialog) == forms::idOk) {
         fill(dialog.message().id);
     }
 }
 
-void MessageControl::editMessage() {
-    const auto* const message = selectedMessage();
-    if (message == nullptr) {
-        return;
-    }
-    NewMessageDlg dialog(platform_, *message);
-    if (platform_.ui.runModal(dialog, platform_.ui.activeWindow()) == forms::idOk) {
+void MessageControl::edit(std::size_t record) {
+    NewMessageDlg dialog(list.form().platform(), messages_[record]);
+    if (list.form().runModal(dialog) == forms::idOk) {
         fill(dialog.message().id);
     }
 }
 
 // At once and without a question, unlike every other delete of the rules; this must stay.
-void MessageControl::deleteMessage() {
-    const auto* const message = selectedMessage();
-    if (message == nullptr) {
-        return;
-    }
-    client::CQVXAdminClass client;
-    client.deleteUserMessage(message->id);
+void MessageControl::remove(std::size_t record) {
+    client::CQVXAdminClass().deleteUserMessage(messages_[record].id);
     fill(std::nullopt);
+}
+
+void MessageControl::afterSelection() {
+    if (onSelect) {
+        onSelect();
+    }
 }
 
 } // namespace rules

@@ -1,24 +1,17 @@
 #pragma once
 
-#include "forms/Button.h"
-#include "forms/DropList.h"
-#include "platform/Platform.h"
+#include "forms/EditableList.h"
 #include "protocol/rules/UserMessage.h"
-
-#include <functional>
-#include <optional>
-#include <vector>
 
 namespace rules {
 
-// The list of the user messages in a dialog, and the buttons that edit and delete them. "<New>" in the list makes one.
-class MessageControl {
+// The list of the user messages in a dialog.
+class MessageControl final : public forms::EditableList {
 public:
-    static constexpr std::u16string_view newItem = u"<New>";
     static constexpr std::u16string_view defaultItem = u"<Default>";
 
     // The extra items stand below the messages, the last of them first, and offer nothing to edit or delete.
-    MessageControl(forms::Container& container, platform::Platform& platform, std::vector<wire::WideString> extraItems);
+    MessageControl(forms::Container& container, std::vector<wire::WideString> extraItems);
 
     // Reads the messages anew and selects the one with the id, else the last. Without any message nothing is selected,
     // and the buttons stay as they are.
@@ -27,26 +20,26 @@ public:
     void updateButtons(std::optional<std::size_t> row);
 
     const std::vector<protocol::UserMessageRecord>& messages() const { return messages_; }
-    // That of the selected message; none for an extra item, for a message without a name and without a selection.
+    // That of the selected message; none for an extra item, for a message without a name and without a selection. A
+    // message that is called like an extra item can't be told from it; this must stay.
     std::optional<wire::Uuid> selectedId() const;
 
     // The person has selected something, and a new message, if that was asked for, stands in the list.
     std::function<void()> onSelect;
 
-    forms::DropList list;
-    forms::Button editButton;
-    forms::Button deleteButton;
-
 private:
-    // Null where there is nothing to edit or delete.
-    const protocol::UserMessageRecord* selectedMessage() const;
-    void selected();
-    void makeMessage();
-    void editMessage();
-    void deleteMessage();
+    bool read() override;
+    std::size_t size() const override { return messages_.size(); }
+    const wire::WideString& name(std::size_t record) const override { return messages_[record].name; }
+    std::optional<std::size_t> rowToGoBackTo() const override;
+    void followSelection() override { updateButtons(list.selection()); }
+    void make() override;
+    void edit(std::size_t record) override;
+    void remove(std::size_t record) override;
+    void afterSelection() override;
 
-    platform::Platform& platform_;
-    std::vector<wire::WideString> extraItems_;
+    std::size_t extraItems_;
+    std::optional<wire::Uuid> current_; // the one to select
     std::vector<protocol::UserMessageRecord> messages_;
 };
 

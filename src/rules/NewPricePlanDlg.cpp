@@ -118,12 +118,7 @@ void NewPricePlanDlg::tellOpener() {
     client::CQVXAdminClass client;
     client.updateRuleEntry(opener_->entry);
     client.listPricePlans(opener_->plans);
-    opener_->saved.name = plan_.name;
-    const auto place = std::ranges::find(opener_->plans, plan_.id, &PricePlanRecord::id);
-    opener_->saved.index.reset();
-    if (place != opener_->plans.end()) {
-        opener_->saved.index = static_cast<std::size_t>(place - opener_->plans.begin());
-    }
+    opener_->saved.become(plan_.name, opener_->plans, plan_.id, &PricePlanRecord::id);
 }
 
 } // namespace rules

@@ -89,9 +89,14 @@ PageLimitDlg::PageLimitDlg(platform::Platform& platform, Opener opener, PageLimi
 
 PageLimitDlg::PageLimitDlg(platform::Platform& platform, bool isNew, PageLimitRecord limit,
                            std::optional<Opener> opener)
-    : Form(platform, u"New Page Limit Rule"), isNew_(isNew), limit_(std::move(limit)), opener_(std::move(opener)) {
+    : Form(platform, u"New Page Limit Rule"),
+      isNew_(isNew),
+      limit_(std::move(limit)),
+      opener_(std::move(opener)),
+      knowsDestination_(limit_.destinationId.empty()) {
     maximum.setBeside(jobs);
     searchButton.setBeside(destination);
+    message.onKnown = [this] { allowOk(); };
     action.onSelect = [this] { actionSelected(); };
     searchButton.onPress = [this] { searchDestination(); };
 }
@@ -105,9 +110,13 @@ void PageLimitDlg::onInitDialog() {
     }
     setTitle(u"Edit Page Limit Rule");
     showLimit();
-    okButton().setEnabled(false); // a limit whose message or queue can't be shown would lose it
     showMessage();
-    okButton().setEnabled(showDestination());
+    showDestination();
+}
+
+// A limit whose message or queue can't be shown would lose it.
+void PageLimitDlg::allowOk() {
+    okButton().setEnabled(message.known() && knowsDestination_);
 }
 
 void PageLimitDlg::fillLists() {
@@ -154,13 +163,10 @@ void PageLimitDlg::showMessage() {
     }
 }
 
-bool PageLimitDlg::showDestination() {
-    if (limit_.destinationId.empty()) {
-        return true;
-    }
+void PageLimitDlg::showDestination() {
     client::CQVXAdminClass client;
-    if (!client.searchQueues({})) {
-        return false;
+    if (knowsDestination_ || !client.searchQueues({})) {
+        return;
     }
     const auto& queues = client.foundQueues();
     const auto found = std::ranges::find(queues, limit_.destinationId, &protocol::FoundQueueRecord::queueId);
@@ -169,7 +175,8 @@ bool PageLimitDlg::showDestination() {
         pickedName_ = found->queueName;
         destination.setText(pickedName_);
     }
-    return true;
+    knowsDestination_ = true;
+    allowOk();
 }
 
 void PageLimitDlg::actionSelected() {
@@ -254,12 +261,7 @@ bool PageLimitDlg::takePriority() {
 void PageLimitDlg::tellOpener() {
     client::CQVXAdminClass client;
     client.listPageLimits(opener_->ids, opener_->names);
-    opener_->saved.name = limit_.name;
-    const auto place = std::ranges::find(opener_->ids, limit_.id);
-    opener_->saved.index.reset();
-    if (place != opener_->ids.end()) {
-        opener_->saved.index = static_cast<std::size_t>(place - opener_->ids.begin());
-    }
+    opener_->saved.become(limit_.name, opener_->ids, limit_.id);
 }
 
 } // namespace rules

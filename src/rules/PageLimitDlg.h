@@ -53,7 +53,7 @@ public:
     forms::DropList action{beyond, u"Action"};
     forms::EditBox destination{beyond, u"Destination", {.readOnly = true}};
     forms::Button searchButton{beyond, u"..."};
-    MessageControl message{beyond, platform(), {wire::WideString(MessageControl::newItem)}};
+    MessageControl message{beyond, {wire::WideString(MessageControl::newItem)}};
 
 protected:
     void onInitDialog() override;
@@ -66,8 +66,8 @@ private:
     void fillLists();
     void showLimit();
     void showMessage();
-    // False when the queues could not be read.
-    bool showDestination();
+    void showDestination();
+    void allowOk();
     void actionSelected();
     void searchDestination();
     void takeJobs();
@@ -80,7 +80,8 @@ private:
     bool isNew_;
     protocol::PageLimitRecord limit_;
     std::optional<Opener> opener_;
-    std::string pickedId_; // of the queue that was found
+    bool knowsDestination_; // the name of the queue that the limit has
+    std::string pickedId_;  // of the queue that was found
     wire::WideString pickedName_;
 };
 

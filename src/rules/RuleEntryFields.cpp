@@ -1,5 +1,6 @@
 #include "rules/RuleEntryFields.h"
 
+#include "forms/Form.h"
 #include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
 
@@ -13,17 +14,16 @@ namespace ruleEntryType = protocol::ruleEntryType;
 
 } // namespace
 
-RuleEntryFields::RuleEntryFields(forms::Container& container, platform::Platform& platform,
-                                 protocol::RuleEntryRecord entryToShow, Types types)
+RuleEntryFields::RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord entryToShow, Types types)
     : entry(std::move(entryToShow)),
       type(container, u"Type"),
       name(container, u"Name", {.limit = 64}),
       comment(container, u"Comment", {.limit = 255}),
-      affected(container, platform, AffectedList::EmptyRow::first),
-      object(container, platform, entry),
-      platform_(platform),
+      affected(container, AffectedList::EmptyRow::first),
+      object(container, entry),
       types_(types) {
     type.onSelect = [this] { typeChanged(); };
+    affected.onKnown = [this] { allowOk(); };
 }
 
 void RuleEntryFields::open() {
@@ -55,7 +55,13 @@ std::uint8_t RuleEntryFields::chosenType() const {
 
 void RuleEntryFields::typeChanged() {
     affected.setVisible(chosenType() != ruleEntryType::ruleGroup);
+    allowOk();
     object.showType(chosenType());
+}
+
+// Without the list of those affected, the entry would lose the one that it has.
+void RuleEntryFields::allowOk() {
+    type.form().okButton().setEnabled(affected.known() || chosenType() == ruleEntryType::ruleGroup);
 }
 
 bool RuleEntryFields::take(std::u16string_view blankNameText) {

@@ -16,8 +16,7 @@ public:
     // Where an entry is placed: groups do not nest, so within one there is no type "Rule group".
     enum class Types : std::uint8_t { all, withinGroup };
 
-    RuleEntryFields(forms::Container& container, platform::Platform& platform, protocol::RuleEntryRecord entryToShow,
-                    Types types);
+    RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord entryToShow, Types types);
 
     // Fills the lists and shows the entry; one without a type gets the first.
     void open();
@@ -35,8 +34,8 @@ public:
 private:
     std::uint8_t chosenType() const;
     void typeChanged();
+    void allowOk();
 
-    platform::Platform& platform_;
     Types types_;
 };
 

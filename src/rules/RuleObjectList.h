@@ -1,25 +1,17 @@
 #pragma once
 
-#include "forms/Button.h"
-#include "forms/DropList.h"
-#include "platform/Platform.h"
-#include "rules/PageLimitObjects.h"
-#include "rules/PricePlanObjects.h"
-#include "rules/RuleGroupObjects.h"
-#include "rules/ShortIdObjects.h"
+#include "forms/EditableList.h"
+#include "rules/RuleObjects.h"
 
-#include <array>
-#include <cstdint>
-#include <optional>
+#include <map>
 
 namespace rules {
 
-// The list of what a rule entry points at, by its type, and the buttons that edit and delete that. "<New>" in the list
-// makes one.
-class RuleObjectList {
+// The list of what a rule entry points at, by its type.
+class RuleObjectList final : public forms::EditableList {
 public:
     // The entry is the one that the dialog is about; it outlives the list.
-    RuleObjectList(forms::Container& container, platform::Platform& platform, const protocol::RuleEntryRecord& entry);
+    RuleObjectList(forms::Container& container, const protocol::RuleEntryRecord& entry);
 
     // Lists what entries of the type point at, as the server has it now, or hides all for a type that points at
     // nothing.
@@ -32,29 +24,19 @@ public:
     // What a later filling goes back to where no row is saved.
     void saveName(const wire::WideString& name);
 
-    forms::DropList list;
-    forms::Button editButton;
-    forms::Button deleteButton;
-
 private:
-    RuleObjects* objectsOf(std::uint8_t type);
-    void fill();
-    std::optional<std::size_t> rowToGoBackTo() const;
-    // None for "<New>"; an object of that name can't be told from it.
-    std::optional<std::size_t> selectedObject() const;
-    // Null where there is nothing to edit or delete: an object without a name counts as none too.
-    EditableRuleObjects* editableSelection();
-    void rowSelected();
-    void edit();
-    void remove();
-    void enableButtons();
+    bool read() override { return objects_->read(); }
+    std::size_t size() const override { return objects_ != nullptr ? objects_->size() : 0; }
+    const wire::WideString& name(std::size_t record) const override { return objects_->name(record); }
+    std::optional<std::size_t> rowToGoBackTo() const override;
+    void followSelection() override;
+    std::u16string_view deleteQuestion() const override { return objects_->texts.deleteQuestion; }
+    void make() override;
+    void edit(std::size_t record) override;
+    void remove(std::size_t record) override;
 
-    platform::Platform& platform_;
     const protocol::RuleEntryRecord& entry_;
-    RuleGroupObjects groups_;
-    PageLimitObjects limits_;
-    PricePlanObjects plans_;
-    ShortIdObjects shortIds_;
+    std::map<std::uint8_t, std::unique_ptr<RuleObjects>> byType_;
     RuleObjects* objects_ = nullptr; // those that are listed; null for a type that points at nothing
 };
 

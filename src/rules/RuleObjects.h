@@ -2,49 +2,54 @@
 
 #include "protocol/rules/RuleEntry.h"
 #include "rules/SavedChoice.h"
-#include "wire/Text.h"
 
-#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
+namespace forms {
+class Form;
+} // namespace forms
+
 namespace rules {
 
-class EditableRuleObjects;
-
-// The objects of one kind that a rule entry can point at, as the server has them.
+// The objects of one kind that a rule entry can point at, as the server has them, and the dialogs that make and edit
+// them. The form is the one that they are chosen in, the entry the one that it is about.
 class RuleObjects {
 public:
-    RuleObjects() = default;
+    struct Texts {
+        std::u16string_view label;          // of a list of them
+        std::u16string_view blank;          // what a person is told who has chosen none
+        std::u16string_view deleteQuestion; // empty where they can only be chosen
+    };
+
     RuleObjects(const RuleObjects&) = delete;
     RuleObjects& operator=(const RuleObjects&) = delete;
     virtual ~RuleObjects() = default;
 
-    virtual std::u16string_view label() const = 0;     // of a list of them
-    virtual std::u16string_view blankText() const = 0; // what a person is told who has chosen none
-    // Null when a dialog of a rule can only choose among them.
-    virtual EditableRuleObjects* editable() { return nullptr; }
+    // Those of a type of rule entry; null for a type that points at nothing.
+    static std::unique_ptr<RuleObjects> ofType(std::uint8_t type);
 
-    // Reads them anew.
-    virtual void read() = 0;
+    bool editable() const { return !texts.deleteQuestion.empty(); }
+
+    // Reads them anew; false when there is no connection.
+    virtual bool read() = 0;
     virtual std::size_t size() const = 0;
     virtual const wire::WideString& name(std::size_t row) const = 0;
     virtual std::string id(std::size_t row) const = 0;
 
+    // False when the person has cancelled.
+    virtual bool make(forms::Form& /*form*/, const protocol::RuleEntryRecord& /*entry*/) { return false; }
+    virtual void edit(forms::Form& /*form*/, std::size_t /*row*/, const protocol::RuleEntryRecord& /*entry*/) {}
+    virtual void remove(std::size_t /*row*/) {}
+
+    const Texts texts;
     // What a list of them goes back to when it is filled.
     SavedChoice saved;
-};
 
-// The same where a dialog of a rule also makes, edits and deletes them. The entry is the one that the dialog is about.
-class EditableRuleObjects : public RuleObjects {
-public:
-    virtual std::u16string_view deleteQuestion() const = 0;
-    EditableRuleObjects* editable() final { return this; }
-
-    // False when the person has cancelled.
-    virtual bool make(const protocol::RuleEntryRecord& entry) = 0;
-    virtual void edit(std::size_t row, const protocol::RuleEntryRecord& entry) = 0;
-    virtual void remove(std::size_t row) = 0;
+protected:
+    explicit RuleObjects(Texts itsTexts) : texts(itsTexts) {}
 };
 
 } // namespace rules

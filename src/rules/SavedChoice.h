@@ -2,8 +2,11 @@
 
 #include "wire/Text.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace rules {
 
@@ -11,6 +14,14 @@ namespace rules {
 struct SavedChoice {
     std::optional<std::size_t> index;
     wire::WideString name;
+
+    // Becomes the record with the id, wherever the list has it now.
+    template <class Element, class Id, class IdOf = std::identity>
+    void become(const wire::WideString& newName, const std::vector<Element>& list, const Id& id, IdOf idOf = {}) {
+        const auto place = std::ranges::find(list, id, idOf);
+        index = place != list.end() ? std::optional(static_cast<std::size_t>(place - list.begin())) : std::nullopt;
+        name = newName;
+    }
 };
 
 } // namespace rules

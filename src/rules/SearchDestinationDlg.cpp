@@ -1,6 +1,7 @@
 #include "rules/SearchDestinationDlg.h"
 
 #include "client/CQVXAdminClass.h"
+#include "forms/SendableText.h"
 
 #include <utility>
 
@@ -15,11 +16,15 @@ SearchDestinationDlg::SearchDestinationDlg(platform::Platform& platform, std::st
 
 // What the server found last stands first; this must stay.
 void SearchDestinationDlg::search() {
+    if (!forms::canSend(searchTerms, searchTerms.text())) {
+        return;
+    }
     ids_.clear();
     names_.clear();
     queue.clear();
+    okButton().setEnabled(false); // where the search fails, nothing takes the place of the destination
     client::CQVXAdminClass client;
-    client.searchQueues(searchTerms.text());
+    const bool searched = client.searchQueues(searchTerms.text());
     protocol::FoundQueueRecord found;
     while (client.nextFoundQueue(found)) {
         queue.addItem(found.queueName);
@@ -27,6 +32,7 @@ void SearchDestinationDlg::search() {
         names_.push_back(std::move(found.queueName));
     }
     queue.select(0);
+    okButton().setEnabled(searched);
 }
 
 // Without a queue there is no destination any more; this must stay.

@@ -22,6 +22,7 @@ ShortIdDlg::ShortIdDlg(platform::Platform& platform, bool editing, protocol::Sho
 void ShortIdDlg::onInitDialog() {
     validFor.onChange = reservedFor.onChoose = reservedUntil.onChoose = [this] { timesClicked(); };
     message.onSelect = [this] { enableTimes(); };
+    message.onKnown = [this] { okButton().setEnabled(message.known()); }; // else the rule would lose its message
     validTime.open();
     reservedTime.open();
     showTimes();

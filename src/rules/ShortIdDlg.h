@@ -25,8 +25,8 @@ public:
 
     forms::EditBox name{*this, u"Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Comment", {.limit = 255}};
-    MessageControl message{
-        *this, platform(), {wire::WideString(MessageControl::newItem), wire::WideString(MessageControl::defaultItem)}};
+    MessageControl message{*this,
+                           {wire::WideString(MessageControl::newItem), wire::WideString(MessageControl::defaultItem)}};
     forms::CheckBox validFor{*this, u"Valid for"};
     MinutesField validTime{*this, validFor, u"from last print"};
     forms::RadioGroup reserved;

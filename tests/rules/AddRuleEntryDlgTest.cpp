@@ -293,4 +293,26 @@ TEST_F(AddRuleDialog, sendsNothingOnCancel) {
     EXPECT_EQ(estate_.changes(0), Strings{});
 }
 
+TEST_F(AddRuleDialog, doesNotLoseWhomARuleAffectsWhenThatCouldNotBeRead) {
+    estate_.goOffline();
+    AddRuleEntryDlg dialog(platform_, AddRuleEntryDlg::Mode::group, place(), samples::entry("e1", 4, u"At the desk"));
+
+    dialog.open();
+
+    EXPECT_EQ(dialog.fields.name.text(), u"At the desk");
+    EXPECT_FALSE(dialog.okButton().enabled());
+    samples::choose(dialog.fields.type, u"Client billing");
+    EXPECT_FALSE(dialog.okButton().enabled());
+    dialog.okButton().userPressed();
+    EXPECT_FALSE(dialog.ended());
+    EXPECT_EQ(dialog.fields.entry.affectedId, "a2");
+}
+
+TEST_F(AddRuleDialog, canBeConfirmedOnceThoseAffectedAreRead) {
+    const auto dialog = inGroup();
+
+    EXPECT_TRUE(dialog->fields.affected.known());
+    EXPECT_TRUE(dialog->okButton().enabled());
+}
+
 } // namespace

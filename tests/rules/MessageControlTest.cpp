@@ -29,7 +29,7 @@ protocol::UserMessageRecord message(const wire::Uuid& id, wire::WideString name,
 class Owner final : public forms::Form {
 public:
     Owner(platform::Platform& platform, Names extraItems)
-        : Form(platform, u"Owner"), control(*this, platform, std::move(extraItems)) {}
+        : Form(platform, u"Owner"), control(*this, std::move(extraItems)) {}
 
     MessageControl control;
 };
@@ -212,14 +212,17 @@ TEST_F(Messages, oneWithoutANameIsNeitherEditedNorDeletedNorChosen) {
     EXPECT_EQ(control_.selectedId(), std::nullopt);
 }
 
-TEST_F(Messages, areNoneWithoutAConnection) {
+TEST_F(Messages, areNoneAndNotKnownWithoutAConnection) {
+    EXPECT_FALSE(control_.known());
     control_.fill(quotaId);
+    EXPECT_TRUE(control_.known());
     estate_.goOffline();
 
     control_.fill(quotaId);
 
     EXPECT_EQ(rows(), (Names{u"<Default>", u"<New>"}));
     EXPECT_TRUE(control_.messages().empty());
+    EXPECT_FALSE(control_.known());
 }
 
 } // namespace

@@ -338,4 +338,30 @@ TEST_F(PageLimitDialog, tellsNobodyWhenItIsCancelled) {
     EXPECT_EQ(saved.name, u"Old");
 }
 
+TEST_F(PageLimitDialog, aLimitWithoutADestinationCannotBeConfirmedWhenItsMessageCouldNotBeRead) {
+    auto record = longJobs();
+    record.destinationId.clear();
+    estate_.goOffline();
+    PageLimitDlg dialog(platform_, record);
+
+    dialog.open();
+
+    EXPECT_EQ(dialog.name.text(), u"Long jobs");
+    EXPECT_FALSE(dialog.okButton().enabled());
+    dialog.userPressedDefault();
+    EXPECT_EQ(dialog.limit().messageId, costId);
+    EXPECT_FALSE(dialog.ended());
+}
+
+TEST_F(PageLimitDialog, cannotBeConfirmedOnceItsMessagesCouldNotBeReadAgain) {
+    PageLimitDlg dialog(platform_, longJobs());
+    dialog.open();
+    EXPECT_TRUE(dialog.okButton().enabled());
+    estate_.goOffline();
+
+    dialog.message.deleteButton.userPressed();
+
+    EXPECT_FALSE(dialog.okButton().enabled());
+}
+
 } // namespace

@@ -119,4 +119,24 @@ TEST_F(SearchDestinationDialog, findsNothingWithoutAServer) {
     EXPECT_FALSE(dialog_.ended());
 }
 
+TEST_F(SearchDestinationDialog, cannotBeConfirmedAfterASearchThatFailed) {
+    estate_.goOffline();
+
+    dialog_.searchButton.userPressed();
+    dialog_.okButton().userPressed();
+
+    EXPECT_FALSE(dialog_.ended());
+    EXPECT_EQ(id_, "before");
+}
+
+TEST_F(SearchDestinationDialog, doesNotSearchForTermsThatNoMessageCarries) {
+    dialog_.searchTerms.userTyped(wire::WideString(32768, u'x'));
+    platform_.ui.expectBox(platform::Answer::ok, u"Search terms should not be longer than 32767 characters");
+
+    dialog_.searchButton.userPressed();
+
+    EXPECT_TRUE(platform_.commands().empty());
+    EXPECT_EQ(dialog_.focus(), &dialog_.searchTerms);
+}
+
 } // namespace

@@ -425,4 +425,27 @@ TEST_F(ShortIdDialog, sendsNothingOnCancel) {
     EXPECT_TRUE(estate_.changes(0).empty());
 }
 
+TEST_F(ShortIdDialog, cannotBeConfirmedWhenItsMessageCouldNotBeRead) {
+    auto record = lobby();
+    record.messageId = quotaId;
+    estate_.goOffline();
+    ShortIdDlg dialog(platform_, record);
+
+    dialog.open();
+
+    EXPECT_EQ(dialog.name.text(), u"Lobby");
+    EXPECT_FALSE(dialog.okButton().enabled());
+    dialog.okButton().userPressed();
+    EXPECT_FALSE(dialog.ended());
+    EXPECT_EQ(dialog.shortId().messageId, quotaId);
+}
+
+TEST_F(ShortIdDialog, canBeConfirmedOnceItsMessagesAreRead) {
+    ShortIdDlg dialog(platform_, lobby());
+    dialog.open();
+
+    EXPECT_TRUE(dialog.message.known());
+    EXPECT_TRUE(dialog.okButton().enabled());
+}
+
 } // namespace

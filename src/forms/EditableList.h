@@ -1,0 +1,78 @@
+#pragma once
+
+#include "forms/Button.h"
+#include "forms/DropList.h"
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace forms {
+
+// A list of records that the server has, and the buttons that edit and delete the selected one; "<New>" in the list
+// makes one. A class fills it with its records and texts, and says what is sent.
+class EditableList {
+public:
+    static constexpr std::u16string_view newItem = u"<New>";
+
+    EditableList(const EditableList&) = delete;
+    EditableList& operator=(const EditableList&) = delete;
+    virtual ~EditableList() = default;
+
+    // Whether the records could be read when the list was last filled. A form that were confirmed without them would
+    // write that none is chosen.
+    bool known() const { return known_; }
+    // known may have changed.
+    std::function<void()> onKnown;
+    void setVisible(bool visible);
+
+    DropList list;
+    Button editButton;
+    Button deleteButton;
+
+protected:
+    EditableList(Container& container, std::u16string_view label, std::u16string_view editLabel);
+
+    // An empty row above the records; rows below them, in this order.
+    void setOtherRows(bool emptyAbove, std::vector<wire::WideString> below);
+    // Reads the records anew, lists them, and selects the row to go back to.
+    void refill();
+    // The row of a record.
+    std::size_t rowOf(std::size_t record) const { return record + (emptyAbove_ ? 1 : 0); }
+    // The record whose row is selected. One that is called like "<New>" or another row below can't be told from it, and
+    // counts as none.
+    std::optional<std::size_t> selectedRecord() const;
+    // The same, but none too for a record without a name, which can be neither edited nor deleted.
+    std::optional<std::size_t> namedRecord() const;
+    void enableButtons(bool enabled);
+
+    // Reads the records; false, or whatever it throws, when that fails.
+    virtual bool read() = 0;
+    virtual std::size_t size() const = 0;
+    virtual const wire::WideString& name(std::size_t record) const = 0;
+    // The row that is selected once the list is filled.
+    virtual std::optional<std::size_t> rowToGoBackTo() const = 0;
+    // Brings the buttons in line with the selection.
+    virtual void followSelection() = 0;
+    // What a person is asked before a record is deleted; nobody is asked where it is empty.
+    virtual std::u16string_view deleteQuestion() const { return {}; }
+    // These three fill the list again as they need it. The person has chosen "<New>", or pressed a button.
+    virtual void make() = 0;
+    virtual void edit(std::size_t record) = 0;
+    virtual void remove(std::size_t record) = 0;
+    // The person has selected a row, and what came of that is done.
+    virtual void afterSelection() {}
+
+private:
+    void setKnown(bool known);
+    void rowSelected();
+    void editPressed();
+    void deletePressed();
+
+    bool emptyAbove_ = false;
+    std::vector<wire::WideString> below_;
+    bool known_ = false;
+};
+
+} // namespace forms
