@@ -31,7 +31,7 @@ What lists hold, and what other records and requests hold as a part.
 
 using Records = std::map<std::string_view, const RecordLayout*>;
 
-std::string quoted(std::string_view text) {
+std::string inBackticks(std::string_view text) {
     return '`' + std::string(text) + '`';
 }
 
@@ -87,7 +87,7 @@ std::string fieldsText(const RecordLayout* layout) {
     }
     std::string text;
     for (const auto& field : layout->fields) {
-        text += (text.empty() ? "" : ", ") + quoted(kindText(field)) + ' ' + std::string(field.name);
+        text += (text.empty() ? "" : ", ") + inBackticks(kindText(field)) + ' ' + std::string(field.name);
     }
     return text;
 }
@@ -105,7 +105,7 @@ std::string requestText(const protocol::Command& command) {
 
 // A record by its name when the records are told elsewhere, else its fields.
 std::string recordText(const RecordLayout* layout, const Records& records) {
-    return layout != nullptr && records.contains(layout->name) ? quoted(layout->name) : fieldsText(layout);
+    return layout != nullptr && records.contains(layout->name) ? inBackticks(layout->name) : fieldsText(layout);
 }
 
 std::string replyText(const protocol::Command& command, const Records& records) {
@@ -135,7 +135,7 @@ void writeCatalogueDocument(std::ostream& out) {
     }
     out << recordsHead;
     for (const auto& [name, layout] : records) {
-        out << "| " << quoted(name) << " | " << fieldsText(layout) << " |\n";
+        out << "| " << inBackticks(name) << " | " << fieldsText(layout) << " |\n";
     }
 }
 

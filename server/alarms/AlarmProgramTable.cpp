@@ -9,14 +9,14 @@ using protocol::AlarmProgramRecord;
 
 namespace {
 
-std::string select(const char* rest) {
+std::string selectPrograms(const char* rest) {
     return "SELECT " + columnNames<AlarmProgramRecord>() + rest;
 }
 
 } // namespace
 
 AlarmProgramTable::AlarmProgramTable(sqlite3* connection)
-    : find_(connection, select(", kind FROM alarmProgram WHERE id = ?")),
+    : find_(connection, selectPrograms(", kind FROM alarmProgram WHERE id = ?")),
       nameTaken_(connection, "SELECT 1 FROM alarmProgram WHERE kind = ? AND nameKey = ? AND id <> ?"),
       insert_(connection, "INSERT INTO alarmProgram (" + columnNames<AlarmProgramRecord>() +
                               ", kind, nameKey) VALUES (" + columnPlaces<AlarmProgramRecord>() + ", ?, ?)"),
@@ -32,8 +32,8 @@ AlarmProgramTable::AlarmProgramTable(sqlite3* connection)
                      "alarmProgramId = (SELECT id FROM program WHERE kind = 0 AND turn = record.number % turns), "
                      "counterProgramId = (SELECT id FROM program WHERE kind = 2 AND turn = record.number % turns) "
                      "WHERE recordType = 0 AND number % 7 <> 0"),
-      listAll_(connection, select(" FROM alarmProgram WHERE kind = ? ORDER BY nameKey")),
-      listOne_(connection, select(" FROM alarmProgram WHERE kind = ? AND id = ?")) {}
+      listAll_(connection, selectPrograms(" FROM alarmProgram WHERE kind = ? ORDER BY nameKey")),
+      listOne_(connection, selectPrograms(" FROM alarmProgram WHERE kind = ? AND id = ?")) {}
 
 std::optional<StoredProgram> AlarmProgramTable::find(const std::string& id) {
     auto rows = find_.run(id);

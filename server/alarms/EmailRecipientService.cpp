@@ -36,7 +36,7 @@ bool isTooLong(const EmailRecipientRecord& recipient) {
     return std::max(frameDataSize(recipient), frameDataSize(action)) > largestReceivableFrame;
 }
 
-StatusReply notSaved(const WideString& text) {
+StatusReply recipientNotSaved(const WideString& text) {
     return refusal(u"Recipient not saved", text);
 }
 
@@ -46,19 +46,19 @@ StatusReply EmailRecipientService::write(const protocol::WriteEmailRecipientRequ
     auto& recipients = connection_.table<EmailRecipientTable>();
     const bool isNew = request.id.empty();
     if (!isNew && !recipients.exists(request.id))
-        return notSaved(u"The recipient does not exist any more.");
+        return recipientNotSaved(u"The recipient does not exist any more.");
     if (!isNew && request.name.empty() && request.email.empty()) {
         recipients.remove(request.id);
         return done();
     }
     if (isBlank(request.name) || isBlank(request.email))
-        return notSaved(u"A recipient needs a name and an e-mail address.");
+        return recipientNotSaved(u"A recipient needs a name and an e-mail address.");
     const EmailRecipientRecord recipient{.id = isNew ? wire::toText(wire::randomUuid()) : request.id,
                                          .email = request.email,
                                          .name = request.name,
                                          .active = isYes(request.active)};
     if (isTooLong(recipient))
-        return notSaved(u"The name and the address of the recipient are too long.");
+        return recipientNotSaved(u"The name and the address of the recipient are too long.");
     if (isNew)
         recipients.insert(recipient);
     else
@@ -69,7 +69,7 @@ StatusReply EmailRecipientService::write(const protocol::WriteEmailRecipientRequ
 StatusReply EmailRecipientService::setActive(const protocol::SetRecipientActiveRequest& request) {
     auto& recipients = connection_.table<EmailRecipientTable>();
     if (!recipients.exists(request.id))
-        return notSaved(u"The recipient does not exist any more.");
+        return recipientNotSaved(u"The recipient does not exist any more.");
     recipients.setActive(request.id, isYes(request.active));
     return done();
 }

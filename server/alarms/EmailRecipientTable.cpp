@@ -9,7 +9,7 @@ using protocol::EmailRecipientRecord;
 
 namespace {
 
-std::string select(const char* rest) {
+std::string selectRecipients(const char* rest) {
     return "SELECT " + columnNames<EmailRecipientRecord>() + " FROM emailRecipient " + rest;
 }
 
@@ -23,8 +23,8 @@ EmailRecipientTable::EmailRecipientTable(sqlite3* connection)
               "UPDATE emailRecipient SET " + columnAssignments<EmailRecipientRecord>() + ", nameKey = ? WHERE id = ?"),
       setActive_(connection, "UPDATE emailRecipient SET active = ? WHERE id = ?"),
       remove_(connection, "DELETE FROM emailRecipient WHERE id = ?"),
-      listAll_(connection, select("ORDER BY nameKey, number")),
-      listOne_(connection, select("WHERE id = ?")) {}
+      listAll_(connection, selectRecipients("ORDER BY nameKey, number")),
+      listOne_(connection, selectRecipients("WHERE id = ?")) {}
 
 bool EmailRecipientTable::exists(const std::string& id) {
     return exists_.run(id).next();

@@ -12,7 +12,7 @@ using protocol::StatusReply;
 
 namespace {
 
-namespace operation = protocol::rangeOperation;
+namespace rangeOperation = protocol::rangeOperation;
 
 StatusReply notSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
@@ -44,19 +44,19 @@ std::optional<StatusReply> refuse(const IpRangeRecord& range) {
 StatusReply IpRangeService::change(const protocol::ChangeIpRangeRequest& request) {
     auto& ranges = connection_.table<IpRangeTable>();
     auto range = request.range;
-    if (request.operation == operation::add)
+    if (request.operation == rangeOperation::add)
         range.rangeId = wire::toText(wire::randomUuid());
-    if (request.operation == operation::add || request.operation == operation::save) {
+    if (request.operation == rangeOperation::add || request.operation == rangeOperation::save) {
         if (const auto refused = refuse(range))
             return *refused;
     }
     switch (request.operation) {
-    case operation::add:
+    case rangeOperation::add:
         ranges.insert(range);
         return done();
-    case operation::save:
+    case rangeOperation::save:
         return doneIf(ranges.update(range));
-    case operation::remove:
+    case rangeOperation::remove:
         return doneIf(ranges.remove(range.rangeId));
     default:
         return doneIf(ranges.setActive(range.rangeId, range.active));

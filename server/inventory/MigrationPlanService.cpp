@@ -11,14 +11,14 @@ using protocol::StatusReply;
 
 namespace {
 
-namespace operation = protocol::schemaOperation;
+namespace planOperation = protocol::schemaOperation;
 
-StatusReply notSaved(const wire::WideString& text) {
+StatusReply planNotSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
 }
 
-StatusReply doneIf(bool isThere) {
-    return isThere ? done() : notSaved(u"The migration plan was deleted in the meantime.");
+StatusReply doneIfThere(bool isThere) {
+    return isThere ? done() : planNotSaved(u"The migration plan was deleted in the meantime.");
 }
 
 } // namespace
@@ -26,17 +26,17 @@ StatusReply doneIf(bool isThere) {
 StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& request) {
     auto& plans = connection_.table<MigrationPlanTable>();
     auto plan = request.schema;
-    if (request.operation == operation::remove)
-        return doneIf(plans.remove(plan.schemaId));
-    if (request.operation == operation::create)
+    if (request.operation == planOperation::remove)
+        return doneIfThere(plans.remove(plan.schemaId));
+    if (request.operation == planOperation::create)
         plan.schemaId = wire::toText(wire::randomUuid());
     // A plan outlives its queue and goes by the queue's name then.
     if (!plans.isQueue(plan.newQueueId))
         plan.newQueueId = plans.queueNamed(plan.newPrinterName).value_or(std::string());
     if (frameDataSize(plan) > largestReceivableFrame)
-        return notSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
-    if (request.operation != operation::create)
-        return doneIf(plans.update(plan));
+        return planNotSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
+    if (request.operation != planOperation::create)
+        return doneIfThere(plans.update(plan));
     plans.insert(plan);
     return done();
 }

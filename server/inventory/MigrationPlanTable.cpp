@@ -21,7 +21,7 @@ std::string selectPlans(const std::string& rest) {
     return "SELECT " + columns + " FROM migrationPlan AS plan " + rest;
 }
 
-constexpr const char* inOrder = " ORDER BY plan.schemaKey, plan.number";
+constexpr const char* bySchema = " ORDER BY plan.schemaKey, plan.number";
 
 } // namespace
 
@@ -36,8 +36,8 @@ MigrationPlanTable::MigrationPlanTable(sqlite3* connection)
       remove_(connection, "DELETE FROM migrationPlan WHERE schemaId = ?"),
       isQueue_(connection, "SELECT 1 FROM record WHERE id = ? AND recordType IN (1, 3)"),
       queueNamed_(connection, "SELECT id FROM record WHERE nameKey = ? AND recordType IN (1, 3) LIMIT 2"),
-      all_(connection, selectPlans(inOrder)),
-      ofReport_(connection, selectPlans("WHERE " + planCover::coversSomethingInReport() + inOrder)),
+      all_(connection, selectPlans(bySchema)),
+      ofReport_(connection, selectPlans("WHERE " + planCover::coversSomethingInReport() + bySchema)),
       one_(connection, selectPlans("WHERE plan.schemaId = ?")) {}
 
 int MigrationPlanTable::bindAll(Query& query, const SchemaRecord& plan) {

@@ -9,13 +9,13 @@ namespace server {
 
 namespace {
 
-constexpr std::u16string_view blanks = u" \t\r\n";
+constexpr std::u16string_view wideBlanks = u" \t\r\n";
 
 std::u16string_view trimmed(std::u16string_view text) {
     text = text.substr(0, text.find(u'\0')); // a text ends there for a console
-    const auto from = text.find_first_not_of(blanks);
+    const auto from = text.find_first_not_of(wideBlanks);
     return from == std::u16string_view::npos ? std::u16string_view()
-                                             : text.substr(from, text.find_last_not_of(blanks) - from + 1);
+                                             : text.substr(from, text.find_last_not_of(wideBlanks) - from + 1);
 }
 
 // The units of a key.

@@ -7,13 +7,13 @@ namespace {
 std::string selectQueues() {
     return "SELECT id, name FROM record WHERE recordType IN (1, 3) ";
 }
-constexpr const char* inOrder = "ORDER BY nameKey, number";
+constexpr const char* byName = "ORDER BY nameKey, number";
 
 } // namespace
 
 QueueSearch::QueueSearch(sqlite3* connection)
-    : all_(connection, selectQueues() + inOrder),
-      matching_(connection, selectQueues() + "AND nameMatches(nameKey, ?) " + inOrder) {}
+    : all_(connection, selectQueues() + byName),
+      matching_(connection, selectQueues() + "AND nameMatches(nameKey, ?) " + byName) {}
 
 Listing QueueSearch::find(const NamePattern& pattern) {
     return pattern.matchesAll() ? all_.run() : matching_.run(pattern.key());

@@ -7,7 +7,7 @@ namespace server {
 
 namespace {
 
-const wire::WideString word = u"affected user or group";
+const wire::WideString affectedWord = u"affected user or group";
 
 } // namespace
 
@@ -15,9 +15,9 @@ protocol::StatusReply AffectedService::write(const protocol::WriteAffectedReques
     auto& table = connection_.table<AffectedTable>();
     const protocol::AffectedRecord record{
         .id = request.id, .type = request.type, .equals = request.equals, .name = request.name};
-    if (const auto refused = refuseWrite(table, word, request.action, record))
+    if (const auto refused = refuseWrite(table, affectedWord, request.action, record))
         return *refused;
-    if (const auto refused = refuseName(word, record.name))
+    if (const auto refused = refuseName(affectedWord, record.name))
         return *refused;
     if (record.type != protocol::affectedType::user && record.type != protocol::affectedType::group)
         return ruleRefused(u"Only users and groups can be affected.");
@@ -27,7 +27,7 @@ protocol::StatusReply AffectedService::write(const protocol::WriteAffectedReques
 }
 
 protocol::StatusReply AffectedService::remove(const protocol::DeleteAffectedRequest& request) {
-    return removeFrom(connection_.table<AffectedTable>(), word, request.id);
+    return removeFrom(connection_.table<AffectedTable>(), affectedWord, request.id);
 }
 
 } // namespace server

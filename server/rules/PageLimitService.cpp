@@ -7,16 +7,16 @@ namespace server {
 
 namespace {
 
-const wire::WideString word = u"page limit";
+const wire::WideString limitWord = u"page limit";
 
 } // namespace
 
 protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequest& request) {
     auto& limits = connection_.table<PageLimitTable>();
     const auto& limit = request.limit;
-    if (const auto refused = refuseWrite(limits, word, request.action, limit))
+    if (const auto refused = refuseWrite(limits, limitWord, request.action, limit))
         return *refused;
-    if (const auto refused = refuseName(word, limit.name))
+    if (const auto refused = refuseName(limitWord, limit.name))
         return *refused;
     if (limit.color > protocol::limitedColor::last || limit.duplex > protocol::limitedDuplex::last || limit.enforce > 1)
         return ruleRefused(u"There is no such color, duplex or enforce of a page limit.");
@@ -26,7 +26,7 @@ protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequ
 }
 
 protocol::StatusReply PageLimitService::remove(const protocol::DeletePageLimitRequest& request) {
-    return removeFrom(connection_.table<PageLimitTable>(), word, request.id);
+    return removeFrom(connection_.table<PageLimitTable>(), limitWord, request.id);
 }
 
 } // namespace server

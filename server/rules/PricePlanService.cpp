@@ -8,7 +8,7 @@ namespace server {
 
 namespace {
 
-const wire::WideString word = u"price plan";
+const wire::WideString planWord = u"price plan";
 const wire::WideString entryWord = u"price of the plan";
 
 Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
@@ -23,9 +23,9 @@ Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
 
 protocol::StatusReply PricePlanService::write(const protocol::WritePricePlanRequest& request) {
     auto& plans = connection_.table<PricePlanTable>();
-    if (const auto refused = refuseWrite(plans, word, request.action, request.plan))
+    if (const auto refused = refuseWrite(plans, planWord, request.action, request.plan))
         return *refused;
-    if (const auto refused = refuseName(word, request.plan.name))
+    if (const auto refused = refuseName(planWord, request.plan.name))
         return *refused;
     if (request.plan.payMethod > protocol::payMethod::last)
         return ruleRefused(u"There is no such pay method.");
@@ -38,7 +38,7 @@ protocol::StatusReply PricePlanService::write(const protocol::WritePricePlanRequ
 }
 
 protocol::StatusReply PricePlanService::remove(const protocol::DeletePricePlanRequest& request) {
-    return removeFrom(connection_.table<PricePlanTable>(), word, request.id);
+    return removeFrom(connection_.table<PricePlanTable>(), planWord, request.id);
 }
 
 } // namespace server

@@ -13,18 +13,18 @@ using protocol::StatusReply;
 
 namespace {
 
-const wire::WideString word = u"rule entry";
+const wire::WideString ruleEntryWord = u"rule entry";
 constexpr auto appliesGroup = protocol::ruleEntryType::ruleGroup;
 
 Refused refuseEntry(RuleEntryRecord entry) {
-    if (auto refused = refuseId(word, entry.id))
+    if (auto refused = refuseId(ruleEntryWord, entry.id))
         return refused;
-    if (auto refused = refuseName(word, entry.name))
+    if (auto refused = refuseName(ruleEntryWord, entry.name))
         return refused;
     entry.typeText = ruleEntryTypeText(entry.type);
     if (entry.typeText.empty())
         return ruleRefused(u"There is no such type of rule entries.");
-    return refuseFrameSize(word, frameDataSize(entry));
+    return refuseFrameSize(ruleEntryWord, frameDataSize(entry));
 }
 
 // Where the entry says that it is to be placed by id. A console that applies a group names that group as the owner too,
@@ -80,7 +80,7 @@ StatusReply RuleEntryService::update(const protocol::UpdateRuleEntryRequest& req
     if (const auto refused = refuseEntry(request.entry))
         return *refused;
     if (!entries.has(request.entry.id))
-        return isGone(word);
+        return isGone(ruleEntryWord);
     if (request.entry.type == appliesGroup && entries.isInGroup(request.entry.id))
         return ruleRefused(u"A rule group cannot be applied inside of a rule group.");
     entries.update(request.entry);
@@ -90,7 +90,7 @@ StatusReply RuleEntryService::update(const protocol::UpdateRuleEntryRequest& req
 StatusReply RuleEntryService::remove(const protocol::RemoveRuleEntryRequest& request) {
     auto& entries = connection_.table<RuleEntryTable>();
     if (!entries.has(request.id))
-        return isGone(word);
+        return isGone(ruleEntryWord);
     entries.remove(request.id);
     return done();
 }

@@ -8,13 +8,13 @@ namespace server {
 
 namespace {
 
-const wire::WideString word = u"rule group";
+const wire::WideString groupWord = u"rule group";
 
 } // namespace
 
 protocol::StatusReply RuleGroupService::write(const protocol::WriteRuleGroupRequest& request) {
     auto& groups = connection_.table<RuleGroupTable>();
-    if (const auto refused = refuseWrite(groups, word, request.action, request.group))
+    if (const auto refused = refuseWrite(groups, groupWord, request.action, request.group))
         return *refused;
     // Entries are listed by the id of their owner alone.
     if (connection_.table<RecordTable>().find(request.group.id))
@@ -23,7 +23,7 @@ protocol::StatusReply RuleGroupService::write(const protocol::WriteRuleGroupRequ
 }
 
 protocol::StatusReply RuleGroupService::remove(const protocol::DeleteRuleGroupRequest& request) {
-    return removeFrom(connection_.table<RuleGroupTable>(), word, request.id);
+    return removeFrom(connection_.table<RuleGroupTable>(), groupWord, request.id);
 }
 
 } // namespace server

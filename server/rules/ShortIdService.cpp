@@ -8,7 +8,7 @@ namespace server {
 namespace {
 
 namespace writeAction = protocol::ruleWriteAction;
-const wire::WideString word = u"short id";
+const wire::WideString shortIdWord = u"short id";
 constexpr std::int64_t secondsOfDay = 86400;
 
 } // namespace
@@ -23,9 +23,9 @@ protocol::StatusReply ShortIdService::update(const protocol::UpdateShortIdReques
 
 protocol::StatusReply ShortIdService::write(std::uint8_t action, const protocol::ShortIdRecord& shortId) {
     auto& shortIds = connection_.table<ShortIdTable>();
-    if (const auto refused = refuseWrite(shortIds, word, action, shortId))
+    if (const auto refused = refuseWrite(shortIds, shortIdWord, action, shortId))
         return *refused;
-    if (const auto refused = refuseName(word, shortId.name))
+    if (const auto refused = refuseName(shortIdWord, shortId.name))
         return *refused;
     if (shortId.reservedUntil && (*shortId.reservedUntil < 0 || *shortId.reservedUntil >= secondsOfDay))
         return ruleRefused(u"A short id is reserved until a time of the day.");
@@ -33,7 +33,7 @@ protocol::StatusReply ShortIdService::write(std::uint8_t action, const protocol:
 }
 
 protocol::StatusReply ShortIdService::remove(const protocol::DeleteShortIdRequest& request) {
-    return removeFrom(connection_.table<ShortIdTable>(), word, request.id);
+    return removeFrom(connection_.table<ShortIdTable>(), shortIdWord, request.id);
 }
 
 } // namespace server

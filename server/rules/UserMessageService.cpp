@@ -7,16 +7,16 @@ namespace server {
 
 namespace {
 
-const wire::WideString word = u"user message";
+const wire::WideString messageWord = u"user message";
 
 } // namespace
 
 protocol::StatusReply UserMessageService::write(const protocol::WriteUserMessageRequest& request) {
     auto& messages = connection_.table<UserMessageTable>();
     auto message = request.message;
-    if (const auto refused = refuseWrite(messages, word, request.action, message))
+    if (const auto refused = refuseWrite(messages, messageWord, request.action, message))
         return *refused;
-    if (const auto refused = refuseName(word, message.name))
+    if (const auto refused = refuseName(messageWord, message.name))
         return *refused;
     if (message.type < protocol::messageType::first || message.type > protocol::messageType::last ||
         message.icon > protocol::messageIcon::last)
@@ -30,7 +30,7 @@ protocol::StatusReply UserMessageService::remove(const protocol::DeleteUserMessa
     auto& messages = connection_.table<UserMessageTable>();
     if (const auto message = messages.find(request.id); message && message->builtIn)
         return ruleRefused(u"The user message " + quoted(message->name) + u" is built in.");
-    return removeFrom(messages, word, request.id);
+    return removeFrom(messages, messageWord, request.id);
 }
 
 } // namespace server

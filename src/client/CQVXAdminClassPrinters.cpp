@@ -1,19 +1,13 @@
 #include "client/CQVXAdminClass.h"
 
 #include "client/CursorCalls.h"
+#include "client/RegionSummary.h"
 #include "protocol/estate/Printer.h"
 
 namespace client {
-namespace {
 
 namespace mode = protocol::printerListMode;
 using protocol::ListPrinterRecordsRequest;
-
-std::string regionText(std::int32_t id) {
-    return "region " + std::to_string(id);
-}
-
-} // namespace
 
 bool CQVXAdminClass::listPrinterRecords(const ListPrinterRecordsRequest& request, std::string summary,
                                         std::int16_t& count) {
@@ -25,7 +19,7 @@ bool CQVXAdminClass::listPrinterRecords(const ListPrinterRecordsRequest& request
 
 bool CQVXAdminClass::getPrintersInRegion(std::int32_t regionId, std::int16_t& count) {
     return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::printersInRegion},
-                              regionText(regionId), count);
+                              regionSummary(regionId), count);
 }
 
 bool CQVXAdminClass::getQueuesOfPrinter(const std::string& printerId, std::int16_t& count) {
@@ -33,18 +27,18 @@ bool CQVXAdminClass::getQueuesOfPrinter(const std::string& printerId, std::int16
 }
 
 bool CQVXAdminClass::getQueuesInRegion(std::int32_t regionId, std::int16_t& count) {
-    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::queues}, regionText(regionId),
+    return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::queues}, regionSummary(regionId),
                               count);
 }
 
 bool CQVXAdminClass::getFollowQueuesInRegion(std::int32_t regionId, std::int16_t& count) {
     return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::followQueuesInRegion},
-                              regionText(regionId), count);
+                              regionSummary(regionId), count);
 }
 
 bool CQVXAdminClass::getLocalPrintersInRegion(std::int32_t regionId, std::int16_t& count) {
     return listPrinterRecords({.printerId = {}, .regionId = regionId, .mode = mode::localPrintersInRegion},
-                              regionText(regionId), count);
+                              regionSummary(regionId), count);
 }
 
 bool CQVXAdminClass::getQueueById(const std::string& queueId, std::int16_t& count) {

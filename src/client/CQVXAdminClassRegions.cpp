@@ -1,5 +1,6 @@
 #include "client/CQVXAdminClass.h"
 
+#include "client/RegionSummary.h"
 #include "client/ServerCalls.h"
 #include "protocol/estate/Region.h"
 
@@ -8,10 +9,6 @@ namespace {
 
 constexpr std::uint8_t byteOf(protocol::RegionKind kind) {
     return static_cast<std::uint8_t>(kind);
-}
-
-std::string regionText(std::int32_t id) {
-    return "region " + std::to_string(id);
 }
 
 // All regions usually come in the one message. A server with more of them than a frame takes sends a count alone, which
@@ -37,7 +34,7 @@ bool CQVXAdminClass::listRegions(protocol::RegionKind kind, std::int32_t parentI
     const protocol::ListRegionsRequest request{.kind = byteOf(kind), .parentId = parentId};
     std::vector<protocol::RegionRecord> regions;
     regions_.clear();
-    Exchange exchange(*this, protocol::commandOf<protocol::ListRegionsRequest>(), regionText(parentId));
+    Exchange exchange(*this, protocol::commandOf<protocol::ListRegionsRequest>(), regionSummary(parentId));
     if (!exchange.connect())
         return false;
     exchange.send(dataMessageOf(request));
@@ -71,12 +68,12 @@ bool CQVXAdminClass::renameRegion(protocol::RegionKind kind, std::int32_t region
 bool CQVXAdminClass::moveRegion(protocol::RegionKind kind, std::int32_t regionId, std::int32_t newParentId) {
     return sendCommand(*this,
                        protocol::MoveRegionRequest{.kind = byteOf(kind), .regionId = regionId, .parentId = newParentId},
-                       regionText(regionId));
+                       regionSummary(regionId));
 }
 
 bool CQVXAdminClass::deleteRegion(protocol::RegionKind kind, std::int32_t regionId) {
     return sendCommand(*this, protocol::DeleteRegionRequest{.regionId = regionId, .kind = byteOf(kind)},
-                       regionText(regionId));
+                       regionSummary(regionId));
 }
 
 } // namespace client

@@ -20,10 +20,7 @@ using wire::TransLogger;
 
 namespace {
 
-constexpr std::int32_t failureLevel = 2;
-constexpr std::int32_t misuseLevel = 3;
 constexpr std::chrono::seconds defaultConnectTimeout = 8s;
-constexpr std::chrono::milliseconds longestWait = 50ms; // then the observer is asked
 constexpr std::size_t maximumQueueLength = 357913940;
 constexpr int maximumCloseFailures = 11;
 
@@ -101,7 +98,7 @@ bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& log
 
     const SocketResult opened = calls_.open();
     if (opened.value < 1) {
-        log(logger, "CTrans::iSocketConnect socket()", opened.error, misuseLevel);
+        log(logger, "CTrans::iSocketConnect socket()", opened.error, wire::misuseLevel);
         socket_ = 0;
         return false;
     }
@@ -115,13 +112,14 @@ bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& log
     if (address == Socket::noAddress) {
         address = resolveDNSl(host_, deadline - clock_.now(), logger);
         if (address == 0) {
-            log(logger, "CTrans::iSocketConnect resolveDNSl failed (" + host_ + ")", 0, failureLevel);
+            log(logger, "CTrans::iSocketConnect resolveDNSl failed (" + host_ + ")", 0, wire::failureLevel);
             return false;
         }
     }
     const SocketResult unblocked = calls_.setBlocking(socket_, false);
     if (unblocked.value != 0) {
-        log(logger, "CTrans::iSocketConnect ioctlsocket connect failed (" + host_ + ")", unblocked.error, failureLevel);
+        log(logger, "CTrans::iSocketConnect ioctlsocket connect failed (" + host_ + ")", unblocked.error,
+            wire::failureLevel);
         return false;
     }
     calls_.setDebug(socket_);
@@ -164,7 +162,7 @@ bool CTrans::finishConnect(std::chrono::nanoseconds deadline, const TransLogger&
 }
 
 bool CTrans::failConnect(const std::string& what, std::int32_t code, const TransLogger& logger) {
-    log(logger, "CTrans::iSocketConnect " + what + " (" + host_ + ")", code, failureLevel);
+    log(logger, "CTrans::iSocketConnect " + what + " (" + host_ + ")", code, wire::failureLevel);
     calls_.shutdown(socket_, 2);
     calls_.close(socket_);
     socket_ = 0;
@@ -173,7 +171,7 @@ bool CTrans::failConnect(const std::string& what, std::int32_t code, const Trans
 
 std::uint32_t CTrans::resolveDNSl(const std::string& host, std::chrono::nanoseconds limit, const TransLogger& logger) {
     if (host.empty()) {
-        log(logger, "resolveDNSl unable to resolve empty string", 0, misuseLevel);
+        log(logger, "resolveDNSl unable to resolve empty string", 0, wire::misuseLevel);
         return 0;
     }
     const auto lookup = calls_.resolve(host);
@@ -181,7 +179,7 @@ std::uint32_t CTrans::resolveDNSl(const std::string& host, std::chrono::nanoseco
                                        return lookup->wait(wait);
                                    }).value_or(ResolveResult{.result = wire::lookupTimedOut});
     if (resolved.result != 0) {
-        log(logger, "resolveDNSl getaddrinfo failed (" + host + ")", resolved.result, failureLevel);
+        log(logger, "resolveDNSl getaddrinfo failed (" + host + ")", resolved.result, wire::failureLevel);
         return 0;
     }
     return resolved.address;

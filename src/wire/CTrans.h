@@ -75,6 +75,8 @@ public:
     [[nodiscard]] std::uint32_t lastChecksum() const { return lastChecksum_; }
 
 private:
+    static constexpr std::chrono::milliseconds longestWait{50}; // then the observer is asked
+
     bool finishConnect(std::chrono::nanoseconds deadline, const wire::TransLogger& logger);
     bool failConnect(const std::string& what, std::int32_t code, const wire::TransLogger& logger);
     template <typename Attempt>

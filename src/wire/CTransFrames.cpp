@@ -19,7 +19,6 @@ using wire::TransLogger;
 
 namespace {
 
-constexpr std::int32_t failureLevel = 2;
 constexpr std::int32_t headerTimeout = 15; // seconds
 constexpr std::chrono::seconds noteworthy = 2s;
 
@@ -31,7 +30,7 @@ public:
 
     void report(std::string_view what, std::int32_t code) const {
         if (enabled_) {
-            logger_(std::string(prefix_) + " CTrans::getMessages " + std::string(what), code, failureLevel);
+            logger_(std::string(prefix_) + " CTrans::getMessages " + std::string(what), code, wire::failureLevel);
         }
     }
 
@@ -72,7 +71,8 @@ bool CTrans::sendMessages(const TransLogger& logger) {
     if (sendBytes(rawBuffer_.data(), rawBuffer_.size()) == -1 && logger) {
         // The whole frame goes out in one call. Each of its four pieces is reported, because none of them was sent.
         for (const char* const piece : {"count", "size", "checksum", "data"}) {
-            logger("CTrans::sendMessages send message " + std::string(piece) + " failed", socketError_, failureLevel);
+            logger("CTrans::sendMessages send message " + std::string(piece) + " failed", socketError_,
+                   wire::failureLevel);
         }
     }
     rawBuffer_.clear();

@@ -12,7 +12,6 @@ using wire::SocketResult;
 
 namespace {
 
-constexpr std::chrono::milliseconds longestWait = 50ms; // then the observer is asked
 constexpr std::uint32_t readAheadSize = 64 * 1024;
 
 constexpr int socketFailed = -1;

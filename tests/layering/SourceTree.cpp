@@ -10,7 +10,7 @@
 namespace layering {
 namespace {
 
-constexpr std::array<std::string_view, 7> folders{"src", "hosts", "server", "tests", "bench", "fuzz", "cmake"};
+constexpr std::array<std::string_view, 7> topFolders{"src", "hosts", "server", "tests", "bench", "fuzz", "cmake"};
 
 bool isRead(const std::filesystem::path& file) {
     const auto extension = file.extension();
@@ -32,7 +32,7 @@ SourceTree readSourceTree(const std::filesystem::path& root) {
         throw std::runtime_error("No sources below " + root.string());
     }
     SourceTree tree{readFile(root, root / "CMakeLists.txt")};
-    for (const auto folder : folders) {
+    for (const auto folder : topFolders) {
         if (!std::filesystem::is_directory(root / folder)) {
             continue;
         }

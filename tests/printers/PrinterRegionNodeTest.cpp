@@ -32,7 +32,7 @@ protected:
     }
 };
 
-constexpr const char16_t* question = u"Are you sure you want to delete the selected region? ";
+constexpr const char16_t* deleteQuestion = u"Are you sure you want to delete the selected region? ";
 constexpr const char16_t* notEmpty =
     u"Cannot delete as the region includes Printers or Follow Printer Queue or Sub Regions!";
 
@@ -264,7 +264,7 @@ TEST_F(PrinterRegion, listsASubRegionWhoseIdIsKnownBeforeItIsReadAgain) {
 TEST_F(PrinterRegion, thatStandsInNoConsoleStillDoesItsCommands) {
     const auto region = std::make_shared<printers::PrinterRegionNode>(platform_, support::region(7, 0, u"Loose"));
     expectNewRegion(u"A", 42);
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
 
     EXPECT_EQ(region->Command(247, DataObjectType::scope), Result::ok);
     EXPECT_EQ(region->Command(302, DataObjectType::scope), Result::ok);
@@ -278,7 +278,7 @@ TEST_F(PrinterRegion, isDeletedAfterTheQuestionWhenNothingIsInIt) {
     const auto south = nodeOf(console_, u"South");
     const auto row = idOf(u"South");
     console_.calls.clear();
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
 
     EXPECT_EQ(south->Command(302, DataObjectType::scope), Result::ok);
 
@@ -293,7 +293,7 @@ TEST_F(PrinterRegion, leavesTheListOfItsParentWhenItIsDeletedFromThere) {
     expandNode(u"Printers");
     show(console_, *root_);
     console_.calls.clear();
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
 
     shownNode(console_, u"South")->Command(302, DataObjectType::result);
 
@@ -304,7 +304,7 @@ TEST_F(PrinterRegion, leavesTheListOfItsParentWhenItIsDeletedFromThere) {
 TEST_F(PrinterRegion, staysWhenTheQuestionIsAnsweredWithCancel) {
     expandNode(u"Printers");
     const auto commands = platform_.commands().size();
-    platform_.ui.expectBox(Answer::cancel, question);
+    platform_.ui.expectBox(Answer::cancel, deleteQuestion);
 
     EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
 
@@ -315,7 +315,7 @@ TEST_F(PrinterRegion, staysWhenTheQuestionIsAnsweredWithCancel) {
 TEST_F(PrinterRegion, thatHoldsOnlyAnEmptySubRegionIsNotDeletedAndNoDeleteIsSent) {
     estate_.printers.clear();
     openNorth();
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
     platform_.ui.expectBox(Answer::ok, notEmpty);
 
     EXPECT_EQ(nodeOf(console_, u"North")->Command(302, DataObjectType::scope), Result::notDone);
@@ -330,7 +330,7 @@ TEST_F(PrinterRegion, thatHoldsOnlyAnEmptySubRegionIsNotDeletedAndNoDeleteIsSent
 TEST_F(PrinterRegion, thatHoldsAFollowPrintQueueIsNotDeleted) {
     estate_.followQueues = {support::printer("f1", 3, u"Anywhere")};
     expandNode(u"Printers");
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
     platform_.ui.expectBox(Answer::ok, notEmpty);
 
     EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
@@ -351,7 +351,7 @@ TEST_F(PrinterRegion, staysInTheTreeWhenTheDeleteCannotBeSent) {
     expandNode(u"Printers");
     estate_.goOffline();
     console_.calls.clear();
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
 
     EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
 

@@ -14,9 +14,9 @@ using rules::PapersGroup;
 constexpr std::size_t multiplier = 0;
 constexpr std::size_t absolute = 1;
 
-class Owner final : public forms::Form {
+class FormWithPapers final : public forms::Form {
 public:
-    explicit Owner(platform::Platform& platform) : Form(platform, u"Owner"), papers(*this, platform.locale) {}
+    explicit FormWithPapers(platform::Platform& platform) : Form(platform, u"Owner"), papers(*this, platform.locale) {}
 
     PapersGroup papers;
 
@@ -73,7 +73,7 @@ protected:
     }
 
     support::TestPlatform platform_{support::germanLocale()};
-    Owner owner_{platform_};
+    FormWithPapers owner_{platform_};
     PapersGroup& papers_ = owner_.papers;
 };
 

@@ -48,7 +48,7 @@ Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool n
 }
 
 // Asks for the list and takes its first piece; what no handler takes is passed over.
-void ask(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields) {
+void askForList(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields) {
     try {
         ReplyBuffer buffer;
         const auto* const handler = commands().find(opcode, fields);
@@ -64,7 +64,7 @@ TEST(ListQuery, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
         if (command.reply == protocol::ReplyShape::list && command.request != nullptr)
             for (std::uint8_t number = 0; number <= 10; ++number)
                 for (const bool named : {false, true})
-                    ask(place.connection(), command.opcode, fieldsOf(*command.request, number, named));
+                    askForList(place.connection(), command.opcode, fieldsOf(*command.request, number, named));
     const auto& plans = place.connection().table<test::QueryPlans>();
     EXPECT_GE(plans.readingStatements().size(), 30U);
     EXPECT_EQ(plans.sortingStatements(), "");

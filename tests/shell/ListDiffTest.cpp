@@ -6,7 +6,7 @@ namespace {
 
 using shell::ListStep;
 using shell::listSteps;
-using Kind = ListStep::Kind;
+using StepKind = ListStep::Kind;
 using Ids = std::vector<std::intptr_t>;
 using Steps = std::vector<ListStep>;
 
@@ -15,26 +15,26 @@ TEST(ListDiff, equalListsTakeNoStep) {
 }
 
 TEST(ListDiff, aRunInTheMiddleIsRemovedAtOnce) {
-    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 4}), (Steps{{Kind::remove, 1, 2}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 4}), (Steps{{StepKind::remove, 1, 2}}));
 }
 
 TEST(ListDiff, removalsComeFromTheEnd) {
-    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{2, 4}), (Steps{{Kind::remove, 2, 1}, {Kind::remove, 0, 1}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{2, 4}), (Steps{{StepKind::remove, 2, 1}, {StepKind::remove, 0, 1}}));
 }
 
 TEST(ListDiff, insertionsComeAfterRemovalsFromTheStart) {
     EXPECT_EQ(listSteps(Ids{1, 2}, Ids{5, 2, 6, 7}),
-              (Steps{{Kind::remove, 0, 1}, {Kind::insert, 0, 1}, {Kind::insert, 2, 2}}));
+              (Steps{{StepKind::remove, 0, 1}, {StepKind::insert, 0, 1}, {StepKind::insert, 2, 2}}));
 }
 
 TEST(ListDiff, fromAndToNothingIsOneStep) {
-    EXPECT_EQ(listSteps(Ids{}, Ids{1, 2}), (Steps{{Kind::insert, 0, 2}}));
-    EXPECT_EQ(listSteps(Ids{1, 2}, Ids{}), (Steps{{Kind::remove, 0, 2}}));
+    EXPECT_EQ(listSteps(Ids{}, Ids{1, 2}), (Steps{{StepKind::insert, 0, 2}}));
+    EXPECT_EQ(listSteps(Ids{1, 2}, Ids{}), (Steps{{StepKind::remove, 0, 2}}));
 }
 
 TEST(ListDiff, changesBetweenEqualEndsStandAtTheirPlaces) {
-    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 2, 9, 3, 4}), (Steps{{Kind::insert, 2, 1}}));
-    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 9, 8, 4}), (Steps{{Kind::remove, 1, 2}, {Kind::insert, 1, 2}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 2, 9, 3, 4}), (Steps{{StepKind::insert, 2, 1}}));
+    EXPECT_EQ(listSteps(Ids{1, 2, 3, 4}, Ids{1, 9, 8, 4}), (Steps{{StepKind::remove, 1, 2}, {StepKind::insert, 1, 2}}));
     EXPECT_EQ(listSteps(Ids{1, 2, 3, 4, 5}, Ids{1, 4, 3, 2, 5}), std::nullopt);
 }
 

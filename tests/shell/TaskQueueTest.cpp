@@ -6,22 +6,22 @@ namespace {
 
 using shell::Task;
 using shell::TaskQueue;
-using Kind = Task::Kind;
+using TaskKind = Task::Kind;
 
 TEST(TaskQueue, handsOutInTheOrderOfAdding) {
     TaskQueue tasks;
-    tasks.add({.kind = Kind::selectScopeItem, .scopeId = 3});
-    tasks.add({.kind = Kind::refresh});
+    tasks.add({.kind = TaskKind::selectScopeItem, .scopeId = 3});
+    tasks.add({.kind = TaskKind::refresh});
 
     EXPECT_EQ(tasks.next()->scopeId, 3);
-    EXPECT_EQ(tasks.next()->kind, Kind::refresh);
+    EXPECT_EQ(tasks.next()->kind, TaskKind::refresh);
     EXPECT_FALSE(tasks.next());
 }
 
 TEST(TaskQueue, refreshesSideBySideAreOne) {
     TaskQueue tasks;
-    tasks.add({.kind = Kind::refresh});
-    tasks.add({.kind = Kind::refresh});
+    tasks.add({.kind = TaskKind::refresh});
+    tasks.add({.kind = TaskKind::refresh});
 
     EXPECT_TRUE(tasks.next());
     EXPECT_TRUE(tasks.empty());
@@ -29,13 +29,13 @@ TEST(TaskQueue, refreshesSideBySideAreOne) {
 
 TEST(TaskQueue, refreshesWithASelectionInBetweenAreTwo) {
     TaskQueue tasks;
-    tasks.add({.kind = Kind::refresh});
-    tasks.add({.kind = Kind::selectScopeItem, .scopeId = 3});
-    tasks.add({.kind = Kind::refresh});
+    tasks.add({.kind = TaskKind::refresh});
+    tasks.add({.kind = TaskKind::selectScopeItem, .scopeId = 3});
+    tasks.add({.kind = TaskKind::refresh});
 
     tasks.next();
     tasks.next();
-    EXPECT_EQ(tasks.next()->kind, Kind::refresh);
+    EXPECT_EQ(tasks.next()->kind, TaskKind::refresh);
 }
 
 TEST(TaskQueue, tellsWhenSomethingWasAdded) {
@@ -43,7 +43,7 @@ TEST(TaskQueue, tellsWhenSomethingWasAdded) {
     int added = 0;
     tasks.onAdded = [&] { ++added; };
 
-    tasks.add({.kind = Kind::close});
+    tasks.add({.kind = TaskKind::close});
 
     EXPECT_EQ(added, 1);
 }

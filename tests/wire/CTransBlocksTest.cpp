@@ -1,4 +1,5 @@
 #include "tests/support/ScriptedServer.h"
+#include "tests/wire/OpenConnection.h"
 #include "wire/CTrans.h"
 
 #include <gtest/gtest.h>
@@ -10,12 +11,6 @@ using support::toHex;
 using trans::CTrans;
 
 namespace {
-
-void open(CTrans& connection, const ScriptedServer& server) {
-    connection.setHost("127.0.0.1");
-    connection.setPort(server.port());
-    ASSERT_TRUE(connection.connect(10, {}));
-}
 
 // Sends a block to a server that acknowledges it and answers with the given byte.
 bool sendResult(std::uint8_t answer) {

@@ -2,6 +2,7 @@
 #include "tests/wire/FaultySocket.h"
 #include "tests/wire/LogRecorder.h"
 #include "tests/wire/ManualClock.h"
+#include "tests/wire/OpenConnection.h"
 #include "wire/CTrans.h"
 
 #include <gtest/gtest.h>
@@ -32,12 +33,6 @@ std::unique_ptr<Message> dataWith(std::initializer_list<std::uint8_t> bytes) {
     message->setKind(MessageKind::Data);
     message->rewind();
     return message;
-}
-
-void open(CTrans& connection, const ScriptedServer& server) {
-    connection.setHost("127.0.0.1");
-    connection.setPort(server.port());
-    ASSERT_TRUE(connection.connect(10, {}));
 }
 
 // One call of getMessages against a server that sends something and closes: its result, what was logged, what the

@@ -1,6 +1,7 @@
 #include "tests/support/ScriptedServer.h"
 #include "tests/wire/FaultySocket.h"
 #include "tests/wire/ManualClock.h"
+#include "tests/wire/OpenConnection.h"
 #include "wire/CTrans.h"
 #include "wire/Cancelled.h"
 
@@ -14,12 +15,6 @@ using support::ScriptedServer;
 using trans::CTrans;
 
 namespace {
-
-void open(CTrans& connection, const ScriptedServer& server) {
-    connection.setHost("127.0.0.1");
-    connection.setPort(server.port());
-    ASSERT_TRUE(connection.connect(10, {}));
-}
 
 // Reads eight bytes from a server that sends only two, with the clock moved to the given times since the first wait,
 // one after the other: the result and the number of times that were used up.

@@ -3,6 +3,7 @@
 #include "forms/Form.h"
 #include "hosts/desktop/forms/FormScroll.h"
 #include "hosts/desktop/forms/FormWidgets.h"
+#include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QApplication>
@@ -15,7 +16,7 @@
 namespace desktop {
 namespace {
 
-constexpr int narrowest = 360;
+constexpr int narrowestDialog = 360;
 
 // From the inside out: what was measured before the widgets had their style does not count.
 void layOutAnew(QWidget& widget) {
@@ -31,11 +32,6 @@ void layOutAnew(QWidget& widget) {
     }
 }
 
-QWidget* frontWindow() {
-    QWidget* const modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : QApplication::activeWindow();
-}
-
 } // namespace
 
 FormDialog::FormDialog(forms::Form& form, QWidget* owner)
@@ -43,7 +39,7 @@ FormDialog::FormDialog(forms::Form& form, QWidget* owner)
     form_.setObserver(this);
     form_.open(); // while nothing is drawn, so that what it fills is drawn once
     setSizeGripEnabled(true);
-    setMinimumWidth(narrowest);
+    setMinimumWidth(narrowestDialog);
     widgets_ = std::make_unique<FormWidgets>(form_, *scroll_->widget());
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);

@@ -85,12 +85,12 @@ void drawIcon(QMessageBox& box) {
     }
 }
 
+} // namespace
+
 QWidget* frontWindow() {
     QWidget* const modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
-
-} // namespace
 
 Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
                       std::uint32_t style) {

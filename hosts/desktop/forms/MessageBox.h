@@ -13,4 +13,7 @@ namespace desktop {
 platform::Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
                                 std::uint32_t style);
 
+// What belongs to nobody else is shown in front of this: the front-most dialog, or the window; null when there is none.
+QWidget* frontWindow();
+
 } // namespace desktop

@@ -14,10 +14,14 @@ constexpr int layoutRounds = 8;
 
 } // namespace
 
-QImage framed(QWidget& dialog) {
+void settle() {
     for (int round = 0; round < layoutRounds; ++round) {
         QCoreApplication::processEvents();
     }
+}
+
+QImage framed(QWidget& dialog) {
+    settle();
     const QSize inner = dialog.size();
     QImage image(inner + QSize(border * 2, titleHeight + border), QImage::Format_RGB32);
     const QPalette palette = dialog.palette();

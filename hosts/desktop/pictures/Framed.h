@@ -6,6 +6,9 @@ class QWidget;
 
 namespace desktop {
 
+// Lets the layouts of what is shown come to rest.
+void settle();
+
 // A picture of a dialog that is shown, in a plain frame with its title.
 QImage framed(QWidget& dialog);
 

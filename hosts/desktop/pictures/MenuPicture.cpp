@@ -1,6 +1,7 @@
 #include "hosts/desktop/pictures/MenuPicture.h"
 
 #include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/pictures/Framed.h"
 #include "hosts/desktop/window/MainWindow.h"
 
 #include <QApplication>
@@ -11,14 +12,6 @@
 
 namespace desktop {
 namespace {
-
-constexpr int layoutRounds = 8;
-
-void settle() {
-    for (int round = 0; round < layoutRounds; ++round) {
-        QCoreApplication::processEvents();
-    }
-}
 
 QImage pictureWithMenu(Session& session, MainWindow& window) {
     const auto menu = window.menus().make(session.shell().selection());

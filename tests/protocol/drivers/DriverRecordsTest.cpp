@@ -19,14 +19,14 @@ const wire::WideString longestWide(32767, u'N');
 
 // The record as these fields, in both directions.
 template <class R>
-void expectFields(const R& record, const std::string& fields) {
+void expectRecord(const R& record, const std::string& fields) {
     EXPECT_EQ(hexOf(record), support::toHex(support::dataMessage(support::hex(fields))));
     EXPECT_EQ(fromFields<R>(fields), record);
 }
 
 TEST(DriverBrandRecord, isIdAndName) {
-    expectFields(DriverBrandRecord{.brandId = "b1", .name = u"Hä"}, "02 00 62 31  04 00 48 00 E4 00");
-    expectFields(DriverBrandRecord{}, "00 00  00 00");
+    expectRecord(DriverBrandRecord{.brandId = "b1", .name = u"Hä"}, "02 00 62 31  04 00 48 00 E4 00");
+    expectRecord(DriverBrandRecord{}, "00 00  00 00");
 }
 
 TEST(DriverBrandRecord, readsTextOfEveryLength) {
@@ -39,9 +39,9 @@ TEST(DriverBrandRecord, readsTextOfEveryLength) {
 }
 
 TEST(DriverModelRecord, isIdNameAndWhetherItIsVisible) {
-    expectFields(DriverModelRecord{.modelId = "m1", .name = u"Fo", .visible = true},
+    expectRecord(DriverModelRecord{.modelId = "m1", .name = u"Fo", .visible = true},
                  "02 00 6D 31  04 00 46 00 6F 00  01");
-    expectFields(DriverModelRecord{}, "00 00  00 00  00");
+    expectRecord(DriverModelRecord{}, "00 00  00 00  00");
 }
 
 TEST(DriverModelRecord, readsTextOfEveryLengthAndAnyByteAsVisible) {
@@ -54,9 +54,9 @@ TEST(DriverModelRecord, readsTextOfEveryLengthAndAnyByteAsVisible) {
 }
 
 TEST(OperatingSystemRecord, isIdNameTwoSignedNumbersAndAShortOne) {
-    expectFields(OperatingSystemRecord{.osId = "os", .name = u"W7", .value1 = -2, .value2 = 258, .value3 = 65535},
+    expectRecord(OperatingSystemRecord{.osId = "os", .name = u"W7", .value1 = -2, .value2 = 258, .value3 = 65535},
                  "02 00 6F 73  04 00 57 00 37 00  FE FF FF FF  02 01 00 00  FF FF");
-    expectFields(OperatingSystemRecord{}, "00 00  00 00  00 00 00 00  00 00 00 00  00 00");
+    expectRecord(OperatingSystemRecord{}, "00 00  00 00  00 00 00 00  00 00 00 00  00 00");
 }
 
 TEST(OperatingSystemRecord, readsTextOfEveryLength) {
@@ -68,14 +68,14 @@ TEST(OperatingSystemRecord, readsTextOfEveryLength) {
 }
 
 TEST(DriverRecord, isIdVersionCommentDateUploaderAndUse) {
-    expectFields(DriverRecord{.driverId = "d1",
+    expectRecord(DriverRecord{.driverId = "d1",
                               .version = u"2",
                               .comment = u"C",
                               .uploadDate = "2014",
                               .uploadedBy = u"Jo",
                               .inUse = '1'},
                  "02 00 64 31  02 00 32 00  02 00 43 00  04 00 32 30 31 34  04 00 4A 00 6F 00  31");
-    expectFields(DriverRecord{}, "00 00  00 00  00 00  00 00  00 00  00");
+    expectRecord(DriverRecord{}, "00 00  00 00  00 00  00 00  00 00  00");
 }
 
 TEST(DriverRecord, readsTextOfEveryLength) {
@@ -98,16 +98,16 @@ TEST(DriverRecord, readsTextOfEveryLength) {
 }
 
 TEST(ShortDriverRecord, isIdVersionAndComment) {
-    expectFields(ShortDriverRecord{.driverId = "d1", .version = u"2", .comment = u"C"},
+    expectRecord(ShortDriverRecord{.driverId = "d1", .version = u"2", .comment = u"C"},
                  "02 00 64 31  02 00 32 00  02 00 43 00");
-    expectFields(ShortDriverRecord{}, "00 00  00 00  00 00");
+    expectRecord(ShortDriverRecord{}, "00 00  00 00  00 00");
     EXPECT_EQ(fromFields<ShortDriverRecord>("00 00  04 00 3D D8 00 DE  03 00 43 00 44  FF"),
               (ShortDriverRecord{.driverId = {}, .version = movedUp, .comment = u"C"}));
     EXPECT_EQ(fromFields<ShortDriverRecord>(longest8 + longest16 + longest16).comment, longestWide);
 }
 
 TEST(DriverDeploymentRecord, isWhatIsDeployedForWhatAndHow) {
-    expectFields(DriverDeploymentRecord{.version = u"2",
+    expectRecord(DriverDeploymentRecord{.version = u"2",
                                         .comment = u"C",
                                         .deploymentId = "x1",
                                         .osId = "o",
@@ -117,7 +117,7 @@ TEST(DriverDeploymentRecord, isWhatIsDeployedForWhatAndHow) {
                                         .install = '0',
                                         .installMethod = 2},
                  "02 00 32 00  02 00 43 00  02 00 78 31  01 00 6F  02 00 57 00  04 00 64 00 65 00  01 30 02");
-    expectFields(DriverDeploymentRecord{}, "00 00  00 00  00 00  00 00  00 00  00 00  00 00 00");
+    expectRecord(DriverDeploymentRecord{}, "00 00  00 00  00 00  00 00  00 00  00 00  00 00 00");
 }
 
 TEST(DriverDeploymentRecord, readsTextOfEveryLength) {
@@ -162,12 +162,12 @@ TEST(DriverRecords, sendTextOutsideTheBasicPlaneFurtherUp) {
 }
 
 TEST(GetModelOctetOrderReply, isTheOrder) {
-    expectFields(GetModelOctetOrderReply{.octetOrder = 0x80000002}, "02 00 00 80");
+    expectRecord(GetModelOctetOrderReply{.octetOrder = 0x80000002}, "02 00 00 80");
     EXPECT_EQ(fromFields<GetModelOctetOrderReply>("01 00 00 00 FF").octetOrder, 1U);
 }
 
 TEST(CountDeploymentConfigsReply, isTheQueuesWithConfigurationsAndThenAllOfThem) {
-    expectFields(CountDeploymentConfigsReply{.queuesWithConfigs = 3, .totalQueues = 258}, "03 00 00 00  02 01 00 00");
+    expectRecord(CountDeploymentConfigsReply{.queuesWithConfigs = 3, .totalQueues = 258}, "03 00 00 00  02 01 00 00");
     EXPECT_EQ(fromFields<CountDeploymentConfigsReply>("01 00 00 00  02 00 00 00  FF").totalQueues, 2U);
 }
 

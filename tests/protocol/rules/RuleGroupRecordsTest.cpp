@@ -12,7 +12,7 @@ const RuleGroupRecord ordinaryGroup{.id = "g1", .name = u"Ä", .comment = u"C", 
 const std::string behindGroupName = "02 00 43 00 02 00 78 00 00 00";
 const std::string groupFields = "02 00 67 31 02 00 C4 00" + behindGroupName;
 
-RuleEntryRecord ordinaryEntry() {
+RuleEntryRecord ordinaryRuleEntry() {
     return {.type = ruleEntryType::shortId,
             .id = "e1",
             .typeText = u"T",
@@ -25,7 +25,7 @@ RuleEntryRecord ordinaryEntry() {
 }
 const std::string beforeEntryName = "0A 02 00 65 31 02 00 54 00";
 const std::string behindEntryName = "02 00 43 00 02 00 41 00 01 00 74 01 00 70 01 00 61";
-const std::string entryFields = beforeEntryName + "02 00 4E 00" + behindEntryName;
+const std::string ruleEntryFields = beforeEntryName + "02 00 4E 00" + behindEntryName;
 
 TEST(RuleGroupRecord, theTextsOfTheServerAreCarriedAlong) {
     expectFields(ordinaryGroup, groupFields);
@@ -75,8 +75,8 @@ TEST(ListAffectedRequest, anEmptyFilterListsAll) {
 }
 
 TEST(RuleEntryRecord, theTypeComesFirst) {
-    expectFields(ordinaryEntry(), entryFields);
-    expectNoShorterMessage<RuleEntryRecord>(entryFields);
+    expectFields(ordinaryRuleEntry(), ruleEntryFields);
+    expectNoShorterMessage<RuleEntryRecord>(ruleEntryFields);
 }
 
 TEST(RuleEntryRecord, aNewOneHasNoTextForItsType) {
@@ -102,14 +102,14 @@ TEST(RemoveRuleEntryRequest, isAThreeTheIdAndTheTypeInTwoBytes) {
 }
 
 TEST(AddRuleEntryRequest, theNumberAndTheTwoIdsStandBeforeTheEntry) {
-    expectFields(AddRuleEntryRequest{.ownerNumber = 0, .parentId = "p", .ownerId = "g1", .entry = ordinaryEntry()},
-                 "05 00 00 00 00 01 00 70 02 00 67 31" + entryFields);
-    expectFields(AddRuleEntryRequest{.ownerNumber = 12, .parentId = {}, .ownerId = {}, .entry = ordinaryEntry()},
-                 "05 0C 00 00 00 00 00 00 00" + entryFields);
+    expectFields(AddRuleEntryRequest{.ownerNumber = 0, .parentId = "p", .ownerId = "g1", .entry = ordinaryRuleEntry()},
+                 "05 00 00 00 00 01 00 70 02 00 67 31" + ruleEntryFields);
+    expectFields(AddRuleEntryRequest{.ownerNumber = 12, .parentId = {}, .ownerId = {}, .entry = ordinaryRuleEntry()},
+                 "05 0C 00 00 00 00 00 00 00" + ruleEntryFields);
 }
 
 TEST(UpdateRuleEntryRequest, isActionEightyEight) {
-    expectFields(UpdateRuleEntryRequest{.entry = ordinaryEntry()}, "58" + entryFields);
+    expectFields(UpdateRuleEntryRequest{.entry = ordinaryRuleEntry()}, "58" + ruleEntryFields);
 }
 
 TEST(RuleEntryType, eachHasItsLabel) {

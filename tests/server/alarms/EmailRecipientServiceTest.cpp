@@ -8,7 +8,7 @@ namespace {
 using protocol::EmailRecipientRecord;
 using test::AlarmEstate;
 
-constexpr std::uint16_t sendMail = 1;
+constexpr std::uint16_t sendsMail = 1;
 
 TEST(EmailRecipientService, aNewRecipientGetsAnIdAndTheStateThatItComesWith) {
     AlarmEstate place;
@@ -60,8 +60,8 @@ TEST(EmailRecipientService, aDeleteTakesTheActionsThatGoToTheRecipient) {
     const auto jo = place.addRecipient(u"Jo");
     const auto other = place.addRecipient(u"Other");
     const auto program = place.addProgram(u"P");
-    place.addAction(program, "paper-jam", sendMail, jo);
-    place.addAction(program, "paper-jam", sendMail, other);
+    place.addAction(program, "paper-jam", sendsMail, jo);
+    place.addAction(program, "paper-jam", sendsMail, other);
     EXPECT_TRUE(isDone(place.recipientService().write({.id = jo, .name = {}, .email = {}})));
     ASSERT_EQ(place.actionsOf(program).size(), 1U);
     EXPECT_EQ(place.actionsOf(program)[0].recipient, u"Other");

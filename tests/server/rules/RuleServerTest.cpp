@@ -10,7 +10,7 @@ using support::hex;
 using support::toHex;
 using namespace test; // the words of requests
 
-const std::string uuid = "0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480";
+const std::string uuidText = "0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480";
 
 Bytes group(const std::string& id, const std::u16string& name) {
     return str8(id) + str16(name) + str16(u"") + str16(u"") + str16(u"");
@@ -149,10 +149,10 @@ TEST_F(RuleServer, aPageLimitThatIsNotThereIsAnsweredWithAClosedConnection) {
 TEST_F(RuleServer, aUserMessageIsAddedChangedListedAndDeletedUnlessItIsBuiltIn) {
     const auto builtIn = list(67, u8(1) + str8(""));
     EXPECT_EQ(builtIn.size(), 5U);
-    change(68, u8(1) + userMessage(uuid, u"A"));
-    change(68, u8(2) + userMessage(uuid, u"A first"));
-    EXPECT_EQ(list(67, u8(1) + str8("")).at(0), userMessage(uuid, u"A first"));
-    change(68, u8(3) + str8(uuid));
+    change(68, u8(1) + userMessage(uuidText, u"A"));
+    change(68, u8(2) + userMessage(uuidText, u"A first"));
+    EXPECT_EQ(list(67, u8(1) + str8("")).at(0), userMessage(uuidText, u"A first"));
+    change(68, u8(3) + str8(uuidText));
     change(68, u8(3) + str8("b1d5c1f0-6a0e-4c6b-9a53-0f5f2f6d0a01"));
     change(68, u8(1) + userMessage("no uuid", u"B"));
     EXPECT_EQ(list(67, u8(1) + str8("")), builtIn);
@@ -180,13 +180,13 @@ TEST_F(RuleServer, aPriceThatIsNoNumberIsABadRequest) {
 }
 
 TEST_F(RuleServer, aShortIdIsAddedChangedListedAndDeleted) {
-    change(83, shortId(uuid, u"One"));
-    EXPECT_EQ(list(81, {}), Records{shortId(uuid, u"One")});
-    change(84, shortId(uuid, u"Two"));
-    change(83, shortId(uuid, u"Taken"));
+    change(83, shortId(uuidText, u"One"));
+    EXPECT_EQ(list(81, {}), Records{shortId(uuidText, u"One")});
+    change(84, shortId(uuidText, u"Two"));
+    change(83, shortId(uuidText, u"Taken"));
     change(83, shortId("", u"Without an id"));
-    EXPECT_EQ(list(81, {}), Records{shortId(uuid, u"Two")});
-    change(82, str8(uuid));
+    EXPECT_EQ(list(81, {}), Records{shortId(uuidText, u"Two")});
+    change(82, str8(uuidText));
     EXPECT_EQ(list(81, {}), Records{});
 }
 

@@ -17,12 +17,12 @@ using namespace std::chrono_literals;
 
 const auto emptyList = "01 07 00 00 00 08 00 00 00 01 07 00 00 00 00 00";
 
-Bytes listRegions() {
+Bytes requestForRegions() {
     return request(0, u8(0) + u32(0) + u16(0));
 }
 
 bool answers(const RunningServer& server) {
-    return toHex(ask(server.port(), listRegions())) == emptyList;
+    return toHex(ask(server.port(), requestForRegions())) == emptyList;
 }
 
 Bytes answerTo(const RunningServer& server, const Bytes& bytes) {
@@ -92,7 +92,7 @@ TEST(HostilePeer, everyTruncatedCommandIsDroppedWhole) {
 TEST(HostilePeer, everyFlippedBitLeavesTheServerAnswering) {
     RunningServer server;
     server.start();
-    const auto whole = listRegions();
+    const auto whole = requestForRegions();
     for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
         auto bytes = whole;
         bytes[bit / 8] = static_cast<std::uint8_t>(bytes[bit / 8] ^ (1U << (bit % 8)));
@@ -114,7 +114,7 @@ TEST(HostilePeer, garbageLeavesTheServerAnswering) {
             bytes = request(static_cast<std::uint16_t>(random() % 90), bytes, round % 3 == 0 ? 2 : 1);
         (void)answerTo(server, bytes);
     }
-    const auto answer = ask(server.port(), listRegions());
+    const auto answer = ask(server.port(), requestForRegions());
     EXPECT_GE(answer.size(), 16U);
 }
 
@@ -184,7 +184,7 @@ TEST(HostilePeer, oneAddressHoldsOnlySoManyConnectionsWithoutACommand) {
         silent.emplace_back(server.port());
     EXPECT_TRUE(silent[0].isClosedSilently());
     EXPECT_TRUE(silent[1].isClosedSilently());
-    EXPECT_EQ(toHex(silent[5].send(listRegions()).receiveAll()), emptyList);
+    EXPECT_EQ(toHex(silent[5].send(requestForRegions()).receiveAll()), emptyList);
     EXPECT_TRUE(answers(server));
 }
 
@@ -193,7 +193,7 @@ TEST(HostilePeer, changesBeyondTheNumberOfConnectionsWaitOutsideAndAreAllDone) {
     server.start();
     for (std::size_t count = 1; count <= 60; ++count)
         tell(server.port(), request(1, u8(0) + u32(0) + str16(std::u16string(count, u'x'))));
-    const auto answer = messagesOf(ask(server.port(), listRegions()));
+    const auto answer = messagesOf(ask(server.port(), requestForRegions()));
     EXPECT_EQ(FieldCursor(answer.at(0)).number(2), 60U);
 }
 
@@ -202,7 +202,7 @@ TEST(HostilePeer, aResetLeavesTheServerAnswering) {
     server.start();
     for (int round = 0; round < 20; ++round) {
         TestClient client(server.port());
-        client.send(round % 2 == 0 ? listRegions() : hex("01 09 00 00"));
+        client.send(round % 2 == 0 ? requestForRegions() : hex("01 09 00 00"));
         client.reset();
     }
     EXPECT_TRUE(answers(server));

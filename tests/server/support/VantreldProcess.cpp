@@ -13,7 +13,7 @@ namespace server::test {
 
 namespace {
 
-constexpr int waitMilliseconds = 30000;
+constexpr int outputMilliseconds = 30000;
 constexpr auto listening = "listening on 127.0.0.1 port ";
 
 } // namespace
@@ -77,7 +77,7 @@ int VantreldProcess::wait() {
 
 bool VantreldProcess::readMore() {
     pollfd entry{.fd = pipe_, .events = POLLIN, .revents = 0};
-    if (::poll(&entry, 1, waitMilliseconds) != 1)
+    if (::poll(&entry, 1, outputMilliseconds) != 1)
         throw std::runtime_error("vantreld says nothing: " + output_);
     std::array<char, 4096> piece{};
     const auto count = ::read(pipe_, piece.data(), piece.size());
