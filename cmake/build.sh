@@ -1,31 +1,54 @@
 # shellcheck shell=bash
-# For sourcing by the commands at the root: say, and buildPreset.
+# For sourcing by the commands at the root: say, configurePreset and buildPreset.
 
 say() { echo "==> $*"; }
 
-# What one checkout has compiled serves all others: paths below the checkout count as relative ones.
+# What one checkout has compiled serves all others: paths below the checkout count as relative ones, the date of a header
+# does not count, and precompiled headers are let in.
 CCACHE_BASEDIR="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-export CCACHE_BASEDIR CCACHE_NOHASHDIR=1
+CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+export CCACHE_BASEDIR CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS
 
-# buildPreset <preset> [<target>...]: configures and builds; shows nothing but the progress on a terminal, and on a
-# failure the errors.
+# configurePreset <preset>: shows nothing, or on a failure all.
+configurePreset() {
+    local output status=0
+    output="$(mktemp)"
+    cmake --preset "$1" >"$output" 2>&1 || status=1
+    ((status == 0)) || cat "$output" >&2
+    rm -f "$output"
+    return "$status"
+}
+
+# Says every half minute how far the build is that writes to the file named.
+sayProgress() {
+    local begin=$SECONDS last
+    while sleep 30 >/dev/null 2>&1; do # it may outlive us, and must not hold our output open
+        last="$(grep -E '^\[[0-9]+/[0-9]+\] ' "$1" | tail -n 1)"
+        [[ -z "$last" ]] || echo "    ${last%%]*}] after $((SECONDS - begin)) s"
+    done
+}
+
+# buildPreset <preset> [<target>...]: configures and builds; shows nothing but the progress, and on a failure the errors.
 buildPreset() {
     local preset="$1"
     shift
-    local targets=() output status=0
+    local targets=() output progress status=0
     (($# == 0)) || targets=(--target "$@")
-    output="$(mktemp)"
     say "Building build/$preset (quick when nothing changed)"
-    if ! cmake --preset "$preset" >"$output" 2>&1; then
-        cat "$output" >&2
+    if ! configurePreset "$preset"; then
         status=1
     elif [[ -t 1 ]]; then
         cmake --build --preset "$preset" "${targets[@]}" || status=1
-    elif ! cmake --build --preset "$preset" "${targets[@]}" >"$output" 2>&1; then
-        grep -E -A 12 'error|FAILED' "$output" >&2 || tail -n 40 "$output" >&2
-        status=1
+    else
+        output="$(mktemp)"
+        sayProgress "$output" &
+        progress=$!
+        cmake --build --preset "$preset" "${targets[@]}" >"$output" 2>&1 || status=1
+        kill "$progress" 2>/dev/null || true
+        wait "$progress" 2>/dev/null || true
+        ((status == 0)) || grep -E -A 12 'error|FAILED' "$output" >&2 || tail -n 40 "$output" >&2
+        rm -f "$output"
     fi
-    rm -f "$output"
     ((status == 0)) || echo "${0##*/}: the build failed" >&2
     return "$status"
 }

@@ -1,0 +1,172 @@
+# A source alone is compiled in a second or two, and spends most of that on headers that the next one reads again. Here
+# sources are compiled in batches, and those that use Qt or GoogleTest with precompiled headers.
+
+# Headers of other people only, so that a change of one of ours does not make all of them anew.
+set(VANTREL_STANDARD_HEADERS
+    <algorithm> <array> <chrono> <cstdint> <filesystem> <functional> <map> <memory> <optional> <set> <span> <sstream>
+    <stdexcept> <string> <string_view> <utility> <vector>)
+set(VANTREL_QT_HEADERS
+    <QAbstractTableModel> <QApplication> <QCheckBox> <QComboBox> <QDateTimeEdit> <QDialog> <QHBoxLayout> <QHeaderView> <QIcon>
+    <QImage> <QKeyEvent> <QLabel> <QLineEdit> <QLocale> <QMainWindow> <QMenu> <QMimeData> <QPainter> <QPlainTextEdit>
+    <QPushButton> <QScrollBar> <QSortFilterProxyModel> <QString> <QStyle> <QTimer> <QTreeView> <QVBoxLayout> <QWidget>)
+set(VANTREL_TEST_HEADERS <gmock/gmock.h> <gtest/gtest.h>)
+
+# How many sources a batch has: so few that one changed source costs little, and that two processors share a folder.
+set(VANTREL_BATCH 10)
+
+# Sources that take names for their own use which another of their folder takes too: compiled alone.
+set(VANTREL_COMPILED_ALONE
+    "src/printers/PrintersRootNode.cpp"
+    "src/rules/(PricePlan|RuleGroup|ShortIdResult)Node.cpp")
+list(JOIN VANTREL_COMPILED_ALONE | VANTREL_COMPILED_ALONE)
+
+# Adds the targets that the one named links to, however far below.
+function(vantrel_collect_used target found_variable)
+    set(found ${${found_variable}})
+    get_target_property(direct ${target} LINK_LIBRARIES)
+    get_target_property(passed_on ${target} INTERFACE_LINK_LIBRARIES)
+    foreach(name IN LISTS direct passed_on)
+        if(TARGET "${name}" AND NOT name IN_LIST found)
+            list(APPEND found ${name})
+            get_target_property(imported ${name} IMPORTED)
+            if(NOT imported)
+                vantrel_collect_used(${name} found)
+            endif()
+        endif()
+    endforeach()
+    set(${found_variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# Adds the targets of a folder and of those below it.
+function(vantrel_collect_targets folder found_variable)
+    set(found ${${found_variable}})
+    get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+    list(APPEND found ${targets})
+    get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
+    foreach(below IN LISTS folders)
+        vantrel_collect_targets(${below} found)
+    endforeach()
+    set(${found_variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# vantrel_precompiled(<kind> HEADERS ... USES ...): the target whose precompiled headers all others of the kind share.
+function(vantrel_precompiled kind)
+    cmake_parse_arguments(ARG "" "" "HEADERS;USES" ${ARGN})
+    set(source ${PROJECT_BINARY_DIR}/precompiled/${kind}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "// A target needs a source.\n")
+    add_library(precompiled_${kind} OBJECT EXCLUDE_FROM_ALL ${source})
+    target_link_libraries(precompiled_${kind} PRIVATE vantrel_options ${ARG_USES})
+    target_precompile_headers(precompiled_${kind} PRIVATE ${VANTREL_STANDARD_HEADERS} ${ARG_HEADERS})
+endfunction()
+
+function(vantrel_precompile)
+    if(TARGET GTest::gmock)
+        vantrel_precompiled(tests HEADERS ${VANTREL_TEST_HEADERS} USES GTest::gmock)
+    endif()
+    if(TARGET Qt6::Widgets)
+        vantrel_precompiled(qt HEADERS ${VANTREL_QT_HEADERS} USES Qt6::Widgets)
+    endif()
+    if(TARGET GTest::gmock AND TARGET Qt6::Widgets)
+        vantrel_precompiled(qt_tests HEADERS ${VANTREL_QT_HEADERS} ${VANTREL_TEST_HEADERS} USES Qt6::Widgets GTest::gmock)
+    endif()
+endfunction()
+
+# Gives a target the precompiled headers that go with the libraries that it uses.
+function(vantrel_reuse_precompiled target)
+    set(kind "")
+    if(Qt6::Gui IN_LIST ARGN OR Qt6::Widgets IN_LIST ARGN)
+        list(APPEND kind qt)
+    endif()
+    if(GTest::gtest IN_LIST ARGN OR GTest::gmock IN_LIST ARGN)
+        list(APPEND kind tests)
+    endif()
+    if(kind)
+        list(JOIN kind _ kind)
+        target_precompile_headers(${target} REUSE_FROM precompiled_${kind})
+        # g++ 12 finds fault with the standard library's own std::string when that was precompiled.
+        target_compile_options(${target} PRIVATE
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread>)
+    endif()
+endfunction()
+
+# Whether a source can share a batch: it has no options or definitions of its own.
+function(vantrel_can_batch target source result)
+    set(can FALSE)
+    cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE name)
+    if(name MATCHES "[.]cpp$" AND NOT name MATCHES "^(${VANTREL_COMPILED_ALONE})$")
+        set(can TRUE)
+        foreach(property GENERATED COMPILE_OPTIONS COMPILE_DEFINITIONS)
+            get_source_file_property(value ${source} TARGET_DIRECTORY ${target} ${property})
+            if(value)
+                set(can FALSE)
+            endif()
+        endforeach()
+    endif()
+    set(${result} ${can} PARENT_SCOPE)
+endfunction()
+
+# Writes the sources that include those named, and adds them to the list. The paths in them are the same in every checkout,
+# so that what one has compiled serves the others.
+function(vantrel_write_batches name sources_variable)
+    list(LENGTH ARGN total)
+    math(EXPR batches "(${total} + ${VANTREL_BATCH} - 1) / ${VANTREL_BATCH}")
+    set(sources ${${sources_variable}})
+    foreach(batch RANGE 1 ${batches})
+        math(EXPR from "${total} * (${batch} - 1) / ${batches}")
+        math(EXPR count "${total} * ${batch} / ${batches} - ${from}")
+        list(SUBLIST ARGN ${from} ${count} members)
+        set(source ${PROJECT_BINARY_DIR}/batches/${name}_${batch}.cpp)
+        set(text "")
+        foreach(member IN LISTS members)
+            cmake_path(RELATIVE_PATH member BASE_DIRECTORY ${PROJECT_BINARY_DIR}/batches)
+            string(APPEND text "#include \"${member}\"\n")
+        endforeach()
+        file(CONFIGURE OUTPUT ${source} CONTENT "${text}" @ONLY)
+        list(APPEND sources ${source})
+    endforeach()
+    set(${sources_variable} ${sources} PARENT_SCOPE)
+endfunction()
+
+# Lets a target compile its sources in batches, each of sources of one folder.
+function(vantrel_batch target)
+    get_target_property(all ${target} SOURCES)
+    get_target_property(home ${target} SOURCE_DIR)
+    set(folders "")
+    set(sources "")
+    foreach(source IN LISTS all)
+        cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${home} NORMALIZE)
+        vantrel_can_batch(${target} ${source} can)
+        if(can)
+            cmake_path(GET source PARENT_PATH folder)
+            cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
+            string(MAKE_C_IDENTIFIER ${folder} folder)
+            list(APPEND folders ${folder})
+            list(APPEND of_${folder} ${source})
+        else()
+            list(APPEND sources ${source})
+        endif()
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    foreach(folder IN LISTS folders)
+        vantrel_write_batches(${target}_${folder} sources ${of_${folder}})
+    endforeach()
+    set_property(TARGET ${target} PROPERTY SOURCES ${sources})
+    # For g++ a source in a batch is a header, in which a class must not have members of an unnamed namespace.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endfunction()
+
+# To be called when all targets are there.
+function(vantrel_build_quickly)
+    set(targets "")
+    vantrel_collect_targets(${PROJECT_SOURCE_DIR} targets)
+    vantrel_precompile()
+    foreach(target IN LISTS targets)
+        set(used "")
+        vantrel_collect_used(${target} used)
+        get_target_property(type ${target} TYPE)
+        if(vantrel_options IN_LIST used AND type MATCHES "^(EXECUTABLE|STATIC_LIBRARY)$")
+            vantrel_reuse_precompiled(${target} ${used})
+            vantrel_batch(${target})
+        endif()
+    endforeach()
+endfunction()
