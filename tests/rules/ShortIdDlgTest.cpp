@@ -16,13 +16,13 @@ using protocol::ShortIdRecord;
 using protocol::UpdateShortIdRequest;
 using rules::ShortIdDlg;
 
-const wire::Uuid knownShortId = wire::parseUuid("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480");
-const wire::Uuid shownMessageId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
+const wire::Uuid knownId = wire::parseUuid("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480");
+const wire::Uuid quotaId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
 
 // A rule that stands on the server.
 ShortIdRecord lobby() {
     ShortIdRecord record;
-    record.id = knownShortId;
+    record.id = knownId;
     record.name = u"Lobby";
     record.comment = u"Ground floor";
     return record;
@@ -32,7 +32,7 @@ class ShortIdDialog : public ::testing::Test {
 protected:
     ShortIdDialog() {
         protocol::UserMessageRecord quota;
-        quota.id = shownMessageId;
+        quota.id = quotaId;
         quota.name = u"Quota";
         estate_.messages = {quota};
     }
@@ -220,7 +220,7 @@ TEST_F(ShortIdDialog, addsANewRuleWithAFreshId) {
     EXPECT_EQ(added().id.version(), wire::Uuid::version_random_number_based);
     EXPECT_EQ(added().name, u"Lobby");
     EXPECT_EQ(added().comment, u"Ground floor");
-    EXPECT_EQ(added().messageId, shownMessageId);
+    EXPECT_EQ(added().messageId, quotaId);
     EXPECT_EQ(added().validMinutes, 180U);
     EXPECT_EQ(added().reservedMinutes, 30U);
     EXPECT_EQ(added().reservedUntil, std::nullopt);
@@ -344,7 +344,7 @@ TEST_F(ShortIdDialog, anyTimeOfTheRuleChecksValidFor) {
 
 TEST_F(ShortIdDialog, showsTheRuleToEdit) {
     auto record = lobby();
-    record.messageId = shownMessageId;
+    record.messageId = quotaId;
     ShortIdDlg dialog(platform_, record);
 
     dialog.open();
@@ -358,7 +358,7 @@ TEST_F(ShortIdDialog, showsTheRuleToEdit) {
 
 TEST_F(ShortIdDialog, updatesAnEditedRule) {
     auto record = lobby();
-    record.messageId = shownMessageId;
+    record.messageId = quotaId;
     ShortIdDlg dialog(platform_, record);
     dialog.open();
     dialog.comment.userTyped(u"");
