@@ -339,7 +339,7 @@ TEST_F(PrinterRegion, thatHoldsAFollowPrintQueueIsNotDeleted) {
 TEST_F(PrinterRegion, isNotDeletedWhenItsListOfPrintersBreaksOff) {
     expandNode(u"Printers");
     estate_.brokenLists = {{6, support::frame({support::dataMessage(support::hex("02 00"))})}};
-    platform_.ui.expectBox(Answer::ok, question);
+    platform_.ui.expectBox(Answer::ok, deleteQuestion);
     platform_.ui.expectBox(Answer::ok, notEmpty);
 
     EXPECT_EQ(nodeOf(console_, u"South")->Command(302, DataObjectType::scope), Result::notDone);
