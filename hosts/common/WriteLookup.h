@@ -96,15 +96,13 @@ std::optional<Request> listWith(const std::vector<Request>& lists, Id Record::*i
     return found != lists.end() ? std::optional(*found) : std::nullopt;
 }
 
-// The same two for a record whose list the write does not name. A record that has gone from all lists is not changed.
+// The same two for a record whose list the write does not name. Nothing is to be seen of one that is in no list: the
+// dialog of a price plan changes the rule entry that it was opened from, whether that is on the server yet or not.
 template <class Record, class Request, class Id, class Rest>
 Shows showsChangedAmong(const std::vector<Request>& lists, Id Record::*id, const std::type_identity_t<Id>& wanted,
                         Rest rest) {
-    if (lists.empty()) {
-        return {};
-    }
     const auto list = listWith<Record>(lists, id, wanted);
-    return list ? showsChanged<Record>(*list, id, wanted, rest) : Shows([] { return false; });
+    return list ? showsChanged<Record>(*list, id, wanted, rest) : Shows();
 }
 
 template <class Record, class Request, class Id>

@@ -192,8 +192,14 @@ TEST_F(WriteCheck, seesRuleEntriesInTheListsThatTheConsoleHasRead) {
     entry.type = 99;
     expectRefused("WriteRuleObject", [&] { return client.updateRuleEntry(entry); });
     expectDone([&] { return client.removeRuleEntry(entry.id, 1); });
-    entry.type = 1;
-    expectRefused("WriteRuleObject", [&] { return client.updateRuleEntry(entry); });
+}
+
+// As the dialog of a price plan changes the entry that it was opened from; this must stay.
+TEST_F(WriteCheck, doesNotMindAChangeOfARuleEntryThatIsNotThereYet) {
+    std::vector<protocol::RuleEntryRecord> entries;
+    ASSERT_TRUE(client.listRuleEntries({}, 0, entries));
+
+    expectDone([&] { return client.updateRuleEntry(client::newRecord<protocol::RuleEntryRecord>()); });
 }
 
 TEST_F(WriteCheck, seesRecipientsPlansAndRanges) {
