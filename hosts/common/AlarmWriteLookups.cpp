@@ -41,7 +41,7 @@ Shows actionDeleted(const DeleteProgramActionRequest& request, const SeenRequest
                                                request.actionId);
 }
 
-constexpr std::array lookups = {
+constexpr std::array alarmLookups = {
     lookup<WriteEmailRecipientRequest, recipientWritten>(),
     lookup<SetRecipientActiveRequest, recipientSwitched>(),
     lookup<AddProgramActionRequest, actionAdded>(),
@@ -51,7 +51,7 @@ constexpr std::array lookups = {
 } // namespace
 
 std::span<const WriteLookup> alarmWriteLookups() {
-    return lookups;
+    return alarmLookups;
 }
 
 } // namespace common

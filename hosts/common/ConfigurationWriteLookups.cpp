@@ -57,7 +57,7 @@ Shows appliedForDriver(const ApplyConfigurationForDriverRequest& request) {
     };
 }
 
-constexpr std::array lookups = {
+constexpr std::array configurationLookups = {
     lookup<ApplyQueueConfigurationRequest, applied>(),
     lookup<SetConfigurationCommentRequest, commented>(),
     lookup<DeleteConfigurationRequest, deleted>(),
@@ -68,7 +68,7 @@ constexpr std::array lookups = {
 } // namespace
 
 std::span<const WriteLookup> configurationWriteLookups() {
-    return lookups;
+    return configurationLookups;
 }
 
 } // namespace common

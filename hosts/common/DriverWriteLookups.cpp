@@ -57,7 +57,7 @@ Shows alternateRemoved(const RemoveAlternateDriverRequest& request) {
                                         request.alternateModelId);
 }
 
-Shows octetOrderSet(const SetModelOctetOrderRequest& request) {
+Shows modelOctetOrderSet(const SetModelOctetOrderRequest& request) {
     return [=] { return client::CQVXAdminClass().getModelOctetOrder(request.modelId).value() == request.octetOrder; };
 }
 
@@ -100,14 +100,14 @@ constexpr WriteLookup removal = [] {
     return one;
 }();
 
-constexpr std::array lookups = {
+constexpr std::array driverLookups = {
     lookup<DeleteDriverRequest, driverDeleted>(),
     lookup<AddDriverModelRequest, modelAdded>(),
     lookup<SetDriverModelVisibleRequest, modelShown>(),
     lookup<AddBuiltInDriverRequest, builtInAdded>(),
     lookup<AddAlternateDriverRequest, alternateAdded>(),
     lookup<RemoveAlternateDriverRequest, alternateRemoved>(),
-    lookup<SetModelOctetOrderRequest, octetOrderSet>(),
+    lookup<SetModelOctetOrderRequest, modelOctetOrderSet>(),
     lookup<AddDriverDeploymentRequest, deployed>(),
     removal, // before the change, which it looks like
     lookup<UpdateDriverDeploymentRequest, deploymentChanged>(),
@@ -116,7 +116,7 @@ constexpr std::array lookups = {
 } // namespace
 
 std::span<const WriteLookup> driverWriteLookups() {
-    return lookups;
+    return driverLookups;
 }
 
 } // namespace common

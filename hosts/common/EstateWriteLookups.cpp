@@ -70,24 +70,24 @@ Shows recordDeleted(const DeleteRecordRequest& request) {
     return showsGone<PrinterRecord>(byId(request.id, mode), &PrinterRecord::id, request.id);
 }
 
-Shows octetOrderSet(const SetStatusOctetOrderRequest& request) {
+Shows statusOctetOrderSet(const SetStatusOctetOrderRequest& request) {
     return [=] { return client::CQVXAdminClass().getStatusOctetOrder(request.printerId).value() == request.order; };
 }
 
-constexpr std::array lookups = {
+constexpr std::array estateLookups = {
     lookup<CreateRegionRequest, created>(),
     lookup<RenameRegionRequest, renamed>(),
     lookup<MoveRegionRequest, moved>(),
     lookup<DeleteRegionRequest, regionDeleted>(),
     lookup<MovePrinterRequest, printerMoved>(),
     lookup<DeleteRecordRequest, recordDeleted>(),
-    lookup<SetStatusOctetOrderRequest, octetOrderSet>(),
+    lookup<SetStatusOctetOrderRequest, statusOctetOrderSet>(),
 };
 
 } // namespace
 
 std::span<const WriteLookup> estateWriteLookups() {
-    return lookups;
+    return estateLookups;
 }
 
 } // namespace common

@@ -66,7 +66,7 @@ Shows rangeChanged(const ChangeIpRangeRequest& request) {
     }
 }
 
-constexpr std::array lookups = {
+constexpr std::array inventoryLookups = {
     lookup<ChangeSchemaRequest, planChanged>(),
     lookup<CreateInventoryReportRequest, reportCreated>(),
     lookup<DeleteInventoryReportRequest, reportDeleted>(),
@@ -76,7 +76,7 @@ constexpr std::array lookups = {
 } // namespace
 
 std::span<const WriteLookup> inventoryWriteLookups() {
-    return lookups;
+    return inventoryLookups;
 }
 
 } // namespace common

@@ -135,7 +135,7 @@ Shows shortIdDeleted(const DeleteShortIdRequest& request) {
     return showsGone<ShortIdRecord>(ListShortIdsRequest{}, &ShortIdRecord::id, request.id);
 }
 
-constexpr std::array lookups = {
+constexpr std::array ruleLookups = {
     lookup<WriteRuleGroupRequest, groupWritten>(),      lookup<DeleteRuleGroupRequest, groupDeleted>(),
     lookup<WriteAffectedRequest, affectedWritten>(),    lookup<DeleteAffectedRequest, affectedDeleted>(),
     lookup<AddRuleEntryRequest, entryAdded>(),          lookup<UpdateRuleEntryRequest, entryChanged>(),
@@ -149,7 +149,7 @@ constexpr std::array lookups = {
 } // namespace
 
 std::span<const WriteLookup> ruleWriteLookups() {
-    return lookups;
+    return ruleLookups;
 }
 
 } // namespace common

@@ -15,7 +15,7 @@ using rules::MessageControl;
 using rules::NewMessageDlg;
 using Names = std::vector<wire::WideString>;
 
-const wire::Uuid quotaId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
+const wire::Uuid ownMessageId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
 const wire::Uuid colorId = wire::parseUuid("00000000-0000-4000-8000-000000000002");
 
 protocol::UserMessageRecord message(const wire::Uuid& id, wire::WideString name, bool builtIn = false) {
@@ -36,7 +36,7 @@ public:
 
 class Messages : public ::testing::Test {
 protected:
-    Messages() { estate_.messages = {message(quotaId, u"Quota", true), message(colorId, u"Color")}; }
+    Messages() { estate_.messages = {message(ownMessageId, u"Quota", true), message(colorId, u"Color")}; }
 
     Names rows() const {
         Names names;
@@ -72,10 +72,10 @@ TEST_F(Messages, areListedOnceHoweverOftenTheyAreRead) {
 }
 
 TEST_F(Messages, theOneAskedForIsSelected) {
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
 
     EXPECT_EQ(control_.list.selectedText(), u"Quota");
-    EXPECT_EQ(control_.selectedId(), quotaId);
+    EXPECT_EQ(control_.selectedId(), ownMessageId);
 }
 
 TEST_F(Messages, theLastOneIsSelectedWhenNoneOrAnUnknownOneIsAskedFor) {
@@ -87,7 +87,7 @@ TEST_F(Messages, theLastOneIsSelectedWhenNoneOrAnUnknownOneIsAskedFor) {
 }
 
 TEST_F(Messages, aBuiltInOneCanBeEditedButNotDeleted) {
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
 
     expectButtons(true, false);
 }
@@ -117,10 +117,10 @@ TEST_F(Messages, aRowThatIsNotThereChangesNoButton) {
 }
 
 TEST_F(Messages, withNoRecordsTheListHoldsOnlyTheExtraItemsAndTheButtonsStayAsTheyWere) {
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
     estate_.messages.clear();
 
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
 
     EXPECT_EQ(rows(), (Names{u"<Default>", u"<New>"}));
     EXPECT_EQ(control_.list.selection(), std::nullopt);
@@ -175,7 +175,7 @@ TEST_F(Messages, theOwnerHearsOfASelectionOnceANewOneStandsInTheList) {
 }
 
 TEST_F(Messages, editShowsTheSelectedOneAndSelectsItAgain) {
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
     platform_.ui.expect<NewMessageDlg>([](NewMessageDlg& dialog) {
         EXPECT_EQ(dialog.title(), u"Edit Message");
         EXPECT_EQ(dialog.name.text(), u"Quota");
@@ -201,8 +201,8 @@ TEST_F(Messages, deleteRemovesAtOnceWithNoConfirmation) {
 }
 
 TEST_F(Messages, oneWithoutANameIsNeitherEditedNorDeletedNorChosen) {
-    estate_.messages = {message(quotaId, u"")};
-    control_.fill(quotaId);
+    estate_.messages = {message(ownMessageId, u"")};
+    control_.fill(ownMessageId);
     expectButtons(true, true);
 
     control_.editButton.userPressed();
@@ -214,11 +214,11 @@ TEST_F(Messages, oneWithoutANameIsNeitherEditedNorDeletedNorChosen) {
 
 TEST_F(Messages, areNoneAndNotKnownWithoutAConnection) {
     EXPECT_FALSE(control_.known());
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
     EXPECT_TRUE(control_.known());
     estate_.goOffline();
 
-    control_.fill(quotaId);
+    control_.fill(ownMessageId);
 
     EXPECT_EQ(rows(), (Names{u"<Default>", u"<New>"}));
     EXPECT_TRUE(control_.messages().empty());

@@ -12,7 +12,7 @@ using client::CQVXAdminClass;
 using protocol::RegionKind;
 using Result = std::optional<std::string>;
 
-constexpr std::int32_t region = 1; // the first of the sample
+constexpr std::int32_t firstRegion = 1; // the first of the sample
 
 Result listRegions(CQVXAdminClass& client) {
     if (!client.listRegions(RegionKind::printersAndQueues))
@@ -41,14 +41,14 @@ Result listLocalPrinters(CQVXAdminClass& client) {
 Result createQueue(CQVXAdminClass& client) {
     protocol::PrinterRecord record;
     record.recordType = protocol::recordType::followQueue;
-    record.regionId = region;
+    record.regionId = firstRegion;
     record.name = u"Made over and over again";
     const auto reply = client.createRecord({}, record);
     return wire::toUtf8(reply.status.caption) + "\n";
 }
 
 Result createRegion(CQVXAdminClass& client) {
-    if (!client.createRegion(RegionKind::printersAndQueues, region, u"Made over and over again"))
+    if (!client.createRegion(RegionKind::printersAndQueues, firstRegion, u"Made over and over again"))
         return std::nullopt;
     return "sent\n";
 }

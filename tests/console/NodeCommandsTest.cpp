@@ -17,39 +17,39 @@ using testing::IsEmpty;
 
 using MenuItem = support::RecordingConsole::MenuItem;
 
-class NodeCommand : public testing::Test {
+class NodeCommands : public testing::Test {
 protected:
     support::TestPlatform platform;
     support::RecordingConsole host;
     std::shared_ptr<ShelfNode> shelf = std::make_shared<ShelfNode>(platform);
 };
 
-TEST_F(NodeCommand, menuEntriesComeInOrderWithTheirStatusTexts) {
+TEST_F(NodeCommands, menuEntriesComeInOrderWithTheirStatusTexts) {
     EXPECT_EQ(shelf->AddMenuItems(host, insertionAllowedTop, DataObjectType::scope), Result::ok);
     EXPECT_THAT(host.menu, ElementsAre(MenuItem{u"Add Box", u"To add a box", 12, 0}, MenuItem{u"", u"", 0, 0x800},
                                        MenuItem{u"Empty", u"To empty the shelf", 13, 0}));
 }
 
-TEST_F(NodeCommand, entriesAreAddedOnlyWhereTheTopOfTheMenuIsOpen) {
+TEST_F(NodeCommands, entriesAreAddedOnlyWhereTheTopOfTheMenuIsOpen) {
     EXPECT_EQ(shelf->AddMenuItems(host, ~insertionAllowedTop, DataObjectType::scope), Result::notDone);
     EXPECT_THAT(host.menu, IsEmpty());
     EXPECT_EQ(shelf->AddMenuItems(host, 0xF, DataObjectType::result), Result::ok);
     EXPECT_EQ(host.menu.size(), 3U);
 }
 
-TEST_F(NodeCommand, aNodeWithoutEntriesAddsNothing) {
+TEST_F(NodeCommands, aNodeWithoutEntriesAddsNothing) {
     const auto box = std::make_shared<BoxNode>(platform, "x", u"Box");
     EXPECT_EQ(box->AddMenuItems(host, insertionAllowedTop, DataObjectType::scope), Result::notDone);
     EXPECT_THAT(host.menu, IsEmpty());
 }
 
-TEST_F(NodeCommand, theHandlersResultIsAnsweredAndF5Pressed) {
+TEST_F(NodeCommands, theHandlersResultIsAnsweredAndF5Pressed) {
     shelf->command = [](std::int32_t id, CommandOrigin) { return id == 12 ? Result::ok : Result::notDone; };
     EXPECT_EQ(shelf->Command(12, DataObjectType::scope), Result::ok);
     EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5)));
 }
 
-TEST_F(NodeCommand, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF5) {
+TEST_F(NodeCommands, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF5) {
     const auto box = std::make_shared<BoxNode>(platform, "x", u"Box");
     EXPECT_EQ(shelf->Command(999, DataObjectType::scope), Result::notDone);
     EXPECT_EQ(box->Command(999, DataObjectType::scope), Result::notDone);
@@ -58,19 +58,19 @@ TEST_F(NodeCommand, aNumberThatTheClassDoesNotHandleHasNoEffectButMayStillPressF
     EXPECT_FALSE(shelf->lastExpand.has_value());
 }
 
-TEST_F(NodeCommand, theKeysAfterItAreOneSequence) {
+TEST_F(NodeCommands, theKeysAfterItAreOneSequence) {
     shelf->keys = {platform::Key::tab, platform::Key::f5};
     shelf->Command(12, DataObjectType::scope);
     EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::tab, platform::Key::f5)));
 }
 
-TEST_F(NodeCommand, withoutKeysAfterItNothingIsPressed) {
+TEST_F(NodeCommands, withoutKeysAfterItNothingIsPressed) {
     shelf->keys = {};
     shelf->Command(12, DataObjectType::scope);
     EXPECT_THAT(platform.ui.presses(), IsEmpty());
 }
 
-TEST_F(NodeCommand, theHandlerKnowsWhetherItWasReachedFromTheTree) {
+TEST_F(NodeCommands, theHandlerKnowsWhetherItWasReachedFromTheTree) {
     std::vector<CommandOrigin> origins;
     shelf->command = [&](std::int32_t, CommandOrigin origin) {
         origins.push_back(origin);
@@ -82,7 +82,7 @@ TEST_F(NodeCommand, theHandlerKnowsWhetherItWasReachedFromTheTree) {
     EXPECT_THAT(origins, ElementsAre(CommandOrigin::scope, CommandOrigin::result, CommandOrigin::result));
 }
 
-TEST_F(NodeCommand, whatAHandlerThrowsIsReportedShowsNoBoxAndSkipsF5) {
+TEST_F(NodeCommands, whatAHandlerThrowsIsReportedShowsNoBoxAndSkipsF5) {
     const std::vector<std::function<void()>> throwing{[] { throw "Reading outside scope"; },
                                                       [] { throw std::runtime_error("no connection"); },
                                                       [] { throw wire::Cancelled(); }, [] { throw 5; }};
@@ -101,7 +101,7 @@ TEST_F(NodeCommand, whatAHandlerThrowsIsReportedShowsNoBoxAndSkipsF5) {
     EXPECT_THAT(platform.ui.boxes(), IsEmpty());
 }
 
-TEST_F(NodeCommand, everyNotificationIsGuardedAsCommandsAre) {
+TEST_F(NodeCommands, everyNotificationIsGuardedAsCommandsAre) {
     shelf->pasting = []() -> Result { throw std::runtime_error("no connection"); };
     shelf->reading = [] { throw "Reading out of scope"; };
     Notification notification{.event = Event::paste, .source = shelf.get(), .componentData = &host};
@@ -113,7 +113,7 @@ TEST_F(NodeCommand, everyNotificationIsGuardedAsCommandsAre) {
                                                  "class ShelfNode: notification 32786: Reading out of scope"));
 }
 
-TEST_F(NodeCommand, anObserverThatThrowsDoesNotSpoilTheGuard) {
+TEST_F(NodeCommands, anObserverThatThrowsDoesNotSpoilTheGuard) {
     struct Thrower final : client::CommandObserver {
         void commandStarted(const client::CommandReport&) override {}
         void commandEnded(const client::CommandReport&) override {}
@@ -124,7 +124,7 @@ TEST_F(NodeCommand, anObserverThatThrowsDoesNotSpoilTheGuard) {
     EXPECT_EQ(shelf->Command(13, DataObjectType::scope), Result::notDone);
 }
 
-TEST_F(NodeCommand, aHandlerMayTakeAwayTheLastReferenceToItsOwnNode) {
+TEST_F(NodeCommands, aHandlerMayTakeAwayTheLastReferenceToItsOwnNode) {
     const std::weak_ptr<ShelfNode> watched = shelf;
     shelf->command = [this](std::int32_t, CommandOrigin) {
         shelf.reset();
@@ -136,7 +136,7 @@ TEST_F(NodeCommand, aHandlerMayTakeAwayTheLastReferenceToItsOwnNode) {
     EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::f5)));
 }
 
-TEST_F(NodeCommand, aDestructiveCommandAsksWithAWarning) {
+TEST_F(NodeCommands, aDestructiveCommandAsksWithAWarning) {
     platform.ui.expectBox(platform::Answer::ok, u"Empty the shelf?");
     platform.ui.expectBox(platform::Answer::cancel);
     EXPECT_TRUE(shelf->confirm(u"Empty the shelf?"));
@@ -146,7 +146,7 @@ TEST_F(NodeCommand, aDestructiveCommandAsksWithAWarning) {
     EXPECT_EQ(platform.ui.boxes()[0].owner, 0);
 }
 
-TEST_F(NodeCommand, aFormIsOwnedByTheActiveWindow) {
+TEST_F(NodeCommands, aFormIsOwnedByTheActiveWindow) {
     class Empty final : public forms::Form {
     public:
         explicit Empty(platform::Platform& where) : forms::Form(where, u"Empty") {}
@@ -156,7 +156,7 @@ TEST_F(NodeCommand, aFormIsOwnedByTheActiveWindow) {
     EXPECT_THAT(platform.ui.formOwners, ElementsAre(77));
 }
 
-TEST_F(NodeCommand, theTabKeyIsASequenceOfItsOwn) {
+TEST_F(NodeCommands, theTabKeyIsASequenceOfItsOwn) {
     shelf->PressTabKey();
     EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(platform::Key::tab)));
 }
