@@ -40,7 +40,6 @@ private:
     void fail(const Failure& failure);
     // Whether a step may be taken.
     bool goesOn();
-    platform::Answer statement(const std::string& line, std::uint32_t icon);
     void drive(forms::Form& form);
 
     std::ostream& errors_;

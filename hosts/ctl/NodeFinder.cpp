@@ -11,7 +11,7 @@ namespace {
 using console::ScopeId;
 using Texts = std::vector<wire::WideString>;
 
-std::string choices(const Texts& texts) {
+std::string choices(std::span<const wire::WideString> texts) {
     return texts.empty() ? "; there is nothing" : "; there is " + listed(texts);
 }
 
@@ -23,6 +23,23 @@ Texts textsOf(const shell::ScopeTree& tree, std::span<const ScopeId> items) {
 }
 
 } // namespace
+
+std::size_t placeOfNode(wire::WideStringView name, std::span<const wire::WideString> texts, const NodePath& above) {
+    const std::string where = above.empty() ? "" : " below \"" + shown(wire::toWide(formatPath(above))) + '"';
+    const auto place = placeOf(name, texts, "node" + where + " called");
+    if (place == texts.size()) {
+        throw Failure(ExitStatus::refused, "There is no \"" + shown(name) + '"' + where + choices(texts));
+    }
+    return place;
+}
+
+std::size_t placeOfRow(wire::WideStringView name, std::span<const wire::WideString> texts) {
+    const auto place = placeOf(name, texts, "row");
+    if (place == texts.size()) {
+        throw Failure(ExitStatus::refused, "There is no row \"" + shown(name) + '"' + choices(texts));
+    }
+    return place;
+}
 
 ScopeId findNode(shell::Shell& shell, const NodePath& path) {
     // Paths begin below the server, the only item below the root.
@@ -36,13 +53,7 @@ ScopeId findNode(shell::Shell& shell, const NodePath& path) {
     for (const auto& name : path) {
         shell.expand(id);
         const auto children = tree.children(id);
-        const auto texts = textsOf(tree, children);
-        const std::string where = above.empty() ? "" : " below \"" + shown(wire::toWide(formatPath(above))) + '"';
-        const auto place = placeOf(name, texts, "node" + where + " called");
-        if (place == texts.size()) {
-            throw Failure(ExitStatus::refused, "There is no \"" + shown(name) + '"' + where + choices(texts));
-        }
-        id = children[place];
+        id = children[placeOfNode(name, textsOf(tree, children), above)];
         above.push_back(name);
     }
     return id;
@@ -55,11 +66,7 @@ console::ResultId findRow(const shell::Shell& shell, wire::WideStringView name) 
     for (std::size_t row = 0; row < pane.rowCount(); ++row) {
         texts.emplace_back(pane.cell(row, 0));
     }
-    const auto place = placeOf(name, texts, "row");
-    if (place == texts.size()) {
-        throw Failure(ExitStatus::refused, "There is no row \"" + shown(name) + '"' + choices(texts));
-    }
-    return pane.row(place).id;
+    return pane.row(placeOfRow(name, texts)).id;
 }
 
 } // namespace ctl

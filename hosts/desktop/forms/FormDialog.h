@@ -20,6 +20,8 @@ public:
     FormDialog& operator=(const FormDialog&) = delete;
     ~FormDialog() override;
 
+    forms::Form& form() const { return form_; }
+
     // The widget that stands for a control: the box, list or button itself, not its label.
     QWidget* widgetOf(const forms::Control& control) const;
 

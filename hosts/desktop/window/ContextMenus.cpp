@@ -26,6 +26,7 @@ bool ContextMenus::addEntries(QMenu& menu, const shell::Target& target) const {
         action->setCheckable(item.checked);
         action->setChecked(item.checked);
         action->setEnabled(!item.disabled);
+        action->setData(item.id);
         QObject::connect(action, &QAction::triggered, &menu, [&operations = operations_, target, id = item.id] {
             operations.later([&operations, target, id] {
                 operations.perform([&](shell::Shell& console) { return console.invoke(id, target); });

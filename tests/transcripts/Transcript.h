@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <istream>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace transcripts {
+
+// A command line with what it prints and the exit status that it leaves.
+struct Exchange {
+    std::size_t number = 0;            // of its line in the file
+    std::vector<std::string> above;    // comments and empty lines, as they stand
+    std::vector<std::string> command;  // as typed, behind "$ ", with the lines that continue it
+    std::vector<std::string> expected; // patterns, one for each line
+    int status = 0;
+    bool byVantrelctl = false; // whatever host the transcript runs on
+};
+
+// What somebody types into a shell and reads there:
+//
+//     # Regions can be made and deleted.
+//
+//     $ vantrelctl run Printers "Create region" --set "Region Name=North" --press OK
+//     $ vantrelctl show Printers/Nowhere
+//     vantrelctl: There is no "Nowhere" below "Printers"; there is "Berlin", "North"
+//     ? 1
+//
+// A line that ends with a blank and a backslash goes on in the next one. A comment "# host: vantrelctl" right above a
+// command has that one carried out by vantrelctl on every host; in the first line of the file, all of them.
+struct Transcript {
+    std::vector<Exchange> exchanges;
+    std::vector<std::string> below; // what follows the last one
+
+    // Throws std::runtime_error for a line in front of the first command that is no comment.
+    static Transcript read(std::istream& text);
+    void write(std::ostream& out) const;
+};
+
+} // namespace transcripts
