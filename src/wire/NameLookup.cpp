@@ -6,30 +6,33 @@
 
 namespace wire {
 
+void ThreadLookup::Outcome::tell(const ResolveResult& told) {
+    {
+        const std::lock_guard lock(mutex);
+        result = told;
+    }
+    known.notify_all();
+}
+
 ThreadLookup::ThreadLookup(Resolver resolver) {
-    std::promise<ResolveResult> promise;
-    result_ = promise.get_future();
-    auto look = [resolver = std::move(resolver), promise = std::move(promise)]() mutable {
+    auto look = [resolver = std::move(resolver), outcome = outcome_] {
         try {
-            promise.set_value(resolver());
+            outcome->tell(resolver());
         } catch (...) {
-            promise.set_value({.result = lookupFailed});
+            outcome->tell({.result = lookupFailed});
         }
     };
     try {
         std::thread(std::move(look)).detach();
     } catch (const std::system_error&) {
-        std::promise<ResolveResult> failed;
-        result_ = failed.get_future();
-        failed.set_value({.result = lookupFailed});
+        outcome_->tell({.result = lookupFailed});
     }
 }
 
 std::optional<ResolveResult> ThreadLookup::wait(std::chrono::milliseconds limit) {
-    if (result_.wait_for(limit) != std::future_status::ready) {
-        return std::nullopt;
-    }
-    return result_.get();
+    std::unique_lock lock(outcome_->mutex);
+    outcome_->known.wait_for(lock, limit, [this] { return outcome_->result.has_value(); });
+    return outcome_->result;
 }
 
 } // namespace wire

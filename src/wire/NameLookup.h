@@ -2,8 +2,11 @@
 
 #include "wire/Socket.h"
 
+#include <condition_variable>
 #include <functional>
-#include <future>
+#include <memory>
+#include <mutex>
+#include <optional>
 
 namespace wire {
 
@@ -28,7 +31,17 @@ public:
     std::optional<ResolveResult> wait(std::chrono::milliseconds limit) override;
 
 private:
-    std::future<ResolveResult> result_;
+    // What both threads hold. Not a promise: one that goes unkept allocates while it is destroyed, which ends the
+    // program where memory is short.
+    struct Outcome {
+        std::mutex mutex;
+        std::condition_variable known;
+        std::optional<ResolveResult> result;
+
+        void tell(const ResolveResult& told);
+    };
+
+    std::shared_ptr<Outcome> outcome_ = std::make_shared<Outcome>();
 };
 
 } // namespace wire

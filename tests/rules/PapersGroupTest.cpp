@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
 using rules::PapersGroup;
 
 constexpr std::size_t multiplier = 0;
