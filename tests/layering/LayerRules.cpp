@@ -302,8 +302,9 @@ Complaints platformHeadersOutside(const SourceTree& tree) {
     Complaints complaints;
     for (const auto& file : tree) {
         for (const auto& [name, quoted] : includesOf(file.text)) {
-            const bool qt = isQtHeader(name) &&
-                            !startsWithAny(file.path, {"hosts/desktop/", "tests/hosts/desktop/", "bench/desktop/"});
+            const bool qt =
+                isQtHeader(name) && !startsWithAny(file.path, {"hosts/desktop/", "tests/hosts/desktop/",
+                                                               "tests/transcripts/desktop/", "bench/desktop/"});
             const bool win32 = isWin32Header(name) && !mayIncludeWin32(file);
             const bool sqlite =
                 isSqliteHeader(name) &&

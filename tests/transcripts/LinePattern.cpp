@@ -72,8 +72,7 @@ std::optional<Piece> placeholderAt(std::string_view text) {
     const auto name = inside.substr(0, colon);
     const auto kind = colon == std::string_view::npos ? std::string_view() : inside.substr(colon + 1);
     const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
-    if (name.empty() || !std::ranges::all_of(name, isLetter) ||
-        (colon != std::string_view::npos && !isKind(kind))) {
+    if (name.empty() || !std::ranges::all_of(name, isLetter) || (colon != std::string_view::npos && !isKind(kind))) {
         return std::nullopt;
     }
     return Piece{.text = text.substr(0, end + 1), .name = name, .kind = kind};

@@ -9,8 +9,8 @@ namespace transcripts {
 // The texts that patterns have given a name.
 using Names = std::map<std::string, std::string, std::less<>>;
 
-// Whether a line is as the pattern says. {uuid}, {number}, {date} (with or without a time) and {any} stand for a text of
-// that kind; {limit:uuid} calls it "limit", and {limit} is that text from then on.
+// Whether a line is as the pattern says. {uuid}, {number}, {date} (with or without a time) and {any} stand for a text
+// of that kind; {limit:uuid} calls it "limit", and {limit} is that text from then on.
 bool matches(std::string_view line, std::string_view pattern, Names& names);
 
 // The text with the names replaced by what they stand for.

@@ -51,7 +51,8 @@ private:
     }
 
     void begin(const std::string& command) {
-        wholeFile_ = wholeFile_ || (transcript_.exchanges.empty() && !above_.empty() && above_.front() == onlyVantrelctl);
+        wholeFile_ =
+            wholeFile_ || (transcript_.exchanges.empty() && !above_.empty() && above_.front() == onlyVantrelctl);
         const bool marked = !above_.empty() && above_.back() == onlyVantrelctl;
         transcript_.exchanges.push_back({.number = number_,
                                          .above = std::exchange(above_, {}),

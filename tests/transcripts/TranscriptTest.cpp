@@ -1,5 +1,5 @@
-#include "tests/transcripts/LinePattern.h"
 #include "tests/transcripts/Transcript.h"
+#include "tests/transcripts/LinePattern.h"
 
 #include <gmock/gmock.h>
 
