@@ -11,7 +11,6 @@
 
 namespace {
 
-using platform::NumberFormat;
 using support::EnvironmentVariable;
 using support::MadeLocales;
 using Groups = std::vector<std::uint8_t>;
