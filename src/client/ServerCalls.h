@@ -99,4 +99,11 @@ template <class R, class Request>
     return readList(client, request, records, std::move(summary)).has_value();
 }
 
+// The same for those who need all of a list: false also of one that broke off.
+template <class R, class Request>
+[[nodiscard]] bool listAllRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records) {
+    const auto announced = readList(client, request, records);
+    return announced && std::cmp_greater_equal(records.size(), std::max<std::int16_t>(*announced, 0));
+}
+
 } // namespace client

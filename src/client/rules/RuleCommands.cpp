@@ -18,7 +18,7 @@ namespace action = protocol::ruleWriteAction;
 using wire::toUtf8;
 
 bool RuleCommands::listRuleGroups(std::vector<protocol::RuleGroupRecord>& groups) {
-    return listRecords(client_, protocol::ListRuleGroupsRequest{}, groups);
+    return listAllRecords(client_, protocol::ListRuleGroupsRequest{}, groups);
 }
 
 bool RuleCommands::addRuleGroup(const protocol::RuleGroupRecord& group) {
@@ -36,7 +36,7 @@ bool RuleCommands::deleteRuleGroup(const std::string& id) {
 }
 
 bool RuleCommands::listAffected(std::vector<protocol::AffectedRecord>& affected) {
-    return listRecords(client_, protocol::ListAffectedRequest{}, affected);
+    return listAllRecords(client_, protocol::ListAffectedRequest{}, affected);
 }
 
 bool RuleCommands::addAffected(const protocol::AffectedRecord& affected) {

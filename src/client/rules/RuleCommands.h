@@ -24,13 +24,13 @@ class RuleCommands {
 public:
     explicit RuleCommands(CQVXAdminClass2& client) : client_(client) {}
 
-    // A list that breaks off holds what came before. Deleting a group deletes its entries.
+    // A list that breaks off holds what came before, and answers false. Deleting a group deletes its entries.
     bool listRuleGroups(std::vector<protocol::RuleGroupRecord>& groups);
     bool addRuleGroup(const protocol::RuleGroupRecord& group);
     bool updateRuleGroup(const protocol::RuleGroupRecord& group);
     bool deleteRuleGroup(const std::string& id);
 
-    // A list that breaks off holds what came before.
+    // A list that breaks off holds what came before, and answers false.
     bool listAffected(std::vector<protocol::AffectedRecord>& affected);
     bool addAffected(const protocol::AffectedRecord& affected);
     bool updateAffected(const protocol::AffectedRecord& affected);
