@@ -37,7 +37,8 @@ Shows takenFromQueue(const RemoveConfigurationFromQueueRequest& request) {
                                         &ConfigQueueRecord::queueId, request.queueId);
 }
 
-// All queues of the model use something with each deployment of the driver then, and as many use this.
+// Every queue of the model then uses some configuration with each deployment of the driver, and as many of them use
+// this one.
 Shows appliedForDriver(const ApplyConfigurationForDriverRequest& request) {
     return [=] {
         const auto configurations = listed<ConfigurationRecord>(ListConfigurationsRequest{.modelId = request.modelId});

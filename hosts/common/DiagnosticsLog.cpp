@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Closes itself.
+// A file descriptor that is closed on destruction.
 class Descriptor {
 public:
     explicit Descriptor(int number) : number_(number) {}
@@ -35,14 +35,14 @@ private:
     int number_;
 };
 
-// Whether it is of the kind and the user's own; then nobody else gets at it any more.
+// Whether the file is of that kind and belongs to the user; if so, access by anybody else is taken away.
 bool keepToOwner(int descriptor, mode_t kind, mode_t permissions) {
     struct stat status {};
     return ::fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == kind && status.st_uid == ::geteuid() &&
            ((status.st_mode & 077) == 0 || ::fchmod(descriptor, permissions) == 0);
 }
 
-// -1 when it can't be had. A pipe in the place of the file does not hold up anybody.
+// -1 when it can't be opened. A pipe in place of the file does not block.
 int openLog(const fs::path& file) {
     std::error_code error;
     fs::create_directories(file.parent_path().parent_path(), error);
@@ -56,7 +56,7 @@ int openLog(const fs::path& file) {
     return log.get() >= 0 && keepToOwner(log.get(), S_IFREG, 0600) ? log.release() : -1;
 }
 
-// In one piece, so that the lines of two programs do not mix. A full disk is no reason to fail.
+// In one write, so that the lines of two programs do not mix. A full disk is not an error.
 void add(int descriptor, const std::string& text) {
     while (::write(descriptor, text.data(), text.size()) < 0 && errno == EINTR) {
     }

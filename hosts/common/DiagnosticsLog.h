@@ -8,17 +8,17 @@
 
 namespace common {
 
-// The diagnostics log of a user: a file of the user's own to which lines are added, made with the first one. Neither
-// the file nor its folder is followed through a link, and nobody else can read them. Used by one thread at a time.
+// The diagnostics log of a user: a file of the user's own to which lines are appended, created with the first one.
+// Neither the file nor its folder may be a link, and nobody else can read them. Used by one thread at a time.
 class DiagnosticsLog final : public QvxDiagnostics::LoggerI {
 public:
-    // Complain is called once, with one line in UTF-8, when the file can't be opened; nothing is written then.
+    // Calls complain once, with one line in UTF-8, when the file can't be opened; nothing is written then.
     DiagnosticsLog(std::filesystem::path file, std::function<void(const std::string&)> complain);
     DiagnosticsLog(const DiagnosticsLog&) = delete;
     DiagnosticsLog& operator=(const DiagnosticsLog&) = delete;
     ~DiagnosticsLog() override;
 
-    // vantrel/mmc_log.txt in the user's folder for states; empty when the user has none.
+    // vantrel/mmc_log.txt in the user's state folder; empty when the user has none.
     static std::filesystem::path defaultPath();
 
     void log(std::uint32_t flags, std::string_view file, std::uint32_t line, std::string_view function,
@@ -33,7 +33,7 @@ private:
     bool tried_ = false;
 };
 
-// Adds the log of the user to those of the program, for the rest of its life.
+// Adds the user's log to the loggers of the program, until it exits.
 void installDiagnosticsLog(std::function<void(const std::string&)> complain);
 
 } // namespace common

@@ -11,12 +11,12 @@ namespace {
 
 using namespace protocol;
 
-// A byte that is a number or its digit.
+// Flags come as numbers or as digits: 0 and "0" are false, all other bytes true.
 constexpr bool isYes(std::uint8_t byte) {
     return byte != 0 && byte != '0';
 }
 
-// Those lists of drivers that have whole records.
+// Only the lists of drivers that hold whole records.
 Shows driverDeleted(const DeleteDriverRequest& request, const SeenRequests& seen) {
     auto lists = seen.of<ListDriversRequest>();
     std::erase_if(lists, [](const ListDriversRequest& list) { return list.listKind == driverList::shortOfModel; });
@@ -67,7 +67,7 @@ bool sameState(const DriverDeploymentRecord& shown, const Request& wanted) {
            shown.installMethod == wanted.installMethod;
 }
 
-// One that takes the place of another one has an id of its own as well.
+// A deployment that replaces another one also has an id of its own.
 Shows deployed(const AddDriverDeploymentRequest& request) {
     return showsNew<DriverDeploymentRecord>(
         ListDriverDeploymentsRequest{.modelId = request.modelId, .driverId = request.driverId},
@@ -109,7 +109,7 @@ constexpr std::array driverLookups = {
     lookup<RemoveAlternateDriverRequest, alternateRemoved>(),
     lookup<SetModelOctetOrderRequest, modelOctetOrderSet>(),
     lookup<AddDriverDeploymentRequest, deployed>(),
-    removal, // before the change, which it looks like
+    removal, // before the change, because it looks like one
     lookup<UpdateDriverDeploymentRequest, deploymentChanged>(),
 };
 

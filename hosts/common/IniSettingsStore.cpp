@@ -57,7 +57,7 @@ bool writeAll(int descriptor, std::string_view content) {
     return ::fsync(descriptor) == 0;
 }
 
-// So that the new name outlives a power cut; a folder that can't be synchronised is no reason to fail.
+// So that the new name survives a power cut; a folder that can't be synchronised is not an error.
 void synchroniseFolder(const fs::path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
@@ -96,7 +96,7 @@ bool keepBeside(const fs::path& file) {
     return true;
 }
 
-// Makes the folder with all above it, readable by the owner only as far as it is new.
+// Makes the folder and those above it; new ones are readable by the owner only.
 bool makeFolder(const fs::path& folder) {
     std::error_code error;
     if (folder.empty() || fs::is_directory(folder, error)) {
@@ -145,7 +145,7 @@ bool IniSettingsStore::write(std::string_view name, const wire::WideString& valu
     }
     const auto content = contentOf(target);
     if (!content && fs::exists(target, error)) {
-        return false; // it holds what we can't read, so it must not be replaced
+        return false; // it holds something unreadable, so it must not be replaced
     }
     auto settings = content ? parsed(*content) : IniText::parse("[vantrel]\n");
     const bool garbage = !settings.has_value();

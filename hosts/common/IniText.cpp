@@ -58,8 +58,8 @@ std::string escaped(std::u16string_view value) {
     return text;
 }
 
-// Empty when it does not read as an escape: the backslash stands at `at`, which then moves to the escape's last
-// character.
+// Reads the escape whose backslash is at `at`, and moves `at` to the escape's last character. Empty when it is not an
+// escape.
 std::optional<char16_t> readEscape(std::string_view text, std::size_t& at) {
     if (text.substr(at, 2) == "\\\\") {
         ++at;

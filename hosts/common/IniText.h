@@ -14,7 +14,7 @@ namespace common {
 // is how blanks at the ends, control characters and lone surrogates are written. The rest is UTF-8.
 class IniText {
 public:
-    // Empty when the text is not of this form.
+    // Empty when the text does not have this form.
     static std::optional<IniText> parse(std::string_view text);
     std::string text() const;
 
@@ -24,7 +24,7 @@ public:
 
 private:
     struct Line {
-        std::string text; // as it stands in the file
+        std::string text; // as in the file
         std::string name; // empty for a line without a value
         wire::WideString value;
     };

@@ -11,7 +11,7 @@ namespace {
 
 using namespace protocol;
 
-// The server looks after the queue of a plan.
+// The server sets the queue of a plan itself.
 bool samePlan(SchemaRecord shown, const SchemaRecord& sent) {
     shown.schemaId = sent.schemaId;
     shown.newQueueId = sent.newQueueId;

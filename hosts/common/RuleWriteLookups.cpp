@@ -40,7 +40,7 @@ Shows affectedDeleted(const DeleteAffectedRequest& request) {
     return showsGone<AffectedRecord>(ListAffectedRequest{.filter = request.id}, &AffectedRecord::id, request.id);
 }
 
-// The text of the type is the server's, and an entry without a parent gets one.
+// The server sets the text of the type, and gives a parent to an entry without one.
 bool sameEntry(RuleEntryRecord shown, const RuleEntryRecord& sent) {
     shown.typeText = sent.typeText;
     shown.parentId = sent.parentId.empty() ? sent.parentId : shown.parentId;
@@ -81,7 +81,7 @@ Shows entryRemoved(const RemoveRuleEntryRequest& request, const SeenRequests& se
     return showsGoneAmong<RuleEntryRecord>(seen.of<ListRuleEntriesRequest>(), &RuleEntryRecord::id, request.id);
 }
 
-// A limit that is not there can't be asked for without a failure.
+// Asking for a limit that does not exist fails.
 Shows limitWritten(const WritePageLimitRequest& request) {
     return [=] {
         if (findById(listed<PageLimitName>(ListPageLimitsRequest{}), &PageLimitName::id, request.limit.id) == nullptr) {
@@ -99,7 +99,7 @@ Shows messageWritten(const WriteUserMessageRequest& request) {
     return showsChanged<UserMessageRecord>(ListUserMessagesRequest{.filter = wire::toText(request.message.id)},
                                            &UserMessageRecord::id, request.message.id,
                                            [message = request.message](UserMessageRecord shown) {
-                                               shown.builtIn = message.builtIn; // the server's to say
+                                               shown.builtIn = message.builtIn; // set by the server
                                                return sameOnTheWire(shown, message);
                                            });
 }

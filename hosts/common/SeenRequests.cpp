@@ -5,7 +5,7 @@
 namespace common {
 namespace {
 
-// Of one command. Who wants to change something has read it not long ago.
+// For each command. What is changed has been read shortly before.
 constexpr std::ptrdiff_t kept = 64;
 
 } // namespace

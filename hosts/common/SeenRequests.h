@@ -10,12 +10,12 @@
 
 namespace common {
 
-// The lists that a console has asked for, the latest first: whatever it changes, it has read in one of them.
+// The lists that a console has asked for, the latest first: one of them contained whatever it changes now.
 class SeenRequests {
 public:
     void add(const protocol::Command& command, std::span<const std::uint8_t> data);
 
-    // Those of a type, the latest first.
+    // The requests of a type, the latest first.
     template <class Request>
     std::vector<Request> of() const {
         std::vector<Request> requests;

@@ -25,7 +25,7 @@ std::string SystemEnvironment::currentFolder() const {
 platform::DateTime SystemEnvironment::now() const {
     const std::time_t seconds = std::time(nullptr);
     std::tm local{};
-    ::tzset(); // localtime_r need not look whether the zone has changed
+    ::tzset(); // localtime_r need not check whether the zone has changed
     ::localtime_r(&seconds, &local);
     return {.year = static_cast<std::int16_t>(local.tm_year + 1900),
             .month = static_cast<std::int8_t>(local.tm_mon + 1),
@@ -33,7 +33,7 @@ platform::DateTime SystemEnvironment::now() const {
             .hour = static_cast<std::int8_t>(local.tm_hour),
             .minute = static_cast<std::int8_t>(local.tm_min),
             .second =
-                static_cast<std::int8_t>(local.tm_sec == 60 ? 59 : local.tm_sec)}; // a leap second is no time here
+                static_cast<std::int8_t>(local.tm_sec == 60 ? 59 : local.tm_sec)}; // leap seconds are not valid here
 }
 
 } // namespace common

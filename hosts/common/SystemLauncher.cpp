@@ -34,7 +34,7 @@ private:
     std::vector<char*> pointers_;
 };
 
-// From here to becomeProgram: in the child, where only what is safe after a fork may be called.
+// From here to becomeProgram the code runs in the child, where only functions that are safe after a fork may be called.
 
 void tellAndExit(int pipe, int error) {
     [[maybe_unused]] const ssize_t written = ::write(pipe, &error, sizeof error);
@@ -68,7 +68,7 @@ void forgetSignals() {
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-// Forks again, so that the program becomes a child of the system and no zombie of ours.
+// Forks again, so that the program becomes a child of the system and leaves no zombie in this process.
 [[noreturn]] void becomeProgram(char* const* arguments, int pipe) {
     ::setsid();
     const pid_t grandchild = ::fork();
@@ -90,7 +90,7 @@ std::error_code errorOf(int number) {
     return {number, std::generic_category()};
 }
 
-// What a child has to tell; nothing once the program runs, since its end of the pipe closes then.
+// The error that the child reports; none once the program runs, because that closes the child's end of the pipe.
 std::error_code told(int pipe) {
     int error = 0;
     ssize_t count = 0;

@@ -20,8 +20,8 @@ const char* numericLocaleName() {
     return "C";
 }
 
-// Makes a locale that of this thread for a while. Its characters are those of its numbers, whatever the environment
-// says of texts, so that its separators can be read.
+// Makes a locale the current one of this thread for a while. Its character set is that of its numbers, whatever the
+// environment says about texts, so that its separators can be read.
 class LocaleInUse {
 public:
     explicit LocaleInUse(const char* name)
@@ -46,7 +46,7 @@ private:
     locale_t before_ = nullptr;
 };
 
-// Text in the characters of the locale in use; empty when it has none that it should have.
+// Converts text from the character set of the locale in use; empty when it is malformed.
 wire::WideString toWideHere(const char* text) {
     constexpr auto nothingTaken = static_cast<std::size_t>(-3); // the second half of a pair
     wire::WideString wide;
@@ -91,7 +91,7 @@ SystemLocale::SystemLocale() {
     if (!numberFormat_.thousandsSeparator.empty()) {
         numberFormat_.grouping = groupsOf(conventions.grouping);
     }
-    // There is no such number for plain numbers here; that for money comes nearest.
+    // POSIX has no such setting for plain numbers; the one for money comes closest.
     if (conventions.frac_digits != CHAR_MAX && conventions.frac_digits >= 0) {
         numberFormat_.decimals = static_cast<unsigned char>(conventions.frac_digits);
     }

@@ -4,9 +4,9 @@
 
 namespace common {
 
-// The locale of the user's environment, where LC_ALL goes before LC_NUMERIC and LC_NUMERIC before LANG, as it was when
-// this object was made; the plain one when the environment names none, or one that isn't there. The locale of the
-// process has no part in it.
+// The locale of the user's environment when this object was made: LC_ALL takes precedence over LC_NUMERIC, and
+// LC_NUMERIC over LANG; the plain one when the environment names none, or one that isn't installed. The locale of the
+// process does not matter.
 class SystemLocale final : public platform::Locale {
 public:
     SystemLocale();

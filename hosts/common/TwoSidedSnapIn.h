@@ -4,8 +4,8 @@
 
 namespace common {
 
-// A snap-in made of a scope side and a view side of the platform's shape (component data and component). Owns the view
-// side.
+// A snap-in made of a scope side and a view side with the platform's interfaces (component data and component). Owns
+// the view side.
 template <class ScopeSide, class ViewSide>
 class TwoSidedSnapIn final : public shell::SnapIn {
 public:

@@ -19,7 +19,7 @@ wire::Message messageOf(std::span<const std::uint8_t> data) {
     return message;
 }
 
-// What the look does; nothing when it can't be done. The commands of the look are not looked at themselves.
+// Runs a look-up; empty when it fails. The commands of the look-up are not looked up themselves.
 template <class Look>
 auto looking(bool& flag, Look look) -> std::optional<decltype(look())> {
     flag = true;

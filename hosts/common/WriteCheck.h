@@ -14,12 +14,12 @@ namespace common {
 // The look-ups of all commands without a reply.
 std::vector<WriteLookup> allWriteLookups();
 
-// Tells which writes the server has not carried out. The protocol answers many of them with nothing at all; what became
-// of these shows only in a list, so that this asks for one: afterwards, and for a new record before the write as well,
-// since another one may look like it. Each write is looked up before the next one goes out, which may undo it.
+// Finds out which writes the server has not carried out. Many of them have no reply in the protocol; their effect shows
+// only in a list, so this asks for one: afterwards, and for a new record also before the write, because another record
+// may look like it. Each write is looked up before the next one is sent, which may undo it.
 //
-// A write that changed nothing, as of a record that is saved again as it was, counts as carried out. So does one of
-// which nothing can be seen, and one whose list can't be had: that is a failed command of its own.
+// A write that changes nothing, such as saving a record unchanged, counts as carried out. So does one whose effect
+// can't be seen, and one whose list can't be read: that list is itself a failed command.
 class WriteCheck final : public client::RequestObserver {
 public:
     // May throw wire::Cancelled, nothing else.
@@ -27,7 +27,7 @@ public:
 
     // The name of the first write since forget() that the server has not carried out. Throws wire::Cancelled.
     std::optional<std::string> notCarriedOut();
-    // What was written so far is not asked about any more.
+    // Drops the writes so far: they are not looked up any more.
     void forget();
 
 private:

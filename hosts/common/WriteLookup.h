@@ -18,15 +18,15 @@ namespace common {
 // Whether the server shows that a write was carried out. Throws when the server can't tell.
 using Shows = std::function<bool()>;
 
-// Prepares the look-up of a write that is about to go out; what it needs to know of the time before, it asks for here.
-// Without a function there is nothing to see of the write.
+// Prepares the look-up of a write that is about to be sent, and reads whatever it needs to know from before. Null when
+// the effect of the write can't be seen.
 struct WriteLookup {
     std::uint16_t opcode = 0;
     bool (*isMeant)(wire::Message& message) = nullptr; // whether the message is of this form of the request
     Shows (*prepare)(wire::Message& message, const SeenRequests& seen) = nullptr;
 };
 
-// The whole list, in the order of the server. Throws std::runtime_error when it can't be had or breaks off.
+// The whole list, in the order of the server. Throws std::runtime_error when it can't be read or is truncated.
 template <class Record, class Request>
 std::vector<Record> listed(const Request& request) {
     client::CQVXAdminClass client;
@@ -38,8 +38,8 @@ std::vector<Record> listed(const Request& request) {
     return records;
 }
 
-// A record as it travels. What was sent is read back by the console's own rules before it is compared, since these
-// change some texts.
+// A record as the wire carries it. What was sent is read back by the console's own rules before it is compared, because
+// these change some texts.
 template <class Record>
 auto asSent(const Record& record) {
     const auto message = protocol::makeDataMessage(record);
@@ -58,7 +58,7 @@ const Record* findById(const std::vector<Record>& records, Id Record::*id, const
     return found != records.end() ? &*found : nullptr;
 }
 
-// Shows a record that was not there before and of which the rest holds.
+// Shows a record that did not exist before and for which the rest holds.
 template <class Record, class Request, class Id, class Rest>
 Shows showsNew(const Request& list, Id Record::*id, Rest rest) {
     std::set<Id> before;
@@ -87,7 +87,7 @@ Shows showsGone(const Request& list, Id Record::*id, const std::type_identity_t<
     return [=] { return findById(listed<Record>(list), id, wanted) == nullptr; };
 }
 
-// The latest of the lists that the console has asked for which holds the record; none when there is no such list.
+// The latest list that the console has asked for and that contains the record; none when there is no such list.
 template <class Record, class Request, class Id>
 std::optional<Request> listWith(const std::vector<Request>& lists, Id Record::*id,
                                 const std::type_identity_t<Id>& wanted) {
@@ -96,8 +96,8 @@ std::optional<Request> listWith(const std::vector<Request>& lists, Id Record::*i
     return found != lists.end() ? std::optional(*found) : std::nullopt;
 }
 
-// The same two for a record whose list the write does not name. Nothing is to be seen of one that is in no list: the
-// dialog of a price plan changes the rule entry that it was opened from, whether that is on the server yet or not.
+// The same two for a record whose list the write does not name. One that is in no list can't be checked: the dialog of
+// a price plan changes the rule entry that it was opened from, whether or not the server has that entry yet.
 template <class Record, class Request, class Id, class Rest>
 Shows showsChangedAmong(const std::vector<Request>& lists, Id Record::*id, const std::type_identity_t<Id>& wanted,
                         Rest rest) {
@@ -111,7 +111,7 @@ Shows showsGoneAmong(const std::vector<Request>& lists, Id Record::*id, const st
     return list ? showsGone<Record>(*list, id, wanted) : Shows();
 }
 
-// By the first byte, where that tells the form.
+// Whether the first byte marks the message as one of this form.
 template <class Request>
 bool isOf(wire::Message& message) {
     if constexpr (requires { Request::actions; }) {

@@ -4,7 +4,7 @@
 
 namespace alarms {
 
-// The top of the branch that holds the alarm programs and who gets their mails.
+// The top of the branch of alarm programs and the recipients of their mails.
 class AlarmRootNode final : public console::CBaseNodeItem<AlarmRootNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Alarms", .image = 16, .children = 2};

@@ -22,9 +22,9 @@ std::string classNameOf() {
     return "class " + std::string(name);
 }
 
-// The base of every node class X, as CBaseNodeItem<X>. X names itself with a
-// `static constexpr NodeIdentity identity{.displayName = u"Price Plans", ...}`, and its commands in commands(), from
-// which menu, handlers and keys follow. Base is NodeBase, or what several classes share on top of it.
+// The base of every node class X, as CBaseNodeItem<X>. X declares its identity, `static constexpr NodeIdentity
+// identity{.displayName = u"Price Plans", ...}`, and lists its commands in commands(), which gives menu, handlers and
+// keys. Base is NodeBase, or a class derived from it that several node classes share.
 template <class T, class Base = NodeBase>
 class CBaseNodeItem : public Base {
 public:
@@ -35,7 +35,7 @@ public:
     }
 
 protected:
-    // What stands behind the platform goes to the base.
+    // Arguments after the platform are passed to the base.
     template <class... More>
     explicit CBaseNodeItem(platform::Platform& platform, More&&... more)
         : Base(platform, T::identity, std::forward<More>(more)...) {}

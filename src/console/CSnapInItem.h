@@ -28,11 +28,11 @@ enum class ClipboardFormat { nodeType, nodeTypeText, displayName, snapInClassId 
 // The codes of OnExpand.
 enum class ExpandCode : std::uint8_t { collapse = 0, expand = 1, refresh = 2 };
 
-// Everything that the console can ask of a node: the object behind a cookie.
-// Nodes are made with std::make_shared; the console holds a shared pointer for each row that it shows, a parent one for
-// each child, and a node that neither refers to any more is gone. A host whose console knows a node only by its raw
-// cookie holds that pointer in the console's stead: from the insertion of a row until it has been removed and the
-// handler in which that happened has returned, since the console may name the cookie up to then.
+// Everything that the console can ask of a node: the object behind a cookie. Nodes are made with std::make_shared; the
+// console holds a shared pointer for each row that it shows, and a parent holds one for each child, so that a node is
+// destroyed once neither refers to it. A host whose console knows a node only by its raw cookie holds that pointer on
+// the console's behalf: from the insertion of a row until the row has been removed and the handler that removed it has
+// returned, because the console may use the cookie until then.
 class CSnapInItem : public std::enable_shared_from_this<CSnapInItem> {
 public:
     CSnapInItem() = default;
@@ -54,7 +54,7 @@ public:
     virtual Result ControlbarNotify(Event event) = 0;
     virtual Result GetScopeData(ScopeItemFields** out) = 0;
     virtual Result GetResultData(ResultItemFields** out) = 0;
-    // Appends the class's identity in the asked form.
+    // Appends the class's identity in the requested format.
     virtual Result FillData(ClipboardFormat format, std::vector<std::uint8_t>& stream) = 0;
     // The text of one column of this node's row; valid until the node is asked again or freed.
     virtual const char16_t* GetResultPaneColInfo(std::int32_t column) = 0;
@@ -62,21 +62,21 @@ public:
     // How one node refreshes another: shows consoleForShow from memory, then reads the server.
     virtual Result RefreshNode(IConsole& console, ScopeId scopeId, IConsole& consoleForShow) = 0;
 
-    // What the tree and the hosts need beyond the platform's questions.
+    // What the tree and the hosts need beyond the platform's interface.
 
     virtual const NodeIdentity& nodeIdentity() const = 0;
     // "class PrinterNode": the class's run-time name, without its namespace. Tells classes apart on paste and in saved
     // column choices.
     virtual const std::string& className() const = 0;
     virtual const wire::WideString& displayName() const = 0;
-    // What makes this node the same one after a refresh, among the children of one parent: an id, else the display
+    // Identifies this node across refreshes among the children of one parent: an id if it has one, else the display
     // name.
     virtual std::string refreshKey() const = 0;
-    // A number by which a list is sorted by this column, where the text would put it wrong: the time of a date, a
-    // price. Nothing where the text says it.
+    // The number to sort this column by where its text would sort wrongly, as for dates and prices. Empty where the
+    // text sorts correctly.
     virtual std::optional<std::int64_t> sortValue(std::int32_t column) const = 0;
-    // Shows columns and rows as they stand after a refresh, for a console that gets no keys from which it would show
-    // them again. Reads from the server only what the refresh has not.
+    // Shows the columns and rows again after a refresh, for a console that receives no key presses that would make it
+    // do so. Reads from the server only what the refresh has not read.
     virtual Result showAnew(IConsole& console) = 0;
 };
 

@@ -10,7 +10,7 @@
 namespace console {
 namespace {
 
-// Answers whether it is worth asking for more.
+// Returns whether it is worth reading further kinds.
 bool readOne(const ChildKind& kind, CarryOver what, ReadKinds& result, std::size_t place) {
     const auto fail = [&result] {
         if (!result.failure) {

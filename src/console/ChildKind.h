@@ -15,16 +15,16 @@ enum class CarryOver : std::uint8_t { resultRow, resultRowAndScopeId };
 
 // The children of one kind, and how a node reads them. NodeBase::childrenOf makes the usual one.
 struct ChildKind {
-    // Puts what the server has in the place of what stands. False without an answer; then, and when it throws, what
-    // stands is left alone. None for children that are not the server's: they always stand.
+    // Replaces the current children by those that the server has. False when the server did not answer; then, and when
+    // it throws, the current children are kept. Empty for fixed children, which do not come from the server.
     std::function<bool(CarryOver what)> read;
-    // Those that belong into the tree, in order.
+    // The children shown in the tree, in order.
     std::function<std::vector<NodeBase*>()> nodes;
-    // Whether it is read before kinds that stand above it in the tree.
+    // Whether this kind is read before the kinds that are shown above it in the tree.
     bool readFirst = false;
 };
 
-// What came of reading several kinds of children.
+// The outcome of reading several kinds of children.
 struct ReadKinds {
     std::vector<bool> read{};     // by kind
     std::exception_ptr failure{}; // the first that was thrown
@@ -32,8 +32,8 @@ struct ReadKinds {
     bool all() const;
 };
 
-// Reads each kind by itself: one that fails does not keep the others from being read. Only without an answer, without a
-// connection, or when the person gives up, the rest is not asked for.
+// Reads each kind by itself: when one fails, the others are still read. The rest is skipped only when the server does
+// not answer, when there is no connection, or when the user cancels.
 ReadKinds readKinds(std::span<const ChildKind> kinds, CarryOver what);
 
 } // namespace console

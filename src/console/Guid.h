@@ -19,7 +19,7 @@ consteval Guid guid(std::u16string_view text) {
     if (text.size() != 36) {
         throw "a guid has 36 characters";
     }
-    // Where each byte's two digits stand: the first three groups are little-endian in memory.
+    // The position of each byte's two digits: the first three groups are little-endian in memory.
     constexpr std::array<std::size_t, 16> places{6, 4, 2, 0, 11, 9, 16, 14, 19, 21, 24, 26, 28, 30, 32, 34};
     const auto digit = [](char16_t c) -> unsigned {
         if (c >= '0' && c <= '9') {

@@ -12,15 +12,15 @@ class IHeaderCtrl;
 class IImageList;
 class IResultData;
 
-// The console as a node sees it: that of the whole snap-in, or that of one view, which may be closed long before the
-// snap-in ends. A node keeps neither: it asks its component data for the first, and uses the second only while it
-// handles what came from there.
+// The console as a node sees it: either that of the whole snap-in, or that of one view, which may be closed long before
+// the snap-in ends. A node keeps neither: it asks its component data for the first, and uses the second only while it
+// handles a call from that view.
 class IConsole {
 public:
     virtual ~IConsole() = default;
 
-    // The console's other faces, which live as long as it does. Null when it does not have one, as a query for an
-    // interface can fail.
+    // The console's other interfaces, which live as long as it does. Null when it has no such interface, as a query for
+    // one can fail.
     virtual IConsoleNameSpace* nameSpace() = 0;
     virtual IResultData* resultData() = 0;
     virtual IHeaderCtrl* headerCtrl() = 0;
@@ -28,17 +28,17 @@ public:
     // The verbs of the current selection; null when there are none to set.
     virtual Result QueryConsoleVerb(IConsoleVerb*& verb) = 0;
     virtual Result QueryScopeImageList(IImageList*& images) = 0;
-    // May be acted on once the running handler has returned.
+    // The host may act on it only after the running handler has returned.
     virtual Result SelectScopeItem(ScopeId scopeId) = 0;
     virtual Result GetMainWindow(platform::WindowHandle& window) = 0;
 };
 
-// The snap-in's scope side, of which a node needs only the console. It outlives all use of its nodes: once it has gone,
-// the hosts ask a node that they still hold for nothing more than its end.
+// The snap-in's scope side, of which a node needs only the console. It outlives all use of its nodes: once it is
+// destroyed, a host that still holds a node may only release it.
 class IComponentData {
 public:
     virtual ~IComponentData() = default;
-    // Null before the snap-in has been given its console, and after that was taken away.
+    // Null until the snap-in has been given its console, and after the console has been taken away.
     virtual IConsole* console() = 0;
 };
 

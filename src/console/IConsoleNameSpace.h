@@ -15,7 +15,7 @@ public:
 
     // Adds a child under row.relativeID and writes the new id to row.ID.
     virtual Result InsertItem(ScopeItemFields& row) = 0;
-    // Shows another text for a row, until the row is asked for its text again.
+    // Shows another text for a row until the console next asks the node for its text.
     virtual Result SetItem(ScopeId scopeId, std::u16string_view text) = 0;
     // The first child of a row; 0 and null if there is none.
     virtual Result GetChildItem(ScopeId scopeId, ScopeId& child, CSnapInItem*& cookie) = 0;

@@ -6,7 +6,7 @@
 
 namespace console {
 
-// The strips of images that nodes point into. The numbers are resource ids: 16 by 16 pixels, then 32 by 32.
+// The strips of images that nodes take their images from. The numbers are resource ids: 16 by 16 pixels, then 32 by 32.
 struct ImageStrip {
     std::int32_t small = 203;
     std::int32_t large = 204;

@@ -10,10 +10,10 @@ class IResultData {
 public:
     virtual ~IResultData() = default;
 
-    // Adds a row and writes its id to row.itemID; a row that brings an id that is free keeps it.
+    // Adds a row and writes its id to row.itemID; an id that the row already has is kept if it is free.
     virtual Result InsertItem(ResultItemFields& row) = 0;
     virtual Result DeleteItem(ResultId itemId, std::int32_t column) = 0;
-    // Has one row shown anew, its texts and its image, where it stands.
+    // Redraws one row in place, its texts and its image.
     virtual Result UpdateItem(ResultId itemId) = 0;
     virtual Result DeleteAllRsltItems() = 0;
 };

@@ -8,8 +8,8 @@
 
 namespace console {
 
-// Appends a class's identity to the stream in the form that the console asks for; Result::badClipboardFormat for
-// another one.
+// Appends a class's identity to the stream in the form that the console asks for; Result::badClipboardFormat for any
+// other form.
 Result appendIdentity(const NodeIdentity& identity, ClipboardFormat format, std::vector<std::uint8_t>& stream);
 
 } // namespace console

@@ -16,7 +16,7 @@ struct MenuEntry {
 
 inline constexpr MenuEntry separator{};
 
-// The entries of a context menu as they stand at one moment.
+// The entries of a context menu at one moment.
 using MenuEntries = std::vector<MenuEntry>;
 
 } // namespace console

@@ -71,7 +71,7 @@ Result NodeBase::dispatch(const Notification& notification, IConsole& console) {
     case Event::doubleClick:
         return console.SelectScopeItem(scope_.ID);
     case Event::deleteItem:
-        // The row only: what it stands for is deleted on the server by a menu command.
+        // Only the row: a menu command deletes the object on the server.
         return console.nameSpace() != nullptr ? console.nameSpace()->DeleteItem(scope_.ID, true) : Result::failed;
     case Event::expand:
         return OnExpand(expandCode(notification.arg), console, notification.param);
@@ -288,7 +288,7 @@ void NodeBase::readRows() {
     readChildren(CarryOver::resultRowAndScopeId);
 }
 
-// A row that can be read stands though another kind could not be: the failure is told once all is shown.
+// Rows that could be read are shown even if another kind could not be: the failure is reported after that.
 Result NodeBase::OnShow(IConsole& console, bool show, int again) {
     if (rowReading() != RowReading::onEveryShow) {
         return showRows(console, show, again);
@@ -312,7 +312,7 @@ Result NodeBase::showRows(IConsole& console, bool show, int again) {
     const bool fills = show || again == 1;
     if (titles.empty()) {
         if (reading == RowReading::onEveryShow && fills) {
-            insertRows(console); // none: what stood here may have gone
+            insertRows(console); // an empty list: the earlier rows may no longer exist
         }
         return Result::ok;
     }

@@ -25,7 +25,7 @@ namespace console {
 // When a node reads its rows from the server.
 enum class RowReading : std::uint8_t {
     never,            // they are the children of the last expansion
-    whenShown,        // once the columns stand; a refresh shows those of before
+    whenShown,        // after the columns are inserted; a refresh shows the rows that were read before
     whenShownOrAgain, // also on a refresh
     onEveryShow       // also when it leaves the screen; before the columns, which depend on what was read
 };
@@ -36,13 +36,13 @@ struct VerbChoice {
     bool offered;
 };
 
-// A node's children of one kind, in the order in which they stand.
+// A node's children of one kind, in the order in which they are shown.
 template <class Node>
 using NodeArray = std::vector<std::shared_ptr<Node>>;
 
-// What all nodes of the tree have in common. A node class derives from CBaseNodeItem and says only what is its own:
-// columns, commands, verbs, kinds of children, rows. Everything runs on the console's one thread; what the login does
-// on a thread of its own reaches no node.
+// What all nodes of the tree have in common. A node class derives from CBaseNodeItem and declares only what is specific
+// to it: columns, commands, verbs, kinds of children, rows. Everything runs on the console's one thread; the login's
+// own thread never calls a node.
 class NodeBase : public CSnapInItem {
 public:
     Result Notify(const Notification& notification) final;
@@ -59,7 +59,7 @@ public:
     Result FillData(ClipboardFormat format, std::vector<std::uint8_t>& stream) final;
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
     Result OnContextHelp() override;
-    // Throws what reading the server throws: the guard of the node that asked for it stops that.
+    // Throws what reading from the server throws; the guard of the node that requested the refresh catches it.
     Result RefreshNode(IConsole& console, ScopeId scopeId, IConsole& consoleForShow) final;
 
     const wire::WideString& displayName() const final { return m_bstrDisplayName; }
@@ -67,12 +67,12 @@ public:
     std::optional<std::int64_t> sortValue(std::int32_t /*column*/) const override { return std::nullopt; }
     Result showAnew(IConsole& console) final;
 
-    // A node that gets its name from the server is named right after it is made.
+    // Called right after construction for a node whose name comes from the server.
     void setDisplayName(wire::WideString name) { m_bstrDisplayName = std::move(name); }
     // The row of the parent under which the console is to insert this node.
     void setParentRow(ScopeId parent) { scope_.relativeID = parent; }
-    // Places this node under its parent, which passes on its row and the component data. A node that stands only as a
-    // row of a list gets to know its console in no other way.
+    // Places this node under its parent, which passes on its row and the component data. A node that is only a row of a
+    // list learns its console in no other way.
     void setParent(const NodeBase& parent) {
         setParentRow(parent.scope_.ID);
         componentData_ = parent.componentData_;
@@ -80,34 +80,35 @@ public:
     ScopeItemFields& scopeFields() { return scope_; }
     ResultItemFields& resultFields() { return result_; }
 
-    // Fills the children: reads the kinds, and inserts those that were read. Nothing for a node without kinds.
+    // Fills the children: reads the kinds, and inserts those that were read. Does nothing for a node without kinds.
     virtual Result OnExpand(ExpandCode code, IConsole& console, ScopeId scopeId);
-    // Fills the result pane: with `show` columns() and rows(), with `again` 1 rows() alone, since the columns stand
-    // already. A node without columns shows nothing.
+    // Fills the result pane: columns() and rows() if `show` is set, only rows() if `again` is 1, because the columns
+    // are already there. A node without columns shows nothing.
     virtual Result OnShow(IConsole& console, bool show, int again);
 
 protected:
     NodeBase(platform::Platform& platform, const NodeIdentity& identity);
 
     virtual std::span<const Column> columns() const { return {}; }
-    // As they stand at this moment.
+    // The entries at this moment.
     virtual MenuEntries menu() const { return {}; }
-    // The kinds of children, in the order in which they stand.
+    // The kinds of children, in the order in which they are shown.
     virtual std::vector<ChildKind> childKinds() { return {}; }
-    // Whether the tree shows this child of its parent. One that it does not show may still stand as a row.
+    // Whether the tree shows this child of its parent. A child that the tree does not show may still be a row of a
+    // list.
     virtual bool standsInTree() const { return true; }
-    // The nodes that stand as rows in this node's result pane, in order.
+    // The nodes that are the rows of this node's result pane, in order.
     virtual std::vector<NodeBase*> rows() const { return {}; }
     virtual RowReading rowReading() const { return RowReading::never; }
-    // Fills what rows() gives. The default reads the kinds of children.
+    // Fills what rows() returns. The default reads the kinds of children.
     virtual void readRows();
-    // In the order in which they are set. The default offers Refresh and nothing else.
+    // In the order in which they are set. The default offers only Refresh.
     virtual std::span<const VerbChoice> verbs() const;
-    // Runs the handler of a menu entry. May throw whatever the client throws: the guard around it reports it, skips the
-    // keys and answers Result::notDone. A number that is not the class's own has no effect.
+    // Runs the handler of a menu entry. May throw whatever the client throws: the guard around it reports that, skips
+    // the keys and returns Result::notDone. An id that is not one of the class's own has no effect.
     virtual Result runCommand(std::int32_t commandId, CommandOrigin origin);
-    // What is pressed after every command that did not throw, whatever came of it: also after a Cancel, and for a
-    // number that is not the class's own.
+    // The keys to press after every command that did not throw, whatever its outcome: also after a Cancel, and for an
+    // id that is not one of the class's own.
     virtual KeySequence keysAfterCommand(std::int32_t /*commandId*/, CommandOrigin /*origin*/) const { return {}; }
     virtual Result OnSelect(IConsole& console);
     virtual Result OnRename(IConsole& console, const wire::WideString& newName);
@@ -117,8 +118,8 @@ protected:
     virtual Result OnCutOrMove(CSnapInItem& source);
 
     platform::Platform& platform() const { return platform_; }
-    // The component data as Notify saw it last, or the parent before that, and its console; null before. It is the only
-    // one of the console's faces that a node keeps.
+    // The component data last passed to Notify, or before that the parent's, and its console; null until then. It is
+    // the only one of the console's interfaces that a node keeps.
     IComponentData* componentData() const { return componentData_; }
     IConsole* console() const { return componentData_ != nullptr ? componentData_->console() : nullptr; }
     // Whether the result pane shows this node.
@@ -126,8 +127,8 @@ protected:
     ScopeId parentRow() const { return scope_.relativeID; }
     ScopeId row() const { return scope_.ID; }
 
-    // For OnExpand. False when there is nothing to do: on a collapse, or without a tree. Else remembers the row and
-    // removes the children that stand.
+    // For OnExpand. False when there is nothing to do: on a collapse, or without a tree. Otherwise remembers the row
+    // and removes the current children.
     bool beginExpand(ExpandCode code, IConsole& console, ScopeId scopeId);
     // Inserts the scope row of a child under this node, unless the tree does not show it.
     void insertChild(IConsole& console, NodeBase& child) const;
@@ -135,13 +136,13 @@ protected:
     static void insertColumns(IConsole& console, std::span<const Column> columns);
     // Empties the result pane and inserts rows().
     void insertRows(IConsole& console) const;
-    // Reads the kinds of children. Throws the first failure when all that can be read has been.
+    // Reads the kinds of children. Throws the first failure after reading everything that can be read.
     bool readChildren(CarryOver what);
 
-    // For commands. Nothing of this happens while the node stands in no console.
+    // For commands. These do nothing while the node is in no console.
     void removeFromTree();
     void removeFromList();
-    // Has this node's own row of the list shown anew, after a change of its state.
+    // Redraws this node's own row of the list after a change of its state.
     void redrawRow();
     void setResultImage(std::int32_t image) { result_.nImage = image; }
     void setScopeImages(std::int32_t image, std::int32_t openImage) {
@@ -160,8 +161,8 @@ protected:
     void PressRefreshKey() const;
     void PressTabKey() const;
 
-    // Puts fresh in the place of current. A new child with the refreshKey of an old one takes over its row in the
-    // result pane, so that the row's identity survives; lParam stays the new node, which holds the record just read.
+    // Replaces current by fresh. A new child with the refreshKey of an old one takes over its row in the result pane,
+    // so that the row's identity survives; lParam stays the new node, which holds the record just read.
     template <class Node>
     static void replaceChildren(NodeArray<Node>& current, NodeArray<Node> fresh,
                                 CarryOver what = CarryOver::resultRow) {
@@ -187,14 +188,14 @@ protected:
         }
         return nodes;
     }
-    // A row for each record that was read, with what it takes over from the rows of before.
+    // Makes a row for each record that was read; rows take over from the previous rows what carries over.
     template <class Node, class Record>
     NodeArray<Node> rowsFor(std::vector<Record> records, NodeArray<Node> before) const {
         replaceChildren(before, childrenFor<Node>(std::move(records)));
         return before;
     }
-    // The kind of child that has a Node(platform, record, more...) in the array for each record that list(records)
-    // gives; false of it is no answer.
+    // The kind of child with a Node(platform, record, more...) in the array for each record that list(records) returns;
+    // list returns false when the server did not answer.
     template <class Record, class Node, class... More>
     ChildKind childrenOf(NodeArray<Node>& array, std::function<bool(std::vector<Record>&)> list, const More&... more) {
         return {.read =
@@ -208,7 +209,8 @@ protected:
                     },
                 .nodes = [&array] { return pointersTo(array); }};
     }
-    // The same with a second set of nodes, which stand as rows while those of the first stand in the tree.
+    // The same with a second set of nodes, which are the rows of the list while those of the first are shown in the
+    // tree.
     template <class Record, class Node, class... More>
     ChildKind childrenAndRowsOf(NodeArray<Node>& array, NodeArray<Node>& rows,
                                 std::function<bool(std::vector<Record>&)> list, const More&... more) {
@@ -224,7 +226,7 @@ protected:
                     },
                 .nodes = [&array] { return pointersTo(array); }};
     }
-    // Children that the node has from its constructor on.
+    // Children that the node creates in its constructor.
     static ChildKind fixedChildren(std::vector<NodeBase*> nodes) {
         return {.read = {}, .nodes = [nodes = std::move(nodes)] { return nodes; }};
     }

@@ -19,13 +19,13 @@ template <class Node>
 struct NodeCommand {
     MenuEntry entry{};
     Result (Node::*run)(CommandOrigin) = nullptr;
-    bool (Node::*offered)() const = nullptr; // always where there is none
-    bool (Node::*checked)() const = nullptr; // never where there is none
-    bool (Node::*enabled)() const = nullptr; // always where there is none
+    bool (Node::*offered)() const = nullptr; // null: always
+    bool (Node::*checked)() const = nullptr; // null: never
+    bool (Node::*enabled)() const = nullptr; // null: always
     KeySequence keys{};                      // pressed after the command, unless it throws; also after a Cancel
 };
 
-// The entries that the commands have in the node's menu at this moment. A separator stands only between two others.
+// The entries of the node's menu at this moment. A separator is kept only between two other entries.
 template <class Node>
 MenuEntries menuOf(const Node& node, std::span<const NodeCommand<Node>> commands) {
     MenuEntries entries;
@@ -46,7 +46,7 @@ MenuEntries menuOf(const Node& node, std::span<const NodeCommand<Node>> commands
     return entries;
 }
 
-// The command with the id, whether or not the menu has it now; null when there is none.
+// The command with the id, whether or not the menu offers it now; null when there is none.
 template <class Node>
 const NodeCommand<Node>* findCommand(std::span<const NodeCommand<Node>> commands, std::int32_t id) {
     const auto found = std::ranges::find_if(

@@ -13,7 +13,7 @@ namespace console {
 // The class id of the snap-in (CLSID_Print), the same for every node.
 inline constexpr Guid snapInClassId = guid(u"6F257AE4-F4E0-49EC-AE9D-61078938E7CE");
 
-// A node type, with the text for it as it stands in the registry, the case of its letters included.
+// A node type, with its text exactly as in the registry, upper and lower case included.
 struct NodeType {
     Guid guid;
     std::u16string_view text; // without braces
@@ -29,11 +29,11 @@ inline constexpr NodeType folderNodeType = nodeTypeOf(u"13CBA1B8-C9A1-4a0b-858C-
 
 // What is the same for all nodes of a class.
 struct NodeIdentity {
-    std::u16string_view displayName{}; // of a new node, and for ever that of the class
-    NodeType nodeType = noNodeType;    // of a class that the console must tell apart
+    std::u16string_view displayName{}; // of a new node, and always that of the class
+    NodeType nodeType = noNodeType;    // set only for classes that the console must distinguish
     std::int32_t image = 0;
     std::int32_t openImage = image;
-    std::int32_t resultImage = image; // as a row of a list, whose strip may be another one than the tree's
+    std::int32_t resultImage = image; // as a row of a list, whose strip may differ from the tree's
     std::int32_t children = 0;        // 0 for a leaf
     ImageStrip strip = commonStrip;
     std::int32_t viewOptions = excludeScopeItemsFromList; // 0 lets the console list the scope children itself

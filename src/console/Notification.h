@@ -45,7 +45,7 @@ enum class DataObjectType : std::uint32_t {
 //   columnClick arg: the column
 //   rename      text: the new name
 //   paste, queryPaste, cutOrMove   source: the node that was cut
-//   addImages   images: where the strips go; param: the scope row
+//   addImages   images: the list that takes the strips; param: the scope row
 struct Notification {
     Event event = Event::select;
     std::intptr_t arg = 0;

@@ -7,8 +7,8 @@
 
 namespace console {
 
-// What a column shows of a record: one of its texts, or what a function makes of it; and the number by which it is
-// sorted where the text would put it wrong.
+// What a column shows of a record: one of its texts, or what a function makes of it; and the number to sort by where
+// the text would sort wrongly.
 template <class Record>
 class RecordCell {
 public:

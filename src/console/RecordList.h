@@ -8,9 +8,9 @@
 
 namespace console {
 
-// The base of a class T whose node lists the records of one kind, a Row each, whenever it is shown. T tells in
-// constants its `titles` and the entry of its menu that makes a record, `newEntry`, and in functions how the records
-// are listed and which dialog makes one.
+// The base of a class T whose node lists the records of one kind, a Row each, whenever it is shown. T declares as
+// constants its `titles` and `newEntry`, the menu entry that makes a record, and implements how the records are listed
+// and which dialog makes one.
 template <class T, class Row>
 class RecordList : public CBaseNodeItem<T> {
 public:
@@ -22,7 +22,7 @@ public:
                                               platform::Key::f5};
 
 protected:
-    // False without an answer: then there are no rows.
+    // False when the server did not answer: then there are no rows.
     virtual bool listRecords(std::vector<Record>& records) = 0;
     virtual void openEditor() = 0;
 

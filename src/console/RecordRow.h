@@ -11,7 +11,8 @@
 
 namespace console {
 
-// The commands that a row of most lists has: their entries, the question before the row goes, and the keys after them.
+// The commands that rows of most lists have: their entries, the question asked before deleting, and the keys pressed
+// afterwards.
 struct RowCommands {
     MenuEntry edit{};
     MenuEntry remove{};
@@ -20,10 +21,9 @@ struct RowCommands {
     KeySequence keysAfterRemove{platform::Key::tab, platform::Key::up, platform::Key::down, platform::Key::f5};
 };
 
-// The base of a class T whose nodes stand for a record of the server each, as rows of a list. T tells in constants its
-// `cells` behind the name and its `rowCommands`, and in functions which dialog edits the record and how the server is
-// told to delete it. Where the name or the key of a record is another one than `name` and `id`, T has a nameOf or
-// keyOf of its own.
+// The base of a class T whose nodes stand for a record of the server each, as rows of a list. T declares as constants
+// the `cells` after the name and its `rowCommands`, and implements which dialog edits the record and how the server
+// deletes it. If the record's name or key is not in `name` or `id`, T has its own nameOf or keyOf.
 template <class T, class RecordType>
 class RecordRow : public CBaseNodeItem<T> {
 public:
@@ -73,9 +73,9 @@ protected:
     }
 
 private:
-    // Null for the name, and beyond the last column.
+    // Null for the name column and beyond the last column.
     static const RecordCell<Record>* cellOf(std::int32_t column) {
-        const auto place = static_cast<std::size_t>(column) - 1; // wraps for what is no column
+        const auto place = static_cast<std::size_t>(column) - 1; // wraps for an invalid column
         return place < T::cells.size() ? &T::cells[place] : nullptr;
     }
 

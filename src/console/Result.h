@@ -4,7 +4,7 @@
 
 namespace console {
 
-// What an operation answers to the console; the numbers are the platform's.
+// The result of an operation, for the console; the numbers are the platform's.
 enum class Result : std::uint32_t {
     ok = 0,                         // S_OK
     notDone = 1,                    // S_FALSE: nothing to do, or refused without a failure
@@ -16,7 +16,7 @@ enum class Result : std::uint32_t {
     badClipboardFormat = 0x80040064 // DV_E_CLIPFORMAT
 };
 
-// As the platform's SUCCEEDED: "not done" is a success too.
+// Like the platform's SUCCEEDED: "not done" counts as success.
 constexpr bool succeeded(Result result) {
     return (static_cast<std::uint32_t>(result) & 0x80000000U) == 0;
 }

@@ -6,8 +6,8 @@ namespace console {
 
 class IConsole;
 
-// When the selection does not offer Paste, enables the standard verbs, Paste among them. The answer is that of the last
-// question put to the console.
+// When the selection does not offer Paste, enables the standard verbs, Paste among them. Returns the result of the last
+// call to the console.
 Result offerStandardVerbs(IConsole& console);
 
 } // namespace console

@@ -6,7 +6,7 @@
 
 namespace QvxDiagnostics {
 
-// Where one function on the stack stands; an empty module or symbol isn't known.
+// One frame of the stack; the module or symbol is empty when it is unknown.
 struct StackFrame {
     std::string module;
     std::string symbol;
@@ -18,8 +18,8 @@ using StackSource = std::vector<StackFrame> (*)();
 // The stack of the calling thread, innermost frame first; throws a std::exception when the platform gives none.
 [[nodiscard]] std::vector<StackFrame> captureStack();
 
-// The stack as text, one line for each frame: "module: symbol + 12 bytes". Throws nothing: a dump that fails reads
-// "Failed to get stack dump!" and why.
+// The stack as text, one line for each frame: "module: symbol + 12 bytes". Never throws: a failed dump reads "Failed to
+// get stack dump!" and the reason.
 [[nodiscard]] std::string stackDump(StackSource source = captureStack);
 
 } // namespace QvxDiagnostics

@@ -34,7 +34,7 @@ DWORD64 stackTop(const CONTEXT& context) {
 }
 #endif
 
-// The registers of this thread; all zero on a Windows that can't tell them.
+// The registers of this thread; all zero on a Windows that can't report them.
 CONTEXT captureContext() {
     using Capture = VOID(WINAPI*)(PCONTEXT);
     CONTEXT context{};

@@ -9,7 +9,7 @@
 
 namespace QvxDiagnostics {
 
-// The debug-help library of Windows, loaded for as long as some stack dump uses it.
+// The debug-help library of Windows, loaded while any stack dump uses it.
 class DbgHelp {
 public:
     // A stack dump that failed.

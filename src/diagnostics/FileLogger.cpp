@@ -17,7 +17,7 @@ FileLogger::FileLogger(std::string path) : path_(std::move(path)) {}
 void FileLogger::log(std::uint32_t flags, std::string_view file, std::uint32_t line, std::string_view function,
                      std::string_view level, std::string_view message, const std::vector<std::string>& tags) {
     const bool aborts = (flags & abortAfterLine) != 0;
-    // Opened as a plain text stream, which starts the file afresh: it never grows, and that is relied on.
+    // Opened as a plain text stream, which truncates the file: it must never grow.
     boost::filesystem::ofstream stream{boost::filesystem::path(path_)};
     stream << logLine(flags, file, line, function, level, message, tags);
     if (aborts) {

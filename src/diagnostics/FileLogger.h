@@ -9,8 +9,8 @@
 
 namespace QvxDiagnostics {
 
-// Writes log lines to a text file, which it opens anew for each line, so that the file holds the latest one. A file
-// that can't be opened is no error: nothing is written then. Takes no lock.
+// Writes log lines to a text file, which it truncates for each line, so that the file holds only the latest. If the
+// file can't be opened, nothing is written and no error is reported. Takes no lock.
 class FileLogger : public LoggerI {
 public:
     explicit FileLogger(std::string path);
@@ -22,7 +22,7 @@ private:
     std::string path_;
 };
 
-// Adds a file logger with the console's own log file.
+// Adds a file logger for the console's own log file.
 void installFileLogger();
 
 } // namespace QvxDiagnostics

@@ -7,7 +7,7 @@
 
 namespace QvxDiagnostics {
 
-// A log line with its end, and the stack dump below it if that is asked for. Items are parted by "|".
+// A log line with its line end, followed by the stack dump if requested. Items are separated by "|".
 [[nodiscard]] std::string logLine(std::uint32_t flags, std::string_view file, std::uint32_t line,
                                   std::string_view function, std::string_view level, std::string_view message,
                                   const std::vector<std::string>& tags);

@@ -19,7 +19,7 @@ enum LogFlags : std::uint32_t {
     withThreadId = 0x80,
 };
 
-// Somewhere that log lines go to.
+// A destination for log lines.
 struct LoggerI {
     virtual ~LoggerI() = default;
 

@@ -12,7 +12,7 @@ struct LoggerList {
     std::vector<std::unique_ptr<LoggerI>> loggers;
 };
 
-// Made at its first use and destroyed, with the loggers, when the process exits.
+// Created at first use and destroyed, with the loggers, when the process exits.
 LoggerList& loggerList() {
     static LoggerList list;
     return list;
@@ -28,7 +28,7 @@ void addLogger(std::unique_ptr<LoggerI> logger) {
 
 void log(std::uint32_t flags, std::string_view file, std::uint32_t line, std::string_view function,
          std::string_view level, std::string_view message, const std::vector<std::string>& tags) {
-    // No logger ever leaves the list, so that a copy of the pointers stays good. The lines themselves are written
+    // No logger ever leaves the list, so that a copy of the pointers stays valid. The lines themselves are written
     // without the mutex, because a logger may end the process.
     std::vector<LoggerI*> loggers;
     {

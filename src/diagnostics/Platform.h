@@ -7,7 +7,7 @@
 // What diagnostics needs to know from the platform.
 namespace QvxDiagnostics {
 
-// The number by which the platform's own tools name the calling thread.
+// The id by which the platform's own tools identify the calling thread.
 [[nodiscard]] std::uint64_t threadId();
 
 [[nodiscard]] std::tm localTime(std::time_t time);

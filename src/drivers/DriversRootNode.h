@@ -4,7 +4,7 @@
 
 namespace drivers {
 
-// The top of the branch that holds brands, models and their drivers.
+// The top of the branch of brands, models and their drivers.
 class DriversRootNode final : public console::CBaseNodeItem<DriversRootNode> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Drivers", .image = 11, .children = 2};

@@ -9,10 +9,10 @@
 namespace forms {
 namespace {
 
-constexpr std::size_t longestLabel = 400; // hosts cut it where nobody reads on
+constexpr std::size_t longestLabel = 400; // hosts cut longer ones, which nobody reads to the end
 constexpr std::size_t nowhere = wire::WideString::npos;
 
-// Of the alphabets that people have keys for.
+// Letters of the alphabets that keyboards have.
 bool isLetterOrDigit(char16_t unit) {
     const auto between = [unit](char16_t first, char16_t last) { return unit >= first && unit <= last; };
     const bool isLatin = between(u'a', u'z') || between(u'A', u'Z') ||
@@ -22,10 +22,10 @@ bool isLetterOrDigit(char16_t unit) {
     return between(u'0', u'9') || isLatin || isGreek || isCyrillic;
 }
 
-// Where the key that a label wishes for stands in the text that a person reads.
+// The position, in the displayed text, of the key that a label asks for.
 std::size_t wishedPosition(std::u16string_view label) {
     std::size_t wished = nowhere;
-    std::size_t length = 0; // of what is read, from the first letter that is no blank
+    std::size_t length = 0; // of the displayed text, from the first character that is not a blank
     for (std::size_t i = 0; i < label.size(); ++i) {
         if (label[i] == u'&' && i + 1 < label.size()) {
             ++i;
@@ -131,7 +131,7 @@ bool AccessKeys::takeFreeKey(Entry& entry) {
     return true;
 }
 
-// One step of a bipartite matching: takes a free key, or one whose owner can do with another.
+// One step of a bipartite matching: takes a free key, or one whose owner can use another instead.
 bool AccessKeys::serve(Entry& entry, std::vector<const Entry*>& tried) {
     if (takeFreeKey(entry)) {
         return true;

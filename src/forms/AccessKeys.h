@@ -10,7 +10,7 @@
 
 namespace forms {
 
-// A label as a person reads it, and which of its letters is its access key.
+// A label as displayed, and which of its letters is its access key.
 struct KeyedLabel {
     wire::WideString text;
     std::optional<std::size_t> key;
@@ -19,25 +19,25 @@ struct KeyedLabel {
     wire::WideString marked() const;
 };
 
-// Gives the labels of a dialog their access keys: each key once, letters that people expect first, and as many labels
-// served as can be. Keys do not depend on case.
+// Assigns access keys to the labels of a dialog: each key once, expected letters first, and keys for as many labels as
+// possible. Keys ignore case.
 class AccessKeys {
 public:
     enum class Claim : std::uint8_t { givesWay, keeps };
 
-    // A label as it stands, perhaps with an ampersand before the key that it wishes for. Answers its number.
+    // Adds a label, possibly with an ampersand before the key that it asks for. Returns its number.
     std::size_t add(std::u16string_view label, Claim claim = Claim::givesWay);
-    // Once, after all have been added. Earlier ones keep what they like best; those that give way do so where a later
-    // one would get nothing.
+    // Called once, after all have been added. Earlier labels get their preferred key; those that give way do so where a
+    // later one would get none.
     void assign();
-    // Another text for one of them: it keeps its key where it can, or takes one that is free. The others keep theirs.
+    // Changes the text of one label: it keeps its key if possible, or takes a free one. The others keep theirs.
     void change(std::size_t number, std::u16string_view label);
 
     KeyedLabel label(std::size_t number) const;
 
 private:
     struct Entry {
-        wire::WideString text;              // as a person reads it
+        wire::WideString text;              // as displayed
         std::vector<std::size_t> positions; // of letters and digits, best first
         std::optional<std::size_t> chosen;
         Claim claim = Claim::givesWay;

@@ -17,9 +17,9 @@ public:
 
     const std::vector<Control*>& controls() const { return controls_; }
     virtual Form& form() = 0;
-    // Whether what stands on it can be seen.
+    // Whether the controls on it can be seen.
     virtual bool shown() const = 0;
-    // Whether what stands on it can be acted on: it can be seen, and nothing below it is disabled.
+    // Whether the controls on it can be used: they can be seen, and no container below them is disabled.
     virtual bool usable() const { return shown(); }
 
 protected:

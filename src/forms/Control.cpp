@@ -56,7 +56,7 @@ void Control::changed(Aspect aspect) {
 
 void Control::run(const std::function<void()>& handler) const {
     if (handler) {
-        const auto copy = handler; // the handler may give the control another one
+        const auto copy = handler; // the handler may replace itself
         form().guarded(copy);
     }
 }

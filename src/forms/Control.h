@@ -13,13 +13,14 @@ class Container;
 class ControlVisitor;
 class Form;
 
-// What of a control has changed, so that a host need mirror only that.
+// Which aspect of a control has changed, so that a host need update only that.
 enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visible, focus, limits, columns, pages };
 
-// What every control of a form has: a label, whether it is enabled and visible, and the form that it stands on.
-// A control is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own
-// code and tell the host; the functions whose names begin with "user" are for hosts and tests and tell the form. Those
-// do nothing and answer false while the control can't be reached; else the handler runs, even when nothing has changed.
+// What every control of a form has: a label, whether it is enabled and visible, and the form that it is on. A control
+// is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own code and
+// notify the host; the functions whose names begin with "user" are for hosts and tests and notify the form. Those do
+// nothing and return false while the control can't be reached; otherwise the handler runs, even when nothing has
+// changed.
 class Control {
 public:
     Control(const Control&) = delete;
@@ -36,16 +37,15 @@ public:
     bool visible() const { return visible_; }
     void setVisible(bool visible);
     void setFocus();
-    // The control and all that it stands on are visible (its page is the one shown) and enabled.
+    // Whether the control and all containers that it is on are enabled and visible (its page being the one shown).
     bool reachable() const;
 
     // The number by which the platform's own dialogs know the control; none for most.
     std::optional<int> resourceId() const { return resourceId_; }
     void setResourceId(int id) { resourceId_ = id; }
 
-    // What this control stands beside and goes with: a unit beside its number, a list beside its radio button, the
-    // buttons of a list, a group beside a group; null for most. Without a label of its own it is called by that of the
-    // other.
+    // The control that this one is placed beside and belongs to: the number of a unit, the radio button of a list, the
+    // list of a button, another group; null for most. A control without its own label goes by the label of that one.
     const Control* beside() const { return beside_; }
     void setBeside(const Control& other) { beside_ = &other; }
 

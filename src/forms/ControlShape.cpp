@@ -18,7 +18,7 @@
 namespace forms {
 namespace {
 
-// Tells the shape by the kind of a control.
+// Determines the shape from the kind of a control.
 class ShapeFinder final : public ControlVisitor {
 public:
     ControlShape shape;

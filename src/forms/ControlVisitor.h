@@ -16,7 +16,7 @@ class RadioButton;
 class Tabs;
 class TreeView;
 
-// Tells the kinds of controls apart; a host that leaves one out does not compile.
+// Distinguishes the kinds of controls; a host that leaves one out does not compile.
 class ControlVisitor {
 public:
     virtual ~ControlVisitor() = default;

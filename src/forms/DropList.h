@@ -11,18 +11,18 @@ namespace forms {
 
 class RadioButton;
 
-// A row of a drop list: what is shown, and what the program knows it by (an id; not shown).
+// A row of a drop list: its text, and the id by which the program identifies it (not shown).
 struct DropListItem {
     wire::WideString text;
     std::string data;
 };
 
 struct DropListOptions {
-    bool sorted = false;                    // rows stand in the order of their texts, whatever the order of adding
+    bool sorted = false; // rows are ordered by their texts, whatever the order in which they were added
     const RadioButton* belongsTo = nullptr; // a list that has no label of its own and goes with a radio button
 };
 
-// A list that drops down, of which one row at most is selected. No text can be typed into it.
+// A drop-down list of which at most one row is selected. No text can be typed into it.
 class DropList final : public Control {
 public:
     DropList(Container& container, std::u16string_view label, DropListOptions options = {});
@@ -30,7 +30,7 @@ public:
 
     const DropListOptions& options() const { return options_; }
     const std::vector<DropListItem>& items() const { return items_; }
-    // Answers the row at which it ended up.
+    // Returns the row at which it was inserted.
     std::size_t addItem(wire::WideString text, std::string data = {});
     // Above all other rows, in a sorted list too: an empty row, or one that asks to select.
     void addFirst(wire::WideString text, std::string data = {});
@@ -40,7 +40,7 @@ public:
     // The selected row's text and data; empty without a selection.
     wire::WideString selectedText() const;
     std::string selectedData() const;
-    // Does not fire onSelect. A row that is not there takes the selection away.
+    // Does not fire onSelect. A row that does not exist clears the selection.
     void select(std::optional<std::size_t> row);
     // False, and no change, when no row has the text (compared exactly) or the data.
     bool selectText(std::u16string_view text);

@@ -10,8 +10,8 @@
 
 namespace forms {
 
-// A list of records that the server has, and the buttons that edit and delete the selected one; "<New>" in the list
-// makes one. A class fills it with its records and texts, and says what is sent.
+// A list of records on the server, with buttons that edit and delete the selected one; "<New>" in the list makes one. A
+// derived class supplies the records and texts, and sends the changes.
 class EditableList {
 public:
     static constexpr std::u16string_view newItem = u"<New>";
@@ -20,10 +20,10 @@ public:
     EditableList& operator=(const EditableList&) = delete;
     virtual ~EditableList() = default;
 
-    // Whether the records could be read when the list was last filled. A form that were confirmed without them would
-    // write that none is chosen.
+    // Whether the records could be read when the list was last filled. Confirming a form without them would write that
+    // none is chosen.
     bool known() const { return known_; }
-    // known may have changed.
+    // Called when known() may have changed.
     std::function<void()> onKnown;
     void setVisible(bool visible);
 
@@ -36,14 +36,14 @@ protected:
 
     // An empty row above the records; rows below them, in this order.
     void setOtherRows(bool emptyAbove, std::vector<wire::WideString> below);
-    // Reads the records anew, lists them, and selects the row to go back to.
+    // Reads and lists the records again, and selects the row to go back to.
     void refill();
     // The row of a record.
     std::size_t rowOf(std::size_t record) const { return record + (emptyAbove_ ? 1 : 0); }
-    // The record whose row is selected. One that is called like "<New>" or another row below can't be told from it, and
-    // counts as none.
+    // The record whose row is selected. A record named "<New>", or like another of the rows below, can't be told apart
+    // from that row and counts as none.
     std::optional<std::size_t> selectedRecord() const;
-    // The same, but none too for a record without a name, which can be neither edited nor deleted.
+    // The same, but also none for a record without a name, which can be neither edited nor deleted.
     std::optional<std::size_t> namedRecord() const;
     void enableButtons(bool enabled);
 
@@ -55,13 +55,13 @@ protected:
     virtual std::optional<std::size_t> rowToGoBackTo() const = 0;
     // Brings the buttons in line with the selection.
     virtual void followSelection() = 0;
-    // What a person is asked before a record is deleted; nobody is asked where it is empty.
+    // The question asked before a record is deleted; empty to delete without asking.
     virtual std::u16string_view deleteQuestion() const { return {}; }
-    // These three fill the list again as they need it. The person has chosen "<New>", or pressed a button.
+    // Called when the user has chosen "<New>" or pressed a button. These three refill the list as needed.
     virtual void make() = 0;
     virtual void edit(std::size_t record) = 0;
     virtual void remove(std::size_t record) = 0;
-    // The person has selected a row, and what came of that is done.
+    // Called after the user has selected a row and the selection has been handled.
     virtual void afterSelection() {}
 
 private:

@@ -9,7 +9,7 @@
 namespace forms {
 namespace {
 
-// What the two standard buttons stand on.
+// The container of the two standard buttons.
 class Footer final : public Container {
 public:
     explicit Footer(Form& owner) : owner_(owner) {}

@@ -22,8 +22,8 @@ struct FormOptions {
 
 // A dialog without a screen: controls as members, handlers as functions. A dialog class derives from it; a host shows
 // it with UserInterface::runModal and never needs to know the class. Handlers run inside a guard: what they throw is
-// reported and dropped, and the form stays as it is. A form whose opening has failed cannot be confirmed: it would
-// write what it could not read.
+// reported and dropped, and the form stays as it is. A form that failed to open cannot be confirmed: it would write
+// values that it could not read.
 class Form : public Container {
 public:
     const wire::WideString& title() const { return title_; }
@@ -36,12 +36,12 @@ public:
 
     // For hosts: one at a time, null to detach.
     void setObserver(FormObserver* observer) { observer_ = observer; }
-    // For hosts: fills the form before it is shown. Comes once.
+    // For hosts: fills the form before it is shown. Called once.
     void open();
     // For hosts: Escape and the closing cross do the same as the Cancel button.
     void userCancelled();
     // For hosts: Enter, where the focused control does not take it. Presses the first default button that can be
-    // pressed, of the form's own ones before the standard one.
+    // pressed, the form's own ones before the standard one.
     void userPressedDefault();
 
     bool ended() const { return ended_; }
@@ -58,11 +58,11 @@ protected:
     Form(platform::Platform& platform, std::u16string_view title, FormOptions options = {});
 
     virtual void onInitDialog() {}
-    // Comes only once every text of the form is one that a message can carry.
+    // Called only when a message can carry every text of the form.
     virtual void onOk() { EndDialog(idOk); }
     virtual void onCancel() { EndDialog(idCancel); }
 
-    // Ends the form with this result. Once: a second call changes nothing.
+    // Ends the form with this result. A second call changes nothing.
     void EndDialog(int result);
     void setTitle(wire::WideString title);
 
@@ -74,7 +74,7 @@ private:
 
     platform::Platform& platform_;
     wire::WideString title_;
-    std::unique_ptr<Container> footer_; // what the standard buttons stand on
+    std::unique_ptr<Container> footer_; // the container of the standard buttons
     std::unique_ptr<Button> ok_;
     std::unique_ptr<Button> cancel_;
     FormObserver* observer_ = nullptr;

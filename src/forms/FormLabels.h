@@ -11,16 +11,16 @@ class Control;
 class Form;
 class Page;
 
-// The labels of a form as hosts show them. Access keys are given once, over all that the form can show: what is hidden
-// or disabled and the pages behind have theirs too, so that no key moves while the dialog is open. The standard buttons
-// come first, so that theirs are the same in every dialog.
+// The labels of a form as hosts show them. Access keys are assigned once, over everything that the form can show:
+// controls that are hidden, disabled or on a page behind have theirs too, so that no key changes while the dialog is
+// open. The standard buttons come first, so that theirs are the same in every dialog.
 class FormLabels {
 public:
     explicit FormLabels(Form& form);
 
     KeyedLabel of(const Control& control) const;
     KeyedLabel of(const Page& page) const;
-    // The form has given it another label, or a page of it another title.
+    // Call when the control's label, or the title of one of its pages, has changed.
     void changed(const Control& control);
 
 private:

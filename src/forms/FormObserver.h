@@ -13,7 +13,7 @@ public:
 
     virtual void controlChanged(Control& control, Aspect aspect) = 0;
     virtual void titleChanged(Form& form) = 0;
-    // The form is over; its result stands. Comes once.
+    // The form has ended and has its result. Called once.
     virtual void formEnded(Form& form) = 0;
 };
 

@@ -27,7 +27,7 @@ void collect(const Container& container, std::vector<Control*>& all) {
     }
 }
 
-// The control's own name, then those of what it stands beside and on, from the inside out.
+// The control's own name, then the names of what it is beside and on, from the inside out.
 std::vector<wire::WideString> namesOf(const Control& control) {
     std::vector<wire::WideString> names{ownName(control)};
     if (control.beside() != nullptr && !control.label().empty()) {
@@ -58,13 +58,13 @@ wire::WideString join(const std::vector<wire::WideString>& names, std::size_t co
 
 constexpr std::size_t noMatch = std::numeric_limits<std::size_t>::max();
 
-// What a name is compared by: it does not matter how, or whether, it says its "&".
+// A name as it is compared: ampersands, single or doubled, do not matter.
 wire::WideString withoutAmpersands(wire::WideString name) {
     std::erase(name, u'&');
     return name;
 }
 
-// How many of the names in front of the control's own one the wanted name leaves out.
+// How many of the names before the control's own one the given name leaves out.
 std::size_t namesLeftOut(const std::vector<wire::WideString>& names, std::u16string_view wanted) {
     for (std::size_t count = names.size(); count > 0; --count) {
         if (wire::compareIgnoringCase(withoutAmpersands(join(names, count)), wanted) == 0) {

@@ -5,7 +5,7 @@
 
 namespace forms {
 
-// A frame with a caption around controls that belong together. Disabled or hidden, it takes them along.
+// A frame with a caption around controls that belong together. Disabling or hiding it does the same to them.
 class Group final : public Control, public Container {
 public:
     Group(Container& container, std::u16string_view label);

@@ -18,9 +18,9 @@ namespace {
 
 using Controls = std::span<Control* const>;
 
-// A dialog with more rows than these is too high for small screens: they stand in two columns.
+// A dialog with more rows is too high for small screens: its rows are put into two columns.
 constexpr std::size_t rowsInOneColumn = 14;
-// How lists and boxes of several lines share the height that a larger dialog has.
+// How lists and boxes of several lines share the extra height of an enlarged dialog.
 constexpr int listStretch = 3;
 constexpr int textStretch = 1;
 
@@ -33,7 +33,7 @@ bool isGroup(const Control* control) {
     return dynamic_cast<const Group*>(control) != nullptr;
 }
 
-// Plans what stands on one container.
+// Plans the controls of one container.
 class ColumnPlanner {
 public:
     explicit ColumnPlanner(const Container& container)
@@ -50,14 +50,14 @@ private:
     Line lineOf(Controls controls);
     void addToLine(Control& control, Line& line);
     BlockPart partOf(Control& control);
-    // The groups that stand beside each other, and what goes with them but is no group.
+    // Separates the groups that are beside each other from what belongs to them but is not a group.
     void split(Control& control, std::vector<Control*>& abreast, std::vector<Control*>& below) const;
     bool grows(Controls controls) const;
 
     Controls controls_;
     Neighbours neighbours_;
     Column column_;
-    std::vector<Control*> rows_;    // that wait for the end of their section
+    std::vector<Control*> rows_;    // waiting for the end of their section
     std::vector<Control*> buttons_; // likewise
 };
 

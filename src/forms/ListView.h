@@ -19,13 +19,13 @@ struct ListColumn {
     bool hidden() const { return width <= 0; }
 };
 
-// A row of a list view: a text per column, and what the program knows the row by.
+// A row of a list view: a text per column, and the id by which the program identifies the row.
 struct ListRow {
     std::vector<wire::WideString> cells;
     std::string data;
 };
 
-// A list with columns, of which one row at most is selected.
+// A list with columns, of which at most one row is selected.
 class ListView final : public Control {
 public:
     ListView(Container& container, std::u16string_view label);
@@ -34,16 +34,16 @@ public:
     const std::vector<ListColumn>& columns() const { return columns_; }
     void setColumns(std::vector<ListColumn> columns);
     const std::vector<ListRow>& rows() const { return rows_; }
-    // Replaces all rows; the selection goes.
+    // Replaces all rows and clears the selection.
     void setRows(std::vector<ListRow> rows);
     void addRow(ListRow row);
-    // These two throw std::out_of_range for a row that is not there. The selection stays with its row.
+    // These two throw std::out_of_range for a row that does not exist. The selection stays with its row.
     void removeRow(std::size_t row);
     void setCell(std::size_t row, std::size_t column, wire::WideString text);
 
     std::optional<std::size_t> selection() const { return selection_; }
     const ListRow* selectedRow() const; // null without a selection
-    // Does not fire onSelect. A row that is not there takes the selection away.
+    // Does not fire onSelect. A row that does not exist clears the selection.
     void select(std::optional<std::size_t> row);
 
     // The entries that a right click on a row offers; none for no menu. Hosts ask for them at the click.
@@ -54,7 +54,7 @@ public:
     std::function<void()> onDoubleClick;
     std::function<void(std::size_t entry)> onRowMenu;
     bool userSelected(std::optional<std::size_t> row);
-    // These two select the row first. False also for an entry that the menu does not have.
+    // These two select the row first. Also false for an entry that the menu does not have.
     bool userDoubleClicked(std::size_t row);
     bool userChoseFromRowMenu(std::size_t row, std::size_t entry);
 

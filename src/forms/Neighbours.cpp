@@ -17,12 +17,12 @@ bool isA(const Control* control) {
     return dynamic_cast<const Kind*>(control) != nullptr;
 }
 
-// A group stands beside a group only, and a tab control beside nothing.
+// A group is only placed beside a group, and a tab control beside nothing.
 bool fitsBeside(const Control* control, const Control* partner) {
     return isA<Group>(control) ? isA<Group>(partner) : !isA<Tabs>(control);
 }
 
-// Nobody types into it: buttons behind it do that, or act on what is selected in it.
+// Not typed into: the buttons behind it fill it, or act on its selection.
 bool isFilledByButtons(const Control* control) {
     const auto* const text = dynamic_cast<const TextControl*>(control);
     return isA<DropList>(control) || (text != nullptr && text->options().readOnly && !isA<MultiLineEdit>(control));

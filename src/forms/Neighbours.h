@@ -8,20 +8,20 @@ namespace forms {
 
 class Control;
 
-// Which controls of a container go with which others: those that the form puts beside another, and the buttons behind a
-// box that they fill or act on.
+// Which controls of a container belong to which others: those that the form puts beside another, and the buttons behind
+// a box that they fill or act on.
 class Neighbours {
 public:
     explicit Neighbours(std::span<Control* const> controls);
 
     bool goesWithAnother(const Control& control) const { return partners_.contains(&control); }
-    // What goes with the control itself, in their order; that may have others that go with it.
+    // The controls that belong to this one, in order; each may have its own in turn.
     std::span<Control* const> of(const Control& control) const;
 
 private:
     void pairAsTheFormSays(std::span<Control* const> controls);
     void pairButtonsWithBoxes(std::span<Control* const> controls);
-    // Not where the partner goes with the control already: one of a circle stands by itself.
+    // Does nothing if the partner already belongs to the control, so that no circle arises.
     void pair(Control& control, const Control& partner);
 
     std::map<const Control*, const Control*> partners_;

@@ -17,7 +17,7 @@ public:
     const wire::WideString& title() const { return title_; }
     void setTitle(wire::WideString title);
     bool visible() const { return visible_; }
-    // Hiding the page in front brings the next one there, or the one before where there is none.
+    // Hiding the page in front brings up the next one, or the previous one if there is no next.
     void setVisible(bool visible);
     Tabs& tabs() const { return tabs_; }
     Form& form() override;

@@ -14,7 +14,7 @@ class Form;
 [[nodiscard]] bool confirmDelete(platform::Platform& platform, std::u16string_view question);
 [[nodiscard]] bool confirmDelete(Form& form, std::u16string_view question);
 
-// Tells that a form can't end without the field, and leads there.
+// Says that the form can't end without the field, and moves the focus there.
 void refuseBlank(Control& field, std::u16string_view text, std::u16string_view caption = u"Required field is Empty!",
                  std::uint32_t style = platform::boxStyle::iconWarning);
 

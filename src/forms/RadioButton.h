@@ -6,7 +6,7 @@ namespace forms {
 
 class RadioGroup;
 
-// One choice of a radio group; choosing it lets go of the others.
+// One choice of a radio group; choosing it deselects the others.
 class RadioButton final : public Control {
 public:
     RadioButton(Container& container, RadioGroup& group, std::u16string_view label);
@@ -20,7 +20,7 @@ public:
     bool userChose();
 
 private:
-    // Makes this button the chosen one and tells the host of the one that was.
+    // Makes this the chosen button and notifies the host about the previous one.
     void letGoOfOther();
 
     RadioGroup& group_;

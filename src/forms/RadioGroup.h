@@ -6,7 +6,7 @@ namespace forms {
 
 class RadioButton;
 
-// Radio buttons of which one at most is chosen. Not a control itself: the buttons stand where the form puts them.
+// Radio buttons of which at most one is chosen. Not a control itself: the form places the buttons.
 class RadioGroup {
 public:
     const std::vector<RadioButton*>& buttons() const { return buttons_; }

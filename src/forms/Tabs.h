@@ -18,7 +18,7 @@ public:
     const std::vector<Page*>& pages() const { return pages_; }
     // The page in front; 0 at first.
     std::size_t current() const { return current_; }
-    // Throws std::out_of_range for a page that is not there, or hidden.
+    // Throws std::out_of_range for a page that does not exist or is hidden.
     void show(std::size_t page);
 
     std::function<void()> onShow;

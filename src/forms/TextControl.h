@@ -11,10 +11,10 @@ namespace forms {
 struct TextOptions {
     static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 
-    std::size_t limit = unlimited; // in UTF-16 units; of what a person types, not of setText
-    bool digitsOnly = false;       // other characters are not taken from the keyboard
+    std::size_t limit = unlimited; // in UTF-16 units; for typed text, not for setText
+    bool digitsOnly = false;       // other characters can't be typed
     bool readOnly = false;
-    std::size_t codePageBytes = unlimited; // of a text that goes out in the user's code page; tested on OK
+    std::size_t codePageBytes = unlimited; // for a text that is sent in the user's code page; checked on OK
 };
 
 // A box that takes text; the base of the one-line, the many-line and the password box.
@@ -28,8 +28,8 @@ public:
     void setReadOnly(bool readOnly);
 
     std::function<void()> onChange;
-    // The person has changed the text. False when it breaks the box's rules (too long, not digits, read only,
-    // disabled); the text then stays. A text that breaks the rules, as setText may leave it, can still be made shorter.
+    // The user has changed the text. False when it breaks the box's rules (too long, not digits, read only, disabled);
+    // the old text then stays. A text that already breaks the rules, as setText may leave one, can still be shortened.
     bool userTyped(wire::WideString text);
 
 protected:

@@ -22,7 +22,7 @@ struct DateTime {
 // Whether the numbers name a real day and time, in the years 1 to 9999.
 [[nodiscard]] bool isValid(const DateTime& value);
 
-// As the server writes dates, whatever the user's ways: "2014-03-05 17:04:09".
+// As the server writes dates, whatever the user's locale: "2014-03-05 17:04:09".
 [[nodiscard]] wire::WideString toWireDate(const DateTime& value);
 
 } // namespace platform

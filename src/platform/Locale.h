@@ -7,17 +7,17 @@
 
 namespace platform {
 
-// How the user writes numbers. The default is the plain way: a point, and no groups.
+// How the user writes numbers. By default plainly: a decimal point, and no groups.
 struct NumberFormat {
     wire::WideString decimalSeparator{u"."};
     wire::WideString thousandsSeparator{}; // may be several units, or one that looks like a blank
-    // How many digits stand in each group, from the decimal separator to the left; the last number goes for all further
-    // groups, unless it is 0: what is left is then not divided. Empty for no groups at all.
+    // The number of digits in each group, from the decimal separator to the left; the last number applies to all
+    // further groups, unless it is 0, which leaves the rest undivided. Empty for no groups at all.
     std::vector<std::uint8_t> grouping{};
-    int decimals = 2; // that a number has where nobody asks for more
+    int decimals = 2; // of a number, unless more are requested
 };
 
-// What a host knows of the user's ways. The default is the plain way.
+// What a host knows about the user's locale. The default is plain formatting.
 class Locale {
 public:
     virtual ~Locale() = default;

@@ -17,11 +17,11 @@ namespace platform {
 struct Platform {
     UserInterface& ui;
     SettingsStore& settings;
-    client::ClientHooks hooks{}; // who watches commands and shows the server's refusals
+    client::ClientHooks hooks{}; // these observe commands and show the server's refusals
     std::optional<std::array<std::uint16_t, 4>> productVersion{}; // of the module; empty when it can't be read
     const Locale& locale = plainLocale;                           // how the user writes numbers
     const Environment& environment = unknownEnvironment;          // the machine that the program runs on
-    ProcessLauncher& launcher = noLauncher;                       // by which other programs are started
+    ProcessLauncher& launcher = noLauncher;                       // starts other programs
 };
 
 } // namespace platform

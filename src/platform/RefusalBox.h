@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// Shows what the server refuses as a message box, as the server wants it.
+// Shows a refusal by the server as a message box.
 class RefusalBox final : public client::ServerMessages {
 public:
     // The user interface outlives this.

@@ -13,12 +13,12 @@ class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
 
-    // False when there is no store yet (nothing was ever written) or it can't be opened for reading.
+    // False when there is no store yet (nothing has been written) or it can't be opened for reading.
     virtual bool exists() const = 0;
     // Empty when the store has no such value.
     virtual std::optional<wire::WideString> read(std::string_view name) const = 0;
-    // A value that another program has left under a key of the registry, such as "SOFTWARE\\VantrelSrv". Where there is
-    // no registry, such values stand among those of this store, by their names alone.
+    // A value that another program has stored under a key of the registry, such as "SOFTWARE\\VantrelSrv". Without a
+    // registry, such values are read from this store by their names alone.
     virtual std::optional<wire::WideString> readOf(std::string_view /*key*/, std::string_view name) const {
         return read(name);
     }

@@ -55,8 +55,8 @@ std::span<const console::VerbChoice> QueueNode::verbs() const {
     return choices;
 }
 
-// The Delete key takes the row away at once, whatever the server made of the command; the two refreshes then show what
-// stands. This order must stay.
+// The Delete key removes the row at once, whether or not the server carried out the command; the two refreshes then
+// show the actual state. This order must stay.
 console::Result QueueNode::deleteQueue(console::CommandOrigin /*origin*/) {
     if (!confirm(u"Are you sure you want to delete the selected queue?")) {
         return console::Result::notDone;

@@ -14,9 +14,9 @@ public:
     explicit QueuesRootNode(platform::Platform& platform);
     ~QueuesRootNode() override;
 
-    // Null while no tree stands.
+    // Null while there is no tree.
     static QueuesRootNode* instance();
-    // Refreshes the one that stands; nothing while it has no row in the console's tree.
+    // Refreshes the instance; does nothing while it has no row in the console's tree.
     static void refreshInstance(console::IConsole& console);
 
     console::ScopeId scopeId() const { return row(); }

@@ -13,7 +13,7 @@ void CreateRegionDlg::onInitDialog() {
     okButton().setEnabled(false);
 }
 
-// An empty name goes out as it is, and a region that was not made is not remarked on: the tree will show it.
+// An empty name is sent as it is, and a region that was not made is not reported: the tree will show it.
 void CreateRegionDlg::onOk() {
     const auto kind =
         mode_ == Mode::printerTree ? protocol::RegionKind::printersAndQueues : protocol::RegionKind::localPrinters;

@@ -7,8 +7,8 @@
 
 namespace regions {
 
-// The printers or queues that the client has listed last, last of the server's list first. Throws what
-// nextPrinterRecord throws for a list that broke off.
+// The printers or queues of the client's latest list, in reverse of the server's order. Throws what nextPrinterRecord
+// throws for a truncated list.
 std::vector<protocol::PrinterRecord> takePrinterRecords(client::CQVXAdminClass& client);
 
 } // namespace regions

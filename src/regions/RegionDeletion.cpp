@@ -12,7 +12,8 @@ RegionContents readRegionContents(client::CQVXAdminClass& client, std::int32_t r
         !readRegionsBelow(client, protocol::RegionKind::printersAndQueues, regionId, subRegions)) {
         return RegionContents::unknown;
     }
-    // A count is what the server announced: where it is not 0, the region is not empty, whatever came of the list.
+    // The count is what the server announced: if it is not 0, the region is not empty, however much of the list
+    // arrived.
     const bool unread = client.announcedRegions() < 0;
     return printers == 0 && followQueues == 0 && subRegions.empty() && !unread ? RegionContents::empty
                                                                                : RegionContents::something;

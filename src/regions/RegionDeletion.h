@@ -6,7 +6,8 @@
 
 namespace regions {
 
-// What the three lists before a delete have shown. Unknown when one of them could not be read: then nothing is deleted.
+// What the three lists read before a delete have shown. Unknown when one of them could not be read: then nothing is
+// deleted.
 enum class RegionContents : std::uint8_t { empty, something, unknown };
 
 // Reads the printers, the follow-print queues and the sub-regions of a region of printers and queues.

@@ -16,10 +16,10 @@ struct RegionTree {
     protocol::RegionKind kind;
     CreateRegionDlg::Mode createMode;
     const char16_t* deleteQuestion;
-    const char16_t* notEmptyText; // why a region that holds something is not deleted
+    const char16_t* notEmptyText; // why a region that is not empty is not deleted
 };
 
-// The blank at the end of the question is meant.
+// The blank at the end of the question is intentional.
 inline constexpr RegionTree printersAndQueues{
     .kind = protocol::RegionKind::printersAndQueues,
     .createMode = CreateRegionDlg::Mode::printerTree,
@@ -40,20 +40,20 @@ protected:
 
     // A node of the tree's class of regions.
     virtual std::shared_ptr<RegionNode> makeRegion(protocol::RegionRecord record) const = 0;
-    // What else shows the regions and has to be read again after a move.
+    // Refreshes whatever else shows the regions, after a move.
     virtual void refreshOthers() {}
 
     const RegionTree& tree() const { return tree_; }
     const console::NodeArray<RegionNode>& regions() const { return regions_; }
-    // Puts a region under this one that the server has just made.
+    // Adds a region that the server has just made under this one.
     void addRegion(protocol::RegionRecord record);
 
-    // The regions right below, last of the server's list first.
+    // The regions directly below, in reverse of the server's order.
     console::ChildKind regionsBelow();
     console::Result createRegion(console::CommandOrigin origin);
-    // What follows once the dialog has made a region; its id is 0 where it is not known.
+    // Called once the dialog has made a region; its id is 0 where it is not known.
     virtual void regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name);
-    // Whether a region may stand below another, itself included, is the server's to decide.
+    // The server decides whether a region may be moved below another, or below itself.
     bool moveHere(const RegionNode& region) const;
     // A move presses F5 twice, and twice again once the others have been refreshed; this must stay.
     console::Result finishMove(bool moved);

@@ -47,7 +47,7 @@ RegionContents RegionNode::readContents(client::CQVXAdminClass& client) const {
     return readRegionContents(client, regionId());
 }
 
-// The new text stands at once and goes again when the command can't be sent.
+// The new text is shown at once and taken back when the command can't be sent.
 console::Result RegionNode::OnRename(console::IConsole& console, const wire::WideString& newName) {
     const auto showText = [&](const wire::WideString& text) {
         if (console.nameSpace() != nullptr) {

@@ -8,7 +8,7 @@
 
 namespace regions {
 
-// A region in one of the trees of regions. Its class says what else it holds.
+// A region in one of the trees of regions. Derived classes define what else it holds.
 class RegionNode : public RegionHolder {
 public:
     std::string refreshKey() const override;
@@ -21,7 +21,7 @@ protected:
     void regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name) override;
     console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
 
-    // Asks, looks whether the region is empty, and deletes it.
+    // Asks, checks whether the region is empty, and deletes it.
     console::Result deleteRegion(console::CommandOrigin origin);
     virtual RegionContents readContents(client::CQVXAdminClass& client) const;
 };

@@ -2,7 +2,7 @@
 
 namespace regions {
 
-// The server is asked for the whole tree, whose levels are told apart here.
+// The server returns the whole tree, whose levels are separated here.
 bool readRegionsBelow(client::CQVXAdminClass& client, protocol::RegionKind kind, std::int32_t parentId,
                       std::vector<protocol::RegionRecord>& below) {
     if (!client.listRegions(kind)) {

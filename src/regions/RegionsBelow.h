@@ -9,8 +9,8 @@
 
 namespace regions {
 
-// The regions right below a region (0: the top), last of the server's list first. Throws what the client throws; false
-// without a connection or an answer, and then below is left alone.
+// The regions directly below a region (0: the top), in reverse of the server's order. Throws what the client throws;
+// false without a connection or an answer, and then `below` is unchanged.
 bool readRegionsBelow(client::CQVXAdminClass& client, protocol::RegionKind kind, std::int32_t parentId,
                       std::vector<protocol::RegionRecord>& below);
 

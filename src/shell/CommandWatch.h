@@ -6,7 +6,7 @@
 
 namespace shell {
 
-// Hands on to the observers what the client tells of its commands.
+// Passes the client's reports about its commands on to the observers.
 class CommandWatch final : public client::CommandObserver, public wire::WaitObserver {
 public:
     // The observers outlive this.

@@ -42,7 +42,7 @@ bool commonInSameOrder(Ids before, const IdSet& inBefore, Ids after, const IdSet
     return true;
 }
 
-// The steps between lists that neither begin nor end alike.
+// The steps between lists that have no common beginning or end.
 std::optional<std::vector<ListStep>> stepsInside(Ids before, Ids after) {
     if (before.empty() && after.empty()) {
         return std::vector<ListStep>{};
@@ -58,7 +58,7 @@ std::optional<std::vector<ListStep>> stepsInside(Ids before, Ids after) {
     if (!steps || !inserts || !commonInSameOrder(before, inBefore, after, inAfter)) {
         return std::nullopt;
     }
-    std::ranges::reverse(*steps); // from the end, so that the places of the earlier ones stay right
+    std::ranges::reverse(*steps); // from the end, so that the earlier positions stay valid
     steps->insert(steps->end(), inserts->begin(), inserts->end());
     return steps;
 }

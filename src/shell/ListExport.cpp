@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view columnGap = "  ";
 
-// Calls begin before, and cell with the number of each cell in, each row; the titles are the first row.
+// Calls begin before each row, and cell with the number of each cell in it; the titles are the first row.
 template <class Cell, class End>
 void walk(const Table& table, Cell&& cell, End&& end) {
     const auto columns = table.columns.size();
@@ -98,7 +98,7 @@ void writeText(std::ostream& out, const Table& table) {
         },
         [](std::size_t) {});
     std::string line;
-    std::size_t gap = 0; // blanks that are due before the next text, so that no line ends in blanks
+    std::size_t gap = 0; // blanks to write before the next text, so that no line ends in blanks
     const auto add = [&](std::size_t column, const wire::WideString& text) {
         if (!text.empty()) {
             line.append(gap, ' ').append(wire::toUtf8(text));

@@ -6,7 +6,7 @@
 
 namespace shell {
 
-// RFC 4180, in UTF-8: a line with the titles, quotes where they are needed, lines that end in CR and LF.
+// RFC 4180, in UTF-8: a line with the titles, quotes where needed, lines ending in CR and LF.
 void writeCsv(std::ostream& out, const Table& table);
 
 // {"columns": [...], "rows": [[...], ...]}, in UTF-8; cells as they are.

@@ -13,7 +13,7 @@ struct MenuItem {
     std::int32_t id = 0;
     bool separator = false;
     bool checked = false;
-    bool disabled = false; // shown, and can't be chosen
+    bool disabled = false; // shown, but can't be chosen
 
     friend bool operator==(const MenuItem&, const MenuItem&) = default;
 };

@@ -8,7 +8,7 @@
 namespace shell {
 namespace {
 
-// What the key of one unit takes at most: a lone digit becomes three.
+// The most units that the key of one unit takes: a lone digit becomes three.
 constexpr std::size_t mostKeyUnits = 3;
 
 constexpr bool isDigit(char16_t unit) {
@@ -17,7 +17,7 @@ constexpr bool isDigit(char16_t unit) {
 
 char16_t plainLetter(char16_t unit) {
     const char16_t folded = wire::foldCase(unit);
-    return folded < 0x80 ? folded : baseLetter(folded); // nearly all of them are below
+    return folded < 0x80 ? folded : baseLetter(folded); // nearly every unit is ASCII
 }
 
 char16_t* writeKey(wire::WideStringView text, char16_t* out) {

@@ -9,8 +9,8 @@
 
 namespace shell {
 
-// Sends the console's notifications to nodes, the node being kept alive for as long as it handles one. Whatever a node
-// throws ends here: it is told to the observers and answered with Result::failed.
+// Sends the console's notifications to nodes, and keeps each node alive while it handles one. Whatever a node throws is
+// caught here: it is reported to the observers, and the result is Result::failed.
 class Notifier {
 public:
     using Node = std::shared_ptr<console::CSnapInItem>;
@@ -21,7 +21,7 @@ public:
     console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
     console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
     console::Result show(const Node& node, console::ScopeId id, bool show) const;
-    // The shown node is to show its columns and rows as a refresh has left them.
+    // Asks the shown node to show its columns and rows again after a refresh.
     console::Result showAnew(const Node& node, console::IConsole& console) const;
     console::Result select(const Node& node, console::DataObjectType type, bool selected) const;
     console::Result refresh(const Node& node, console::DataObjectType type, console::ScopeId scopeId) const;

@@ -94,7 +94,7 @@ bool ResultPane::isTaken(ResultId id) {
         return false;
     }
     const std::size_t next = current().size();
-    // Rows that come again in their old sequence are told apart without a look at the others.
+    // Rows that are inserted again in their old sequence are recognised without looking at the others.
     const bool expected = follows_ && next < rows_.size() && rows_[next].id == id;
     return !expected && places().contains(id);
 }
@@ -242,7 +242,7 @@ void ResultPane::commitRows() {
     if (!working_ && !nextScope_) {
         return;
     }
-    const auto oldScope = std::exchange(scopeRows_, {}); // what is shown points here until the end
+    const auto oldScope = std::exchange(scopeRows_, {}); // the shown rows point here until the end
     const auto oldRows = std::exchange(rows_, {});
     if (nextScope_) {
         scopeRows_.swap(*nextScope_);

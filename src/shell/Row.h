@@ -18,7 +18,7 @@ struct Row {
     console::ScopeId scopeId() const { return -id; } // of a scope item
 };
 
-// The text of one column. Valid until the row's node is asked again; empty when it has nothing to say.
+// The text of one column. Valid until the row's node is asked again; empty when it returns none.
 wire::WideStringView cellOf(const Row& row, std::int32_t column);
 
 } // namespace shell

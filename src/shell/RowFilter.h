@@ -4,7 +4,7 @@
 
 namespace shell {
 
-// What a person typed to see only the rows that hold it, in whatever column and case.
+// The text that the user typed to see only the rows that contain it, in any column and ignoring case.
 class RowFilter {
 public:
     RowFilter() = default;

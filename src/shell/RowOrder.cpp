@@ -10,7 +10,7 @@ namespace {
 using Rows = std::span<const Row*>;
 using Places = std::span<const std::uint32_t>;
 
-// Where the rows end that are sorted together with the first one.
+// The number of rows that are sorted together with the first one.
 std::size_t lengthOfRun(Rows rows, const std::optional<SortOrder>& order) {
     if (order) {
         return rows.size();
@@ -23,7 +23,7 @@ std::size_t lengthOfRun(Rows rows, const std::optional<SortOrder>& order) {
     return static_cast<std::size_t>(end - rows.begin());
 }
 
-// The places of a run's rows, counted from its begin; nothing when other rows stand among them.
+// The positions of a run's rows, counted from its start; empty when other rows are among them.
 std::vector<std::uint32_t> placesInRun(Places likely, std::size_t begin) {
     std::vector<std::uint32_t> places(likely.begin(), likely.end());
     for (std::uint32_t& place : places) {

@@ -20,14 +20,14 @@ struct ScopeItem {
     std::int32_t openImage = 0;
     bool mayHaveChildren = false;
     bool loaded = false;                    // its node has been told to expand
-    bool open = false;                      // people see its children
-    bool gone = false;                      // removed by a handler, and shown until that is committed
+    bool open = false;                      // its children are displayed
+    bool gone = false;                      // removed by a handler, but displayed until the commit
     bool back = false;                      // removed and inserted again since the last commit
-    bool reopen = false;                    // is to be expanded again once it is back
+    bool reopen = false;                    // to be expanded again once it is back
     std::unique_ptr<wire::WideString> text; // shown instead of the node's own
     std::vector<console::ScopeId> children; // as handlers made them, in order of insertion
-    std::vector<console::ScopeId> shown;    // as people see them
-    // Children removed since the last commit, by what makes them the same ones when they come back.
+    std::vector<console::ScopeId> shown;    // as displayed
+    // Children removed since the last commit, by the key that identifies them when they are inserted again.
     std::unordered_multimap<std::string, console::ScopeId> departed;
 };
 

@@ -100,7 +100,7 @@ Result ScopeTree::DeleteItem(ScopeId scopeId, bool deleteThis) {
     return Result::ok;
 }
 
-// Answers whether the item to be kept reachable stands at or below this one.
+// Returns whether the item to be kept reachable is this one or below it.
 bool ScopeTree::depart(ScopeItem& item) {
     bool needed = false;
     for (const ScopeId child : std::exchange(item.children, {})) {
@@ -123,7 +123,7 @@ ScopeItem* ScopeTree::takeBack(ScopeItem& parent, const CSnapInItem& node) {
     item.loaded = false;
     item.text.reset();
     if (!item.shown.empty()) {
-        changed_.insert(item.id); // its old children go, unless they come back too
+        changed_.insert(item.id); // its old children are removed unless they come back too
     }
     return &item;
 }
@@ -258,7 +258,7 @@ void ScopeTree::commit() {
     std::ranges::for_each(free, [this](ScopeId id) { erase(id); });
 }
 
-// Neighbours of one class stand in their natural order; classes, and the fixed items of the upper tree, as inserted.
+// Neighbours of one class are in their natural order; classes, and the fixed items of the upper tree, as inserted.
 std::vector<ScopeId> ScopeTree::inOrderForPeople(const ScopeItem& parent) const {
     std::vector<ScopeId> result;
     result.reserve(parent.children.size());

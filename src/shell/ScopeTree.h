@@ -12,28 +12,28 @@
 
 namespace shell {
 
-// The scope tree. Handlers change it through the platform's operations; people see the change when it is committed.
+// The scope tree. Handlers change it through the platform's operations; changes are displayed when they are committed.
 //
 // An item that is removed and comes back before the commit, as every refresh does to all children of a node, keeps its
-// id: it is the one with the same parent, class and refresh key. So everything that goes by ids (what is open, the
-// selection, the history) stays as it was, though each node is a new one.
+// id: it is the one with the same parent, class and refresh key. So everything that is identified by ids (open items,
+// the selection, the history) stays as it was, although each node is a new one.
 class ScopeTree final : public console::IConsoleNameSpace {
 public:
-    // Tells the observers, which outlive it.
+    // Notifies the observers, which outlive it.
     explicit ScopeTree(const Observers& observers) : observers_(observers) {}
 
     // The root has no parent and is shown at once.
     console::ScopeId insertRoot(const std::shared_ptr<console::CSnapInItem>& node);
 
-    // Result::failed without a node or under an item that is not there.
+    // Result::failed without a node or under an item that does not exist.
     console::Result InsertItem(console::ScopeItemFields& row) override;
     console::Result SetItem(console::ScopeId scopeId, std::u16string_view text) override;
     console::Result GetChildItem(console::ScopeId scopeId, console::ScopeId& child,
                                  console::CSnapInItem*& cookie) override;
-    // The root stays.
+    // Never removes the root.
     console::Result DeleteItem(console::ScopeId scopeId, bool deleteThis) override;
 
-    // What people see.
+    // The tree as displayed.
     console::ScopeId root() const { return root_; }
     bool contains(console::ScopeId id) const { return find(id) != nullptr; }
     std::span<const console::ScopeId> children(console::ScopeId id) const;
@@ -47,18 +47,18 @@ public:
     std::vector<console::ScopeId> pathTo(console::ScopeId id) const; // from the root down to the item itself
     std::size_t size() const { return items_.size(); }
 
-    // For the shell. Null for an item that is not there, or that a handler has removed.
+    // For the shell. Null for an item that does not exist, or that a handler has removed.
     ScopeItem* alive(console::ScopeId id);
-    // Also finds what is removed and not committed yet.
+    // Also finds items whose removal is not committed yet.
     const ScopeItem* find(console::ScopeId id) const;
-    // The item itself, else the nearest one above it that is still there.
+    // The item itself, or else the nearest one above it that still exists.
     console::ScopeId nearestAlive(console::ScopeId id) const;
     void setOpen(ScopeItem& item, bool open);
-    // The item that must be loaded again when it comes back, though nothing around it is open: the selected one.
+    // The item that must be loaded again when it comes back, even if nothing around it is open: the selected one.
     void keepReachable(console::ScopeId id) { reachable_ = id; }
-    // An item that came back and stood open before; 0 when there is none.
+    // An item that came back and was open before; 0 when there is none.
     console::ScopeId takeReopened();
-    // Shows people the changes and frees what is gone.
+    // Displays the changes and frees removed items.
     void commit();
 
 private:
@@ -72,7 +72,7 @@ private:
 
     const Observers& observers_;
     std::unordered_map<console::ScopeId, ScopeItem> items_;
-    std::set<console::ScopeId> changed_; // parents with other children than shown; an ancestor has the smaller id
+    std::set<console::ScopeId> changed_; // parents with undisplayed changes; an ancestor has the smaller id
     std::vector<console::ScopeId> reopened_;
     std::vector<console::ScopeId> renamed_; // whose text or expander has changed
     console::ScopeId root_ = 0;

@@ -82,7 +82,7 @@ void Shell::run(const Task& task) {
         show(task.scopeId);
         break;
     case Task::Kind::work:
-        commit(); // what runs beside the handlers may ask the person something, who should see what stands
+        commit(); // work started by handlers may ask the user something, who should see the current state
         notifier_.guard("thread", task.work);
         break;
     case Task::Kind::close:

@@ -16,12 +16,12 @@
 
 namespace shell {
 
-// A console for a snap-in to live in, without a screen: scope tree, list, verbs, clipboard and history. A host shows
-// what stands here and calls the operations when the person does something.
+// A console for a snap-in to live in, without a screen: scope tree, list, verbs, clipboard and history. A host displays
+// this state and calls the operations when the user does something.
 //
 // An operation runs the node's handler, then what the handler asked to be done afterwards (key presses, selections),
-// then tells the observers what has changed. It answers false when there was nothing to do it with, or while another
-// operation is running; nothing is thrown out of any. Everything runs on one thread.
+// then notifies the observers of what has changed. It returns false when there was nothing to act on, or while another
+// operation is running; none of them throws. Everything runs on one thread.
 class Shell final : public console::IConsole {
 public:
     // All three outlive the shell.
@@ -30,10 +30,10 @@ public:
     Shell& operator=(const Shell&) = delete;
     ~Shell() override;
 
-    // Once: gives the snap-in its console, shows its root, and runs what that started, such as the login.
+    // Called once: gives the snap-in its console, shows its root, and runs what that started, such as the login.
     bool start();
 
-    // What people see.
+    // The tree as displayed.
     const ScopeTree& tree() const { return tree_; }
     const ResultPane& pane() const { return view_.pane; }
     const ColumnHeader& header() const { return view_.header; }
@@ -51,9 +51,9 @@ public:
     // 0 goes back to the scope item.
     bool selectRow(console::ResultId id);
     bool doubleClick(console::ResultId id);
-    // The person clicked a title: the list is sorted by that column, the other way round if it was already.
+    // The user clicked a title: sorts the list by that column, or in the opposite direction if it already was.
     bool clickColumn(std::int32_t column);
-    // Of the selected row, else of the selected scope item.
+    // Refreshes the selected row, or else the selected scope item.
     bool refresh();
     bool back();
     bool forward();
@@ -61,20 +61,20 @@ public:
     bool canGoForward() const;
 
     std::vector<MenuItem> menu(const Target& target);
-    // False for an entry that the menu has disabled at this moment.
+    // False for an entry that is disabled at this moment.
     bool invoke(std::int32_t commandId, const Target& target);
 
-    // The verbs, for what is selected. Each is done only where it is offered.
+    // The verbs, for the current selection. Each is carried out only if it is offered.
     bool canRename() const { return offers(console::Verb::rename); }
     bool rename(const wire::WideString& newName);
     bool canCut() const { return offers(console::Verb::cut); }
     bool cut();
-    // Asks the node, so that it is not for use while one handles something.
+    // Asks the node, so it must not be called while a handler runs.
     bool canPaste();
     bool paste();
     bool canDelete() const { return offers(console::Verb::deleteItem); }
     bool deleteItem();
-    // Dragging is cut and paste at once.
+    // Dragging is cut and paste in one.
     bool canDrop(const Target& source, console::ScopeId target);
     bool drop(const Target& source, console::ScopeId target);
 
@@ -82,13 +82,13 @@ public:
     void filter(wire::WideStringView text);
     // See ResultPane::setTopRow.
     void setTopRow(console::ResultId id) { view_.pane.setTopRow(id); }
-    // The list as it stands, sorted and filtered. Valid until the list changes.
+    // The list as displayed, sorted and filtered. Valid until the list changes.
     Table table() const;
-    // The next item that holds the text, below the selected one; 0 when there is none. With `load` items that were
-    // never opened are looked into as well.
+    // The next item that contains the text, below the selected one; 0 when there is none. With `load`, items that were
+    // never opened are searched as well.
     console::ScopeId find(wire::WideStringView text, bool load);
 
-    // Does what is queued; for hosts that queue something themselves.
+    // Runs the queued tasks; for hosts that queue tasks themselves.
     bool drain();
 
     // The owner of the snap-in's dialogs.
@@ -98,13 +98,13 @@ public:
         view_.header.measure = std::move(measure);
     }
 
-    // What nodes see.
+    // The console as nodes see it.
     console::IConsoleNameSpace* nameSpace() override { return &tree_; }
     console::IResultData* resultData() override { return &view_.pane; }
     console::IHeaderCtrl* headerCtrl() override { return &view_.header; }
     console::Result QueryConsoleVerb(console::IConsoleVerb*& verb) override;
     console::Result QueryScopeImageList(console::IImageList*& images) override;
-    // Done when the running handler has returned.
+    // Takes effect when the running handler has returned.
     console::Result SelectScopeItem(console::ScopeId scopeId) override;
     console::Result GetMainWindow(platform::WindowHandle& window) override;
 

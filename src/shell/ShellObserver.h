@@ -11,10 +11,10 @@
 
 namespace shell {
 
-// How a host learns what has changed in the console. Changes are told when a handler has returned and everything that
-// it asked for is done, so that tree and list never show a state in between; only the functions about commands come
-// while a handler runs. Of a change of items or rows the first call comes before, and the second after it.
-// What an observer throws is dropped.
+// How a host learns what has changed in the console. Changes are reported when a handler has returned and everything
+// that it asked for is done, so that tree and list never show an intermediate state; only the functions about commands
+// are called while a handler runs. For a change of items or rows, the first function is called before it and the second
+// after it. What an observer throws is dropped.
 class ShellObserver {
 public:
     virtual ~ShellObserver() = default;
@@ -27,10 +27,10 @@ public:
     virtual void scopeItemsRemoved(console::ScopeId /*parent*/, std::size_t /*first*/, std::size_t /*count*/) {}
     // Its text, its images, or whether it may have children.
     virtual void scopeItemChanged(console::ScopeId /*item*/) {}
-    // Its children are, or are no longer, to be seen.
+    // Its children are displayed, or no longer displayed.
     virtual void scopeItemOpened(console::ScopeId /*item*/, bool /*open*/) {}
 
-    // Another scope item, another row, or another of the two panes is the one that commands go to.
+    // Commands now go to another scope item, another row, or the other pane.
     virtual void selectionChanged() {}
     virtual void verbsChanged() {}
 
@@ -39,20 +39,20 @@ public:
     virtual void rowsInserted(std::size_t /*first*/, std::size_t /*count*/) {}
     virtual void rowsAboutToBeRemoved(std::size_t /*first*/, std::size_t /*count*/) {}
     virtual void rowsRemoved(std::size_t /*first*/, std::size_t /*count*/) {}
-    // The same rows may have other cells.
+    // The cells of these rows may have changed.
     virtual void rowsChanged(std::size_t /*first*/, std::size_t /*count*/) {}
-    // Any rows, in any order. A row that was there before has its id still.
+    // Any rows may change, in any order. A row that existed before keeps its id.
     virtual void rowsAboutToBeReset() {}
     virtual void rowsReset() {}
 
     virtual void commandStarted(const client::CommandReport& /*report*/) {}
-    // Called some twenty times a second while a command waits. False gives up on it.
+    // Called about twenty times a second while a command waits. False cancels it.
     virtual bool commandWaits(std::chrono::milliseconds /*elapsed*/, std::uint32_t /*records*/) { return true; }
     virtual void commandEnded(const client::CommandReport& /*report*/) {}
-    // A node's or a form's handler threw; it was stopped there and the console goes on.
+    // A handler of a node or form threw; the exception was caught and the console goes on.
     virtual void handlerStopped(std::string_view /*where*/, std::string_view /*what*/) {}
 
-    // The snap-in wants the console to end.
+    // The snap-in asks the console to close.
     virtual void closeRequested() {}
 };
 

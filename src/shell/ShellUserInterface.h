@@ -12,7 +12,7 @@ public:
     // The queue outlives this.
     explicit ShellUserInterface(TaskQueue& tasks) : tasks_(tasks) {}
 
-    // A sequence is one refresh of the current view, whatever keys it holds.
+    // A sequence becomes one refresh of the current view, whatever its keys.
     void press(std::span<const platform::Key> keys) override;
     // The work is done on the shell's own thread, when the running handler has returned.
     void startThread(std::function<void()> work) override;

@@ -14,11 +14,11 @@ public:
     virtual ~SnapIn() = default;
 
     virtual std::shared_ptr<console::CSnapInItem> root() = 0;
-    // Once, before everything else. Gives the snap-in its console; may start a login.
+    // Called once, before everything else. Gives the snap-in its console; may start a login.
     virtual console::Result Initialize(console::IConsole& console) = 0;
-    // What concerns the scope tree: expand, and the rename of a scope item.
+    // Notifications about the scope tree: expand, and the rename of a scope item.
     virtual console::Result notifyScope(console::CSnapInItem& node, const console::Notification& notification) = 0;
-    // What concerns the view: show, select, refresh, clicks, cut and paste, and the rename of a row.
+    // Notifications about the view: show, select, refresh, clicks, cut and paste, and the rename of a row.
     virtual console::Result notifyView(console::CSnapInItem& node, const console::Notification& notification) = 0;
     virtual console::Result GetResultViewType(console::CSnapInItem& node, const char16_t*& viewType,
                                               std::int32_t& viewOptions) = 0;

@@ -7,7 +7,7 @@
 namespace shell {
 
 void SortKeys::add(wire::WideStringView text) {
-    if (keys_.empty()) { // most texts of a column are as long as the first one, and none need be as long as the longest
+    if (keys_.empty()) { // most texts are as long as the first one
         units_.reserve(keys_.capacity() * std::min<std::size_t>(text.size() + 8, 64));
     }
     const auto begin = units_.size();
@@ -17,7 +17,7 @@ void SortKeys::add(wire::WideStringView text) {
 
 void SortKeys::add(std::int64_t number) {
     const auto begin = units_.size();
-    const auto bits = static_cast<std::uint64_t>(number) ^ (std::uint64_t{1} << 63U); // the negative ones first
+    const auto bits = static_cast<std::uint64_t>(number) ^ (std::uint64_t{1} << 63U); // negative numbers first
     for (unsigned shift = 64; shift != 0;) {
         shift -= 16;
         units_.push_back(static_cast<char16_t>(bits >> shift & 0xFFFFU));

@@ -9,20 +9,21 @@
 
 namespace shell {
 
-// The texts or numbers by which rows are put into order, in one piece of memory and not one for each row.
+// The texts or numbers by which rows are sorted, in one piece of memory rather than one for each row.
 class SortKeys {
 public:
     void reserve(std::size_t count) { keys_.reserve(count); }
     void add(wire::WideStringView text);
-    // Numbers stand in their order, behind rows with an empty text.
+    // Numbers sort by value, after rows with an empty text.
     void add(std::int64_t number);
-    // The places of the texts, counted in the order of adding, as they stand in natural order; equal ones as added.
-    // `likely` is that or something else of all places, or nothing. Nothing can be added afterwards.
+    // The positions of the texts, counted in the order in which they were added, sorted in natural order; equal ones as
+    // added. `likely` is a guess of the result, a permutation of all positions, or empty. Nothing can be added
+    // afterwards.
     std::vector<std::uint32_t> sorted(bool ascending, std::span<const std::uint32_t> likely = {});
 
 private:
     struct Key {
-        std::uint64_t head = 0; // the first units that are not common to all keys
+        std::uint64_t head = 0; // the first units after the prefix that all keys share
         std::size_t begin = 0;
         std::uint32_t length = 0;
         std::uint32_t place = 0;

@@ -8,11 +8,11 @@
 
 namespace shell {
 
-// Something with columns and rows that can be written out; cells are asked for one after the other.
+// Columns and rows to be written out; cells are read one after the other.
 struct Table {
     std::vector<wire::WideString> columns;
     std::size_t rowCount = 0;
-    // The view is used before the next cell is asked for.
+    // The view is valid until the next cell is read.
     std::function<wire::WideStringView(std::size_t row, std::size_t column)> cell;
 };
 

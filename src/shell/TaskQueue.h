@@ -24,16 +24,16 @@ struct Task {
     std::function<void()> work{};
 };
 
-// Keeps, in order, what handlers ask for and may not get before they return: a key press is acted on, and another
-// scope item is selected, when the console is back at its own loop.
+// Keeps, in order, what handlers ask for but must not happen before they return: a key press is acted on, and another
+// scope item is selected, when the console is back in its own loop.
 class TaskQueue {
 public:
-    // Two refreshes with nothing in between are one: the second would read the same again.
+    // Two refreshes in a row are merged: the second would read the same again.
     void add(Task task);
     std::optional<Task> next();
     void clear() { tasks_.clear(); }
     bool empty() const { return tasks_.empty(); }
-    // The task that comes next; null when there is none.
+    // The next task; null when there is none.
     const Task* front() const { return tasks_.empty() ? nullptr : &tasks_.front(); }
 
     // Called when a task was added; for hosts with a loop of their own.

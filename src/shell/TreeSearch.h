@@ -6,9 +6,9 @@
 
 namespace shell {
 
-// The next scope item below `from`, in the order in which the tree stands and beginning again at its top, whose text
-// holds the text in whatever case; 0 when no item does. With a loader it also looks into items that were never opened:
-// load(id) is called for each before its children are looked at.
+// The next scope item after `from`, in the order of the tree and wrapping around at its end, whose text contains the
+// text, ignoring case; 0 when there is none. With a loader, items that were never opened are searched as well: load(id)
+// is called for each before its children are searched.
 console::ScopeId findInTree(const ScopeTree& tree, wire::WideStringView text, console::ScopeId from,
                             const std::function<void(console::ScopeId)>& load = {});
 

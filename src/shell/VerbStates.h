@@ -13,10 +13,10 @@ public:
     console::Result GetVerbState(console::Verb verb, console::VerbState state, bool& flag) override;
 
     bool offers(console::Verb verb) const;
-    // Another selection begins with no verbs.
+    // A new selection starts without verbs.
     void reset() { offered_.reset(); }
 
-    // True when the verbs are others than at the last call.
+    // True when the verbs have changed since the last call.
     bool takeChange();
 
 private:

@@ -25,7 +25,7 @@ void View::select(ScopeItem& item) {
     if (const ScopeItem* const before = tree_.alive(scope_); before != nullptr && before->node == shown_) {
         notifier_.show(shown_, scope_, false);
     }
-    // A handler may have taken the item away.
+    // A handler may have removed the item.
     if (ScopeItem* const target = tree_.alive(id)) {
         show(*target);
     }

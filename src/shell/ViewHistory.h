@@ -8,14 +8,14 @@
 
 namespace shell {
 
-// The scope items that were shown one after the other, to go back and forward among.
+// The scope items that were shown, in order, for going back and forward.
 class ViewHistory {
 public:
     using Exists = std::function<bool(console::ScopeId)>;
 
-    // What was ahead is forgotten.
+    // Forgets the items ahead.
     void visit(console::ScopeId id);
-    // The nearest other item that still exists; 0 when there is none. Items that are gone are skipped.
+    // The nearest other item that still exists; 0 when there is none.
     console::ScopeId back(const Exists& exists);
     console::ScopeId forward(const Exists& exists);
     bool canGoBack(const Exists& exists) const;
@@ -24,7 +24,7 @@ public:
 private:
     static constexpr std::size_t longest = 200;
 
-    // The place in visited_ where a step ends, or visited_.size().
+    // The index in visited_ where a step ends, or visited_.size().
     std::size_t before(const Exists& exists) const;
     std::size_t after(const Exists& exists) const;
 

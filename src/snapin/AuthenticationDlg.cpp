@@ -22,7 +22,7 @@ wire::WideString versionLine(const platform::Platform& platform) {
     return u"Vantrel Admin MMC Version: " + wire::toWide(numbers);
 }
 
-// A number above 65535 keeps its low 16 bits; no number is port 0.
+// A number above 65535 keeps its low 16 bits; a text that is not a number gives port 0.
 std::uint16_t portNumber(const wire::WideString& text) {
     return static_cast<std::uint16_t>(std::strtol(wire::toCodePage(text).c_str(), nullptr, 10));
 }
@@ -97,13 +97,13 @@ void AuthenticationDlg::showStatus(std::uint16_t loginStatus) {
     case protocol::loginStatus::wrongVersion:
         fail(AuthenticationStatus::wrongVersion, u"Wrong server version", u"Warning", style::iconWarning);
         break;
-    default: // also an answer that means nothing
+    default: // also an unknown answer
         fail(AuthenticationStatus::serverUnavailable, u"Server unavailable", u"Warning", style::iconWarning);
         break;
     }
 }
 
-// Cut to what the settings have always had room for. What can't be stored is asked for again next time.
+// Cut to the length that the settings have always allowed. What can't be stored is asked for again next time.
 void AuthenticationDlg::storeSettings() {
     auto& settings = platform().settings;
     settings.write("ServerName", serverName.text().substr(0, 50));

@@ -20,16 +20,16 @@ enum class AuthenticationStatus : std::int32_t {
     cancelled = 5
 };
 
-// Asks for server, user and password, logs in, and makes the settings that all commands go by.
+// Asks for server, user and password, logs in, and makes the settings that all commands use.
 class AuthenticationDlg final : public forms::Form {
 public:
-    // Of a host, and of a port.
+    // For a host, and for a port.
     static constexpr std::size_t maximumBytes = 124;
 
     explicit AuthenticationDlg(platform::Platform& platform);
 
     AuthenticationStatus status() const { return status_; }
-    // The words that go with the status.
+    // The text for the status.
     const wire::WideString& statusText() const { return statusText_; }
 
     // The blanks behind the labels are part of them.

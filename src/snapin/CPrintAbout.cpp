@@ -9,7 +9,7 @@
 namespace snapin {
 namespace {
 
-constexpr std::size_t longestText = 255; // the console's buffer takes a terminator more
+constexpr std::size_t longestText = 255; // the console's buffer also holds a terminator
 constexpr std::int32_t smallSize = 16;
 constexpr std::int32_t largeSize = 32;
 

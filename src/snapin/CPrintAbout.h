@@ -13,7 +13,7 @@ public:
     // Loads the four images. The resources outlive it.
     explicit CPrintAbout(ModuleResources& resources);
 
-    // Result::failed, and no change, for a text that the module does not carry.
+    // Result::failed, and no change, for a text that the module does not contain.
     console::Result GetSnapinDescription(wire::WideString& text) const;
     console::Result GetProvider(wire::WideString& text) const;
     console::Result GetSnapinVersion(wire::WideString& text) const;

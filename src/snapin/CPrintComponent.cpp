@@ -22,7 +22,7 @@ console::Result CPrintComponent::Initialize(console::IConsole& console) {
     return console::Result::ok;
 }
 
-// The F5 of a click on the fourth column must stay, whatever the list holds. Such a click brings no data object.
+// The F5 on a click on the fourth column must stay, whatever the list contains. Such a click brings no data object.
 console::Result CPrintComponent::Notify(console::CSnapInItem* dataObject, console::Notification notification) {
     if (notification.event == console::Event::columnClick && notification.arg == fourthColumn) {
         print_.platform().ui.press(std::array{platform::Key::f5});

@@ -12,7 +12,7 @@ class Print;
 // The snap-in's result side, one per view of the console.
 class CPrintComponent final : public console::IComponent {
 public:
-    // The cookie that stands for several selected rows at once (MMC_MULTI_SELECT_COOKIE). Never followed.
+    // The cookie that stands for several selected rows at once (MMC_MULTI_SELECT_COOKIE). Never dereferenced.
     static console::CSnapInItem* multiSelectCookie();
 
     explicit CPrintComponent(Print& print);

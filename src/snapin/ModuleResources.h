@@ -10,7 +10,7 @@ namespace snapin {
 // An image of the host, only ever passed back to it; 0 is none.
 using ImageHandle = std::intptr_t;
 
-// What a host's module carries in resources, by their numbers.
+// The resources of a host's module, by their numbers.
 class ModuleResources {
 public:
     virtual ~ModuleResources() = default;

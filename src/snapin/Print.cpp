@@ -59,12 +59,12 @@ console::Guid Print::GetClassID() const {
     return console::snapInClassId;
 }
 
-// Always clean: a console that is closed never asks to be saved on this snap-in's account.
+// Always clean: closing a console never asks to save it because of this snap-in.
 console::Result Print::IsDirty() const {
     return console::Result::notDone;
 }
 
-// What any version has saved is read and ignored.
+// What earlier versions saved is read and ignored.
 console::Result Print::Load(std::istream& stream) {
     std::array<char, savedSize> ignored{};
     return stream.read(ignored.data(), ignored.size()) ? console::Result::ok : console::Result::failed;

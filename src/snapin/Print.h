@@ -29,9 +29,9 @@ public:
     Print& operator=(const Print&) = delete;
     ~Print() override;
 
-    // Once. Starts the login, which goes its own way. Result::unexpected without an image list.
+    // Called once. Starts the login on its own thread. Result::unexpected without an image list.
     console::Result Initialize(console::IConsole& console);
-    // One per view. The view may not outlive the snap-in.
+    // One per view. The view must not outlive the snap-in.
     std::unique_ptr<CPrintComponent> CreateComponent();
     console::Result Notify(console::CSnapInItem* dataObject, console::Notification notification);
     console::Result Destroy();

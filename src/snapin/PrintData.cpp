@@ -8,7 +8,7 @@ namespace snapin {
 PrintData::PrintData(platform::Platform& platform)
     : CBaseNodeItem(platform), printServer_(std::make_shared<PrintServer>(platform)) {}
 
-// A wrong password or a server out of reach asks again; a server of another version may be added without a session.
+// A wrong password or an unreachable server asks again; a server of another version may be added without a session.
 console::Result PrintData::CreatePropertyPages(console::DataObjectType type) {
     namespace style = platform::boxStyle;
     if (type != console::DataObjectType::snapinManager) {

@@ -19,7 +19,7 @@ public:
 
     explicit PrintData(platform::Platform& platform);
 
-    // Adds no page: logs in there and then, and answers whether the snap-in may be added.
+    // Adds no page: logs in at once, and returns whether the snap-in may be added.
     console::Result CreatePropertyPages(console::DataObjectType type) override;
     console::Result QueryPagesFor(console::DataObjectType type) override;
 

@@ -17,7 +17,7 @@ public:
 
     explicit PrintServer(platform::Platform& platform);
 
-    // In the order in which they stand in the tree.
+    // In the order in which they appear in the tree.
     std::span<const std::shared_ptr<console::NodeBase>> branches() const { return branches_; }
 
 protected:

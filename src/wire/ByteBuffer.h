@@ -29,7 +29,7 @@ public:
     // Keeps the memory.
     void clear() { size_ = 0; }
 
-    // Makes room for so many bytes in all; throws std::length_error "vector<T> too long" beyond two gibibytes.
+    // Makes room for a total of so many bytes; throws std::length_error "vector<T> too long" beyond two gibibytes.
     void reserve(std::uint64_t capacity) {
         if (capacity > capacity_) {
             grow(capacity);
@@ -47,7 +47,7 @@ public:
         return end;
     }
 
-    // Takes off what stands behind the first so many bytes.
+    // Cuts the buffer to the given size; a smaller one stays as it is.
     void cut(std::uint32_t size) { size_ = std::min(size, size_); }
 
     void append(const void* bytes, std::size_t count) {

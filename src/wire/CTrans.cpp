@@ -69,8 +69,8 @@ std::unique_ptr<Message> CTrans::getMessage(wire::MessageKind kind) {
     return message;
 }
 
-// Makes an attempt that waits for a while until one of them gives something, or until the deadline; asks the observer
-// in between. Gives what the attempt gave.
+// Repeats an attempt, which itself waits for a while, until it yields something or the deadline has passed, and asks
+// the observer in between. Returns what the last attempt yielded.
 template <typename Attempt>
 auto CTrans::retryUntil(std::chrono::nanoseconds deadline, Attempt attempt) {
     while (true) {
@@ -126,7 +126,8 @@ bool CTrans::iSocketConnect(std::uint32_t timeoutSeconds, const TransLogger& log
 
     const SocketResult attempt = calls_.connect(socket_, address, port_);
     if (attempt.value != -1) {
-        // A connection that stands at once counts as failed: only a pending attempt can succeed, and that stays so.
+        // A connection that is established at once counts as failed: only a pending attempt can succeed. This must stay
+        // so.
         return false;
     }
     if (attempt.fault != SocketFault::wouldBlock) {

@@ -23,7 +23,7 @@ class CTrans final : public wire::ITransport {
 public:
     CTrans();
 
-    // With the platform calls and the time given, neither owned.
+    // Uses the given platform calls and clock; owns neither.
     CTrans(wire::Socket& socketCalls, wire::Clock& clock);
 
     ~CTrans() override;
@@ -48,17 +48,18 @@ public:
 
     bool iSocketConnect(std::uint32_t timeoutSeconds, const wire::TransLogger& logger);
 
-    // The address in network order, 0 when there is none or the limit is up before the resolver answers.
+    // The address in network order, 0 when there is none or the resolver does not answer within the limit.
     [[nodiscard]] std::uint32_t resolveDNSl(const std::string& host, std::chrono::nanoseconds limit,
                                             const wire::TransLogger& logger);
 
-    // Reads until length bytes are there or the peer closed, and returns how many came: -1 after a socket error, -2
-    // after the time-out, which is up when the current whole second is later than the first one plus the time-out. A
-    // negative time-out means the default, 0 for ever. The count has 16 bits and wraps, so that no more than 65,535
-    // bytes can be asked for with success. Throws the plain string "iGetData(): Socket operation on invalid socket".
+    // Reads until length bytes have arrived or the peer has closed, and returns how many were read: -1 after a socket
+    // error, -2 after the time-out, which has expired when the current whole second is later than the first one plus
+    // the time-out. A negative time-out means the default, 0 means none. The count has 16 bits and wraps, so that at
+    // most 65,535 bytes can be read successfully. Throws the plain string "iGetData(): Socket operation on invalid
+    // socket".
     int iGetData(std::uint8_t* buffer, std::uint32_t length, std::int32_t timeoutSeconds, std::uint32_t* receivedOut);
 
-    // As iGetData with the default time-out, but anything other than the full length is -1 (or -2).
+    // Like iGetData with the default time-out, but anything other than the full length is -1 (or -2).
     int readExact(std::uint8_t* buffer, std::uint32_t length);
 
     bool closeSocket();
@@ -66,8 +67,8 @@ public:
     // True when the receiver confirmed the block. An empty block isn't sent and is false.
     bool sendBlock(std::string_view data);
 
-    // False, and no data, when the block didn't arrive whole, or is longer than the longest that the caller takes; of
-    // that one nothing is received.
+    // False, and no data, when the block didn't arrive whole or is longer than the caller allows; of a block that is
+    // too long, nothing is received.
     bool receiveBlock(std::string& data, std::uint32_t longest = std::numeric_limits<std::uint32_t>::max());
 
     [[nodiscard]] std::int32_t readTimeout() const { return readTimeout_; }
@@ -109,15 +110,15 @@ private:
     std::vector<std::uint8_t> rawBuffer_;
     std::uint32_t rawLength_ = 0;
     std::vector<std::unique_ptr<wire::Message>> messages_; // the front of the queue is the last element
-    std::unique_ptr<wire::Message> spare_;                 // read to its end, for the next one that comes
-    wire::SocketHandle socket_ = 0;                        // 0 is not connected
+    std::unique_ptr<wire::Message> spare_; // already read; its memory is reused for the next message received
+    wire::SocketHandle socket_ = 0;        // 0 is not connected
     std::string rejectText_;
     std::uint32_t blockProgress_ = 0;
 
     std::unique_ptr<std::uint8_t[]> readAhead_;
     std::uint32_t readAheadNext_ = 0;
     std::uint32_t readAheadEnd_ = 0;
-    std::int32_t socketError_ = 0; // of the last receive
+    std::int32_t socketError_ = 0; // from the last receive
 };
 
 } // namespace trans

@@ -58,7 +58,7 @@ bool CTrans::receiveBlock(std::string& data, std::uint32_t longest) {
     return arrived;
 }
 
-// The memory grows with what arrives: the announced length is only the peer's word.
+// The memory grows as data arrives: the announced length comes from the peer and can't be trusted.
 bool CTrans::receivePieces(std::string& data, std::uint32_t longest) {
     std::array<std::uint8_t, sizeof blockLength_> length{};
     if (readExact(length.data(), length.size()) != static_cast<int>(length.size())) {

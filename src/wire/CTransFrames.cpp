@@ -22,7 +22,7 @@ namespace {
 constexpr std::int32_t headerTimeout = 15; // seconds
 constexpr std::chrono::seconds noteworthy = 2s;
 
-// Logs what goes wrong with a frame that comes in, and which of its reads took long.
+// Logs what goes wrong while a frame is received, and which of its reads took long.
 class ReceiveLog {
 public:
     ReceiveLog(const TransLogger& logger, const char* prefix, wire::Clock& clock)
@@ -76,7 +76,7 @@ bool CTrans::sendMessages(const TransLogger& logger) {
         }
     }
     rawBuffer_.clear();
-    return socket_ != 0; // a send that failed doesn't make the call fail
+    return socket_ != 0; // a failed send doesn't make the call fail
 }
 
 // Lays out the frame in rawBuffer_: the header, then the queue from its front, the message that was added last.
@@ -129,14 +129,14 @@ bool CTrans::getMessages(const TransLogger& logger, const char* logPrefix) {
         return reject();
     }
     try {
-        rawBuffer_.reserve(std::max<std::size_t>(rawLength_, 1)); // never null, an empty body neither
+        rawBuffer_.reserve(std::max<std::size_t>(rawLength_, 1)); // never null, not even for an empty body
         rawBuffer_.assign(rawLength_, 0);
     } catch (const std::bad_alloc&) {
         log.report("failed to allocate buffer", 0);
         return false;
     }
 
-    // A body that didn't arrive whole isn't refused here but by its checksum, which is taken over what there is.
+    // A body that didn't arrive whole isn't refused here but by its checksum, which is computed over what has arrived.
     const int received =
         log.timed("get raw data", socketError_, [&] { return readExact(rawBuffer_.data(), rawLength_); });
     if (received < 0) {
@@ -146,7 +146,7 @@ bool CTrans::getMessages(const TransLogger& logger, const char* logPrefix) {
                        std::to_string(received),
                    socketError_);
     }
-    // What is longer than a read can count has been received over itself, even where the sum happens to be right.
+    // A body longer than a read can count has overwritten itself, even if the sum happens to be right.
     const bool overrun = rawLength_ > std::numeric_limits<std::uint16_t>::max();
     if (overrun || wire::frameChecksum(rawBuffer_) != checksum) {
         log.report("checksum error", 0);

@@ -33,9 +33,10 @@ int CTrans::iGetData(std::uint8_t* buffer, std::uint32_t length, std::int32_t ti
         return result;
     };
 
-    // 16 bits on purpose: the count wraps at 65,536, and a longer body fails its checksum. Servers page by this limit.
+    // 16 bits on purpose: the count wraps at 65,536, and a longer body fails its checksum. Servers split their replies
+    // by this limit.
     std::uint16_t received = 0;
-    std::optional<std::chrono::seconds> start; // set by the first wait: what has been read ahead takes no time
+    std::optional<std::chrono::seconds> start; // set by the first wait: data that was read ahead takes no time
     while (received < length) {
         SocketResult filled{.value = 1};
         if (readAheadNext_ == readAheadEnd_) {

@@ -4,7 +4,7 @@
 
 namespace wire {
 
-// The person gave up on a command that was waiting for the server.
+// The user cancelled a command that was waiting for the server.
 class Cancelled : public std::runtime_error {
 public:
     Cancelled() : std::runtime_error("Cancelled") {}

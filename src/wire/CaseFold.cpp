@@ -9,7 +9,7 @@ namespace wire {
 
 namespace {
 
-// Units that fold to those from "to" on, each one or every second one of them.
+// A range of units, all of them or every second one, that fold to the units from "to" on.
 struct Range {
     char16_t first;
     char16_t last;
@@ -72,8 +72,7 @@ constexpr Range ranges[] = {
 };
 // clang-format on
 
-// What is added to a unit, looked up by the unit's high byte and then its low one. Page 0 is that of units without
-// case.
+// What is added to a unit, looked up by the unit's high byte and then its low byte. Page 0 is for units without case.
 struct Pages {
     static constexpr std::size_t pageSize = 256;
     static constexpr std::size_t pageCount = [] {

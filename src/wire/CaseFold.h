@@ -6,15 +6,15 @@
 // every platform and in every locale, because keys made by it are kept in databases.
 //
 // A unit folds to one unit, so that a text keeps its length. "ß" and "ẞ" are the same letter, and not "ss". All three
-// sigmas are one. "I" is "i" for Turkish users too, and their "İ" and "ı" are letters of their own, which are not
-// folded. Accents count. Letters outside of the basic plane, which take two units, keep their case.
+// sigmas are one. "I" folds to "i" for Turkish users too, and their "İ" and "ı" are not folded. Accents count. Letters
+// outside of the basic plane, which take two units, keep their case.
 namespace wire {
 
 [[nodiscard]] char16_t foldCaseBeyondAscii(char16_t unit);
 
 // One unit without its case.
 [[nodiscard]] inline char16_t foldCase(char16_t unit) {
-    if (unit < 0x80) { // nearly all of them
+    if (unit < 0x80) { // nearly every unit
         return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
     }
     return foldCaseBeyondAscii(unit);
@@ -22,7 +22,7 @@ namespace wire {
 
 [[nodiscard]] WideString foldCase(WideStringView text);
 
-// How texts stand in a sorted list: by their units, without regard to case. Below 0, 0, or above 0.
+// Compares texts for sorting, by their units and without regard to case. Returns a value below 0, 0, or above 0.
 [[nodiscard]] int compareIgnoringCase(WideStringView left, WideStringView right);
 
 } // namespace wire

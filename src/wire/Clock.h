@@ -4,7 +4,7 @@
 
 namespace wire {
 
-// The time that a connection waits by.
+// The clock by which a connection measures its waits.
 class Clock {
 public:
     virtual ~Clock() = default;

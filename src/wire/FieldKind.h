@@ -6,7 +6,7 @@
 
 namespace wire {
 
-// How one field travels.
+// How one field is encoded on the wire.
 enum class FieldKind : std::uint8_t {
     u8,
     bool8,
@@ -20,10 +20,10 @@ enum class FieldKind : std::uint8_t {
     uuid,     // 36 characters as str8
     optional, // bool8, then the element only if that is true
     list,     // u16 count, then the elements one after the other
-    record,   // the fields of another record in its place
+    record,   // the fields of another record, in line
 };
 
-// The kind as people write it ("u8", "bool", "str16", ...).
+// The name of the kind ("u8", "bool", "str16", ...).
 [[nodiscard]] constexpr std::string_view nameOf(FieldKind kind) {
     constexpr std::string_view names[] = {"u8",   "bool",  "u16",  "u32",      "i32",  "i64",   "f32",
                                           "str8", "str16", "uuid", "optional", "list", "record"};

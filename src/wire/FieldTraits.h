@@ -12,14 +12,15 @@
 #include <type_traits>
 #include <vector>
 
-// How a value travels, by its C++ type, said once for everything that writes, reads or sizes fields:
+// How a value is encoded, by its C++ type, defined once for everything that writes, reads or sizes fields:
 //
 //     std::uint8_t u8, bool bool8, std::uint16_t and std::int16_t u16, std::uint32_t u32, std::int32_t i32, float f32,
 //     std::int64_t and std::uint64_t i64 (the low 32 bits go out, what comes in is sign-extended), std::string str8,
 //     WideString str16, Uuid uuid, std::optional<T> optional, std::vector<T> list, an enumeration as its number; a
 //     record adds its own (protocol/WireOrder.h)
 //
-// Each has its kind, the least bytes that it takes, and how it is put to a sink and got from a source. A sink takes
+// Each has its kind, the minimum number of bytes it takes, and how it is put into a sink and got from a source. A sink
+// takes
 //
 //     number(N)               of std::uint8_t, std::uint16_t, std::uint32_t, std::int32_t or float, as its bytes
 //     text(std::string_view)  text(WideStringView)  uuid(const Uuid&)
@@ -33,7 +34,7 @@ namespace wire {
 template <typename T>
 struct FieldTraits;
 
-// A value that goes out as one number and comes in as another one of the same size.
+// A value that is sent as one number type and received as another of the same size.
 template <typename T, FieldKind fieldKind, typename Sent, typename Received = Sent>
 struct NumberTraits {
     using Number = Sent;
@@ -103,7 +104,7 @@ struct FieldTraits<T> {
     }
 };
 
-// Reading a text reuses the memory of the one that stands there.
+// Reading a text reuses the memory of the one that it replaces.
 template <>
 struct FieldTraits<std::string> {
     static constexpr FieldKind kind = FieldKind::str8;
@@ -174,8 +175,8 @@ struct FieldTraits<std::optional<T>> {
     }
 };
 
-// A list of more than 65,535 elements cannot be told on the wire: its caller sees to it. Elements that are already in a
-// list are read into, so that a list read again reuses the memory of its texts.
+// The wire can't carry a list of more than 65,535 elements: the caller makes sure of that. Reading overwrites existing
+// elements in place, so that a list that is read again reuses the memory of its texts.
 template <typename T>
 struct FieldTraits<std::vector<T>> {
     using Element = T;
@@ -193,7 +194,7 @@ struct FieldTraits<std::vector<T>> {
     static void get(Source& source, std::vector<T>& values) {
         const std::size_t count = source.template number<std::uint16_t>();
         values.resize(std::min(values.size(), count));
-        // The count is a peer's word: no more is reserved than the bytes that are there can hold.
+        // The count comes from the peer: no more is reserved than the remaining bytes can hold.
         values.reserve(std::min(count, source.remaining() / std::max<std::size_t>(FieldTraits<T>::leastSize, 1)));
         for (std::size_t index = 0; index < count; ++index) {
             FieldTraits<T>::get(source, index < values.size() ? values[index] : values.emplace_back());
@@ -201,7 +202,7 @@ struct FieldTraits<std::vector<T>> {
     }
 };
 
-// A sink that only counts, with what a uuid counts for.
+// A sink that only counts bytes; a uuid counts as uuidSize.
 template <std::size_t uuidSize>
 struct SizeSink {
     template <typename N>

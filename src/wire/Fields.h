@@ -6,9 +6,8 @@
 #include <cstdint>
 #include <string_view>
 
-// The fields of a message by type: put appends a value, get reads into a reference (and reuses the memory of what is
-// already there), encodedSize is what a value adds to the hint of beginMessage. FieldTraits tells which types there
-// are.
+// The fields of a message by type: put appends a value, get reads into a reference (and reuses its memory), encodedSize
+// is what a value adds to the hint of beginMessage. FieldTraits lists the types.
 namespace wire {
 
 // The end of a message under construction.
@@ -28,7 +27,7 @@ struct MessageSink {
     Message& message;
 };
 
-// The rest of a message that was loaded.
+// The unread rest of a loaded message.
 struct MessageSource {
     template <typename N>
     [[nodiscard]] N number() {
@@ -62,7 +61,7 @@ void get(Message& message, T& value) {
     FieldTraits<T>::get(source, value);
 }
 
-// A uuid counts for fewer than the bytes that it will take; the sum is only a hint.
+// A uuid counts as fewer bytes than it takes; the sum is only a hint.
 template <typename T>
 [[nodiscard]] std::uint32_t encodedSize(const T& value) {
     SizeSink<32> sink;

@@ -9,7 +9,7 @@
 //     frame = count:u8 size:u32 checksum:u32 data      data: count messages, size bytes in all
 namespace wire {
 
-// The largest size that a receiver takes; a sender isn't limited by it.
+// The largest size that a receiver accepts; it does not limit a sender.
 constexpr std::uint32_t QVX_MAX_MESSAGE_SIZE = 128000;
 
 constexpr std::uint32_t frameHeaderSize = 9;

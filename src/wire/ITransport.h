@@ -27,30 +27,31 @@ public:
     // Always true, also when nothing is open; the argument has no meaning.
     virtual bool disconnect(int ignored) = 0;
 
-    // Puts the message at the front of the queue, so that messages go out in the opposite order of their adding. Throws
-    // the plain string "Attempting to store a non rewinded message".
+    // Puts the message at the front of the queue, so that messages are sent in reverse order. Throws the plain string
+    // "Attempting to store a non rewinded message".
     virtual void addMessage(std::unique_ptr<Message> message) = 0;
 
-    // Sends the queue as one frame and empties it. False only when there is no connection: a failed send doesn't show
-    // here.
+    // Sends the queue as one frame and empties it. False only when there is no connection: a failed send is not
+    // reported here.
     virtual bool sendMessages(const TransLogger& logger) = 0;
 
     // Takes the first message of that kind out of the queue; null when there is none.
     [[nodiscard]] virtual std::unique_ptr<Message> getMessage(MessageKind kind) = 0;
 
-    // Replaces the queue by the messages of one received frame, the last one in front. False when no sound frame came
-    // in time. Logs only when both a logger and a prefix are given. Throws the plain string "Reading out of scope" for
-    // a frame whose messages don't fit into it.
+    // Replaces the queue by the messages of one received frame, the last one in front. False when no valid frame
+    // arrived in time. Logs only when both a logger and a prefix are given. Throws the plain string "Reading out of
+    // scope" for a frame whose messages don't fit into it.
     [[nodiscard]] virtual bool getMessages(const TransLogger& logger, const char* logPrefix) = 0;
 
-    // Hands a message back that nobody reads any more, so that the next one that comes takes its memory; null is none.
+    // Gives back a message that is no longer needed, so that its memory is reused for the next one received; null is
+    // ignored.
     virtual void reuse(std::unique_ptr<Message> message) = 0;
 
-    // The observer is not owned, must outlive the connection or be taken off with null, and may be called from within
-    // connect, getMessages and the block calls, which then may throw Cancelled.
+    // The observer is not owned; it must outlive the connection or be removed with null. It is called from connect,
+    // getMessages and the block calls, which may then throw Cancelled.
     virtual void setWaitObserver(WaitObserver* observer) = 0;
 
-    // Records read so far, for the observer.
+    // Passes the number of records read so far on to the observer.
     virtual void noteRecords(std::uint32_t records) = 0;
 
     [[nodiscard]] virtual const TransferCounts& counts() const = 0;

@@ -5,7 +5,7 @@
 
 namespace wire {
 
-// The numbers of a date and time as they were found, not tested.
+// The numbers of a date and time as they were found, not validated.
 struct DateNumbers {
     std::uint16_t year = 0;
     std::uint16_t month = 0;
@@ -16,7 +16,7 @@ struct DateNumbers {
     std::uint16_t milliseconds = 0;
 };
 
-// The short date and the time of day in the locale of the user; empty when the numbers are none of a date or time.
+// The short date and the time of day in the locale of the user; empty when the numbers are not a valid date or time.
 [[nodiscard]] std::string shortDate(const DateNumbers& numbers);
 [[nodiscard]] std::string timeOfDay(const DateNumbers& numbers);
 

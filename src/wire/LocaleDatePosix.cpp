@@ -14,8 +14,8 @@ namespace wire {
 
 namespace {
 
-// The locale of the user's environment for times, where LC_ALL goes before LC_TIME and LC_TIME before LANG; the plain
-// one when the environment names a locale that isn't there.
+// The locale of the user's environment for times: LC_ALL takes precedence over LC_TIME, and LC_TIME over LANG; the
+// plain one when the environment names a locale that isn't installed.
 class UserLocale {
 public:
     UserLocale() : locale_(newlocale(LC_TIME_MASK | LC_CTYPE_MASK, "", nullptr)) {
@@ -43,7 +43,7 @@ private:
     locale_t locale_;
 };
 
-// Loading a locale reads files, so that it is kept until the environment asks for another one.
+// Loading a locale reads files, so it is kept until the environment names another one.
 const UserLocale& userLocale() {
     thread_local std::string loadedFor;
     thread_local std::unique_ptr<UserLocale> locale;
@@ -64,7 +64,7 @@ const UserLocale& userLocale() {
 
 std::string shortDate(const DateNumbers& numbers) {
     using namespace std::chrono;
-    // The years that the Windows service takes, so that both platforms show the same texts as they came.
+    // The years that the Windows function accepts, so that both platforms leave the same texts unchanged.
     constexpr unsigned firstYear = 1601;
     constexpr unsigned lastYear = 30827;
     if (numbers.year < firstYear || numbers.year > lastYear || numbers.month > 12 || numbers.day > 31) {
@@ -83,7 +83,7 @@ std::string shortDate(const DateNumbers& numbers) {
 }
 
 std::string timeOfDay(const DateNumbers& numbers) {
-    // A fraction is not shown, but one that is no number of milliseconds makes the text none of a time.
+    // A fraction is not shown, but one that is not a number of milliseconds makes the time invalid.
     if (numbers.hour > 23 || numbers.minute > 59 || numbers.second > 59 || numbers.milliseconds > 999) {
         return {};
     }

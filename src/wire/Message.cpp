@@ -20,7 +20,7 @@ constexpr bool isPlain(char16_t unit) {
     return unit != 0 && (unit & 0xF800) != 0xD800;
 }
 
-// Copies as many units as the vector holds; not zero where a unit is a zero or a surrogate.
+// Copies as many units as the vector holds; the result is nonzero where a unit is zero or a surrogate.
 template <typename Vector>
 Vector copyVector(std::uint8_t* to, const std::uint8_t* from) {
     Vector units;
@@ -37,7 +37,7 @@ bool isZero(const Vector& vector) {
     return std::accumulate(words.begin(), words.end(), std::uint64_t{0}, std::bit_or<>()) == 0;
 }
 
-// Copies with the last vector laid over the one before it, so that no single units are left over.
+// Copies with the last vector overlapping the one before it, so that no single units remain.
 template <typename Vector>
 bool copyVectors(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
     constexpr std::size_t step = sizeof(Vector);
@@ -48,8 +48,8 @@ bool copyVectors(std::uint8_t* to, const std::uint8_t* from, std::size_t length)
     return isZero(strange | copyVector<Vector>(to + length - step, from + length - step));
 }
 
-// Copies UTF-16 text of so many bytes. True when the converter would give it back unit by unit, which holds for nearly
-// all text: no zero, no surrogate, no leading mark. Else the copy is of no use.
+// Copies UTF-16 text of so many bytes. True when the converter would return it unchanged, as for nearly all text: no
+// zero, no surrogate, no leading byte order mark. Otherwise the copy is useless.
 bool copyPlain(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
     if (length == 0) {
         return true;
@@ -120,7 +120,7 @@ void Message::putWideString(WideStringView value) {
     if (rewound_) {
         return;
     }
-    // Of no use in a message under construction, but the cursor has always been moved here and stays so.
+    // Useless in a message under construction, but the cursor must still be moved here.
     cursor_ = buffer_.size();
     const std::size_t plainLength = value.size() * sizeof(char16_t);
     const auto plainCount = static_cast<std::uint16_t>(plainLength);
@@ -139,7 +139,7 @@ void Message::putWideString(WideStringView value) {
 
 void Message::getWideString(WideString& value) {
     const std::span<const std::uint8_t> text = takeCounted();
-    // The last byte of an odd count is passed over.
+    // The last byte of an odd count is skipped.
     const std::size_t unitCount = text.size() / sizeof(char16_t);
     value.resize(unitCount);
     if (copyPlain(reinterpret_cast<std::uint8_t*>(value.data()), text.data(), unitCount * sizeof(char16_t))) {

@@ -21,16 +21,16 @@ enum class MessageKind : std::uint8_t {
     Data = 1,    // the fields of a request or of a reply
 };
 
-// The unit of exchange with the server: a header, then fields that only their order names.
+// The unit of exchange with the server: a header, then fields identified only by their order.
 //
 //     message = kind:u8 length:u32 field*        length counts the whole message, its header included
 //     command = 00 09 00 00 00 version:u16 opcode:u16
 //     str8    = count:u16 byte*                  count in bytes
 //     str16   = count:u16 unit*                  UTF-16LE; count in bytes, not in characters
 //
-// A message is written in order, then rewound, which freezes it: from then on writes vanish without an error. A message
-// that was loaded is read in order. Reading past the end throws the plain string "Reading outside scope" and leaves the
-// cursor where it stood. Used by one thread at a time.
+// A message is written in order, then rewound, which freezes it: later writes are ignored without an error. A loaded
+// message is read in order. Reading past the end throws the plain string "Reading outside scope" and leaves the cursor
+// where it was. Used by one thread at a time.
 class Message {
 public:
     static constexpr std::uint32_t headerSize = 5;
@@ -41,11 +41,11 @@ public:
     // std::length_error "vector<T> too long" when the hint is beyond what can be reserved.
     void beginMessage(std::uint32_t payloadSizeHint);
 
-    // Writes the true length and the kind into the header, and freezes the message. Doing it again changes nothing.
+    // Writes the actual length and the kind into the header, and freezes the message. A second call changes nothing.
     void rewind();
 
     // Cuts one message from the front of received bytes; what follows it stays unread. Null data leaves the message as
-    // it is. Throws the plain string "Reading out of scope" when the message isn't there as a whole.
+    // it is. Throws the plain string "Reading out of scope" when the message isn't complete.
     void loadMessage(const std::uint8_t* data, std::uint32_t available);
 
     [[nodiscard]] MessageKind kind() const { return kind_; }
@@ -58,11 +58,11 @@ public:
     // The whole message, header included.
     [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {buffer_.data(), buffer_.size()}; }
 
-    // Bytes that are still to be read.
+    // Bytes not yet read.
     [[nodiscard]] std::uint32_t remaining() const { return size() > cursor_ ? size() - cursor_ : 0; }
 
-    // Room for so many bytes more at the end of a message under construction, for the caller to fill at once; none at
-    // all once the message is rewound.
+    // Room for so many more bytes at the end of a message under construction, for the caller to fill at once; empty
+    // once the message is rewound.
     [[nodiscard]] std::span<std::uint8_t> extend(std::size_t count) {
         return rewound_ ? std::span<std::uint8_t>() : std::span(buffer_.extend(count), count);
     }

@@ -10,7 +10,7 @@
 
 namespace wire {
 
-// A look-up of a name that is known from the start.
+// A look-up whose result is known from the start.
 class KnownLookup final : public NameLookup {
 public:
     explicit KnownLookup(ResolveResult result) : result_(result) {}
@@ -20,8 +20,8 @@ private:
     ResolveResult result_;
 };
 
-// A look-up of a name on a thread of its own, because nothing ends a resolver that waits for its servers. Whoever gives
-// up leaves the thread to itself: it owns all that it needs, and ends when the resolver does.
+// A look-up of a name on its own thread, because a resolver that waits for its servers can't be interrupted. Giving up
+// leaves the thread running: it owns everything it needs, and ends when the resolver returns.
 class ThreadLookup final : public NameLookup {
 public:
     using Resolver = std::function<ResolveResult()>;
@@ -31,8 +31,8 @@ public:
     std::optional<ResolveResult> wait(std::chrono::milliseconds limit) override;
 
 private:
-    // What both threads hold. Not a promise: one that goes unkept allocates while it is destroyed, which ends the
-    // program where memory is short.
+    // What both threads share. Not a promise: destroying one that was never fulfilled allocates, which ends the program
+    // when memory is short.
     struct Outcome {
         std::mutex mutex;
         std::condition_variable known;

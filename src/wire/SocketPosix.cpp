@@ -35,7 +35,7 @@ SocketResult result(Call call) {
     return value == -1 ? failed(errno) : SocketResult{.value = value};
 }
 
-// The file descriptor of a handle. 0 is a descriptor of another kind here, and must not be mistaken for a socket.
+// The file descriptor of a handle. On POSIX, 0 is standard input and must not be mistaken for a socket.
 int descriptor(SocketHandle handle) {
     return handle == 0 ? -1 : static_cast<int>(handle);
 }
@@ -73,7 +73,7 @@ public:
         if (socket != 0) {
             return socket < 0 ? failed(errno) : SocketResult{.value = socket};
         }
-        // Standard input was closed and its number given away, but 0 means no socket.
+        // Standard input was closed and its number reused, but 0 means no socket.
         const int moved = ::fcntl(socket, F_DUPFD_CLOEXEC, 3);
         const int error = errno;
         ::close(socket);
@@ -105,7 +105,7 @@ public:
             return {.value = waited.fault == SocketFault::wouldBlock ? 0 : static_cast<int>(waited.value),
                     .error = waited.error};
         }
-        // A failed attempt makes the socket ready too: what stands in its error decides.
+        // A failed attempt makes the socket ready too: its error tells which it is.
         int error = 0;
         socklen_t length = sizeof error;
         if (::getsockopt(descriptor(handle), SOL_SOCKET, SO_ERROR, &error, &length) != 0) {
@@ -132,12 +132,12 @@ public:
 
     SocketResult shutdown(SocketHandle handle, int mode) override {
         const SocketResult done = result([&] { return ::shutdown(descriptor(handle), mode); });
-        // Nothing is left to shut down when the peer went first; trying again would only take time.
+        // Nothing is left to shut down when the peer closed first; trying again would only take time.
         return done.error == ENOTCONN ? SocketResult{} : done;
     }
 
     SocketResult close(SocketHandle handle) override {
-        // An interrupted close has given the descriptor back all the same.
+        // An interrupted close has released the descriptor all the same.
         return ::close(descriptor(handle)) == 0 || errno == EINTR ? SocketResult{} : failed(errno);
     }
 

@@ -118,7 +118,7 @@ public:
 
     SocketResult shutdown(SocketHandle handle, int mode) override {
         const SocketResult done = result(::shutdown(socketOf(handle), mode));
-        // Nothing is left to shut down when the peer went first; trying again would only take time.
+        // Nothing is left to shut down when the peer closed first; trying again would only take time.
         return done.error == WSAENOTCONN ? SocketResult{} : done;
     }
 

@@ -41,7 +41,7 @@ void appendWide(WideString& text, char32_t codePoint) {
     }
 }
 
-// What the first byte of a sequence promises: how many bytes follow, and the smallest value that needs so many.
+// What the first byte of a sequence announces: how many bytes follow, and the smallest value that needs so many.
 struct Lead {
     std::size_t trailing = 0;
     char32_t bits = 0;
@@ -61,7 +61,7 @@ Lead leadOf(std::uint8_t byte) {
     return {0, replacement, 0};
 }
 
-// One code point from text at index, which moves on; one U+FFFD for each malformed beginning of a sequence.
+// Reads one code point from text at index and advances index; one U+FFFD for each malformed start of a sequence.
 char32_t takeCodePoint(std::string_view text, std::size_t& index) {
     const auto first = static_cast<std::uint8_t>(text[index++]);
     if (first < 0x80) {

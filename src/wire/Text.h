@@ -9,8 +9,8 @@ namespace wire {
 using WideString = std::u16string;
 using WideStringView = std::u16string_view;
 
-// Text for people: a proper Unicode conversion without the peculiarities of the wire (those stand in
-// unicode::UTFConverter). What has no meaning, such as a lone surrogate or a malformed sequence, becomes U+FFFD.
+// Text for people: a proper Unicode conversion without the peculiarities of the wire (see unicode::UTFConverter for
+// those). Anything invalid, such as a lone surrogate or a malformed sequence, becomes U+FFFD.
 [[nodiscard]] std::string toUtf8(WideStringView text);
 [[nodiscard]] WideString toWide(std::string_view utf8);
 

@@ -4,7 +4,7 @@
 
 namespace wire {
 
-// A new time-based id as the platform writes it, empty when the platform has none to give.
+// A new time-based id as the platform writes it, empty when the platform can't create one.
 [[nodiscard]] std::string timeUuid();
 
 } // namespace wire

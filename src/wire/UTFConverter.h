@@ -16,7 +16,7 @@ enum ByteOrder : int {
     littleEndian = 3, // the order of the wire
 };
 
-// Takes 16-bit units apart into code points and puts them together again, the way that the server does it.
+// Decodes 16-bit units into code points and encodes them again, as the server does it.
 class UTFConverter {
 public:
     explicit UTFConverter(wire::WideStringView text);
@@ -34,7 +34,7 @@ public:
     // The result ends with a zero unit.
     [[nodiscard]] std::unique_ptr<char16_t[]> toUTF16(bool withBOM, int order) const;
 
-    // Bytes that toUTF16 fills, without the terminating unit.
+    // The bytes that toUTF16 fills, without the terminating unit.
     [[nodiscard]] std::uint32_t byteLength(bool withBOM) const;
 
     [[nodiscard]] wire::WideString toWideString() const;

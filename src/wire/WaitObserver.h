@@ -10,9 +10,9 @@ class WaitObserver {
 public:
     virtual ~WaitObserver() = default;
 
-    // Called on the thread of the command, about every 50 ms while a connection is being made or waits for bytes, and
-    // as often while bytes come in. Elapsed counts from the start of the connection; records is what noteRecords was
-    // last told. False ends the command: the wait throws Cancelled.
+    // Called on the thread of the command, about every 50 ms while a connection is being made, waits for bytes, or
+    // receives them. Elapsed counts from the start of the connection; records is the last value passed to noteRecords.
+    // False ends the command: the wait throws Cancelled.
     virtual bool keepWaiting(std::chrono::milliseconds elapsed, std::uint32_t records) = 0;
 };
 

@@ -22,7 +22,7 @@ void skipBlanks(std::string_view& text) {
     }
 }
 
-// A decimal number with an optional sign, of which the low 16 bits are kept. Blanks before it are passed over.
+// A decimal number with an optional sign, of which the low 16 bits are kept. Leading blanks are skipped.
 bool takeNumber(std::string_view& text, std::uint16_t& number) {
     skipBlanks(text);
     const bool negative = text.starts_with('-');
@@ -40,7 +40,7 @@ bool takeNumber(std::string_view& text, std::uint16_t& number) {
     return true;
 }
 
-// Reads numbers until the text departs from the pattern, whose characters stand between them, and returns how many it
+// Reads numbers, separated by the characters of the pattern, until the text departs from it, and returns how many it
 // filled. A blank in the pattern stands for any number of blanks.
 int scanNumbers(std::string_view text, std::string_view separators, std::array<std::uint16_t, 7>& numbers) {
     int filled = 0;
@@ -66,7 +66,7 @@ int scanNumbers(std::string_view text, std::string_view separators, std::array<s
 } // namespace
 
 std::string formatWireDate(const std::string& text, bool* valid) {
-    constexpr std::uint16_t missing = 0xFFFF; // in no date and no time of day, so that a text without it stays as it is
+    constexpr std::uint16_t missing = 0xFFFF; // invalid in any date or time: the text stays as it is
     std::array<std::uint16_t, 7> numbers{};
     numbers.fill(missing);
     const int filled = scanNumbers(text, "-- ::.", numbers);

@@ -35,10 +35,10 @@ constexpr auto digitValues = [] {
     return values;
 }();
 
-// Where the two digits of each byte stand in the 36 characters.
+// The positions of the two digits of each byte in the 36 characters.
 constexpr std::array<std::uint8_t, 16> bytePositions{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
 
-// The form that nearly every id has: 36 characters with their dashes. False leaves the text to the general reader.
+// The form that nearly every id has: 36 characters, dashes included. False leaves the text to the general parser.
 bool parseDashed(std::string_view text, Uuid& uuid) {
     if (text.size() != 36 || text[8] != '-' || text[13] != '-' || text[18] != '-' || text[23] != '-') {
         return false;

@@ -13,7 +13,7 @@ using Uuid = boost::uuids::uuid;
 // A time-based id in lower-case text, 36 characters; throws std::runtime_error "Failed to create uuid".
 [[nodiscard]] std::string createUuid();
 
-// A random (version 4) id, for records that are made here.
+// A random (version 4) id, for records created here.
 [[nodiscard]] Uuid randomUuid();
 
 constexpr std::size_t uuidLength = 36;
@@ -22,7 +22,7 @@ constexpr std::size_t uuidLength = 36;
 [[nodiscard]] std::string toText(const Uuid& uuid);
 [[nodiscard]] std::array<char, uuidLength> uuidCharacters(const Uuid& uuid);
 
-// Takes upper and lower case, dashes at their places or nowhere, and braces around; throws std::runtime_error
+// Accepts upper and lower case, dashes in all their places or nowhere, and enclosing braces; throws std::runtime_error
 // "invalid uuid string" for anything else, an empty text included.
 [[nodiscard]] Uuid parseUuid(std::string_view text);
 
