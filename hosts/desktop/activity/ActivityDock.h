@@ -8,7 +8,7 @@ class QTreeView;
 
 namespace desktop {
 
-// The activity log at the lower edge of the window; it follows what comes as long as its end is in sight.
+// The activity log at the lower edge of the window; it scrolls to new entries while its end is in view.
 class ActivityDock final : public QDockWidget {
 public:
     // The log outlives it.

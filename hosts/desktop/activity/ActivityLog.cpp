@@ -57,7 +57,7 @@ void ActivityLog::commandStarted(const client::CommandReport& report) {
     add(activityOf(report));
 }
 
-// A login runs a command within a command, so that what ends is not always what started last.
+// A login runs a command within a command, so the one that ends is not always the one that started last.
 void ActivityLog::commandEnded(const client::CommandReport& report) {
     for (std::size_t place = entries_.size(); place-- > 0;) {
         Activity& entry = entries_[place];

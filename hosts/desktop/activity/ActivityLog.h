@@ -10,7 +10,7 @@
 
 namespace desktop {
 
-// One thing that the console did with the server, or a handler that was stopped.
+// A command that the console ran on the server, or a handler that was stopped.
 struct Activity {
     QDateTime time{}; // of its start
     QString command{};
@@ -21,11 +21,11 @@ struct Activity {
     std::uint64_t bytesReceived = 0;
     std::chrono::nanoseconds duration{0};
     client::CommandOutcome outcome = client::CommandOutcome::running;
-    QString text; // why it did not end well
+    QString text; // why it failed
     bool isCommand = true;
 };
 
-// What the console has done lately, oldest first. Never holds a password.
+// What the console has done recently, oldest first. Never holds a password.
 class ActivityLog final : private shell::ShellObserver {
 public:
     static constexpr std::size_t capacity = 2'000;
@@ -40,8 +40,8 @@ public:
     const Activity& operator[](std::size_t place) const { return entries_[place]; }
     void clear();
 
-    // Around each change: before and after one is added at the end, before and after the oldest goes, before and after
-    // all go. The entry at the end may change afterwards.
+    // Called around each change: before and after one is appended, before and after the oldest is removed, before and
+    // after all are removed. The last entry may still change afterwards.
     struct Listener {
         std::function<void()> aboutToAdd;
         std::function<void()> added;

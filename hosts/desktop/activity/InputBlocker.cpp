@@ -19,7 +19,7 @@ InputBlocker::~InputBlocker() {
 
 bool InputBlocker::letsThrough(const QObject* receiver) const {
     const auto* const widget = qobject_cast<const QWidget*>(receiver);
-    // Events of a native window are on their way to a widget, where they come by here again.
+    // Events of a native window are on their way to a widget and pass here again.
     return widget == nullptr || (open_ && (widget == open_ || open_->isAncestorOf(widget)));
 }
 

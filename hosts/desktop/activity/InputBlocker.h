@@ -9,7 +9,7 @@ class QWidget;
 
 namespace desktop {
 
-// While it stands, nothing that the person does reaches any window but one widget and what is in it.
+// While it exists, user input reaches only one widget and its children.
 class InputBlocker final : public QObject {
 public:
     // Called for Escape, and for a window that is asked to close.

@@ -11,7 +11,7 @@
 
 namespace desktop {
 
-// How old the lists are that people see, and why one could not be read anew.
+// How old the displayed lists are, and why one could not be read again.
 class ListAge final : private shell::ShellObserver {
 public:
     // Both outlive it.
@@ -20,7 +20,7 @@ public:
     ListAge& operator=(const ListAge&) = delete;
     ~ListAge() override;
 
-    // When the shown list was read; nothing when it never was.
+    // When the shown list was read; empty when it never was.
     std::optional<QDateTime> readAt() const;
     // Why the shown list is older than the last attempt to read it; empty when it is not.
     QString failure() const;

@@ -9,8 +9,8 @@
 
 namespace desktop {
 
-// The one way from the windows to the console, which does one thing at a time: an operation starts only when none is
-// running, and what comes up meanwhile waits for its end.
+// The only way from the windows to the console, which does one thing at a time: an operation starts only when none is
+// running, and whatever comes up in the meantime waits for its end.
 class Operations {
 public:
     // Both outlive it.
@@ -25,7 +25,7 @@ public:
     // How many have been started.
     std::uint64_t count() const { return count_; }
 
-    // Runs work(shell) now. False while another operation runs, and when the work answers false.
+    // Runs work(shell) now. False while another operation runs, and when the work returns false.
     template <class Work>
     bool perform(Work&& work) {
         if (busy()) {
@@ -40,10 +40,10 @@ public:
         return done;
     }
 
-    // Runs the work from the event loop, as soon as no operation is running, in the order of asking.
+    // Runs the work from the event loop as soon as no operation is running, in the order of the calls.
     void later(std::function<void()> work);
 
-    // Around each operation.
+    // Called around each operation.
     std::function<void()> onBegin;
     std::function<void()> onEnd;
 

@@ -52,7 +52,7 @@ void WaitIndicator::commandStarted(const client::CommandReport& report) {
     command_ = toQString(report.name);
     about_ = oneLine(wire::toWide(report.summary));
     if (running_++ == 0) {
-        // In a dialog one operation may hold many attempts.
+        // In a dialog one operation may include many attempts.
         if (operation_ != operations_.count() || QApplication::activeModalWidget() != nullptr) {
             operation_ = operations_.count();
             cancelled_ = false;

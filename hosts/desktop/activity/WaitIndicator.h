@@ -10,8 +10,8 @@
 namespace desktop {
 
 // Keeps the windows alive while a command waits for the server. They are repainted at once; after half a second a panel
-// says what is being done, how many records have come, and lets the person give up. Nothing else that the person does
-// gets through, so that no second command can start within the first.
+// says what is being done and how many records have arrived, and offers Cancel. All other input is blocked, so that no
+// second command can start within the first.
 class WaitIndicator final : private shell::ShellObserver {
 public:
     static constexpr std::chrono::milliseconds patience{500};
@@ -23,10 +23,10 @@ public:
     ~WaitIndicator() override;
 
     bool isShown() const { return panel_ != nullptr; }
-    // The running command is given up, and what the same operation would send after it.
+    // Cancels the running command, and those that the same operation would send after it.
     void cancel() { cancelled_ = true; }
 
-    // What is being done, for people: "List regions (Berlin): 1,200 records, 3 s".
+    // What is being done, as text: "List regions (Berlin): 1,200 records, 3 s".
     static QString describe(const QString& command, const QString& about, std::uint32_t records,
                             std::chrono::milliseconds elapsed);
 
@@ -44,7 +44,7 @@ private:
     std::chrono::steady_clock::time_point start_;
     int running_ = 0; // a login runs one command within another
     bool cancelled_ = false;
-    std::uint64_t operation_ = 0; // that cancelled_ is about
+    std::uint64_t operation_ = 0; // the operation that cancelled_ applies to
     bool processing_ = false;
     std::unique_ptr<WaitPanel> panel_;
     std::unique_ptr<InputBlocker> gate_;

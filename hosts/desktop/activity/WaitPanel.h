@@ -9,7 +9,7 @@ class QPushButton;
 
 namespace desktop {
 
-// Tells what the console is waiting for, with a way to give up; lies over the lower edge of a window.
+// Shows what the console is waiting for, with a Cancel button; lies over the lower edge of a window.
 class WaitPanel final : public QFrame {
 public:
     explicit WaitPanel(QWidget& window);

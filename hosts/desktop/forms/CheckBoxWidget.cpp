@@ -9,7 +9,7 @@ CheckBoxWidget::CheckBoxWidget(forms::CheckBox& checkBox)
     setUp(box_);
     connect(box_, &QCheckBox::clicked, this, [this](bool checked) {
         checkBox_.userChecked(checked);
-        mirror(forms::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // restore the form's state in case the change was refused
     });
 }
 

@@ -26,8 +26,8 @@ void ControlWidget::setUp(QWidget* widget, QWidget* field) {
 void ControlWidget::addCaption() {
     caption_ = new QLabel;
     caption_->setTextFormat(Qt::PlainText);
-    // Pairs of letters are measured as standing close ("Ty") and drawn apart where one of them is the access key, which
-    // cut the last letter off.
+    // Kerned pairs such as "Ty" are measured close together but drawn apart when one letter is the access key, which
+    // would cut off the last letter.
     QFont font;
     font.setKerning(false);
     caption_->setFont(font);
@@ -122,11 +122,11 @@ void ControlWidget::refillNow() {
 
 bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Wheel && !widget_->hasFocus() && forms::shapeOf(control_).place == forms::Place::row) {
-        event->ignore(); // a wheel that scrolls the dialog changes no box that it passes
+        event->ignore(); // the wheel scrolls the dialog and must not change the boxes that it passes
         return true;
     }
     if (event->type() == QEvent::Show && watched == widget_) {
-        // A list has its size from now on, and can bring its selected row in sight.
+        // The list only has its size now, and can scroll to its selected row.
         QTimer::singleShot(0, this, [this] { mirror(forms::Aspect::selection); });
     }
     if (event->type() == QEvent::FocusOut && watched == widget_) {
@@ -134,7 +134,7 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
         const bool staysInDialog =
             reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
         if (staysInDialog) {
-            // The handler may ask questions: not in the middle of a change of focus.
+            // The handler may show a box, which must not happen in the middle of a change of focus.
             QTimer::singleShot(0, this, [this] { control_.userLeft(); });
         }
     }

@@ -13,7 +13,7 @@ class FormLabels;
 
 namespace desktop {
 
-// What stands on the screen for one control: shows what the form does to it and tells the form what the person does.
+// The widget of one control: shows what the form does to the control and tells the form what the user does.
 class ControlWidget : public QObject {
 public:
     ControlWidget(const ControlWidget&) = delete;
@@ -22,17 +22,17 @@ public:
 
     // The box, list or button itself, which takes the keyboard.
     QWidget* widget() const { return widget_; }
-    // What takes the place in the dialog: the same, or what holds it.
+    // The widget that is placed in the dialog: the same one, or its container.
     QWidget* field() const { return field_; }
-    // The label beside or above it; null where the widget shows its label itself, or there is none.
+    // The label beside or above it; null when the widget shows its label itself, or there is none.
     QLabel* caption() const { return caption_; }
-    // Everything that takes the keyboard, in the order of the Tab key.
+    // All widgets that take the keyboard focus, in Tab order.
     virtual std::vector<QWidget*> tabStops() const { return {widget_}; }
     // Its label, and those of its pages.
     virtual void showLabels(const forms::FormLabels& labels);
     // The form has changed this about the control.
     void mirror(forms::Aspect aspect);
-    // Brings everything to the screen.
+    // Mirrors all aspects.
     void mirrorAll();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,23 +40,23 @@ public:
 protected:
     explicit ControlWidget(forms::Control& control) : control_(control) {}
 
-    // Once, by the constructor. With a caption when the control has a label that the widget does not show itself.
+    // Called once, by the constructor. Makes a caption if the control has a label that the widget does not show itself.
     void setUp(QWidget* widget, QWidget* field = nullptr);
-    // Of a box that a person reads and writes texts in: about thirty characters.
+    // The width of a box for reading and typing text: about thirty characters.
     int comfortableWidth() const;
     // The label, with its access key marked.
     virtual void showLabel(const QString& text);
     virtual void update(forms::Aspect aspect) = 0;
-    // What a screen reader calls it: a box without a label like what it stands beside.
+    // The name for screen readers: a box without a label goes by the label of the control that it is beside.
     virtual wire::WideString spokenName() const;
     virtual void enable(bool enabled) { field_->setEnabled(enabled); }
 
-    // True while the form's changes are brought to the screen: what the widget signals then is an echo.
+    // True while the form's changes are being mirrored: the widget's signals are then only an echo.
     bool mirroring() const { return mirroring_; }
     void mirrored(const std::function<void()>& change);
 
-    // For lists that a handler fills row by row: shows them once, when the handler is through. Until then the rows on
-    // the screen may not be those of the form, and what the person does to them does not count.
+    // For lists that a handler fills row by row: shows them once, when the handler has returned. Until then the
+    // displayed rows may not be those of the form, and input on them is ignored.
     void refillSoon();
     bool stale() const { return stale_; }
     virtual void refill() {}

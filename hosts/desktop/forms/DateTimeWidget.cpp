@@ -10,7 +10,7 @@
 namespace desktop {
 namespace {
 
-// The form that is asked for, else the locale's short one, with all digits of the year and with seconds.
+// The requested format, or else the locale's short one, with all digits of the year and with seconds.
 QString displayFormat(const forms::DateTimeOptions& options) {
     if (!options.format.empty()) {
         return QString::fromUtf16(options.format.data(), static_cast<qsizetype>(options.format.size()));
@@ -45,7 +45,7 @@ forms::DateTime fromQt(const QDateTime& value) {
             .second = static_cast<std::int8_t>(time.second())};
 }
 
-// The clock on the wall as if it were universal time: every time of day can be picked on every day.
+// The local date and time, marked as UTC: every time of day can then be picked on every day, also where clocks change.
 QDateTime now() {
     const QDateTime local = QDateTime::currentDateTime();
     return {local.date(), QTime(local.time().hour(), local.time().minute(), local.time().second()), Qt::UTC};
@@ -88,7 +88,7 @@ std::vector<QWidget*> DateTimeWidget::tabStops() const {
 void DateTimeWidget::picked() {
     const bool has = set_ == nullptr || set_->isChecked();
     picker_.userPicked(has ? std::optional(fromQt(edit_->dateTime())) : std::nullopt);
-    mirror(forms::Aspect::text); // as it stands, should it have been refused
+    mirror(forms::Aspect::text); // restore the form's state in case the change was refused
 }
 
 void DateTimeWidget::update(forms::Aspect aspect) {
@@ -106,7 +106,7 @@ void DateTimeWidget::update(forms::Aspect aspect) {
 }
 
 bool DateTimeWidget::eventFilter(QObject* watched, QEvent* event) {
-    // A box that always has a value has one as soon as it is seen, whatever the form has given it.
+    // A box that must have a value gets one as soon as it is shown, if the form has given it none.
     if (event->type() == QEvent::Show && set_ == nullptr && !picker_.value()) {
         picked();
     }

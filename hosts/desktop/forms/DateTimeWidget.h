@@ -27,7 +27,7 @@ private:
 
     forms::DateTimePicker& picker_;
     QDateTimeEdit* edit_;
-    QCheckBox* set_ = nullptr; // null where there is always a value
+    QCheckBox* set_ = nullptr; // null when there is always a value
 };
 
 } // namespace desktop

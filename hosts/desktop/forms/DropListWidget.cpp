@@ -20,7 +20,7 @@ DropListWidget::DropListWidget(forms::DropList& list) : ControlWidget(list), lis
         if (!stale() && row >= 0) {
             list_.userSelected(static_cast<std::size_t>(row));
         }
-        mirror(forms::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // restore the form's state in case the change was refused
     });
 }
 

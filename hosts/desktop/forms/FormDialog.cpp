@@ -18,7 +18,7 @@ namespace {
 
 constexpr int narrowestDialog = 360;
 
-// From the inside out: what was measured before the widgets had their style does not count.
+// From the inside out: sizes measured before the widgets had their style are discarded.
 void layOutAnew(QWidget& widget) {
     widget.ensurePolished();
     for (QObject* const child : widget.children()) {
@@ -37,7 +37,7 @@ void layOutAnew(QWidget& widget) {
 FormDialog::FormDialog(forms::Form& form, QWidget* owner)
     : QDialog(owner != nullptr ? owner : frontWindow()), form_(form), scroll_(new FormScroll(this)) {
     form_.setObserver(this);
-    form_.open(); // while nothing is drawn, so that what it fills is drawn once
+    form_.open(); // before anything is drawn, so that its content is drawn once
     setSizeGripEnabled(true);
     setMinimumWidth(narrowestDialog);
     widgets_ = std::make_unique<FormWidgets>(form_, *scroll_->widget());
@@ -79,7 +79,7 @@ void FormDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
         layOutAnew(*scroll_->widget());
         scroll_->updateGeometry();
-        resize(sizeHint()); // by itself a dialog takes two thirds of the screen at most
+        resize(sizeHint()); // by default a dialog takes at most two thirds of the screen
     }
     QDialog::showEvent(event);
     if (ControlWidget* const first = widgets_->first()) {
@@ -105,7 +105,7 @@ void FormDialog::growToFit() {
 }
 
 void FormDialog::titleChanged(forms::Form& form) {
-    // A window would take "[*]" for the place of a mark of its own.
+    // Qt would take "[*]" for its placeholder of the "modified" mark.
     setWindowTitle(shownLine(form.title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 

@@ -22,7 +22,7 @@ public:
 
     forms::Form& form() const { return form_; }
 
-    // The widget that stands for a control: the box, list or button itself, not its label.
+    // The widget of a control: the box, list or button itself, not its label.
     QWidget* widgetOf(const forms::Control& control) const;
 
     // Escape and the closing cross: the form decides, as it does about its Cancel button.
@@ -33,7 +33,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    // Once a handler that has made controls visible is through.
+    // Called once a handler that has made controls visible has returned.
     void growToFit();
 
     void controlChanged(forms::Control& control, forms::Aspect aspect) override;
@@ -46,8 +46,8 @@ private:
     std::unique_ptr<FormWidgets> widgets_;
 };
 
-// Shows the form over its owner until it ends, by the person or by its own code, and answers its result. Forms nest: a
-// null owner means the front-most dialog. A program that quits meanwhile ends it as cancelled.
+// Shows the form over its owner until the user or its own code ends it, and returns its result. Forms nest: a null
+// owner means the front-most dialog. If the program quits in the meantime, the form ends as cancelled.
 int runForm(forms::Form& form, QWidget* owner = nullptr);
 
 } // namespace desktop

@@ -27,7 +27,7 @@ QFormLayout* newRows() {
     return rows;
 }
 
-// Where nothing grows with the dialog, the room stays below.
+// Where nothing grows with the dialog, the extra room stays at the bottom.
 void keepAtTop(const forms::Column& plan, QBoxLayout& column) {
     if (!plan.grows) {
         column.addStretch(1);
@@ -100,7 +100,8 @@ void FormLayout::addRow(const forms::Row& plan, QFormLayout& rows) {
     const int row = rows.rowCount();
     if (plan.choice != nullptr) {
         QWidget* const choice = widgetOf_(*plan.choice)->field();
-        choice->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); // level with what it goes with
+        choice->setSizePolicy(QSizePolicy::Minimum,
+                              QSizePolicy::Preferred); // level with its box
         rows.setWidget(row, QFormLayout::LabelRole, choice);
     } else if (plan.captionOf != nullptr) {
         rows.setWidget(row, QFormLayout::LabelRole, widgetOf_(*plan.captionOf)->caption());
@@ -144,7 +145,7 @@ QLayout* FormLayout::abreast(const std::vector<forms::BlockPart>& parts) {
         line->addWidget(&field, 1);
         layInside(part);
         if (!part.grows) {
-            field.layout()->setAlignment(Qt::AlignTop); // where its neighbour is higher
+            field.layout()->setAlignment(Qt::AlignTop); // if its neighbour is taller
         }
     }
     return line;

@@ -16,14 +16,14 @@ namespace desktop {
 
 class ControlWidget;
 
-// Places the widgets of a form as its plan says.
+// Places the widgets of a form according to its plan.
 class FormLayout {
 public:
     using Finder = std::function<ControlWidget*(const forms::Control&)>;
 
     explicit FormLayout(Finder widgetOf) : widgetOf_(std::move(widgetOf)) {}
 
-    // Once, on an empty surface.
+    // Called once, on an empty surface.
     void lay(const forms::LayoutPlan& plan, QWidget& surface);
     // Lines of which nothing is visible leave no gap.
     void hideEmptyLines() const;
@@ -37,7 +37,7 @@ private:
     QWidget* fieldOf(const forms::Row& plan);
     QHBoxLayout* lineOf(const forms::Line& plan) const;
     QLayout* abreast(const std::vector<forms::BlockPart>& parts);
-    // What stands on the control itself.
+    // Lays out the controls on the control itself.
     void layInside(const forms::BlockPart& part);
 
     Finder widgetOf_;

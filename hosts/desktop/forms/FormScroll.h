@@ -4,7 +4,8 @@
 
 namespace desktop {
 
-// Holds a dialog's surface and asks for as much room as that wants, up to what the screen has; then it scrolls.
+// Holds a dialog's surface and asks for as much room as that needs, up to the size of the screen; beyond that it
+// scrolls.
 class FormScroll final : public QScrollArea {
 public:
     explicit FormScroll(QWidget* parent);
@@ -13,7 +14,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    // The dialog grows with what it shows.
+    // Makes the dialog grow with its content.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

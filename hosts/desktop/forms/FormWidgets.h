@@ -15,7 +15,7 @@ class Form;
 
 namespace desktop {
 
-// What stands on the screen for the controls of a form: makes it, lays it out, names it and orders it.
+// The widgets of a form: makes them, lays them out, and sets their names and Tab order.
 class FormWidgets {
 public:
     // On an empty surface, which owns the widgets.
@@ -26,7 +26,7 @@ public:
 
     ControlWidget* find(const forms::Control& control) const;
     void controlChanged(forms::Control& control, forms::Aspect aspect);
-    // What the keyboard begins on: where the form has set the focus, or else the first that takes it; null for none.
+    // The widget with the initial focus: the one that the form has set, or else the first that takes it; null for none.
     ControlWidget* first() const;
 
 private:

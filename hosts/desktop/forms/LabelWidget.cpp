@@ -10,7 +10,7 @@ LabelWidget::LabelWidget(forms::Label& label) : ControlWidget(label), label_(lab
     text_->setTextFormat(Qt::PlainText);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text_->setFocusPolicy(Qt::NoFocus);
-    text_->setWordWrap(label.beside() == nullptr); // a remark behind a box stays in its line
+    text_->setWordWrap(label.beside() == nullptr); // a remark behind a box stays on one line
 }
 
 void LabelWidget::update(forms::Aspect aspect) {

@@ -36,7 +36,7 @@ void LineWidget::typed(const QString& text) {
         showLimits();
         return;
     }
-    // Of a piece pasted into a box for digits, the digits are taken.
+    // Only the digits of a text pasted into a box for digits are taken.
     const int cursor = line_->cursorPosition();
     const QString digits = digitsOf(text);
     if (box_.options().digitsOnly && exactText(digits) != box_.text() && box_.userTyped(exactText(digits))) {
@@ -62,7 +62,7 @@ void LineWidget::showText() {
     if (line_->text() == text) {
         return;
     }
-    setMaxLength(std::numeric_limits<int>::max()); // the limit does not bind the form's own code
+    setMaxLength(std::numeric_limits<int>::max()); // the limit does not apply to the form's own code
     line_->setText(text);
     showLimits();
     line_->setCursorPosition(0);
@@ -80,7 +80,7 @@ void LineWidget::showLimits() {
     line_->setPalette(palette);
 }
 
-// The box would move its cursor to the end.
+// QLineEdit itself would move the cursor to the end.
 void LineWidget::setMaxLength(int length) {
     if (line_->maxLength() != length) {
         const int cursor = line_->cursorPosition();

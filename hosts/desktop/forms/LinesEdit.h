@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// A box for a few lines of text, which grows where there is room.
+// A box for a few lines of text, which grows if there is room.
 class LinesEdit final : public QPlainTextEdit {
 public:
     QSize sizeHint() const override;

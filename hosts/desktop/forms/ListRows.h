@@ -13,7 +13,7 @@ class ListRows final : public QAbstractTableModel {
 public:
     explicit ListRows(const forms::ListView& list, QObject* parent);
 
-    // Takes over what the list holds now.
+    // Takes over the current content of the list.
     void refresh();
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -40,7 +40,7 @@ ListWidget::ListWidget(forms::ListView& list)
     });
     connect(view_, &QTreeView::doubleClicked, this, &ListWidget::open);
     view_->doItemsLayout(); // stretches the last column, so that an empty list is as wide as one with rows
-    view_->viewport()->installEventFilter(this); // a right click comes there, the menu key to the view
+    view_->viewport()->installEventFilter(this); // right clicks go there, the menu key to the view
 }
 
 std::optional<std::size_t> ListWidget::rowAt(const QModelIndex& shown) const {
@@ -53,7 +53,7 @@ void ListWidget::selected() {
     if (!stale()) {
         list_.userSelected(rows.isEmpty() ? std::nullopt : rowAt(rows.front()));
     }
-    mirror(forms::Aspect::selection); // as it stands, should it have been refused
+    mirror(forms::Aspect::selection); // restore the form's state in case the change was refused
 }
 
 void ListWidget::open(const QModelIndex& shown) {
@@ -62,7 +62,7 @@ void ListWidget::open(const QModelIndex& shown) {
     }
 }
 
-// The menu stays open while this goes on: the form may have other rows by the time that an entry is chosen.
+// The form may have other rows by the time an entry is chosen from the open menu.
 void ListWidget::showRowMenu(const QModelIndex& shown, const QPoint& place) {
     const auto row = rowAt(shown);
     const auto& entries = list_.rowMenu();

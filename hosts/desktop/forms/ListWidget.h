@@ -15,8 +15,8 @@ namespace desktop {
 
 class ListRows;
 
-// A list with columns of a form. A click on a header sorts what is seen; to the form its rows keep their numbers. Ctrl
-// and Enter do what a double click does; the right button and the menu key open the menu of a row.
+// A list with columns of a form. A click on a header sorts only the display; for the form the rows keep their numbers.
+// Ctrl+Enter acts like a double click; the right button and the menu key open the menu of a row.
 class ListWidget final : public ControlWidget {
 public:
     explicit ListWidget(forms::ListView& list);

@@ -26,7 +26,7 @@ constexpr Choice cancel{QMessageBox::Cancel, Answer::cancel};
 constexpr Choice yes{QMessageBox::Yes, Answer::yes};
 constexpr Choice no{QMessageBox::No, Answer::no};
 
-// In the order in which the platform counts them; the last one is what Escape answers.
+// In the platform's order; the last one is the answer for Escape.
 std::vector<Choice> choicesOf(std::uint32_t style) {
     switch (style & boxStyle::buttonMask) {
     case boxStyle::okCancel:
@@ -59,7 +59,7 @@ QMessageBox::Icon iconOf(std::uint32_t style) {
     }
 }
 
-// The style's own pictures are of another age.
+// The style's own icons look dated.
 void drawIcon(QMessageBox& box) {
     constexpr int side = 40;
     const char* name = nullptr;
@@ -95,7 +95,7 @@ QWidget* frontWindow() {
 Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
                       std::uint32_t style) {
     QMessageBox box(owner != nullptr ? owner : frontWindow());
-    box.setWindowModality(Qt::ApplicationModal); // whether the style asks for it or not: there is one console
+    box.setWindowModality(Qt::ApplicationModal); // whether or not the style asks for it: there is only one console
     const QString shown = shownText(text);
     box.setWindowTitle(shownLine(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     box.setTextFormat(Qt::PlainText);

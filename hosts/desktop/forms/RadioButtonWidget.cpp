@@ -19,7 +19,7 @@ RadioButtonWidget::RadioButtonWidget(forms::RadioButton& choice, QButtonGroup& g
 }
 
 void RadioButtonWidget::update(forms::Aspect /*aspect*/) {
-    // The group lets go of the earlier choice by itself, and would refuse to do so otherwise.
+    // The button group unchecks the previous button by itself, and refuses to be left without a checked one.
     if (choice_.chosen()) {
         button_->setChecked(true);
     }

@@ -7,14 +7,15 @@
 
 namespace desktop {
 
-// The text unit by unit, whatever it holds, and back.
+// Converts the text unit by unit, whatever it contains, and back.
 QString exactText(wire::WideStringView text);
 wire::WideString exactText(const QString& text);
 
-// The text as a list or a menu shows it: on one line, control characters as their pictures, cut where nobody reads on.
+// The text as a list or a menu shows it: on one line, control characters as their pictures, cut at a length that nobody
+// reads.
 QString shownLine(wire::WideStringView text);
-// For texts that have a place of their own: with their line breaks, without other control characters, cut where nobody
-// reads on. What has no blanks may be broken anywhere once it is wider than a dialog.
+// The text as a box or a label of its own shows it: with line breaks, without other control characters, cut at a length
+// that nobody reads. Words wider than a dialog may be broken anywhere.
 QString shownText(wire::WideStringView text);
 
 // A text whose ampersands are not taken for access keys.

@@ -11,7 +11,7 @@ namespace desktop {
 
 TabsWidget::TabsWidget(forms::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pages_(new QTabWidget) {
     setUp(pages_);
-    // Its bar takes the keyboard, once.
+    // The bar takes the keyboard focus, as a single tab stop.
     pages_->setFocusProxy(nullptr);
     pages_->setFocusPolicy(Qt::NoFocus);
     for (std::size_t page = 0; page < tabs.pages().size(); ++page) {
@@ -22,7 +22,7 @@ TabsWidget::TabsWidget(forms::Tabs& tabs) : ControlWidget(tabs), tabs_(tabs), pa
             return;
         }
         tabs_.userShowed(static_cast<std::size_t>(page));
-        mirror(forms::Aspect::selection); // as it stands, should it have been refused
+        mirror(forms::Aspect::selection); // restore the form's state in case the change was refused
     });
 }
 

@@ -22,7 +22,7 @@ public:
 
 protected:
     void update(forms::Aspect aspect) override;
-    // As on the platform, what stands on the page in front stays usable.
+    // As on the platform, the controls on the page in front stay usable.
     void enable(bool enabled) override;
 
 private:

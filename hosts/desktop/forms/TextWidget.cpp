@@ -40,7 +40,7 @@ void TextWidget::typed() {
     mirror(forms::Aspect::text);
 }
 
-// Takes the end of what was typed or pasted away again, which stands before the cursor.
+// Removes the end of what was typed or pasted, which is before the cursor.
 void TextWidget::cutToLimit(std::size_t tooMany) {
     mirrored([&] {
         QTextCursor cursor = edit_->textCursor();

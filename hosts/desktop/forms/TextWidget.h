@@ -10,8 +10,8 @@ class MultiLineEdit;
 
 namespace desktop {
 
-// A box for several lines of text. To the form a line ends with the two characters with which the dialogs of the
-// platform end it, so that a text made here looks the same there.
+// A box for several lines of text. For the form, lines end with CR and LF as in the dialogs of the platform, so that a
+// text written here looks the same there.
 class TextWidget final : public ControlWidget {
 public:
     explicit TextWidget(forms::MultiLineEdit& box);

@@ -31,7 +31,7 @@ void TreeWidget::selected() {
     if (!stale() && !rows.isEmpty()) {
         tree_.userSelected(rows.front().data(numberRole).value<std::size_t>());
     }
-    mirror(forms::Aspect::selection); // as it stands: a person can't take the selection away
+    mirror(forms::Aspect::selection); // restore the form's state: the user can't clear the selection
 }
 
 void TreeWidget::update(forms::Aspect aspect) {

@@ -13,8 +13,8 @@
 namespace desktop {
 namespace {
 
-constexpr int automaticWidth = 120; // of a column that says nothing
-constexpr int onlyWidth = 260;      // at least, of a column that stands alone
+constexpr int automaticWidth = 120; // of a column without a width
+constexpr int onlyWidth = 260;      // the least width of an only column
 constexpr int leastWidth = 48;
 constexpr int saveDelay = 400; // milliseconds
 

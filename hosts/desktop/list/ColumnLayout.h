@@ -13,22 +13,22 @@ class QPoint;
 
 namespace desktop {
 
-// The columns of the list as the person wants them: which, in what order and how wide, remembered for each class of
-// node and each set of columns that it has. Until they are touched, all of them are in view.
+// The columns of the list as the user arranged them: which, in what order and how wide, remembered for each class of
+// node and each set of columns that it has. Until the user changes them, all of them fit into the view.
 class ColumnLayout final : public QObject {
 public:
     // All outlive it. The header is the list's.
     ColumnLayout(const Operations& operations, ViewSettings& settings, QHeaderView& header);
     ~ColumnLayout() override;
 
-    // The list has got other columns, or shows another node.
+    // Call when the list has other columns, or shows another node.
     void apply();
-    // The columns as the node wants them.
+    // Resets the columns to those that the node asks for.
     void reset();
-    // Lets the person choose which columns to see.
+    // Lets the user choose the visible columns.
     void showMenu(const QPoint& globalPosition);
     bool isHidden(int column) const;
-    // The last visible column stays.
+    // The last visible column can't be hidden.
     void setHidden(int column, bool hidden);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -49,7 +49,7 @@ private:
     std::vector<ColumnChoice> wanted_;    // what is to be saved
     std::unordered_map<int, int> widths_; // by column, whether it is hidden or not
     bool applying_ = false;
-    bool fitting_ = false; // as the node wants them, in the room that there is
+    bool fitting_ = false; // the node's own columns, fitted into the available width
 };
 
 } // namespace desktop

@@ -13,14 +13,14 @@ namespace desktop {
 
 enum class ListFormat : std::uint8_t { csv, json, text };
 
-// By the ending of the file's name; CSV for any other.
+// By the extension of the file's name; CSV for unknown ones.
 ListFormat listFormatOf(const QString& file);
 
-// Writes the list into the file, in place of what was there. What went wrong, for people; nothing when it is done. A
-// file that can't be written as a whole stays as it was.
+// Writes the list to the file, replacing it. Returns an error text, or nothing on success. If writing fails, the old
+// file is kept.
 std::optional<QString> writeList(const shell::Table& table, const QString& file, ListFormat format);
 
-// Asks for the file and writes it. What there is to say afterwards; empty when the person has thought better of it.
+// Asks for the file and writes it. Returns the text for the status bar; empty when the user cancelled.
 QString exportList(const shell::Table& table, const QString& name, QWidget* owner);
 
 } // namespace desktop

@@ -17,7 +17,7 @@ FilterBar::FilterBar(Operations& operations, shell::Observers& observers, QWidge
     setClearButtonEnabled(true);
     setMaxLength(1'000);
     connect(this, &QLineEdit::textChanged, this, [this] {
-        if (!std::exchange(asked_, true)) { // several letters that come at once are one filter
+        if (!std::exchange(asked_, true)) { // letters typed in quick succession are filtered once
             operations_.later([this] { filter(); });
         }
     });
@@ -37,7 +37,7 @@ void FilterBar::filter() {
         }
         return true;
     });
-    // What can't be seen is not to be changed by a key.
+    // A row that is filtered out must not be changed by a key press.
     if (const auto row = operations_.shell().selection().row; row != 0 && !operations_.shell().pane().indexOf(row)) {
         operations_.perform([](shell::Shell& console) { return console.selectRow(0); });
     }
@@ -69,7 +69,7 @@ void FilterBar::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
-// Another node's list comes without a filter.
+// The list of another node starts without a filter.
 void FilterBar::selectionChanged() {
     const QString filter = toQString(operations_.shell().pane().filterText());
     if (!asked_ && text() != filter) {

@@ -7,16 +7,16 @@
 
 namespace desktop {
 
-// Where the person types what the rows of the list are to hold; the list follows as they type.
+// The box for the text by which the list is filtered; the list follows while the user types.
 class FilterBar final : public QLineEdit, private shell::ShellObserver {
 public:
     // Both outlive it.
     FilterBar(Operations& operations, shell::Observers& observers, QWidget* parent = nullptr);
     ~FilterBar() override;
 
-    // The person is done here and goes to the rows.
+    // Called when the user leaves the box for the rows.
     std::function<void()> onLeave;
-    // The filter has changed.
+    // Called when the filter has changed.
     std::function<void()> onFiltered;
 
 protected:

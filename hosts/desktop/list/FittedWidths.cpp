@@ -9,7 +9,7 @@ namespace desktop {
 std::vector<int> fittedWidths(const std::vector<ColumnWish>& wishes, int room) {
     std::vector<int> widths;
     std::vector<bool> settled;
-    std::int64_t wished = 0; // by the columns that are not settled, and what is left for them
+    std::int64_t wished = 0; // by the columns not settled yet, which share what is left
     std::int64_t left = room;
     for (const auto& wish : wishes) {
         widths.push_back(wish.natural);
@@ -19,7 +19,7 @@ std::vector<int> fittedWidths(const std::vector<ColumnWish>& wishes, int room) {
     if (wished <= left) {
         return widths;
     }
-    // A column that stays at its least width leaves less to the others: again until none is too narrow.
+    // A column that needs its least width leaves less to the others: repeat until none is too narrow.
     for (bool again = true; again;) {
         again = false;
         const auto wishedNow = wished;

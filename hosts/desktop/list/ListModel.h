@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// The list for a Qt view; keeps nothing of it, and asks for a text when it is shown.
+// The list for a Qt view; copies nothing, and asks for a text only when it is shown.
 class ListModel final : public QAbstractTableModel, private shell::ShellObserver {
 public:
     // All outlive it.
@@ -18,18 +18,18 @@ public:
     // 0 for an invalid index.
     console::ResultId idOf(const QModelIndex& index) const;
     QModelIndex indexOf(console::ResultId id) const;
-    // What a menu entry, a drag or a drop on the row is about.
+    // The target of a menu entry, a drag or a drop on the row.
     shell::Target targetOf(const QModelIndex& index) const;
-    // The scope item that the row stands for; 0 when it stands for none.
+    // The scope item that the row represents; 0 when it represents none.
     console::ScopeId scopeOf(const QModelIndex& index) const;
 
-    // Called before a change of rows, while views still stand as they were.
+    // Called before rows change, while views are still unchanged.
     std::function<void()> onAboutToChange;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    // Renames, as soon as the editor is gone.
+    // Renames once the editor has closed.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;

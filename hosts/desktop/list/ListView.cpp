@@ -24,7 +24,7 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
     setItemDelegate(new TextDelegate(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
-    setUniformRowHeights(true); // else every row is measured
+    setUniformRowHeights(true); // otherwise every row would be measured
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideRight);
     setEditTriggers(NoEditTriggers);
@@ -150,7 +150,7 @@ void ListView::showSelection() {
     const QScopedValueRollback following(following_, true);
     const auto row = operations_.shell().selection().row;
     if (row == 0) {
-        clearSelection(); // where the person was in the list is kept
+        clearSelection(); // keeps the current row
         return;
     }
     const auto index = model_.indexOf(row);
@@ -168,7 +168,7 @@ void ListView::columnsChanged() {
     showSelection();
 }
 
-// Qt moves the current row to a neighbour when it is removed; which row is selected then is for the console to say.
+// Qt moves the current row to a neighbour when it is removed, but the console decides which row is selected then.
 void ListView::beforeChange() {
     following_ = true;
     const QModelIndex top = indexAt(QPoint(0, 0));

@@ -9,8 +9,8 @@
 
 namespace desktop {
 
-// The list pane: what the person does in it goes to the console, and what the console lists is shown in it, with the
-// rows standing still under the person's eyes when the list is read anew.
+// The list pane: passes user input to the console and shows what the console lists; the rows in view keep their
+// position when the list is read again.
 class ListView final : public QTreeView, private shell::ShellObserver {
 public:
     // All outlive it. Made after the model, so that the model learns of a change first.
@@ -21,9 +21,10 @@ public:
     ColumnLayout& columns() { return columns_; }
     void renameCurrent() { edit(currentIndex().siblingAtColumn(0)); }
 
-    // Asked for by mouse or key, with the place on the screen; the row is selected already. Row 0: the list itself.
+    // Called when a menu is requested by mouse or key, with its place on the screen; the row is already selected. Row
+    // 0: the list itself.
     std::function<void(const shell::Target&, const QPoint&)> onMenu;
-    // Why there is nothing to see; asked for only then.
+    // Returns why the list is empty; called only then.
     std::function<QString()> emptyText;
 
 protected:
@@ -33,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // A row and where on the screen it stands.
+    // A row and its position on the screen.
     struct Anchor {
         console::ResultId id = 0;
         int top = 0;
@@ -61,7 +62,7 @@ private:
     ColumnLayout columns_;
     std::optional<Anchor> anchor_;
     console::ScopeId scope_ = 0; // whose list this is
-    bool following_ = false;     // the console's change is being shown: it needs no telling
+    bool following_ = false;     // showing a change by the console, which need not be reported back
 };
 
 } // namespace desktop

@@ -62,7 +62,7 @@ QRect ViewSettings::geometry(const std::vector<QRect>& screens) const {
     const QRect wanted = settings.value(QStringLiteral("window/geometry")).toRect();
     const auto shows = [&](const QRect& screen) {
         const QRect visible = screen.intersected(wanted);
-        // The upper edge is what a window is moved by.
+        // A window is moved by its upper edge.
         return visible.width() >= leastVisible.width() && visible.height() >= leastVisible.height() &&
                wanted.top() >= screen.top() && wanted.width() <= 2 * screen.width() &&
                wanted.height() <= 2 * screen.height();

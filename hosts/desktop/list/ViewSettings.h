@@ -7,27 +7,27 @@
 
 namespace desktop {
 
-// A column as the person wants it.
+// A column as the user arranged it.
 struct ColumnChoice {
     QString title;
     int width = 0;
     bool hidden = false;
 };
 
-// What the windows remember from one start to the next, in an INI file. Of a file that is none, or that holds what no
-// window can use, nothing is taken; it is written anew when there is something to remember.
+// What the windows remember from one start to the next, in an INI file. An invalid file or one with unusable values is
+// ignored; it is rewritten when there is something to remember.
 class ViewSettings {
 public:
     explicit ViewSettings(QString file);
 
     const QString& file() const { return file_; }
 
-    // In the order in which they are shown; empty when nothing is remembered of the list.
+    // In the order in which they are shown; empty when nothing is remembered for the list.
     std::vector<ColumnChoice> columns(const QString& list) const;
     void setColumns(const QString& list, const std::vector<ColumnChoice>& columns);
     void forgetColumns(const QString& list);
 
-    // Where the window stood; an invalid rectangle when that is not known or no screen would show enough of it.
+    // The window's position and size; an invalid rectangle when that is unknown or no screen would show enough of it.
     QRect geometry(const std::vector<QRect>& screens) const;
     void setGeometry(const QRect& geometry);
 

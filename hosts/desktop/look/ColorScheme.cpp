@@ -20,7 +20,7 @@ bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-// What desktops tell those programs that are not of their own toolkit.
+// The setting that desktops provide for programs of other toolkits.
 bool systemPrefersDark() {
     auto question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
@@ -109,7 +109,7 @@ std::optional<ColorScheme> colorSchemeNamed(const QString& name) {
 
 void applyColorScheme(ColorScheme look) {
     const bool platformIsDark = isDark(QGuiApplication::palette());
-    // A platform that has its own style and colours keeps them.
+    // A platform with its own style and colours keeps them.
     const bool plain = QApplication::style()->name().compare(QLatin1String("fusion"), Qt::CaseInsensitive) == 0;
     if (look == ColorScheme::system && (!plain || platformIsDark)) {
         return;

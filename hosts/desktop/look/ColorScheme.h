@@ -7,13 +7,13 @@
 
 namespace desktop {
 
-// Light or dark windows, or as the system has them.
+// Light or dark windows, or whichever the system uses.
 enum class ColorScheme : std::uint8_t { system, light, dark };
 
 // "light", "dark" or "system".
 std::optional<ColorScheme> colorSchemeNamed(const QString& name);
 
-// For the whole program, before its first window.
+// Applies to the whole program; call it before the first window is made.
 void applyColorScheme(ColorScheme look);
 
 } // namespace desktop

@@ -8,8 +8,8 @@
 namespace desktop {
 namespace {
 
-// The plain style draws outlines in the colour of the window, made two thirds as bright. On a dark window that is
-// nearly the window itself, so it is given another colour to begin with.
+// The plain style draws outlines in the window's colour at two thirds of its brightness. On a dark window that is
+// hardly visible, so the style gets a brighter colour to start from.
 constexpr QRgb windowOfOutlines = 0xFFB4BCC8;
 constexpr QRgb windowOfFaintOutlines = 0xFF868C95;
 

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-// The plain style on dark windows, with boxes, check marks and radio buttons whose outlines can be seen.
+// The plain style for dark windows, with visible outlines of boxes, check marks and radio buttons.
 class DarkStyle final : public QProxyStyle {
 public:
     DarkStyle();
@@ -18,7 +18,7 @@ public:
 private:
     QPalette outlined(const QPalette& palette) const;
 
-    // The last palette that was asked for: what the plain style remembers of its drawings, it finds by the palette.
+    // The key of the last palette passed in: the plain style caches its drawings by palette.
     mutable qint64 key_ = 0;
     mutable QPalette outlined_;
 };

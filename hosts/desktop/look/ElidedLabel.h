@@ -4,8 +4,8 @@
 
 namespace desktop {
 
-// A line of plain text that is cut where there is no room for it, and then shown whole in a tool tip. A long text does
-// not push anything else out of the window.
+// A line of plain text that is elided when it does not fit, and then shown whole in a tool tip. A long text does not
+// push anything else out of the window.
 class ElidedLabel final : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);

@@ -7,7 +7,7 @@
 namespace desktop {
 
 // The pictures of the window's own commands, drawn in the colour of its text, so that they are sharp at any scale and
-// right in the light and in the dark.
+// fit light and dark windows.
 class GlyphIcon final : public QIconEngine {
 public:
     enum class Glyph : std::uint8_t { back, forward, up, refresh, log, find, filter, exportList };

@@ -9,14 +9,14 @@
 
 namespace desktop {
 
-// The icons that the nodes point into, one drawing for each index of the two strips, sharp at any scale. For the
-// thread of the windows.
+// The icons of the nodes, one drawing for each index of the two strips, sharp at any scale. Used on the GUI thread
+// only.
 class IconStrips {
 public:
-    // Empty for a strip or an index that is not there.
+    // Empty for a strip or an index that does not exist.
     QIcon icon(const console::ImageStrip& strip, int index) const;
 
-    // How many icons the strip has; 0 for one that is not there.
+    // How many icons the strip has; 0 for one that does not exist.
     static int count(const console::ImageStrip& strip);
     // The program's own icon.
     static QIcon application();

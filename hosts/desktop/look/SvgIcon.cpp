@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// Tells a program that is linked from libraries to take the drawings along.
+// Makes the linker include the drawings, which come from a static library.
 static void initializeIcons() {
     Q_INIT_RESOURCE(icons);
 }

@@ -11,8 +11,7 @@ class QSvgRenderer;
 
 namespace desktop {
 
-// An icon drawn from a drawing among the program's resources at whatever size it is asked for. Needs no plug-in beside
-// the program.
+// An icon drawn at any requested size from an SVG among the program's resources. Needs no plug-in.
 class SvgIcon final : public QIconEngine {
 public:
     // Empty when there is no such drawing.

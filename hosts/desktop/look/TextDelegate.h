@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// Draws the cells of trees and lists. A text that does not fit is cut, and shown whole in a tool tip.
+// Draws the cells of trees and lists. A text that does not fit is elided, and shown whole in a tool tip.
 class TextDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

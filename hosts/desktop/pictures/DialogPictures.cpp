@@ -82,7 +82,7 @@ std::vector<std::pair<QString, QImage>> dialogPictures() {
 
 std::vector<std::pair<QString, QImage>> serverDialogPictures() {
     if (client::theProperties != nullptr) {
-        client::theProperties->hooks = {}; // those of the program that has logged in are gone
+        client::theProperties->hooks = {}; // the hooks of the session that logged in no longer exist
     }
     auto all = ruleGroupSamples();
     std::ranges::move(ruleSamples(), std::back_inserter(all));

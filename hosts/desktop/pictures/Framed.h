@@ -6,7 +6,7 @@ class QWidget;
 
 namespace desktop {
 
-// Lets the layouts of what is shown come to rest.
+// Waits until all layouts are done.
 void settle();
 
 // A picture of a dialog that is shown, in a plain frame with its title.

@@ -12,7 +12,7 @@ class SettingsStore;
 namespace desktop {
 
 // A picture of the window with the context menu of an item of the tree. Logs in with the settings and the password;
-// nothing when that fails.
+// empty when that fails.
 std::optional<QImage> menuPicture(platform::SettingsStore& settings, const QString& password, const QString& path);
 
 } // namespace desktop

@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-// The dialogs of the rules, with what stands on the server.
+// The dialogs of the rules, with records of the server.
 std::vector<Sample> ruleSamples();
 
 } // namespace desktop

@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// A dialog for a picture, filled as a person would have it.
+// A dialog for a picture, filled in as a user would.
 struct Sample {
     const char* name;
     std::function<std::unique_ptr<forms::Form>(platform::Platform&)> make;
@@ -21,7 +21,7 @@ Sample sample(const char* name, std::function<void(Dialog&)> fill, Arguments... 
             [fill](forms::Form& form) { fill(dynamic_cast<Dialog&>(form)); }};
 }
 
-// Types the text where the picture shows it.
+// Types the text into the box.
 inline void enter(forms::TextControl& box, const wire::WideString& text) {
     box.setText(text);
     box.userTyped(text);

@@ -23,7 +23,7 @@ bool save(const QImage& image, const QDir& folder, const QString& name, const QS
 
 } // namespace
 
-// vantrel-pictures LOOK FOLDER SETTINGS PATH: the password comes in VANTREL_PASSWORD.
+// vantrel-pictures LOOK FOLDER SETTINGS PATH: the password comes from VANTREL_PASSWORD.
 int main(int argc, char** argv) {
     const desktop::Application application(argc, argv);
     const QStringList arguments = QApplication::arguments();
@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     common::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
     const auto menu = desktop::menuPicture(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
     done = save(menu.value_or(QImage()), folder, QStringLiteral("menu"), arguments[1]) && done;
-    // What the menu needed, a login, these need too.
+    // These need the login that the menu made.
     for (const auto& [name, image] : desktop::serverDialogPictures()) {
         done = save(image, folder, name, arguments[1]) && done;
     }

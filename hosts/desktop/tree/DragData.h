@@ -10,12 +10,12 @@ class QMimeData;
 
 namespace desktop {
 
-// What is dragged from the tree or the list: an item of this very program, and its name as text for others.
+// What is dragged from the tree or the list: an item of this running program, and its name as text for other programs.
 constexpr const char* dragFormat = "application/x-vantrel-target";
 
 // The caller owns it.
 QMimeData* makeDragData(const shell::Target& target, const QString& name);
-// Nothing when the data come from another program or mean nothing.
+// Empty when the data come from another program or are invalid.
 std::optional<shell::Target> draggedTarget(const QMimeData* data);
 
 } // namespace desktop

@@ -175,7 +175,7 @@ void ScopeModel::scopeItemChanged(ScopeId item) {
 
 void ScopeModel::scopeItemOpened(ScopeId item, bool /*open*/) {
     noticeRoot();
-    scopeItemChanged(item); // it may have another picture while it is open
+    scopeItemChanged(item); // it may have another icon while it is open
 }
 
 } // namespace desktop

@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// The scope tree for a Qt view; keeps nothing of it.
+// The scope tree for a Qt view; copies nothing.
 class ScopeModel final : public QAbstractItemModel, private shell::ShellObserver {
 public:
     // All outlive it.
@@ -16,7 +16,7 @@ public:
     ~ScopeModel() override;
 
     static console::ScopeId idOf(const QModelIndex& index) { return static_cast<console::ScopeId>(index.internalId()); }
-    // Invalid for an item that is not there.
+    // Invalid for an item that does not exist.
     QModelIndex indexOf(console::ScopeId id) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent) const override;
@@ -25,7 +25,7 @@ public:
     int columnCount(const QModelIndex& parent) const override;
     bool hasChildren(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    // Renames, as soon as the editor is gone.
+    // Renames once the editor has closed.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
@@ -40,7 +40,7 @@ public:
 private:
     const shell::ScopeTree& tree() const { return operations_.shell().tree(); }
     int rowOf(console::ScopeId id) const;
-    // The root has no announcement of its own: it is there with the first thing that is told of it.
+    // The insertion of the root is not reported: the model notices it with the first change to it.
     void noticeRoot();
 
     void scopeItemsAboutToBeInserted(console::ScopeId parent, std::size_t first, std::size_t count) override;
@@ -54,7 +54,7 @@ private:
     shell::Observers& observers_;
     const IconStrips& icons_;
     bool hasRoot_ = false;
-    mutable std::size_t lastRow_ = 0; // of the item asked for last: views ask for the same parent again and again
+    mutable std::size_t lastRow_ = 0; // of the last item looked up: views ask for the same parent again and again
 };
 
 } // namespace desktop

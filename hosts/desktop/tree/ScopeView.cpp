@@ -17,7 +17,7 @@ ScopeView::ScopeView(Operations& operations, shell::Observers& observers, ScopeM
     setItemDelegate(new TextDelegate(this));
     setHeaderHidden(true);
     header()->setAccessibleName(QStringLiteral("Tree columns"));
-    setUniformRowHeights(true); // else every row is measured
+    setUniformRowHeights(true); // otherwise every row would be measured
     setTextElideMode(Qt::ElideRight);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(true);
@@ -54,7 +54,7 @@ ScopeView::~ScopeView() {
     observers_.remove(*this);
 }
 
-// Whatever was passed on the way (with a key held down, for instance) is not asked for.
+// Items passed on the way (for instance with a key held down) are not loaded.
 void ScopeView::selectCurrent() {
     if (!currentIndex().isValid()) {
         return;
@@ -99,7 +99,7 @@ void ScopeView::showSelection() {
     if (index.isValid() && index != currentIndex()) {
         const QScopedValueRollback following(following_, true);
         setCurrentIndex(index);
-        // The way to it may have been opened on the screen only.
+        // The items above it may be open only in this view.
         for (auto above = index.parent(); above.isValid(); above = above.parent()) {
             const ScopeId id = ScopeModel::idOf(above);
             if (!operations_.shell().tree().isOpen(id)) {
@@ -114,7 +114,7 @@ void ScopeView::scopeItemOpened(ScopeId item, bool /*open*/) {
     operations_.later([this, item] { followOpen(item); });
 }
 
-// An item that stays open across a refresh may have been without children, and so closed, for a moment.
+// An item that stays open across a refresh may have had no children for a moment, which closed it.
 void ScopeView::scopeItemsInserted(ScopeId parent, std::size_t /*first*/, std::size_t /*count*/) {
     if (operations_.shell().tree().isOpen(parent)) {
         followOpen(parent);

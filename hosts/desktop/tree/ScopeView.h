@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-// The tree pane: what the person does in it goes to the console, and what the console selects or opens is shown in it.
+// The tree pane: passes user input to the console, and shows what the console selects or opens.
 class ScopeView final : public QTreeView, private shell::ShellObserver {
 public:
     // All outlive it. Made after the model, so that the model learns of a change first.
@@ -14,7 +14,7 @@ public:
     ~ScopeView() override;
 
     void renameCurrent() { edit(currentIndex()); }
-    // Asked for by mouse or key, with the place on the screen; the item is selected already.
+    // Called when a menu is requested by mouse or key, with its place on the screen; the item is already selected.
     std::function<void(const shell::Target&, const QPoint&)> onMenu;
 
 protected:
@@ -33,7 +33,7 @@ private:
     Operations& operations_;
     shell::Observers& observers_;
     ScopeModel& model_;
-    bool following_ = false; // the console's change is being shown: it needs no telling
+    bool following_ = false; // showing a change by the console, which need not be reported back
 };
 
 } // namespace desktop

@@ -9,12 +9,12 @@
 
 namespace desktop {
 
-// The names in a path such as "Printers/Berlin"; a slash within a name is written "\/", a backslash "\\". Nothing when
-// a backslash stands before anything else or a name is empty.
+// The names in a path such as "Printers/Berlin"; a slash within a name is written "\/", a backslash "\\". Empty when a
+// backslash precedes anything else or a name is empty.
 std::optional<std::vector<QString>> namesInPath(const QString& path);
 
-// Opens the tree along the path, which begins at the branches of the print server, and selects what stands at its end.
-// What went wrong, for people; nothing when it is selected.
+// Opens the tree along the path, which starts at the branches of the print server, and selects the item at its end.
+// Returns an error text, or nothing on success.
 std::optional<QString> openPath(Operations& operations, const QString& path);
 
 } // namespace desktop

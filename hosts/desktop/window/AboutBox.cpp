@@ -44,7 +44,7 @@ AboutBox::AboutBox(const snapin::CPrintAbout& about, const QIcon& icon, QWidget*
     description->setMinimumWidth(textWidth);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    buttons->button(QDialogButtonBox::Close)->setIcon({}); // the one that a style brings along is dark on dark
+    buttons->button(QDialogButtonBox::Close)->setIcon({}); // the style's own icon is dark on dark
 
     auto* const layout = new QGridLayout(this);
     layout->setHorizontalSpacing(18);

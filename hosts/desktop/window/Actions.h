@@ -10,7 +10,7 @@ class QWidget;
 
 namespace desktop {
 
-// What the person can do in the window itself, each with its key and the words that the status bar says about it.
+// The actions of the window itself, each with its key and its text for the status bar.
 class Actions {
 public:
     // The window owns the actions.
@@ -33,7 +33,7 @@ public:
     QAction* about;
     QAction* quit;
 
-    // Those that the selection does not offer can't be chosen. Not within an operation of the console.
+    // Disables the actions that the selection does not offer. Must not be called within an operation of the console.
     void update(Operations& operations) const;
     // The verbs that the selection offers.
     void addVerbs(QMenu& menu) const;

@@ -4,7 +4,8 @@
 
 namespace desktop {
 
-// Keeps what an event's handler throws from ending the program: it is written to the errors, and the program goes on.
+// Keeps an exception from an event handler from ending the program: it is written to standard error, and the program
+// goes on.
 class Application final : public QApplication {
 public:
     using QApplication::QApplication;

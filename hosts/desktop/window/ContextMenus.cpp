@@ -51,7 +51,7 @@ void ContextMenus::fill(QMenu& menu, const shell::Target& target) const {
 }
 
 std::unique_ptr<QMenu> ContextMenus::make(const shell::Target& target) const {
-    auto menu = std::make_unique<QMenu>(&window_); // status texts find their way to the window's status bar
+    auto menu = std::make_unique<QMenu>(&window_); // so that status texts reach the window's status bar
     fill(*menu, target);
     return menu;
 }

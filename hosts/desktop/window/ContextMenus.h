@@ -8,16 +8,16 @@
 
 namespace desktop {
 
-// Menus of what the console offers for an item or a row, with what each entry says about itself for the status bar.
+// The context menus that the console offers for an item or a row, with each entry's text for the status bar.
 class ContextMenus {
 public:
     // All outlive it.
     ContextMenus(Operations& operations, const Actions& actions, QWidget& window);
 
-    // The node's own entries, then the verbs and what else there is. The item or row is the selected one.
+    // Adds the node's own entries, then the verbs and the window's actions. The item or row must be the selected one.
     void fill(QMenu& menu, const shell::Target& target) const;
     std::unique_ptr<QMenu> make(const shell::Target& target) const;
-    // Shows it and does what is chosen.
+    // Shows the menu and runs the chosen entry.
     void show(const shell::Target& target, const QPoint& place) const;
 
 private:

@@ -31,7 +31,7 @@ int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*o
         return runForm(form, owner());
     }
     if (logIn(*login)) {
-        silent_ = true; // nobody has asked, so nobody is told that it went well
+        silent_ = true; // the login was not interactive, so its success is not reported
         return form.result();
     }
     loginFailure_ = said_.empty() ? QStringLiteral("There is no password") : toQString(said_);

@@ -14,16 +14,16 @@ class AuthenticationDlg;
 
 namespace desktop {
 
-// Boxes and forms as windows over the main window. With a password from outside the login goes without its dialog, as
-// long as it succeeds.
+// Shows boxes and forms as windows over the main window. With a password from the command line or environment, the
+// login needs no dialog as long as it succeeds.
 class DesktopUserInterface final : public shell::ShellUserInterface {
 public:
     using ShellUserInterface::ShellUserInterface;
 
-    // The owner of everything that is shown.
+    // The owner of all boxes and forms.
     void setMainWindow(QWidget* window) { mainWindow_ = window; }
     void setPassword(wire::WideString password) { password_ = std::move(password); }
-    // Nobody is there to answer: a login that fails is given up.
+    // No user is present: a failed login is not repeated.
     void setUnattended() { unattended_ = true; }
     // Why the unattended login has failed; empty when it has not.
     const QString& loginFailure() const { return loginFailure_; }
@@ -41,7 +41,7 @@ private:
     QPointer<QWidget> mainWindow_;
     std::optional<wire::WideString> password_;
     bool unattended_ = false;
-    bool silent_ = false; // what is said belongs to a login without a dialog
+    bool silent_ = false; // messages come from a login without a dialog
     wire::WideString said_;
     QString loginFailure_;
 };

@@ -59,7 +59,7 @@ MainWindow::~MainWindow() {
     session_.age().onChange = nullptr;
     session_.ui().setMainWindow(nullptr);
     session_.setMeasure(nullptr);
-    delete panes_; // its views go before what they show
+    delete panes_; // its views must be destroyed before their models
     delete activity_;
 }
 

@@ -20,8 +20,8 @@ public:
     MainWindow(Session& session, ViewSettings& settings, const IconStrips& icons);
     ~MainWindow() override;
 
-    // Logs in and shows the tree, opened along the path. Comes back at once; onStarted tells when it is done, with what
-    // went wrong, or nothing. A login that ends for good closes the window instead.
+    // Logs in and shows the tree, opened along the path. Returns at once; calls onStarted when it is done, with an
+    // error text or none. If the login is given up, the window closes instead.
     void start(const QString& path);
     std::function<void(const std::optional<QString>&)> onStarted;
 
@@ -32,7 +32,7 @@ public:
     const WaitIndicator& waitIndicator() const { return wait_; }
     void showAbout();
 
-    // At its natural size on a screen, unless it is remembered.
+    // Restores the remembered size and position, or centers the window at its natural size.
     void restorePlace();
 
 protected:
@@ -69,7 +69,7 @@ private:
     ActivityDock* activity_;
     StatusLine status_;
     WaitIndicator wait_;
-    bool showing_ = false; // showState is on its way
+    bool showing_ = false; // a call of showState is pending
     bool closing_ = false;
 };
 

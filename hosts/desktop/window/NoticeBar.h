@@ -8,7 +8,7 @@ class QLabel;
 
 namespace desktop {
 
-// Says above the list what is wrong with it, and lets the person try again.
+// Shows above the list what is wrong with it, and lets the user try again.
 class NoticeBar final : public QFrame {
 public:
     explicit NoticeBar(QWidget* parent = nullptr);

@@ -63,7 +63,7 @@ std::variant<Options, Refusal> readOptions(const QStringList& arguments) {
         return wrong(parser.errorText());
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        // The parser knows the program's name only once there is an application.
+        // The parser learns the program's name only from an application object.
         return Refusal{parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("vantrel-admin")),
                        0};
     }

@@ -46,7 +46,7 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
     QWidget::setTabOrder(filter_, list_);
 }
 
-// The views go before their models.
+// Destroys the views before their models.
 Panes::~Panes() {
     delete list_;
     delete tree_;
@@ -89,7 +89,7 @@ void Panes::showPath() {
     const auto& tree = operations_.shell().tree();
     const auto path = tree.pathTo(operations_.shell().selection().scope);
     QStringList names;
-    // The two fixed items at the top say nothing new, unless they are the ones that are shown.
+    // The two fixed items at the top are left out unless one of them is shown.
     for (std::size_t place = path.size() > 2 ? 2 : 0; place < path.size(); ++place) {
         names += oneLine(tree.text(path[place]));
     }

@@ -26,7 +26,7 @@ public:
     TreeSearchBar& search() { return *search_; }
     NoticeBar& notice() { return *notice_; }
 
-    // Where the shown list stands in the tree: "Printers › Berlin".
+    // Shows the path of the current list in the tree: "Printers › Berlin".
     void showPath();
     // Why the list is empty.
     QString emptyText() const;

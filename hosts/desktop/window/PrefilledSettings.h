@@ -7,10 +7,10 @@
 
 namespace desktop {
 
-// Settings of which some values were given on the command line.
+// Settings with some values overridden on the command line.
 class PrefilledSettings final : public platform::SettingsStore {
 public:
-    // The store outlives it; what is written goes there.
+    // The store outlives it and takes what is written.
     PrefilledSettings(platform::SettingsStore& store, std::map<std::string, wire::WideString, std::less<>> given);
 
     bool exists() const override;

@@ -22,7 +22,7 @@ std::filesystem::path settingsFile(const Options& options) {
                                       : std::filesystem::path(options.settings.toStdU16String());
 }
 
-// Beside the settings of the login, which are shared with the other consoles.
+// In the folder of the login's settings, which the other consoles share.
 QString viewSettingsFile(const std::filesystem::path& settings) {
     auto file = settings;
     file.replace_extension("desktop.ini");
@@ -41,7 +41,7 @@ int runProgram(const Options& options, const std::optional<wire::WideString>& pa
     common::IniSettingsStore saved(file);
     PrefilledSettings settings(saved, options.login);
     const bool isPicture = !options.screenshot.isEmpty();
-    // A picture shows the window as it is at first, and leaves nothing behind.
+    // A screenshot shows the window in its initial state, and leaves no settings behind.
     const QTemporaryDir pictureSettings;
     ViewSettings viewSettings(isPicture ? pictureSettings.filePath(QStringLiteral("desktop.ini"))
                                         : viewSettingsFile(file));

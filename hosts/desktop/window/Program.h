@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// Runs the windows until they are closed; answers the exit status.
+// Runs the windows until they are closed; returns the exit status.
 int runProgram(const Options& options, const std::optional<wire::WideString>& password);
 
 } // namespace desktop

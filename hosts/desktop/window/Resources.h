@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// The texts that the program carries, and handles for its pictures, which are drawn from the strips.
+// The texts of the program, and handles for its images, which are drawn from the strips.
 class Resources final : public snapin::ModuleResources {
 public:
     std::optional<wire::WideString> loadString(std::int32_t id) const override;

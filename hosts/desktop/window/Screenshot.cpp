@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-constexpr int rounds = 8; // of work that lays something out, which asks for more of it
+constexpr int rounds = 8; // of layout work, each of which may cause more
 
 } // namespace
 

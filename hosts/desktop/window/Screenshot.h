@@ -8,8 +8,7 @@ class QWidget;
 
 namespace desktop {
 
-// Writes a picture of the window, once everything in it is laid out. What went wrong, for people; nothing when it is
-// written.
+// Writes a picture of the window once everything in it is laid out. Returns an error text, or nothing on success.
 std::optional<QString> takeScreenshot(QWidget& window, const QString& file);
 
 } // namespace desktop

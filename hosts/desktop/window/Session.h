@@ -15,7 +15,7 @@
 
 namespace desktop {
 
-// The console with everything that it needs, but its windows.
+// The console with everything that it needs except windows.
 class Session {
 public:
     // Outlives it.

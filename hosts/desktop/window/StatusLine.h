@@ -7,8 +7,7 @@ class QStatusBar;
 
 namespace desktop {
 
-// What the status bar says when it says nothing about a menu entry: how many rows there are, of when they are, and who
-// is logged in where.
+// The permanent part of the status bar: how many rows there are, when they were read, and who is logged in where.
 class StatusLine {
 public:
     // All outlive it; the bar owns the labels.
