@@ -4,7 +4,7 @@
 
 namespace server {
 
-// All commands that vantreld answers, but for the two of a login.
+// All commands that vantreld answers, except the two of a login.
 [[nodiscard]] const CommandTable& commands();
 
 } // namespace server

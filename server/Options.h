@@ -10,19 +10,19 @@
 
 namespace server {
 
-// Which invented estate to fill an empty database with: so many printers, or the small one when the number is 0.
+// Which sample estate to fill an empty database with: the given number of printers, or the small estate when it is 0.
 struct Sample {
     int printers = 0;
 };
 
-// What the person who starts the server has said.
+// The options with which the server is started.
 struct Options {
     std::filesystem::path database;
     std::string listen = "127.0.0.1";
     std::uint16_t port = 5005; // 0 for any that is free
     std::optional<std::filesystem::path> portFile;
     std::optional<Sample> sample;
-    std::optional<std::string> user; // to add, or to give another password
+    std::optional<std::string> user; // to add, or to give a new password
     std::filesystem::path passwordFile;
     std::chrono::minutes loginRequired{720}; // 0 for no login at all
 

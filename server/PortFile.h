@@ -5,8 +5,8 @@
 
 namespace server {
 
-// Writes the port as one line; whoever reads the file finds either nothing or all of it. Throws std::runtime_error with
-// one line.
+// Writes the port as one line; a reader of the file finds either nothing or the whole line. Throws std::runtime_error
+// with one line.
 void writePortFile(const std::filesystem::path& file, std::uint16_t port);
 
 } // namespace server

@@ -11,7 +11,7 @@ namespace server {
 
 namespace {
 
-// Each part of the estate has its own chance, so that a change to one leaves the others as they were.
+// Each part of the estate has its own random seed, so that changing one part leaves the others as they were.
 enum Seed : std::uint32_t { driverSeed = 1, configurationSeed, alarmSeed, ruleSeed, inventorySeed };
 
 } // namespace

@@ -4,22 +4,22 @@
 
 namespace server {
 
-// Fills an empty database with an invented estate that is the same each time: each domain adds its own. Runs inside of
-// the caller's transaction.
+// Fills an empty database with a sample estate that is the same each time: each domain adds its own records. Runs
+// inside the caller's transaction.
 class SampleEstate {
 public:
     explicit SampleEstate(StoreConnection& connection) : connection_(connection) {}
 
-    // A few offices to look around in: regions three deep, of which one holds regions only, one printers only, one both
-    // and one nothing, and some of everything else.
+    // A few offices to explore: regions three levels deep, one with only regions, one with only printers, one with both
+    // and one empty, and some of everything else.
     void fillSmall();
 
-    // So many printers, each with a queue: up to half of them, but at most ten thousand, in the one region "Central
-    // Print Hub", the others over offices of two hundred.
+    // The given number of printers, each with a queue: up to half of them, but at most ten thousand, in the one region
+    // "Central Print Hub", the others in offices of two hundred each.
     void fill(int printers);
 
 private:
-    // All that the regions and printers stand on, and all that stands on them.
+    // What the regions and printers refer to, and what refers to them.
     void addDrivers(int printers);
     void addTheRest(int printers);
 

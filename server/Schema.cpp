@@ -16,8 +16,8 @@ constexpr int vantreld = 0x56746C64; // "Vtld"
 
 } // namespace
 
-// Steps that have shipped never change. In the last one a row whose name has become equal to another one's keeps the
-// key that it has: both stay, under their names, and the one that is changed next needs another name.
+// Released steps never change. In the last one, a row whose name has become equal to another one's keeps its old key:
+// both rows stay, under their names, and whichever is changed next needs a new name.
 const Schema& schema() {
     static const Schema whole{.applicationId = vantreld,
                               .steps = {std::string(estateTables) + loginTables, driverTables, configurationTables,

@@ -29,8 +29,8 @@ using namespace server;
 constexpr int failureStatus = 1;
 constexpr rlim_t wantedDescriptors = 4096; // for sockets and for the connections of readers
 
-// Where the libraries cannot pass an exception on, there was no memory: an end like any other failure. What was
-// acknowledged is on the disk.
+// Called where the libraries can't pass on an exception because memory ran out: ends like any other failure. Whatever
+// was acknowledged is on disk.
 [[noreturn]] void endWithoutMemory() {
     constexpr std::string_view text = "vantreld: there is no memory left\n";
     [[maybe_unused]] const auto ignored = ::write(STDERR_FILENO, text.data(), text.size());
@@ -39,7 +39,7 @@ constexpr rlim_t wantedDescriptors = 4096; // for sockets and for the connection
 
 void prepareProcess() {
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error of the write
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow makes the write fail
     MemoryReserve::install();
     std::set_terminate(&endWithoutMemory);
     rlimit limit{};
@@ -79,7 +79,7 @@ void serve(const Options& options) {
     settings.loginRequired = options.loginRequired;
     Server server(store, accounts, commands(), settings);
 
-    // Signals have a thread of their own, so that they are heard whatever the server does.
+    // Signals have a thread of their own, so that they are handled whatever the server is doing.
     boost::asio::io_context signalContext;
     boost::asio::signal_set signals(signalContext, SIGTERM, SIGINT);
     signals.async_wait([&](const boost::system::error_code& error, int) {

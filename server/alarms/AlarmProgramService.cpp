@@ -29,7 +29,7 @@ Written refused(const WideString& text) {
     return {.status = notSaved(text), .reply = {}};
 }
 
-// The server's own time as dates travel.
+// The server's local time in the date format of the wire.
 WideString dateOfNow() {
     return wire::toWide(fmt::format("{:%Y-%m-%d %H:%M:%S}", fmt::localtime(std::time(nullptr))));
 }
@@ -59,7 +59,7 @@ Written AlarmProgramService::write(const protocol::WriteAlarmProgramRequest& req
     record.name = request.name;
     record.comment = request.comment;
     record.createdBy = request.createdBy;
-    // A text ends at its first zero for a console, so a name that begins with one is empty there.
+    // To a console a text ends at its first zero, so a name that begins with one is empty there.
     if (record.name.empty() || record.name.front() == u'\0')
         return refused(u"An alarm program needs a name.");
     if (frameDataSize(record) > largestReceivableFrame)

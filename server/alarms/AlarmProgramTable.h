@@ -5,32 +5,32 @@
 
 namespace server {
 
-// A program as it is stored: what travels, and its kind of protocol::alarmProgramKind.
+// A program as it is stored: the record of the wire, and its kind, one of protocol::alarmProgramKind.
 struct StoredProgram {
     protocol::AlarmProgramRecord record;
     std::uint8_t kind = 0;
 };
 
-// The alarm programs and counter programs of one connection to the database, and nothing about what is allowed. Throws
+// The alarm programs and counter programs, accessed over one connection to the database without any checks. Throws
 // StoreError.
 class AlarmProgramTable {
 public:
     explicit AlarmProgramTable(sqlite3* connection);
 
     [[nodiscard]] std::optional<StoredProgram> find(const std::string& id);
-    // Another program of the kind than this one has the name.
+    // Whether another program of the kind has the name.
     [[nodiscard]] bool nameTaken(std::uint8_t kind, const wire::WideString& name, const std::string& except);
 
     void insert(const StoredProgram& program);
-    // All fields, by the id.
+    // Updates all fields, by the id.
     void update(const protocol::AlarmProgramRecord& record);
-    // Its actions go too, and printers that point at it point at none.
+    // Also removes its actions; printers that refer to it then refer to none.
     void remove(const std::string& id);
 
-    // Gives most printers an alarm program and a counter program, in turn.
+    // Gives most printers an alarm program and a counter program, alternating among them.
     void pointPrinters();
 
-    // Those of the kind by name, or the one with the id in the filter.
+    // The programs of the kind by name, or the one with the id in the filter.
     [[nodiscard]] Listing list(const protocol::ListAlarmProgramsRequest& request);
 
 private:

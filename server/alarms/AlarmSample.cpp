@@ -81,7 +81,7 @@ constexpr std::array<Program, 5> programs = {{
     {u"Silent", u"For printers in store", u"", u"2026-01-12 11:05:59", {{{"no-contact", 4}, {}, {}, {}}}},
 }};
 
-// The first dozen are people by themselves; those behind them carry a number, as they do in companies.
+// The first dozen have plain names; the later ones carry a number, as in large companies.
 std::string addRecipient(StoreConnection& connection, SampleRandom& random, int number) {
     const auto count = static_cast<int>(people.size());
     const auto& person = people[static_cast<std::size_t>(number % count)];

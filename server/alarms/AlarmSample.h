@@ -5,7 +5,7 @@
 
 namespace server {
 
-// Fills in invented alarm programs and e-mail recipients, in proportion to the printers.
+// Adds sample alarm programs and e-mail recipients, in proportion to the printers.
 void addAlarmSample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

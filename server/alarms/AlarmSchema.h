@@ -2,12 +2,12 @@
 
 namespace server {
 
-// The tables of alarm programs and e-mail recipients, with the events, the actions and the counter programs that every
-// server has.
+// The tables of alarm programs and e-mail recipients, and the events, actions and counter programs that every server
+// has.
 //
-// Consoles sort the actions by name and take the first one for the one that ignores an event, so no name may come
-// before "Ignore". They show the destinations of the action that the list begins with, so the list, which is by code,
-// begins with the one action that has any.
+// Consoles sort the actions by name and assume that the first one ignores an event, so no name may sort before
+// "Ignore". They show the destinations of the list's first action, so the list, which is sorted by code, begins with
+// the only action that has any.
 inline constexpr const char* alarmTables = R"sql(
     CREATE TABLE emailRecipient (
         number INTEGER PRIMARY KEY,
@@ -94,7 +94,7 @@ inline constexpr const char* alarmTables = R"sql(
     DROP TABLE counterProgram;
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* alarmKeys = R"sql(
     UPDATE OR IGNORE emailRecipient SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
     UPDATE OR IGNORE alarmProgram SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);

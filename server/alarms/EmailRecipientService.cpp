@@ -16,17 +16,18 @@ using wire::WideString;
 
 namespace {
 
-// A yes-or-no byte comes as a number or as its digit.
+// A yes-or-no byte is sent as a number or as its digit.
 bool isYes(std::uint8_t byte) {
     return byte != 0 && byte != '0';
 }
 
-// A text ends at its first zero for a console, so one that begins with it is empty there.
+// To a console a text ends at its first zero, so one that begins with a zero is empty there.
 bool isBlank(const WideString& text) {
     return text.empty() || text.front() == u'\0';
 }
 
-// It has to fit a frame by itself and in the list of a program's actions, beside the names of an event and an action.
+// It has to fit into a frame alone, and also in the list of a program's actions, beside the names of an event and an
+// action.
 bool isTooLong(const EmailRecipientRecord& recipient) {
     constexpr std::size_t longestLabel = 40;
     const protocol::ProgramActionRecord action{.id = recipient.id,

@@ -6,14 +6,14 @@
 
 namespace server {
 
-// What may be done to e-mail recipients, and doing it. Each change runs inside of the caller's transaction; a refused
-// one has changed nothing. Throws StoreError.
+// Checks and carries out changes of e-mail recipients. Each change runs inside the caller's transaction; a refused one
+// has changed nothing. Throws StoreError.
 class EmailRecipientService {
 public:
     explicit EmailRecipientService(StoreConnection& connection) : connection_(connection) {}
 
-    // Without an id it adds. With an id and neither name nor address it deletes, and what goes to the recipient with
-    // it; else it changes.
+    // Without an id it adds a recipient. With an id and neither name nor address it deletes the recipient and the
+    // actions that mail to it; otherwise it changes the recipient.
     protocol::StatusReply write(const protocol::WriteEmailRecipientRequest& request);
     protocol::StatusReply setActive(const protocol::SetRecipientActiveRequest& request);
 

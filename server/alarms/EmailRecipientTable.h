@@ -5,20 +5,20 @@
 
 namespace server {
 
-// The e-mail recipients of one connection to the database, and nothing about what is allowed. Throws StoreError.
+// The e-mail recipients, accessed over one connection to the database without any checks. Throws StoreError.
 class EmailRecipientTable {
 public:
     explicit EmailRecipientTable(sqlite3* connection);
 
     [[nodiscard]] bool exists(const std::string& id);
     void insert(const protocol::EmailRecipientRecord& recipient);
-    // All fields, by the id.
+    // Updates all fields, by the id.
     void update(const protocol::EmailRecipientRecord& recipient);
     void setActive(const std::string& id, bool active);
-    // The actions that go to the recipient go too.
+    // Also removes the actions that mail to the recipient.
     void remove(const std::string& id);
 
-    // All by name and then in the order of making, or the one with the id.
+    // All by name and then in the order of creation, or the one with the id.
     [[nodiscard]] Listing list(const protocol::ListEmailRecipientsRequest& request);
 
 private:

@@ -8,21 +8,21 @@
 
 namespace server {
 
-// A change that was asked for, and what to tell the console about it.
+// A requested change, and whether the console waits for its outcome.
 struct Change {
     bool isAnswered = false; // the console waits for the outcome
-    // Makes it in one transaction, or refuses. Never throws: an error of the database becomes a refusal.
+    // Makes the change in one transaction, or refuses it. Never throws: a database error becomes a refusal.
     std::function<protocol::StatusReply(StoreConnection&, ReplyBuffer&)> make;
 };
 
-// What became of a change whose reply does not tell it.
+// The outcome of a change whose reply does not contain it.
 template <protocol::Record Reply>
 struct Outcome {
     protocol::StatusReply status;
     Reply reply;
 };
 
-// The refusal of a change that the database did not take; the log has it too.
+// The refusal of a change that failed in the database; also logged.
 [[nodiscard]] protocol::StatusReply databaseRefused(const char* reason);
 
 } // namespace server

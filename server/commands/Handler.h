@@ -17,14 +17,15 @@ using Fields = std::span<const std::uint8_t>;
 // Carries out one command: either it changes something or it answers.
 struct Handler {
     std::uint16_t opcode = 0;
-    bool (*takes)(Fields) = nullptr; // of several forms of one opcode; null: all
+    bool (*takes)(Fields) = nullptr; // for opcodes with several forms; null: takes all
     Change (*prepare)(Fields) = nullptr;
-    std::unique_ptr<ReplyStream> (*answer)(Fields, StoreConnection&) = nullptr; // uses the connection until it goes
+    std::unique_ptr<ReplyStream> (*answer)(Fields,
+                                           StoreConnection&) = nullptr; // uses the connection while it lives
 };
 
 namespace detail {
 
-// The first byte of the request is one of the actions of this form.
+// Whether the first byte of the request is one of the actions of this form.
 template <class Request>
 bool isActionOf(Fields fields) {
     return !fields.empty() && std::ranges::find(Request::actions, fields.front()) != std::end(Request::actions);
@@ -84,8 +85,8 @@ Change prepareChange(Fields fields) {
 
 } // namespace detail
 
-// A change without an answer: a Service is made of the connection, the operation takes the request and gives a
-// StatusReply.
+// A change without an answer: a Service is constructed from the connection, and its operation takes the request and
+// returns a StatusReply.
 template <class Service, auto operation, class Request>
 constexpr Handler changes = {.opcode = Request::opcode,
                              .takes = detail::formOf<Request>(),
@@ -97,7 +98,7 @@ constexpr Handler changesWithReply = {.opcode = Request::opcode,
                                       .takes = detail::formOf<Request>(),
                                       .prepare = &detail::prepareChange<Service, operation, Request, true>};
 
-// A list of R: the function takes the connection and the request and gives a Listing.
+// A list of R: the function takes the connection and the request and returns a Listing.
 template <class Request, class R, auto list>
 constexpr Handler lists = {.opcode = Request::opcode,
                            .takes = detail::formOf<Request>(),
@@ -107,7 +108,7 @@ constexpr Handler lists = {.opcode = Request::opcode,
                                                                       [&] { return list(connection, request); });
                            }};
 
-// A single reply: the function takes the connection and the request and gives it, or nothing for no reply at all.
+// A single reply: the function takes the connection and the request and returns it, or nothing for no reply at all.
 template <class Request, auto ask>
 constexpr Handler answers = {.opcode = Request::opcode,
                              .takes = detail::formOf<Request>(),

@@ -7,15 +7,15 @@
 
 namespace server {
 
-// What of a list of so many is announced; a longer one is cut, and the log says so.
+// The count to announce for a list of so many records; a list that is too long is cut, which is logged.
 [[nodiscard]] std::int64_t announcedCount(std::int64_t count);
 
-// A list: the count and the rows of one moment, streamed from the database. The columns of the rows are the fields of
+// A list: the count and the rows of one snapshot, streamed from the database. The columns of the rows are the fields of
 // R.
 template <protocol::Record R>
 class ListStream final : public ReplyStream {
 public:
-    // The function gives the Listing.
+    // The function returns the Listing.
     template <class List>
     ListStream(StoreConnection& connection, List&& list) : moment_(connection), listing_(std::forward<List>(list)()) {
         listing_.count = announcedCount(listing_.count);
@@ -40,7 +40,7 @@ private:
     bool announced_ = false;
 };
 
-// A reply of one message; nothing is sent when there is none to give.
+// A reply of one message; nothing is sent when there is none.
 template <protocol::Record R>
 class SingleReplyStream final : public ReplyStream {
 public:

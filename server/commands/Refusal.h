@@ -7,7 +7,7 @@ namespace server {
 // The box that tells an administrator why a change was not made.
 [[nodiscard]] protocol::StatusReply refusal(const wire::WideString& caption, const wire::WideString& text);
 
-// A name inside of a sentence, on one line and not too long for a box.
+// A name within a sentence, on one line and not too long for a box.
 [[nodiscard]] wire::WideString quoted(const wire::WideString& name);
 
 // The answer to a change that was made.

@@ -7,8 +7,8 @@
 
 namespace server {
 
-// A sink of fields: what goes out to a console, as the finished bytes of frames that hold one Data message each. Wide
-// text goes out as the units that are stored.
+// A sink of fields: builds the bytes of the frames sent to a console, each with one Data message. Wide text is sent as
+// the stored units.
 class ReplyBuffer {
 public:
     [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {bytes_.data(), bytes_.size()}; }
@@ -47,7 +47,7 @@ public:
         putCounted(characters.data(), characters.size());
     }
 
-    // The present row as a record of this type, its columns in the order of the fields.
+    // Puts the current row as a record of this type, its columns in the order of the fields.
     template <protocol::Record R>
     void putRow(const Rows& rows) {
         int column = 0;
@@ -88,7 +88,7 @@ private:
     std::uint32_t frameStart_ = 0;
 };
 
-// A console receives at most so many bytes in the data of one frame.
+// The most bytes that a console receives in the data of one frame.
 constexpr std::uint32_t largestReceivableFrame = 65535;
 
 // The bytes that a record takes as the only message of a frame.

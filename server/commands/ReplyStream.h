@@ -5,17 +5,17 @@
 
 namespace server {
 
-// The answer to a request that reads, made piece by piece straight from the database.
+// The answer to a read request, built piece by piece straight from the database.
 class ReplyStream {
 public:
     virtual ~ReplyStream() = default;
 
-    // Appends the next frames until the buffer holds the wanted number of bytes or more; false once all are there.
-    // Throws StoreError.
+    // Appends the next frames until the buffer holds at least the wanted number of bytes; false once all frames have
+    // been appended. Throws StoreError.
     virtual bool append(ReplyBuffer& buffer, std::size_t wanted) = 0;
 };
 
-// A console takes the count of a list as a signed number, and more than this as none at all.
+// The longest list: a console reads the count as a signed number, and takes a larger one for an empty list.
 constexpr std::int64_t longestList = 32767;
 
 } // namespace server

@@ -10,15 +10,15 @@
 
 namespace server {
 
-// A request that cannot be understood: the connection is closed, and the reason goes to the log.
+// A malformed request: the connection is closed, and the reason is logged.
 class BadRequest : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// A source of fields: takes those of a request off the bytes of its Data message, in order. Wide text is taken as the
-// units that came: the console's conversion moves characters outside of the basic plane, and would move them once more
-// here. Bytes that follow the last field are left unread. Throws BadRequest when a field is not there as a whole.
+// A source of fields: reads those of a request from the bytes of its Data message, in order. Wide text is kept as the
+// units received: the console's conversion shifts characters outside the basic plane, and converting here would shift
+// them again. Bytes after the last field are left unread. Throws BadRequest when a field is incomplete.
 class RequestReader {
 public:
     explicit RequestReader(std::span<const std::uint8_t> fields) : rest_(fields) {}
@@ -46,7 +46,7 @@ public:
     }
     void text(wire::WideString& value) {
         const auto bytes = take(number<std::uint16_t>());
-        value.resize(bytes.size() / 2); // an odd last byte is lost
+        value.resize(bytes.size() / 2); // an odd last byte is dropped
         std::memcpy(value.data(), bytes.data(), value.size() * 2);
     }
     [[nodiscard]] wire::Uuid uuid() {

@@ -35,8 +35,8 @@ constexpr std::array<Package, 12> packages = {{
     {u"Großformat, grau", u"paper=A2; colour=grey"},
 }};
 
-constexpr std::size_t usedOnce = 1;          // of the configurations of a model; the one before is not used at all
-constexpr std::size_t mostMaps = 3;          // with so many driver maps at most does a queue use one
+constexpr std::size_t usedOnce = 1;          // the second configuration of a model has one user, the first one none
+constexpr std::size_t mostMaps = 3;          // the most driver maps with which a queue uses a configuration
 constexpr std::size_t queuesForOneMore = 50; // configurations of a model
 constexpr std::size_t mostMore = 30;
 
@@ -62,7 +62,7 @@ ByModel readByModel(Query& query) {
 
 protocol::ConfigurationRecord makeConfiguration(SampleRandom& random, std::size_t number) {
     const auto& package = packages[number % packages.size()];
-    const auto round = number / packages.size(); // from the second on they are for a room
+    const auto round = number / packages.size(); // from the second round on they are for a room
     const auto room =
         round == 0 ? std::u16string() : u", " + std::u16string(sample::rooms[(round - 1) % sample::rooms.size()]);
     const auto date = fmt::format("{}-{:02}-{:02} {:02}:{:02}:{:02}", 2021 + random.below(4), 1 + random.below(12),
@@ -75,7 +75,7 @@ protocol::ConfigurationRecord makeConfiguration(SampleRandom& random, std::size_
             .useCount = 0};
 }
 
-// The first queue has the one configuration for itself; of the others, three out of five use one.
+// The first queue has one configuration for itself; three out of five of the others use one.
 void applyToQueues(QueueConfigurationTable& table, SampleRandom& random, const std::vector<std::string>& queues,
                    const std::vector<std::string>& maps, const std::vector<std::string>& configurations) {
     for (const auto& queue : queues) {

@@ -5,7 +5,7 @@
 
 namespace server {
 
-// Fills in invented configurations of driver models and of queues, in proportion to the queues that are there.
+// Adds sample configurations of driver models and of queues, in proportion to the queues that exist.
 void addConfigurationSample(StoreConnection& connection, SampleRandom& random, int);
 
 } // namespace server

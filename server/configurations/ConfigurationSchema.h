@@ -3,7 +3,8 @@
 namespace server {
 
 // The tables of configurations of driver models and of queues. The model of a queue is that of its printer if the
-// printer has one, else its own; a queue that comes to another model loses what it used with deployments of the former.
+// printer has one, or else its own; a queue whose model changes loses the configurations that it used with deployments
+// of the old one.
 inline constexpr const char* configurationTables = R"sql(
     CREATE TABLE configuration (
         number INTEGER PRIMARY KEY,
@@ -47,7 +48,7 @@ inline constexpr const char* configurationTables = R"sql(
     END;
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* configurationKeys = R"sql(
     UPDATE OR IGNORE configuration SET nameKey = keyOf(comment) WHERE nameKey <> keyOf(comment);
 )sql";

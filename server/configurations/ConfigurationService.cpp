@@ -8,7 +8,7 @@ using protocol::StatusReply;
 
 namespace {
 
-// So that it fits a frame beside all that an entry of a queue tells with it.
+// So that it fits into a frame beside everything else in the configuration entry of a queue.
 constexpr std::size_t longestComment = 10000;
 
 StatusReply notSaved(const wire::WideString& text) {
@@ -25,7 +25,7 @@ StatusReply ConfigurationService::setComment(const protocol::SetConfigurationCom
     const auto found = configurations_.find(request.configId);
     if (!found)
         return noSuchConfiguration();
-    // A text ends at its first zero for a console, so a comment that begins with one is empty there.
+    // To a console a text ends at its first zero, so a comment that begins with one is empty there.
     if (request.comment.empty() || request.comment.front() == u'\0')
         return notSaved(u"A configuration needs a comment, by which it shows.");
     if (request.comment.size() > longestComment)

@@ -9,8 +9,8 @@
 
 namespace server {
 
-// What may be done to configurations, and doing it. Each change runs inside of the caller's transaction; a refused one
-// has changed nothing. Throws StoreError.
+// Checks and carries out changes of configurations. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class ConfigurationService {
 public:
     explicit ConfigurationService(StoreConnection& connection)
@@ -19,7 +19,7 @@ public:
 
     protocol::StatusReply setComment(const protocol::SetConfigurationCommentRequest& request);
     protocol::StatusReply remove(const protocol::DeleteConfigurationRequest& request);
-    // An empty configuration takes away what the queue uses.
+    // An empty configuration removes what the queue uses.
     protocol::StatusReply applyToQueue(const protocol::ApplyQueueConfigurationRequest& request);
     protocol::StatusReply removeFromQueue(const protocol::RemoveConfigurationFromQueueRequest& request);
     protocol::StatusReply applyForDriver(const protocol::ApplyConfigurationForDriverRequest& request);

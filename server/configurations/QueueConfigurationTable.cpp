@@ -12,7 +12,8 @@ const std::string insertSelected =
     "INSERT INTO queueConfiguration (queueNumber, deploymentId, configurationNumber, queueKey) SELECT ";
 const std::string elseReplace = " ON CONFLICT DO UPDATE SET configurationNumber = excluded.configurationNumber";
 
-// Driver, locale and text are cut so that they fit a frame together: each of them alone may be nearly as long as one.
+// Driver, locale and text are cut so that together they fit into a frame: each of them alone may be nearly as long as
+// one.
 const std::string entries =
     "SELECT ifnull(configuration.id, ''), substr(driver.version, 1, 16000), substr(deployment.locale, 1, 4000), "
     "deployment.id, ifnull(configuration.comment, x''), ifnull(substr(configuration.configText, 1, 16000), x'') "
@@ -46,7 +47,7 @@ QueueConfigurationTable::QueueConfigurationTable(sqlite3* connection)
                                     "AND deployment.driverId = ?2 AND configuration.id = ?3" +
                                     elseReplace),
       isDeployed_(connection, "SELECT 1 FROM driverDeployment WHERE modelId = ? AND driverId = ? LIMIT 1"),
-      // The + keeps the search to the few rows of the queue.
+      // The + restricts the search to the few rows of the queue.
       removeFromQueue_(connection, "DELETE FROM queueConfiguration WHERE " + ofQueue +
                                        " AND +configurationNumber = (SELECT number FROM configuration WHERE id = ?2)"),
       list_(connection, entries),

@@ -21,7 +21,7 @@ StatusReply deploymentIsGone() {
     return refused(u"The deployment was removed in the meantime.");
 }
 
-// What a request wants; nothing when one of its bytes means nothing.
+// The state that a request asks for; empty when one of its bytes is invalid.
 template <class Request>
 std::optional<DeploymentState> stateOf(const Request& request) {
     const auto use = yesOrNo(request.use);

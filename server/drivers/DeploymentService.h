@@ -10,7 +10,7 @@
 
 namespace server {
 
-// What may be done to deployments, and doing it. Each change runs inside of the caller's transaction; a refused one has
+// Checks and carries out changes of deployments. Each change runs inside the caller's transaction; a refused one has
 // changed nothing. Throws StoreError.
 class DeploymentService {
 public:
@@ -20,15 +20,15 @@ public:
           deployments_(connection.table<DeploymentTable>()),
           configurations_(connection.table<QueueConfigurationTable>()) {}
 
-    // Takes the place of what is deployed for the same model, operating system and locale. The configurations that
-    // queues use with that go over to the new deployment when they are to be kept, else they go.
+    // Replaces what is deployed for the same model, operating system and locale. The configurations that queues use
+    // with the old deployment move to the new one if they are to be kept; otherwise they are removed.
     protocol::StatusReply add(const protocol::AddDriverDeploymentRequest& request);
 
-    // Installing what was not installed is a replacement too: what queues use with the deployment goes unless it is to
-    // be kept. No other change touches it.
+    // Installing what was not installed counts as a replacement: what queues use with the deployment is removed unless
+    // it is to be kept. No other change affects it.
     protocol::StatusReply update(const protocol::UpdateDriverDeploymentRequest& request);
 
-    // What queues use with it goes with it.
+    // Also removes what queues use with it.
     protocol::StatusReply remove(const protocol::RemoveDriverDeploymentRequest& request);
 
 private:

@@ -9,11 +9,11 @@
 
 namespace server {
 
-// What a deployment is for: there is at most one for each of these.
+// What a deployment is for: there is at most one deployment for each place.
 struct DeploymentPlace {
     std::string modelId;
     std::string osId;
-    wire::WideString locale; // the same in capital and small letters
+    wire::WideString locale; // case does not matter
 };
 
 // How a deployed driver is used and installed.
@@ -25,7 +25,7 @@ struct DeploymentState {
     bool operator==(const DeploymentState&) const = default;
 };
 
-// A deployment without the words of the driver and the operating system, which stand elsewhere.
+// A deployment without the texts of the driver and the operating system, which are stored elsewhere.
 struct StoredDeployment {
     std::string id;
     std::string driverId;
@@ -34,15 +34,15 @@ struct StoredDeployment {
     DeploymentState state;
 };
 
-// The operating systems, and which driver is deployed for what, for one connection to the database, and nothing about
-// what is allowed. Throws StoreError.
+// The operating systems and the deployed drivers, accessed over one connection to the database without any checks.
+// Throws StoreError.
 class DeploymentTable {
 public:
     explicit DeploymentTable(sqlite3* connection);
 
     [[nodiscard]] std::optional<protocol::OperatingSystemRecord> findSystem(const std::string& osId);
 
-    // OperatingSystemRecord, by name.
+    // Rows of OperatingSystemRecord, by name.
     [[nodiscard]] Listing listSystems();
 
     // Driver, model and operating system have to exist, and the place has to be free.
@@ -53,10 +53,10 @@ public:
     [[nodiscard]] std::optional<std::string> idAt(const DeploymentPlace& place);
     void setState(const std::string& id, const DeploymentState& state);
 
-    // What queues use with it goes with it.
+    // Also removes what queues use with it.
     void remove(const std::string& id);
 
-    // DriverDeploymentRecord, by operating system and locale; with an empty driver those of all drivers.
+    // Rows of DriverDeploymentRecord, by operating system and locale; with an empty driver those of all drivers.
     [[nodiscard]] Listing list(const std::string& modelId, const std::string& driverId);
 
 private:

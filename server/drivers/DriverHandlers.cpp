@@ -45,7 +45,7 @@ Listing listDeployments(StoreConnection& connection, const ListDriverDeployments
     return connection.table<DeploymentTable>().list(request.modelId, request.driverId);
 }
 
-// 0 for a model that is not there.
+// 0 for a model that does not exist.
 std::optional<GetModelOctetOrderReply> tellOctetOrder(StoreConnection& connection,
                                                       const GetModelOctetOrderRequest& request) {
     return GetModelOctetOrderReply{.octetOrder =
@@ -67,8 +67,8 @@ bool asksForShortDrivers(Fields fields) {
     return !fields.empty() && fields.front() == driverList::shortOfModel;
 }
 
-// A removal is the change with ten zero bytes behind the id; the four zeros of a change that ends the use of a
-// deployment are none.
+// A removal is a change with ten zero bytes after the id; the four zeros of a change that stops using a deployment are
+// not one.
 bool removesDeployment(Fields fields) {
     constexpr std::size_t zeros = 10;
     std::uint16_t idSize = 0;
@@ -86,7 +86,7 @@ constexpr Handler when(bool (*takes)(Fields), Handler handler) {
     return handler;
 }
 
-// Of several handlers of one opcode the first one that takes the request answers.
+// If several handlers have one opcode, the first one that takes the request answers.
 constexpr Handler handlers[] = {
     lists<ListDriverBrandsRequest, DriverBrandRecord, listBrands>,
     lists<ListDriverModelsRequest, DriverModelRecord, listModels>,

@@ -27,7 +27,7 @@ DriverModelTable::DriverModelTable(sqlite3* connection)
       setOctetOrder_(connection, "UPDATE driverModel SET octetOrder = ?2 WHERE id = ?1"),
       octetOrder_(connection, "SELECT octetOrder FROM driverModel WHERE id = ?"),
       ofBrand_(connection, modelsOfBrand()),
-      // A hidden model is not offered, but a printer that has it keeps it when its properties are edited.
+      // A hidden model is not offered, but a printer that already has it keeps it when its properties are edited.
       forDialogs_(connection,
                   modelsOfBrand(" AND (visible OR EXISTS (SELECT 1 FROM record WHERE modelId = driverModel.id))")),
       forAlternates_(connection, modelsOfBrand(" AND visible")),

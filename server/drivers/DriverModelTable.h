@@ -15,8 +15,8 @@ struct StoredModel {
     std::string brandId;
 };
 
-// The brands, their models and which model stands in for which, for one connection to the database, and nothing about
-// what is allowed. Throws StoreError.
+// The brands, their models, and which model can replace which, accessed over one connection to the database without any
+// checks. Throws StoreError.
 class DriverModelTable {
 public:
     explicit DriverModelTable(sqlite3* connection);
@@ -24,7 +24,7 @@ public:
     void insertBrand(const std::string& id, const wire::WideString& name);
     [[nodiscard]] bool hasBrand(const std::string& id);
 
-    // DriverBrandRecord, by name.
+    // Rows of DriverBrandRecord, by name.
     [[nodiscard]] Listing listBrands();
 
     void insert(const StoredModel& model);
@@ -34,7 +34,7 @@ public:
     void setOctetOrder(const std::string& id, std::uint32_t order);
     [[nodiscard]] std::optional<std::uint32_t> octetOrder(const std::string& id);
 
-    // DriverModelRecord, by name. An unknown kind of list selects nothing.
+    // Rows of DriverModelRecord, by name. An unknown kind of list selects nothing.
     [[nodiscard]] Listing list(std::uint8_t listKind, const std::string& parentId);
 
     void addAlternate(const std::string& modelId, const std::string& alternateModelId);

@@ -16,7 +16,7 @@ namespace server {
 
 namespace {
 
-constexpr int printersPerModel = 200; // of the models that a large estate knows beside those with names of their own
+constexpr int printersPerModel = 200; // of the additional, numbered models of a large estate
 
 constexpr std::array<std::u16string_view, 3> languages = {u"PCL 6", u"PostScript", u"XPS"};
 constexpr std::array<std::u16string_view, 6> locales = {u"de-DE", u"en-US", u"fr-FR", u"pl-PL", u"sv-SE", u"ja-JP"};
@@ -60,7 +60,7 @@ private:
         addDrivers(name, id);
     }
 
-    // Up to three drivers, of which the last one may be spare. Some models have none.
+    // Up to three drivers, the last of which may be unused. Some models have none.
     void addDrivers(std::u16string_view name, const std::string& modelId) {
         const auto count = made_++ % 6 == 5 ? 0 : 1 + random_.below(3);
         std::vector<StoredDriver> made;
@@ -100,7 +100,7 @@ private:
                          .builtIn = true});
     }
 
-    // For some operating systems, in one locale or two; most are installed, and a few are not in use.
+    // Deploys for some operating systems, in one locale or two; most are installed, and a few are not in use.
     void deploy(const std::vector<StoredDriver>& drivers, const std::string& modelId) {
         for (const auto& system : systems_) {
             if (random_.below(3) != 0)

@@ -5,7 +5,7 @@
 
 namespace server {
 
-// Fills in invented brands, models, drivers and deployments, in proportion to the printers.
+// Adds sample brands, models, drivers and deployments, in proportion to the printers.
 void addDriverSample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

@@ -2,8 +2,8 @@
 
 namespace server {
 
-// The tables of brands, models, drivers and deployments, and the operating systems that drivers are deployed for. The
-// copies of keys in a table (a brand's id at a driver, a name at an alternate) let an index give a list in its order.
+// The tables of brands, models, drivers and deployments, and the operating systems that drivers are deployed for. Keys
+// copied into other tables (a brand's id into drivers, a name into alternates) let an index return a list in its order.
 inline constexpr const char* driverTables = R"sql(
     CREATE TABLE driverBrand (
         id TEXT PRIMARY KEY NOT NULL,
@@ -121,7 +121,7 @@ inline constexpr const char* driverTables = R"sql(
          x'570069006E0064006F0077007300200053006500720076006500720020003200300032003200', 10, 0, 64);
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* driverKeys = R"sql(
     UPDATE OR IGNORE driverBrand SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
     UPDATE OR IGNORE driverModel SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);

@@ -32,7 +32,7 @@ StatusReply DriverService::addModel(const protocol::AddDriverModelRequest& reque
         .brandId = request.brandId};
     if (!models_.hasBrand(request.brandId))
         return refuse(u"The brand does not exist any more.");
-    // A text ends at its first zero for a console, so a name that begins with one is empty there.
+    // To a console a text ends at its first zero, so a name that begins with one is empty there.
     if (request.name.empty() || request.name.front() == u'\0')
         return refuse(u"A model needs a name.");
     if (frameDataSize(model.record) > largestReceivableFrame)

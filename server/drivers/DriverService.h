@@ -9,7 +9,7 @@
 
 namespace server {
 
-// What may be done to models and their drivers, and doing it. Each change runs inside of the caller's transaction; a
+// Checks and carries out changes of models and their drivers. Each change runs inside the caller's transaction; a
 // refused one has changed nothing. Throws StoreError.
 class DriverService {
 public:
@@ -21,14 +21,14 @@ public:
     protocol::StatusReply setVisible(const protocol::SetDriverModelVisibleRequest& request);
     protocol::StatusReply setOctetOrder(const protocol::SetModelOctetOrderRequest& request);
 
-    // What is deployed of the alternate's drivers stays deployed when the link ends.
+    // The deployed drivers of the alternate stay deployed when the link is removed.
     protocol::StatusReply addAlternate(const protocol::AddAlternateDriverRequest& request);
     protocol::StatusReply removeAlternate(const protocol::RemoveAlternateDriverRequest& request);
 
-    // A model has it once.
+    // A model can have each built-in driver only once.
     protocol::StatusReply addBuiltIn(const protocol::AddBuiltInDriverRequest& request);
 
-    // Not while a deployment uses it; deployments that are not in use go with it.
+    // Refused while a deployment uses it; deployments that are not in use are removed with it.
     protocol::StatusReply remove(const protocol::DeleteDriverRequest& request);
 
 private:

@@ -8,14 +8,14 @@
 
 namespace server {
 
-// A driver and where it stands. Whether it is in use follows from its deployments.
+// A driver and what it belongs to. Whether it is in use follows from its deployments.
 struct StoredDriver {
     protocol::DriverRecord record;
     std::string modelId;
-    bool builtIn = false; // it comes with the operating system and was not uploaded
+    bool builtIn = false; // comes with the operating system and was not uploaded
 };
 
-// The drivers of all models, for one connection to the database, and nothing about what is allowed. Throws StoreError.
+// The drivers of all models, accessed over one connection to the database without any checks. Throws StoreError.
 class DriverTable {
 public:
     explicit DriverTable(sqlite3* connection);
@@ -25,14 +25,14 @@ public:
     [[nodiscard]] std::optional<StoredDriver> find(const std::string& id);
     [[nodiscard]] bool hasBuiltIn(const std::string& modelId);
 
-    // Its deployments go with it.
+    // Also removes its deployments.
     void remove(const std::string& id);
 
-    // DriverRecord, by version.
+    // Rows of DriverRecord, by version.
     [[nodiscard]] Listing listOfBrand(const std::string& brandId);
     [[nodiscard]] Listing listOfModel(const std::string& modelId);
 
-    // ShortDriverRecord, by version.
+    // Rows of ShortDriverRecord, by version.
     [[nodiscard]] Listing listShort(const std::string& modelId);
 
 private:

@@ -5,8 +5,8 @@
 
 namespace server {
 
-// A moment in the form of the wire ("2014-03-05 17:04:09.250"), by the clock on the wall where the server runs:
-// consoles show it as it comes.
+// A time in the format of the wire ("2014-03-05 17:04:09.250"), in the server's local time: consoles show it without
+// converting it.
 [[nodiscard]] std::string uploadTime(std::chrono::system_clock::time_point moment);
 
 } // namespace server

@@ -15,7 +15,7 @@ Listing listRecords(StoreConnection& connection, const protocol::ListPrinterReco
             .rows = connection.table<RecordTable>().list(request)};
 }
 
-// 0 for a printer that is not there.
+// 0 for a printer that does not exist.
 std::optional<protocol::GetStatusOctetOrderReply> tellOctetOrder(StoreConnection& connection,
                                                                  const protocol::GetStatusOctetOrderRequest& request) {
     return protocol::GetStatusOctetOrderReply{

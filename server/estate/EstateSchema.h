@@ -61,7 +61,7 @@ inline constexpr const char* estateTables = R"sql(
     CREATE INDEX recordByPrinter ON record (printerId, nameKey) WHERE printerId IS NOT NULL;
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* estateKeys = R"sql(
     UPDATE OR IGNORE region SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
     UPDATE OR IGNORE record SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);

@@ -7,7 +7,7 @@
 
 namespace server {
 
-// The names of the models in the driver catalogue, by which printers and queues tell theirs.
+// The names of the models in the driver catalogue, which printers and queues take over.
 class ModelNames {
 public:
     explicit ModelNames(sqlite3* connection) : find_(connection, "SELECT name FROM driverModel WHERE id = ?") {}

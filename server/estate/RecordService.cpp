@@ -19,7 +19,7 @@ namespace type = protocol::recordType;
 
 namespace deletion = protocol::recordDeletion;
 
-// What a person calls such a record, to begin a sentence with.
+// The word for such a record at the start of a sentence.
 WideString wordFor(std::uint16_t recordType) {
     switch (recordType) {
     case type::queue:
@@ -41,7 +41,7 @@ StatusReply queueTaken(const WideString& name) {
     return notSaved(u"There is a queue named " + quoted(name) + u" in that region already.");
 }
 
-// The type that a new record is stored as; nothing for one that cannot be made.
+// The type that a new record is stored as; empty for one that cannot be created.
 std::optional<std::uint16_t> storedType(std::uint16_t recordType) {
     switch (recordType) {
     case type::printer:
@@ -68,7 +68,7 @@ bool mayDelete(std::uint8_t requested, std::uint16_t recordType) {
 
 std::optional<StatusReply> RecordService::refuse(const PrinterRecord& record) {
     const auto word = wordFor(record.recordType);
-    // A text ends at its first zero for a console, so a name that begins with one is empty there.
+    // To a console a text ends at its first zero, so a name that begins with one is empty there.
     if (record.name.empty() || record.name.front() == u'\0')
         return notSaved(u"A " + word + u" needs a name.");
     if (frameDataSize(record) > largestReceivableFrame)
@@ -113,9 +113,9 @@ StatusReply RecordService::update(const protocol::UpdateRecordRequest& request) 
     if (!before)
         return notSaved(u"It was deleted in the meantime.");
     auto record = request.record;
-    record.recordType = before->record.recordType; // consoles send what they loaded it as
+    record.recordType = before->record.recordType; // consoles send the type of the list from which they loaded it
     if (record.recordType == type::queue)
-        record.regionId = before->record.regionId; // a queue stands where its printer stands
+        record.regionId = before->record.regionId; // a queue is in the region of its printer
     nameModel(record);
     if (const auto refused = refuse(record))
         return *refused;

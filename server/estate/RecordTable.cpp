@@ -145,7 +145,7 @@ Rows RecordTable::select(const protocol::ListPrinterRecordsRequest& request, Que
         return (byTypeAndId_.*query).run(request.printerId, type::queue, type::followQueue);
     case mode::printerById:
         return (byTypeAndId_.*query).run(request.printerId, type::printer, type::localPrinter);
-    case mode::localPrintersInRegion: // with an id it asks for that one
+    case mode::localPrintersInRegion: // with an id it asks for that record
         return (byTypeAndId_.*query).run(request.printerId, type::localPrinter, type::localPrinter);
     case mode::otherRowById:
     case mode::printerToCopyById:

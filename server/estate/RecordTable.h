@@ -7,32 +7,32 @@
 
 namespace server {
 
-// A record as it is stored: what travels, and the printer of a queue.
+// A record as it is stored: the record of the wire, and the printer of a queue.
 struct StoredRecord {
     protocol::PrinterRecord record;
-    std::string printerId; // empty but for a queue
+    std::string printerId; // empty unless it is a queue
 };
 
-// Which region tree a type of record stands in.
+// The region tree that a type of record belongs to.
 [[nodiscard]] std::uint8_t regionKindOf(std::uint16_t recordType);
 
-// The printers, queues, follow-print queues and local printers of one connection to the database, and nothing about
-// what is allowed. Throws StoreError.
+// The printers, queues, follow-print queues and local printers, accessed over one connection to the database without
+// any checks. Throws StoreError.
 class RecordTable {
 public:
     explicit RecordTable(sqlite3* connection);
 
     [[nodiscard]] std::optional<StoredRecord> find(const std::string& id);
 
-    // Another record than this one has the name among those of its type in the region.
+    // Whether another record of the type in the region has the name.
     [[nodiscard]] bool nameTaken(std::int32_t regionId, std::uint16_t recordType, const wire::WideString& name,
                                  const std::string& except);
 
-    // The name of a queue of the printer that a queue of another printer in the region has already.
+    // The name of a queue of the printer that a queue of another printer in the region already has.
     [[nodiscard]] std::optional<wire::WideString> queueNameTakenIn(std::int32_t regionId, const std::string& printerId);
 
     void insert(const StoredRecord& stored);
-    // All fields, by the record's id; its type and its printer stay.
+    // Updates all fields, by the record's id; its type and its printer stay.
     void update(const protocol::PrinterRecord& record);
     void moveWithQueues(const std::string& printerId, std::int32_t regionId);
     void removeWithQueues(const std::string& id);
@@ -43,8 +43,8 @@ public:
 
     [[nodiscard]] bool isEmpty();
 
-    // What a list request selects, by name and then in the order of making. The columns of the rows are the fields of
-    // PrinterRecord. An unknown mode selects nothing. Within one read transaction the two agree.
+    // What a list request selects, by name and then in the order of creation. The columns of the rows are the fields of
+    // PrinterRecord. An unknown mode selects nothing. Within one read transaction the two functions agree.
     [[nodiscard]] std::int64_t count(const protocol::ListPrinterRecordsRequest& request);
     [[nodiscard]] Rows list(const protocol::ListPrinterRecordsRequest& request);
 

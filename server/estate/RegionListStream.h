@@ -5,7 +5,7 @@
 
 namespace server {
 
-// A list of regions: in one message as long as a console can receive it, else a count and a frame for each region.
+// A list of regions: in one message if a console can receive it, otherwise a count and a frame for each region.
 class RegionListStream final : public ReplyStream {
 public:
     RegionListStream(const protocol::ListRegionsRequest& request, StoreConnection& connection);

@@ -139,7 +139,7 @@ protocol::PrinterRecord RegionSample::makeRecord(const Office& office, std::uint
     record.modelId = model.id;
     record.lprQueueName = recordType == type::printer ? u"lp" : u"";
     record.regionId = office.region;
-    // Most printers are well, and every state occurs.
+    // Most printers are fine, and every state occurs.
     record.snmpStatus = digit(number % 4 == 1 ? number / 4 % 10 : 0);
     record.printingStatus = digit(number % 5 == 2 ? number / 5 % 5 : 0);
     record.queueState = digit(recordType != type::printer && number % 6 == 3 ? number / 6 % 3 : 0);

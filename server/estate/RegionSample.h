@@ -6,20 +6,20 @@
 
 namespace server {
 
-// Makes invented regions and printers, queues, follow-print queues and local printers in them, the same each time. The
-// driver sample comes first. Runs inside of the caller's transaction.
+// Adds sample regions with printers, queues, follow-print queues and local printers, the same each time. The driver
+// sample must be added first. Runs inside the caller's transaction.
 class RegionSample {
 public:
     static constexpr int printersInSmall = 40;
 
     explicit RegionSample(StoreConnection& connection) : connection_(connection) {}
 
-    // A few offices to look around in: regions three deep, of which one holds regions only, one printers only, one both
-    // and one nothing, and some of everything else.
+    // A few offices to explore: regions three levels deep, one with only regions, one with only printers, one with both
+    // and one empty, and some of everything else.
     void fillSmall();
 
-    // So many printers, each with a queue: up to half of them, but at most ten thousand, in the one region "Central
-    // Print Hub", the others over offices of two hundred.
+    // The given number of printers, each with a queue: up to half of them, but at most ten thousand, in the one region
+    // "Central Print Hub", the others in offices of two hundred each.
     void fill(int printers);
 
 private:

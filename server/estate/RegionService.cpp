@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::uint8_t lastKind = 1;
 
-// A text ends at its first zero for a console, so a name that begins with one is empty there.
+// To a console a text ends at its first zero, so a name that begins with one is empty there.
 bool isBlank(const WideString& name) {
     return name.empty() || name.front() == u'\0';
 }
@@ -26,7 +26,7 @@ StatusReply refuse(const WideString& text) {
     return refusal(u"Region not changed", text);
 }
 
-// Null when the name will do.
+// Empty when the name is acceptable.
 std::optional<StatusReply> refuseName(RegionTable& regions, std::uint8_t kind, std::int32_t parentId,
                                       const WideString& name, std::int32_t self) {
     if (isBlank(name))

@@ -6,7 +6,7 @@
 
 namespace server {
 
-// What may be done to regions, and doing it. Each change runs inside of the caller's transaction; a refused one has
+// Checks and carries out changes of regions. Each change runs inside the caller's transaction; a refused one has
 // changed nothing. Throws StoreError.
 class RegionService {
 public:

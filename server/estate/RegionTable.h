@@ -8,25 +8,25 @@
 
 namespace server {
 
-// The regions of one connection to the database, and nothing about what is allowed. A parent of 0 is the top of the
-// tree of its kind. Throws StoreError.
+// The regions, accessed over one connection to the database without any checks. A parent of 0 is the top of the tree of
+// its kind. Throws StoreError.
 class RegionTable {
 public:
     explicit RegionTable(sqlite3* connection);
 
     [[nodiscard]] std::optional<protocol::RegionRecord> find(std::uint8_t kind, std::int32_t id);
 
-    // Another region than this one has the name below the parent.
+    // Whether another region below the parent has the name.
     [[nodiscard]] bool nameTaken(std::uint8_t kind, std::int32_t parentId, const wire::WideString& name,
                                  std::int32_t except);
 
-    // The region is the other one or stands somewhere below it.
+    // Whether the region is the other one or anywhere below it.
     [[nodiscard]] bool isWithin(std::uint8_t kind, std::int32_t id, std::int32_t other);
 
     [[nodiscard]] bool hasRegions(std::uint8_t kind, std::int32_t id);
     [[nodiscard]] bool hasRecords(std::uint8_t kind, std::int32_t id);
 
-    // The id of the new region; ids are never used again.
+    // Returns the id of the new region; ids are never reused.
     std::int32_t insert(std::uint8_t kind, std::int32_t parentId, const wire::WideString& name);
     void rename(std::int32_t id, const wire::WideString& name);
     void move(std::int32_t id, std::int32_t parentId);

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-// The words that the sample estate is made of. Makers and models are invented.
+// The names that the sample estate uses. Makers and models are fictitious.
 namespace server::sample {
 
 struct Place {
@@ -55,7 +55,7 @@ constexpr std::array<Maker, 6> makers = {{
     {u"Kestwick", "9b2c7f40-61d3-4e0a-b8c5-2f7a90d4e102"}, // without models
 }};
 
-// Models that are known and that no printer of the estate is.
+// Known models of which the estate has no printer.
 constexpr std::array<Model, 9> furtherModels = {{
     {u"Halvek LaserOne 1100", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b01"},
     {u"Halvek LaserOne 2500", "5d0e6a1c-0d0b-4b52-9a39-5a1f5f0d1b02"},

@@ -6,7 +6,7 @@
 
 namespace server {
 
-// The chance in the sample estate: the same in each run from the same seed.
+// The random numbers of the sample estate: the same in each run for the same seed.
 class SampleRandom {
 public:
     explicit SampleRandom(std::uint32_t seed = std::mt19937::default_seed) : random_(seed) {}

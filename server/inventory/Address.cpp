@@ -10,7 +10,7 @@ namespace server {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
-constexpr std::size_t version4At = 12; // behind the ten zeros and the two ones
+constexpr std::size_t version4At = 12; // after ten bytes of zeros and two bytes of ones
 constexpr std::uint8_t hostMark = 0xFF;
 
 std::string trimmed(std::string_view text) {

@@ -8,10 +8,10 @@
 
 namespace server {
 
-// An address of version 4 or 6 in the order of its bytes; one of version 4 stands behind ::ffff:0:0.
+// An IPv4 or IPv6 address in network order; IPv4 addresses are mapped to ::ffff:0:0/96.
 using Address = std::array<std::uint8_t, 16>;
 
-// Both ends belong to it.
+// A range of addresses, both ends included.
 struct AddressBlock {
     Address first{};
     Address last{};
@@ -19,14 +19,14 @@ struct AddressBlock {
     [[nodiscard]] bool holds(const Address& address) const { return first <= address && address <= last; }
 };
 
-// Nothing for a text that is no address; blanks around it do not matter.
+// Empty for a text that is not an address; blanks around it do not matter.
 [[nodiscard]] std::optional<Address> parseAddress(std::string_view text);
 [[nodiscard]] std::optional<Address> parseAddress(std::u16string_view text);
 
 [[nodiscard]] bool isVersion4(const Address& address);
 
-// The form of an address by which addresses are compared and sorted: in the order of their numbers, and behind them
-// names of hosts, in which capital and small letters are the same. Empty for an empty text.
+// The form of an address by which addresses are compared and sorted: by their numbers, and after them host names,
+// without regard to case. Empty for an empty text.
 [[nodiscard]] Bytes addressKey(std::string_view text);
 
 } // namespace server

@@ -6,7 +6,7 @@ namespace server {
 
 namespace {
 
-// A model has a driver of its own, or one of the models that may stand in for it has.
+// A model has a driver of its own, or one of its alternates has.
 std::string hasDriver(const std::string& model) {
     return "(EXISTS (SELECT 1 FROM driver WHERE driver.modelId = " + model +
            ".id) OR EXISTS (SELECT 1 FROM alternateModel AS other JOIN driver ON driver.modelId = "
@@ -14,7 +14,7 @@ std::string hasDriver(const std::string& model) {
            model + ".id))";
 }
 
-// Where several brands have a model of the name, one with a driver is meant.
+// If several brands have a model of that name, one with a driver is taken.
 std::string selectModels(const std::string& where) {
     const std::string named = "(SELECT same.id FROM driverModel AS same WHERE same.nameKey = found.modelKey";
     return "SELECT found.modelName, model.id IS NOT NULL, model.id IS NOT NULL AND " + hasDriver("model") +

@@ -4,8 +4,8 @@
 
 namespace server {
 
-// The printer models that a report has found, each with what the driver catalogue knows of it at the moment of asking.
-// Rows of InventoryModelRecord, in the order of names. Throws StoreError.
+// The printer models that a report has found, each with what the driver catalogue currently knows about it. Rows of
+// InventoryModelRecord, in the order of names. Throws StoreError.
 class FoundModelList {
 public:
     explicit FoundModelList(sqlite3* connection);

@@ -15,7 +15,7 @@ namespace {
 namespace action = protocol::schemaAction;
 namespace range = protocol::rangeType;
 
-// A wide text as SQL writes it: the bytes of its units.
+// A wide text as an SQL literal: the bytes of its units.
 std::string wideLiteral(std::u16string_view text) {
     std::string literal = "x'";
     for (const char16_t unit : text)
@@ -38,7 +38,7 @@ std::string rangeText() {
            " ELSE x'' END";
 }
 
-// A name that may be missing, cut so that a printer with all its names fits one frame.
+// A name that may be missing, cut so that a printer with all its names fits into one frame.
 std::string shortName(const std::string& column) {
     return "substr(ifnull(" + column + ", x''), 1, 8000)";
 }

@@ -7,16 +7,16 @@
 
 namespace server {
 
-// The printers that a report has found, each with the own printer, the queue and the migration plan that belong to it
-// at the moment of asking. Rows of InventoryPrinterRecord. Throws StoreError.
+// The printers that a report has found, each with this system's printer, the queue and the migration plan that
+// currently belong to it. Rows of InventoryPrinterRecord. Throws StoreError.
 class FoundPrinterList {
 public:
-    // The connection has NameMatching.
+    // The connection must have NameMatching.
     explicit FoundPrinterList(sqlite3* connection);
 
     // The kind is one of protocol::foundListKind; any other lists nothing.
     [[nodiscard]] Listing list(std::uint16_t listKind, std::int64_t report);
-    // Those of which the pattern matches what the list is ordered by.
+    // Those for which the pattern matches the field that the list is sorted by.
     [[nodiscard]] Listing filter(std::uint16_t listKind, std::int64_t report, const NamePattern& pattern);
 
 private:

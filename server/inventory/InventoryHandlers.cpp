@@ -52,7 +52,7 @@ Listing listModels(StoreConnection& connection, const protocol::ListInventoryMod
     return report ? connection.table<FoundModelList>().list(request.listKind, *report) : Listing();
 }
 
-// What is no report's id filters the newest report.
+// An id that is not that of a report filters the newest report.
 Listing listPrinters(StoreConnection& connection, const protocol::ListInventoryPrintersRequest& request) {
     auto& reports = connection.table<ReportTable>();
     auto& printers = matchingTable<FoundPrinterList>(connection);

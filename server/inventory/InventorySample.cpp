@@ -21,7 +21,7 @@ namespace {
 using protocol::IpRangeRecord;
 using protocol::SchemaRecord;
 
-constexpr int mostOldPrinters = 30000; // a list tells no more than 32,767
+constexpr int mostOldPrinters = 30000; // a list holds at most 32,767
 constexpr int printersOnServer = 60;
 constexpr int mostPlans = 3000;
 
@@ -29,7 +29,7 @@ constexpr std::array<std::u16string_view, 5> unknownModels = {u"Orlin Jetline 9"
                                                               u"Brevik Ink 320 Fax", u"Text only"};
 constexpr std::array<std::u16string_view, 4> administrators = {u"m.brandt", u"a.lindqvist", u"j.moreau", u"admin"};
 
-// The own printers, from which half of the old ones take their address: they are the same devices.
+// This system's printers, from which half of the old ones take their address: they are the same devices.
 class OwnDevices {
 public:
     explicit OwnDevices(sqlite3* connection)
@@ -58,7 +58,7 @@ std::u16string widened(const std::string& text) {
     return wire::toWide(text);
 }
 
-// Makes the invented estate, each of its parts from the chance given.
+// Adds the sample records, each part from the given random numbers.
 class Filler {
 public:
     Filler(StoreConnection& connection, SampleRandom& random, int printers)
@@ -108,7 +108,7 @@ private:
             switch (number % 6) {
             case 0:
             case 1:
-            case 2: // the same device as one of ours
+            case 2: // the same device as one of this system's printers
                 if (own.next()) {
                     sameDevice(own, printer);
                     skip(own, 2);
@@ -170,7 +170,7 @@ private:
         addWithClients(printer, printer.shared ? random_.below(4) : 0);
     }
 
-    // A printer in the network that one workstation alone has set up.
+    // A network printer that only one workstation has set up.
     void printerOfOne(int number, OldPrinter& printer) {
         otherDevice(number, printer);
         printer.workstation = random_.anyOf(workstations_);

@@ -5,7 +5,7 @@
 
 namespace server {
 
-// Fills in invented inventory reports, migration plans and IP ranges, in proportion to the printers.
+// Adds sample inventory reports, migration plans and IP ranges, in proportion to the printers.
 void addInventorySample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

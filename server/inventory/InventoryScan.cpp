@@ -44,7 +44,7 @@ void InventoryScan::run(const protocol::InventoryReportRecord& report, const IpS
         found.printerIp = rows.text(2);
         if (!isOfKind(report.reportType, found.local, rows.number(8) != 0))
             continue;
-        // A printer without an address of its own stands where its host stands.
+        // A printer without its own address is at the address of its host.
         const auto address = parseAddress(found.printerIp.empty() ? rows.text(10) : rows.text(2));
         if (!scope.covers(address))
             continue;

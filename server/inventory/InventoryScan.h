@@ -9,17 +9,16 @@
 
 namespace server {
 
-// Goes over the old estate and stores what it finds as a report. Runs inside of the caller's transaction. Throws
-// StoreError.
+// Scans the old estate and stores what it finds as a report. Runs inside the caller's transaction. Throws StoreError.
 class InventoryScan {
 public:
     using IdMaker = std::function<std::string()>;
 
-    // The ids of what is found come from the maker.
+    // The maker supplies the ids of what is found.
     InventoryScan(StoreConnection& connection, IdMaker newId) : connection_(connection), newId_(std::move(newId)) {}
 
-    // Stores the report with the printers of its kind that stand within the scope and were last seen in the period.
-    // What an IP range tells to ignore is left out. The id and the date are the report's own.
+    // Stores the report with the printers of its kind that are within the scope and were last seen in the period.
+    // Printers in an IP range that is to be ignored are left out. Id and date are taken from the report.
     void run(const protocol::InventoryReportRecord& report, const IpScope& scope, const ReportPeriod& period);
 
 private:

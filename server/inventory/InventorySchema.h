@@ -2,8 +2,8 @@
 
 namespace server {
 
-// The tables of the old estate, of inventory reports with what they found, of migration plans and of IP ranges. Texts
-// of the old estate are limited, so that a printer found and the names that are shown with it always fit one frame.
+// The tables of the old estate, of inventory reports and their findings, of migration plans and of IP ranges. Texts of
+// the old estate are limited, so that a found printer and the names shown with it always fit into one frame.
 inline constexpr const char* inventoryTables = R"sql(
     CREATE TABLE oldWorkstation (
         number INTEGER PRIMARY KEY,
@@ -144,7 +144,7 @@ inline constexpr const char* inventoryTables = R"sql(
     CREATE INDEX driverModelByName ON driverModel (nameKey);
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* inventoryKeys = R"sql(
     UPDATE OR IGNORE inventoryEntry SET nameKey = keyOf(windowsName) WHERE nameKey <> keyOf(windowsName);
     UPDATE OR IGNORE inventoryEntry SET modelKey = keyOf(model) WHERE modelKey <> keyOf(model);

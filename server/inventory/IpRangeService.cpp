@@ -22,7 +22,7 @@ StatusReply doneIf(bool isThere) {
     return isThere ? done() : notSaved(u"The IP range was deleted in the meantime.");
 }
 
-// A range that does not span addresses yet may be kept.
+// A range that does not span addresses yet may be stored.
 std::optional<StatusReply> refuse(const IpRangeRecord& range) {
     for (const auto& text : {range.startIp, range.endIp}) {
         if (text.find_first_not_of(u" \t\r\n") != wire::WideString::npos && !parseAddress(text))

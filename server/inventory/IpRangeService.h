@@ -6,13 +6,13 @@
 
 namespace server {
 
-// What may be done to IP ranges, and doing it. Runs inside of the caller's transaction; a refused change has changed
+// Checks and carries out changes of IP ranges. Runs inside the caller's transaction; a refused change has changed
 // nothing. Throws StoreError.
 class IpRangeService {
 public:
     explicit IpRangeService(StoreConnection& connection) : connection_(connection) {}
 
-    // A new range gets an id of its own; the one in the request is not looked at.
+    // A new range gets a new id; the one in the request is ignored.
     protocol::StatusReply change(const protocol::ChangeIpRangeRequest& request);
 
 private:

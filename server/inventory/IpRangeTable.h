@@ -9,13 +9,13 @@ namespace server {
 // The addresses that an IP range spans.
 [[nodiscard]] std::optional<AddressBlock> blockOf(const protocol::IpRangeRecord& range);
 
-// The IP ranges of one connection to the database, and nothing about what is allowed. Throws StoreError.
+// The IP ranges, accessed over one connection to the database without any checks. Throws StoreError.
 class IpRangeTable {
 public:
     explicit IpRangeTable(sqlite3* connection);
 
     void insert(const protocol::IpRangeRecord& range);
-    // These are false when there is no range of that id.
+    // These return false when there is no range with that id.
     bool update(const protocol::IpRangeRecord& range);
     bool remove(const std::string& rangeId);
     bool setActive(const std::string& rangeId, bool active);
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] Listing list() { return all_.run(); }
     [[nodiscard]] Listing find(const std::string& rangeId) { return one_.run(rangeId); }
 
-    // Those that span addresses, in the order of their making.
+    // Those that span addresses, in the order of creation.
     [[nodiscard]] std::vector<ActiveRange> active();
 
 private:

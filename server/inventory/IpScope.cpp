@@ -11,7 +11,7 @@ constexpr std::string_view separators = ",; \t\r\n";
 constexpr unsigned addressBits = 128;
 constexpr unsigned bitsBeforeVersion4 = 96;
 
-// Blanks beside a dash would part the two ends.
+// Removes blanks beside dashes, which would separate the two ends.
 std::string closeUpDashes(std::string_view text) {
     std::string closed;
     for (std::size_t index = 0; index < text.size(); ++index) {
@@ -53,7 +53,7 @@ std::optional<AddressBlock> fromPrefix(std::string_view text, std::string_view l
     return block;
 }
 
-// "10.1.*" or "10.1.*.*": stars stand at the end only, and the last one for all that follows.
+// "10.1.*" or "10.1.*.*": stars are only allowed at the end, and the last one covers all remaining parts.
 std::optional<AddressBlock> fromStars(std::string_view text) {
     std::string first;
     std::string last;

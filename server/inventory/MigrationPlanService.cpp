@@ -30,7 +30,7 @@ StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& re
         return doneIfThere(plans.remove(plan.schemaId));
     if (request.operation == planOperation::create)
         plan.schemaId = wire::toText(wire::randomUuid());
-    // A plan outlives its queue and goes by the queue's name then.
+    // A plan outlives its queue and then goes by the queue's name.
     if (!plans.isQueue(plan.newQueueId))
         plan.newQueueId = plans.queueNamed(plan.newPrinterName).value_or(std::string());
     if (frameDataSize(plan) > largestReceivableFrame)

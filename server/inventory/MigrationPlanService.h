@@ -6,13 +6,13 @@
 
 namespace server {
 
-// What may be done to migration plans, and doing it. Runs inside of the caller's transaction; a refused change has
-// changed nothing. Throws StoreError.
+// Checks and carries out changes of migration plans. Runs inside the caller's transaction; a refused change has changed
+// nothing. Throws StoreError.
 class MigrationPlanService {
 public:
     explicit MigrationPlanService(StoreConnection& connection) : connection_(connection) {}
 
-    // A new plan gets an id of its own; the one in the request is not looked at.
+    // A new plan gets a new id; the one in the request is ignored.
     protocol::StatusReply change(const protocol::ChangeSchemaRequest& request);
 
 private:

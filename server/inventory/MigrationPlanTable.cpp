@@ -13,7 +13,7 @@ using protocol::SchemaRecord;
 
 namespace {
 
-// A plan without a queue has none in the database either, since it refers to it.
+// A plan without a queue stores null, because the column is a foreign key.
 std::string selectPlans(const std::string& rest) {
     auto columns = columnNames<SchemaRecord>("plan.");
     constexpr std::string_view queue = "plan.newQueueId";

@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view wideBlanks = u" \t\r\n";
 
 std::u16string_view trimmed(std::u16string_view text) {
-    text = text.substr(0, text.find(u'\0')); // a text ends there for a console
+    text = text.substr(0, text.find(u'\0')); // to a console a text ends there
     const auto from = text.find_first_not_of(wideBlanks);
     return from == std::u16string_view::npos ? std::u16string_view()
                                              : text.substr(from, text.find_last_not_of(wideBlanks) - from + 1);
@@ -31,7 +31,7 @@ private:
     std::span<const std::uint8_t> key_;
 };
 
-// After a unit that does not fit, the last star takes one unit more.
+// After a unit that does not match, the last star takes one more unit.
 bool fits(const Units& name, const Units& pattern) {
     constexpr auto none = static_cast<std::size_t>(-1);
     std::size_t inName = 0;

@@ -9,8 +9,8 @@ struct sqlite3;
 
 namespace server {
 
-// What somebody types to find things by their name: a piece of the name or, with * for any units and ? for one, the
-// whole of it. Capital and small letters are the same as in names; blanks around it do not matter, and nothing at all
+// A pattern typed to find things by name: a part of the name or, with * for any characters and ? for one, the whole
+// name. It is compared without regard to case, as names are; blanks around it do not matter, and an empty pattern
 // matches every name.
 class NamePattern {
 public:
@@ -20,15 +20,15 @@ public:
     // Takes the key of a name, see nameKey.
     [[nodiscard]] bool matches(std::span<const std::uint8_t> nameKey) const;
 
-    // The form in which a query takes it.
+    // The form in which a query takes the pattern.
     [[nodiscard]] const Bytes& key() const { return pattern_; }
 
 private:
     Bytes pattern_; // two bytes a unit, and stars around a piece
 };
 
-// The function of SQL nameMatches(nameKey, pattern): a name's key, or a text of 8-bit characters, against the key of a
-// NamePattern. It is there from when this object was made on for as long as the connection lives.
+// The SQL function nameMatches(nameKey, pattern), which compares a name's key, or a text of 8-bit characters, with the
+// key of a NamePattern. It exists from the construction of this object until the connection is closed.
 class NameMatching {
 public:
     explicit NameMatching(sqlite3* connection);

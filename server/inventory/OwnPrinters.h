@@ -6,7 +6,7 @@
 
 namespace server {
 
-// The system's own printers as what stands at an address.
+// Finds this system's own printers by their addresses.
 class OwnPrinters {
 public:
     explicit OwnPrinters(sqlite3* connection)
@@ -14,8 +14,8 @@ public:
 
     [[nodiscard]] bool anyAt(const std::string& ip) { return anyAt_.run(ip).next(); }
 
-    // In SQL, the number of the own printer that a printer of a report (the alias "entry") is: one at its address, and
-    // of several the one of its model, then the one made first.
+    // An SQL expression for the number of the own printer that is the same device as a printer of a report (the alias
+    // "entry"): one at its address; if there are several, one of its model, then the oldest.
     [[nodiscard]] static std::string printerOfEntry() {
         const std::string select =
             "(SELECT own.number FROM record AS own WHERE own.recordType = 0 AND own.ip <> '' AND "

@@ -7,7 +7,7 @@ namespace server::planCover {
 
 namespace {
 
-// A plan is found by the first thing that it names, each of which has an index.
+// A plan is found by the first criterion that it names, each of which has an index.
 constexpr std::array<std::string_view, 3> waysToFind = {
     "plan.addressKey <> x'' AND plan.addressKey = entry.addressKey",
     "plan.addressKey = x'' AND plan.nameKey <> x'' AND plan.nameKey = entry.nameKey",

@@ -5,10 +5,10 @@
 
 namespace server {
 
-// Finds queues and follow-print queues by their names, in the order of names. Throws StoreError.
+// Finds queues and follow-print queues by name, sorted by name. Throws StoreError.
 class QueueSearch {
 public:
-    // The connection has NameMatching.
+    // The connection must have NameMatching.
     explicit QueueSearch(sqlite3* connection);
 
     // Rows of FoundQueueRecord.

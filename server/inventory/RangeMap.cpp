@@ -10,7 +10,7 @@ namespace server {
 
 namespace {
 
-// How many addresses lie between the ends.
+// The number of addresses between the ends.
 Address widthOf(const AddressBlock& block) {
     Address width{};
     int borrow = 0;
@@ -26,7 +26,7 @@ bool forces(std::int32_t rangeType) {
     return rangeType == protocol::rangeType::forceMigrate || rangeType == protocol::rangeType::forceMigrateLocal;
 }
 
-// Nothing behind the last address of all.
+// Empty after the last possible address.
 std::optional<Address> next(Address address) {
     for (std::size_t index = address.size(); index-- > 0;) {
         if (++address[index] != 0)
@@ -35,7 +35,7 @@ std::optional<Address> next(Address address) {
     return std::nullopt;
 }
 
-// The ranges, those that decide before others in front of them.
+// The ranges sorted by precedence, highest first.
 std::vector<ActiveRange> inOrder(const std::vector<ActiveRange>& ranges) {
     struct Ranked {
         bool isWeak = false;

@@ -38,7 +38,7 @@ bool readThree(std::istream& in, char separator, int& first, int& second, int& t
     return in >> first >> one >> second >> two >> third && one == separator && two == separator;
 }
 
-// What follows the seconds, a fraction, is left unread.
+// A fraction after the seconds is ignored.
 std::optional<std::string> parseDate(wire::WideStringView text, const char* ifEmpty, Time time) {
     std::istringstream in(wire::toUtf8(text));
     in >> std::ws;

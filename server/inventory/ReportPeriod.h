@@ -7,16 +7,16 @@
 
 namespace server {
 
-// From when to when a printer must have been seen last to come into a report: two dates like "2014-03-05 17:04:09",
-// which compare as texts.
+// The period in which a printer must last have been seen to be in a report: two dates like "2014-03-05 17:04:09", which
+// compare as texts.
 struct ReportPeriod {
     std::string from;
     std::string to;
 
-    // Empty dates are no limits, and a day without a time is meant as a whole. Nothing for a text that is no date.
+    // An empty date is no limit, and a date without a time means the whole day. Empty for a text that is not a date.
     [[nodiscard]] static std::optional<ReportPeriod> parse(wire::WideStringView from, wire::WideStringView to);
 
-    // The one ends before the other begins.
+    // Whether the period ends before it begins.
     [[nodiscard]] bool isBackwards() const { return to < from; }
 };
 

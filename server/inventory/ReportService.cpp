@@ -21,7 +21,7 @@ std::string newId() {
     return wire::toText(wire::randomUuid());
 }
 
-// The time of the server's clock as a date of the wire.
+// The server's local time in the date format of the wire.
 wire::WideString now() {
     const auto time = std::chrono::system_clock::now();
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count();

@@ -20,7 +20,7 @@ struct FoundPrinter {
     std::int64_t clientCount = 0;
     std::u16string model;
     std::u16string workstation;
-    std::optional<std::int32_t> rangeType; // of the IP range that decides about its address
+    std::optional<std::int32_t> rangeType; // the type of the IP range that decides about its address
 };
 
 // The inventory reports of one connection to the database. Throws StoreError.
@@ -28,19 +28,19 @@ class ReportTable {
 public:
     explicit ReportTable(sqlite3* connection);
 
-    // Its number.
+    // Returns its number.
     std::int64_t insert(const protocol::InventoryReportRecord& report, const ReportPeriod& period);
     void addPrinter(std::int64_t report, const FoundPrinter& found);
     void addModel(std::int64_t report, const Bytes& modelKey, const std::u16string& name, std::int64_t queues,
                   std::int64_t clients);
-    // Takes along all that it found; false when there is no report of that id.
+    // Also removes its findings; false when there is no report with that id.
     bool remove(const std::string& reportId);
 
-    // The number of the report of that id, and of the one made last.
+    // The number of the report with that id, and of the latest one.
     [[nodiscard]] std::optional<std::int64_t> find(const std::string& reportId);
     [[nodiscard]] std::optional<std::int64_t> newest();
 
-    // In the order of their making.
+    // In the order of creation.
     [[nodiscard]] Listing list() { return all_.run(); }
 
 private:

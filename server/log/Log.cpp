@@ -17,7 +17,7 @@ void silence() {
     spdlog::set_level(spdlog::level::off);
 }
 
-// The library keeps what goes wrong while it writes to itself.
+// The library does not report errors of its own writing.
 
 void info(std::string_view line) noexcept {
     spdlog::info("{}", line);

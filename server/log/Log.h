@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-// What the server tells the person who runs it: lines with the time and how serious they are. Any thread may write one,
-// also one that has found no memory: nothing is thrown.
+// The server's log for the person who runs it: lines with time and severity. Any thread may write, even one that is out
+// of memory: nothing is thrown.
 namespace server::log {
 
 // From now on lines go to standard error.
@@ -15,7 +15,7 @@ void silence();
 void info(std::string_view line) noexcept;
 void warn(std::string_view line) noexcept;
 
-// What it is about, and what there is to say about it.
+// A line made of its subject and a text about it.
 void info(std::string_view subject, std::string_view text) noexcept;
 void warn(std::string_view subject, std::string_view text) noexcept;
 void error(std::string_view subject, std::string_view text) noexcept;

@@ -8,14 +8,13 @@
 
 namespace server {
 
-// Who may log in, and the key that logins are sealed with. Names of accounts are the same in capital and small letters.
-// Throws StoreError.
+// Who may log in, and the key that logins are sealed with. Account names ignore case. Throws StoreError.
 class AccountTable {
 public:
     explicit AccountTable(sqlite3* connection);
 
     [[nodiscard]] std::optional<PasswordHash> find(const std::u16string& name);
-    // Adds the account, or gives it another password.
+    // Adds the account, or gives it a new password.
     void save(const std::u16string& name, const PasswordHash& password);
 
     [[nodiscard]] std::optional<Bytes> privateKey();

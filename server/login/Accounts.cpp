@@ -32,15 +32,15 @@ const LoginKey& Accounts::key() {
     return *key_;
 }
 
-// Nobody's password, to be compared with when there is no such account.
+// A password that nobody has, to compare with when there is no such account.
 const PasswordHash& Accounts::nobody() {
     if (!nobody_)
         nobody_ = PasswordHash{.salt = randomBytes(16), .hash = randomBytes(32)};
     return *nobody_;
 }
 
-// The proof of a password is a quick hash under a key that this process alone knows, and only in its memory. It is kept
-// for passwords that were right, so nobody can try passwords any faster with it.
+// The proof of a password is a quick hash under a key that only this process knows, and keeps only in memory. Proofs
+// are kept only for correct passwords, so they do not help anybody to try passwords faster.
 bool Accounts::matches(const PasswordHash& account, const std::u16string& password) {
     const auto proof = authenticationCode(proofKey_, account.hash, password);
     const auto known = proofs_.find(account.hash);

@@ -85,7 +85,7 @@ Bytes LoginKey::exported(int which) const {
     return der;
 }
 
-// The library's own way out of the padding takes no empty text, and an empty domain is the rule.
+// Removes the padding itself, because the library's function rejects an empty text, and the domain is usually empty.
 std::optional<std::u16string> LoginKey::unseal(std::span<const std::uint8_t> sealed) const {
     Bytes padded(modulusBytes);
     auto size = static_cast<unsigned long>(padded.size());

@@ -9,7 +9,7 @@
 
 namespace server {
 
-// The key pair under which consoles seal the credentials of a login: RSA with 2048 bits. Throws std::runtime_error.
+// The key pair with which consoles seal the credentials of a login: RSA with 2048 bits. Throws std::runtime_error.
 class LoginKey {
 public:
     [[nodiscard]] static LoginKey generate();
@@ -22,8 +22,8 @@ public:
     [[nodiscard]] Bytes privateDer() const;
     [[nodiscard]] Bytes publicDer() const;
 
-    // The text that a console sealed (PKCS #1 v1.5, low byte of each unit first); nothing when the bytes are not the
-    // work of this key.
+    // The text that a console sealed (PKCS #1 v1.5, low byte of each unit first); empty when the bytes were not sealed
+    // with this key.
     [[nodiscard]] std::optional<std::u16string> unseal(std::span<const std::uint8_t> sealed) const;
 
 private:

@@ -8,9 +8,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int freeFailures = 3; // anybody may mistype
+constexpr int freeFailures = 3; // allows for typing errors
 constexpr LoginLedger::Clock::duration firstDelay = 250ms;
-constexpr LoginLedger::Clock::duration longestDelay = 8s; // a console waits fifteen seconds for an answer
+constexpr LoginLedger::Clock::duration longestDelay = 8s; // consoles wait only fifteen seconds for an answer
 constexpr LoginLedger::Clock::duration longestWait = 10s;
 constexpr LoginLedger::Clock::duration forgivenAfter = 10min;
 constexpr int mostUnderWay = 32;

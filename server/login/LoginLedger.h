@@ -8,18 +8,18 @@
 
 namespace server {
 
-// Remembers from which addresses somebody has logged in, and makes those that fail wait longer and longer.
+// Remembers the addresses with a successful login, and delays repeated failures of an address more and more.
 class LoginLedger {
 public:
     using Clock = std::chrono::steady_clock;
 
-    // A time of 0 lets everybody in.
+    // With a time of 0, no login is required.
     explicit LoginLedger(std::chrono::minutes loginRequired) : loginRequired_(loginRequired) {}
 
     [[nodiscard]] bool mayCommand(const asio::ip::address& address, Clock::time_point now) const;
 
-    // How long the next try of the address has to wait; nothing when it is not to be heard at all, because so many
-    // tries of it wait already.
+    // How long the address's next attempt has to wait; empty when it is rejected at once because too many of its
+    // attempts are waiting already.
     [[nodiscard]] std::optional<Clock::duration> beginTry(const asio::ip::address& address, Clock::time_point now);
     void endTry(const asio::ip::address& address, Clock::time_point now, bool loggedIn);
 

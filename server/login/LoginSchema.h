@@ -2,7 +2,7 @@
 
 namespace server {
 
-// The tables of who may log in, and of the key that logins are sealed with.
+// The tables of the accounts, and of the key that logins are sealed with.
 inline constexpr const char* loginTables = R"sql(
     CREATE TABLE account (
         nameKey BLOB PRIMARY KEY,
@@ -18,7 +18,7 @@ inline constexpr const char* loginTables = R"sql(
     ) STRICT;
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* loginKeys = R"sql(
     UPDATE OR IGNORE account SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
 )sql";

@@ -16,7 +16,7 @@ constexpr std::size_t hashSize = 32;
 Bytes derive(const std::u16string& password, const Bytes& salt, int iterations) {
     Bytes hash(hashSize);
     unsigned long size = hashSize;
-    // The library takes no empty key; one zero byte is the same key to the function.
+    // The library rejects an empty key; to HMAC a key of one zero byte is the same.
     const auto* bytes = reinterpret_cast<const unsigned char*>(password.c_str());
     const auto length = static_cast<unsigned long>(std::max<std::size_t>(password.size() * 2, 1));
     require(pkcs_5_alg2(bytes, length, salt.data(), static_cast<unsigned long>(salt.size()), iterations,

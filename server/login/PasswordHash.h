@@ -14,7 +14,7 @@ struct PasswordHash {
     int iterations = currentIterations;
     Bytes hash; // PBKDF2 with SHA-256
 
-    // With a salt of its own. Throws std::runtime_error when there are no random numbers.
+    // Hashes with a new salt. Throws std::runtime_error when there are no random numbers.
     [[nodiscard]] static PasswordHash of(const std::u16string& password);
 
     [[nodiscard]] bool matches(const std::u16string& password) const;

@@ -60,7 +60,7 @@ std::size_t ArrivalOrder::arrivingFrom(const asio::ip::address& address) const {
 }
 
 Clock::time_point ArrivalOrder::waitFor(const Place& place, Clock::time_point start) const {
-    // A request whose bytes are here already gets the time that it takes to look at them.
+    // A request whose bytes have arrived gets the time that it takes to read them.
     if (place.peer_.hasUnread())
         return start + limits_.arrivalGrace;
     return place.since_ + (place.address_.is_loopback() ? limits_.localGrace : limits_.arrivalGrace);
@@ -82,7 +82,7 @@ asio::awaitable<void> ArrivalOrder::waitForEarlier(const Place& place, bool forB
         }
         if (until <= Clock::now())
             co_return;
-        // All that wait in this line share the timer: whoever is woken looks again.
+        // All that wait in this line share the timer: each checks again when it is woken.
         if (line.changed.expiry() <= Clock::now() || until < line.changed.expiry())
             line.changed.expires_at(until);
         boost::system::error_code woken;

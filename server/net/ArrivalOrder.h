@@ -9,18 +9,18 @@
 
 namespace server {
 
-// Keeps the commands of one address in the order in which their connections were made.
+// Keeps the commands of each address in the order in which their connections were made.
 //
 // A console sends a change, closes without waiting for anything, and lists at once over another connection: the list
 // must show the change. So a read waits for all changes of connections that were made earlier, and every command waits
-// for earlier connections whose request is still on its way. The second wait is short: a peer that is silent holds up
-// others only in the first moments of its connection. A request that had come to this machine before the later
-// connection was made is never overtaken. Used on the server's one network thread.
+// for earlier connections whose request is still in transit. The second wait is short: a silent peer holds up others
+// only in the first moments of its connection. A request that reached this machine before the later connection was made
+// is never overtaken. Used on the server's one network thread.
 class ArrivalOrder {
 public:
     ArrivalOrder(asio::io_context& context, const Limits& limits);
 
-    // One connection's place in the order, given up when it goes.
+    // One connection's place in the order, released on destruction.
     class Place {
     public:
         Place(ArrivalOrder& order, asio::ip::address address, const PeerStream& peer);
@@ -30,20 +30,20 @@ public:
 
         [[nodiscard]] bool isArriving() const;
 
-        // The request is there and reads: what must come before it has been done when this returns.
+        // The request has arrived and reads: everything that must come before it is done when this returns.
         [[nodiscard]] asio::awaitable<void> beginReading();
-        // The request is there and changes something: earlier changes have begun when this returns.
+        // The request has arrived and changes something: earlier changes have begun when this returns.
         [[nodiscard]] asio::awaitable<void> beginChanging(bool isAnswered);
-        // The request is there and belongs to no order, or its change is done.
+        // The request has arrived and needs no order, or its change is done.
         void finish();
 
     private:
         friend class ArrivalOrder;
         enum class State {
-            arriving, // the request is not there yet
-            waiting,  // it is there, and wants to change something after others
-            changing, // the change has begun, and its console waits for nothing
-            done,     // nobody has to wait for it any more
+            arriving, // the request has not arrived yet
+            waiting,  // the request has arrived; its change waits for others
+            changing, // the change has begun, and its console does not wait for an answer
+            done,     // no other command has to wait for it
         };
 
         void enter(State state);
@@ -56,7 +56,7 @@ public:
         std::list<Place*>::iterator position_;
     };
 
-    // Connections of the address whose request is not there yet.
+    // Connections of the address whose request has not arrived yet.
     [[nodiscard]] std::size_t arrivingFrom(const asio::ip::address& address) const;
 
 private:
@@ -66,7 +66,7 @@ private:
         asio::steady_timer changed;
     };
 
-    // Until when the place has to be waited for; the past when it need not be.
+    // Until when to wait for the place; a time in the past means not at all.
     [[nodiscard]] PeerStream::Clock::time_point waitFor(const Place& place, PeerStream::Clock::time_point start) const;
     [[nodiscard]] asio::awaitable<void> waitForEarlier(const Place& place, bool forBegunChanges);
 

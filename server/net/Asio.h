@@ -19,7 +19,7 @@ namespace server {
 
 namespace asio = boost::asio;
 
-// Runs the action on one of the pool's threads and comes back to the caller's with what it returned or threw.
+// Runs the action on one of the pool's threads and resumes on the caller's with what it returned or threw.
 template <class Action>
 asio::awaitable<std::invoke_result_t<Action&>> runOn(asio::thread_pool& pool, Action action) {
     using Result = std::invoke_result_t<Action&>;

@@ -12,7 +12,7 @@ using boost::system::error_code;
 
 constexpr std::size_t smallestInput = 1024;
 constexpr int mostLastReads = 16;
-constexpr std::size_t largestRead = 16384; // memory is given to what has come, not to what is announced
+constexpr std::size_t largestRead = 16384; // memory is allocated for what has arrived, not for what is announced
 
 } // namespace
 

@@ -9,21 +9,21 @@
 
 namespace server {
 
-// The bytes of one connection. Every wait has a time limit, which is kept by whoever calls dropIfLate() now and then.
+// The bytes of one connection. Every wait has a time limit, enforced by regular calls of dropIfLate().
 class PeerStream {
 public:
     using Clock = std::chrono::steady_clock;
 
     explicit PeerStream(asio::ip::tcp::socket socket);
 
-    // Waits until so many bytes are there, and takes them; the view lasts until the next call. Throws Dropped.
+    // Waits until so many bytes have arrived, and takes them; the view is valid until the next call. Throws Dropped.
     [[nodiscard]] asio::awaitable<std::span<const std::uint8_t>> take(std::size_t count,
                                                                       std::chrono::milliseconds time);
 
     // Returns when all bytes have been handed to the network. Throws Dropped.
     [[nodiscard]] asio::awaitable<void> send(std::span<const std::uint8_t> bytes, std::chrono::milliseconds time);
 
-    // Makes the present wait fail when its time is over.
+    // Makes the current wait fail if its time is up.
     void dropIfLate(Clock::time_point now);
 
     // Whether a send has been waiting for the peer since before this moment.
@@ -32,12 +32,12 @@ public:
     // Lets no wait go beyond this moment.
     void endBy(Clock::time_point latest);
 
-    // Whether the peer has sent bytes that nobody has looked at yet.
+    // Whether the peer has sent bytes that have not been read yet.
     [[nodiscard]] bool hasUnread() const;
 
-    // Ends the connection, so that what was sent still reaches the peer. Nothing may be waiting.
+    // Ends the connection so that what was sent still reaches the peer. No wait may be in progress.
     void close();
-    // Ends the connection at once; the present wait fails with the reason, which is a literal.
+    // Ends the connection at once; the current wait fails with the reason, which is a literal.
     void drop(const char* reason);
     [[nodiscard]] bool isDropped() const { return dropReason_ != nullptr; }
 

@@ -6,14 +6,14 @@
 
 namespace server {
 
-// What may be done to affected users and groups, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of affected users and groups. Each change runs inside the caller's transaction; a
+// refused one has changed nothing. Throws StoreError.
 class AffectedService {
 public:
     explicit AffectedService(StoreConnection& connection) : connection_(connection) {}
 
     protocol::StatusReply write(const protocol::WriteAffectedRequest& request);
-    // The entries that point at it stay as they are.
+    // The entries that refer to it stay as they are.
     protocol::StatusReply remove(const protocol::DeleteAffectedRequest& request);
 
 private:

@@ -27,8 +27,8 @@ inline constexpr const char* tableOf<protocol::ShortIdRecord> = "shortId";
 template <>
 inline constexpr const char* tableOf<protocol::UserMessageRecord> = "userMessage";
 
-// The records of one kind that have an id and a name, and nothing about what is allowed. A list shows the fields of
-// Listed, by name and then in the order of making. Throws StoreError.
+// The records of one kind that have an id and a name, without any checks. A list contains the fields of Listed, by name
+// and then in the order of creation. Throws StoreError.
 template <protocol::Record R, protocol::Record Listed = R>
 class NamedTable {
 public:
@@ -53,7 +53,7 @@ public:
         insert_.execute();
     }
 
-    // All fields, by the record's id.
+    // Updates all fields, by the record's id.
     void update(const R& record) {
         const int next = bindFields(update_, record);
         update_.bind(next, nameKey(record.name));
@@ -66,7 +66,7 @@ public:
         remove_.execute(id);
     }
 
-    // All records, or with an id that one.
+    // All records, or with an id only that one.
     [[nodiscard]] Listing list(const std::string& id = {}) { return id.empty() ? all_.run() : one_.run(id); }
 
 private:

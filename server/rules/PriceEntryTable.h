@@ -7,13 +7,13 @@
 
 namespace server {
 
-// The prices of each plan, in the order in which its console sent them. They go when their plan is deleted. Throws
+// The prices of each plan, in the order in which its console sent them. They are deleted with their plan. Throws
 // StoreError.
 class PriceEntryTable {
 public:
     explicit PriceEntryTable(sqlite3* connection);
 
-    // The entries of a plan that is there.
+    // Replaces the entries of an existing plan.
     void replace(const std::string& planId, std::span<const protocol::PriceEntryRecord> entries);
     [[nodiscard]] Listing list(const std::string& planId) { return list_.run(planId); }
 

@@ -6,15 +6,15 @@
 
 namespace server {
 
-// What may be done to price plans, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of price plans. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class PricePlanService {
 public:
     explicit PricePlanService(StoreConnection& connection) : connection_(connection) {}
 
-    // The entries take the place of all that the plan had.
+    // The entries replace all that the plan had.
     protocol::StatusReply write(const protocol::WritePricePlanRequest& request);
-    // Its prices go with it; the entries that point at it stay as they are.
+    // Its prices are deleted with it; the entries that refer to it stay as they are.
     protocol::StatusReply remove(const protocol::DeletePricePlanRequest& request);
 
 private:

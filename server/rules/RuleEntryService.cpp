@@ -27,8 +27,8 @@ Refused refuseEntry(RuleEntryRecord entry) {
     return refuseFrameSize(ruleEntryWord, frameDataSize(entry));
 }
 
-// Where the entry says that it is to be placed by id. A console that applies a group names that group as the owner too,
-// in the place of the owner that it means; the parent is then what tells.
+// The id of the owner on which the entry is to be placed. A console that applies a group names that group as the owner
+// too, instead of the owner that it means; the parent then identifies the owner.
 std::string ownerIdOf(const protocol::AddRuleEntryRequest& request) {
     const bool namesItsGroup = request.entry.type == appliesGroup && request.ownerId == request.entry.targetId;
     return namesItsGroup ? request.parentId : request.ownerId;

@@ -7,14 +7,14 @@
 
 namespace server {
 
-// What may be done to rule entries, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of rule entries. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class RuleEntryService {
 public:
     explicit RuleEntryService(StoreConnection& connection) : connection_(connection) {}
 
     protocol::StatusReply add(const protocol::AddRuleEntryRequest& request);
-    // The entry stays where it stands. Its type may become another one.
+    // The entry stays where it is. Its type may change.
     protocol::StatusReply update(const protocol::UpdateRuleEntryRequest& request);
     // By the id alone: another console may have changed the type in the meantime.
     protocol::StatusReply remove(const protocol::RemoveRuleEntryRequest& request);

@@ -6,15 +6,15 @@
 
 namespace server {
 
-// What may be done to rule groups, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of rule groups. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class RuleGroupService {
 public:
     explicit RuleGroupService(StoreConnection& connection) : connection_(connection) {}
 
-    // The name may be empty: a console makes a group before its administrator has typed anything.
+    // The name may be empty: a console creates a group before the administrator has typed anything.
     protocol::StatusReply write(const protocol::WriteRuleGroupRequest& request);
-    // The entries of the group go with it; those elsewhere that apply it stay.
+    // The entries of the group are deleted with it; entries elsewhere that apply it stay.
     protocol::StatusReply remove(const protocol::DeleteRuleGroupRequest& request);
 
 private:

@@ -40,7 +40,7 @@ Listing listPriceEntries(StoreConnection& connection, const ListPriceEntriesRequ
     return connection.table<PriceEntryTable>().list(request.planId);
 }
 
-// Nothing for a limit that is not there: the console then finds the connection closed without a reply.
+// Empty for a limit that does not exist: the connection is then closed without a reply.
 std::optional<PageLimitRecord> tellPageLimit(StoreConnection& connection, const GetPageLimitRequest& request) {
     return connection.table<PageLimitTable>().find(request.id);
 }

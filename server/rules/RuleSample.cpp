@@ -31,7 +31,7 @@ struct SamplePlaces {
     Query regions;
 };
 
-// What an entry can point at: the ids of all that was made.
+// What an entry can refer to: the ids of everything added so far.
 struct Made {
     std::vector<std::string> groups;
     std::vector<std::string> limits;
@@ -60,7 +60,7 @@ public:
 private:
     [[nodiscard]] wire::Uuid newUuid() { return wire::parseUuid(random_.newId()); }
 
-    // One of each of the words, and in a larger estate more of them for the offices.
+    // One of each word, and in a larger estate more of them for the offices.
     template <class Words, class Make>
     void forEachOf(const Words& words, std::size_t printersForOneMore, Make&& make) {
         const auto count = words.size() + printers_ / printersForOneMore;
@@ -187,7 +187,7 @@ private:
         });
     }
 
-    // Each group has entries of some types, and the first one of all of them.
+    // Each group has entries of some types, and the first group of all types.
     void addGroups() {
         forEachOf(ruleSample::groups, 1000, [&](const auto& word, const u16string& name) {
             const RuleGroupRecord group{
@@ -213,7 +213,7 @@ private:
                 place(anyType(), {.groupId = {}, .recordId = chosen[index], .regionId = {}});
     }
 
-    // All of them have a group, and the region 0 has what is for everybody.
+    // All regions have a group, and the region 0 has the entries for everybody.
     void placeOnRegions() {
         std::vector<std::int32_t> regions;
         {

@@ -5,8 +5,8 @@
 
 namespace server {
 
-// Fills in invented rule groups and entries, page limits, price plans, short ids and user messages, in proportion to
-// the printers.
+// Adds sample rule groups and entries, page limits, price plans, short ids and user messages, in proportion to the
+// printers.
 void addRuleSample(StoreConnection& connection, SampleRandom& random, int printers);
 
 } // namespace server

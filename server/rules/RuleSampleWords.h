@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-// The words and figures that the rules of the sample estate are made of. People are invented.
+// The words and figures of the rules of the sample estate. People are fictitious.
 namespace server::ruleSample {
 
 constexpr std::array<std::u16string_view, 9> departments = {u"Accounts",       u"Apprentices", u"Board of directors",
@@ -91,7 +91,7 @@ struct Price {
     float colorDuplex;
 };
 
-// Of each paper either a multiplier or a price for each kind of work, which is what a console makes too.
+// For each paper either a multiplier or a price for each kind of work, as a console would write them.
 constexpr std::array<Price, 12> prices = {{
     {"A4", 1, 9, 0.0F, 0.04F, 0.07F, 0.2F, 0.36F},
     {"A4", 2, 9, 0.0F, 0.05F, 0.09F, 0.24F, 0.44F},

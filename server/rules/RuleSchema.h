@@ -4,8 +4,9 @@ namespace server {
 
 // The tables of rule groups and entries, page limits, price plans, short ids and user messages.
 //
-// What an entry, a page limit or a short id points at may be deleted, and leaves them as they are. None of that is a
-// foreign key: consoles write what they have read some time ago, and get no answer that could tell them of a refusal.
+// Whatever an entry, a page limit or a short id refers to may be deleted and leaves them unchanged. None of these
+// references is a foreign key: consoles write what they read some time ago, and get no answer that could report a
+// refusal.
 inline constexpr const char* ruleTables = R"sql(
     CREATE TABLE ruleGroup (
         number INTEGER PRIMARY KEY,
@@ -164,7 +165,7 @@ inline constexpr const char* ruleTables = R"sql(
             ORDER BY builtIn.id;
 )sql";
 
-// Makes the keys of names anew by the present folding of letters.
+// Recomputes the keys of names with the current case folding.
 inline constexpr const char* ruleKeys = R"sql(
     UPDATE OR IGNORE ruleGroup SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);
     UPDATE OR IGNORE affected SET nameKey = keyOf(name) WHERE nameKey <> keyOf(name);

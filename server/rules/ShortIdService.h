@@ -6,15 +6,15 @@
 
 namespace server {
 
-// What may be done to short ids, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of short ids. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class ShortIdService {
 public:
     explicit ShortIdService(StoreConnection& connection) : connection_(connection) {}
 
     protocol::StatusReply add(const protocol::AddShortIdRequest& request);
     protocol::StatusReply update(const protocol::UpdateShortIdRequest& request);
-    // The entries that point at it stay as they are.
+    // The entries that refer to it stay as they are.
     protocol::StatusReply remove(const protocol::DeleteShortIdRequest& request);
 
 private:

@@ -6,15 +6,15 @@
 
 namespace server {
 
-// What may be done to user messages, and doing it. Each change runs inside of the caller's transaction;
-// a refused one has changed nothing. Throws StoreError.
+// Checks and carries out changes of user messages. Each change runs inside the caller's transaction; a refused one has
+// changed nothing. Throws StoreError.
 class UserMessageService {
 public:
     explicit UserMessageService(StoreConnection& connection) : connection_(connection) {}
 
-    // Whether a message is built in is not for a console to say.
+    // A console can't decide whether a message is built in.
     protocol::StatusReply write(const protocol::WriteUserMessageRequest& request);
-    // A built-in message stays. The page limits and short ids that point at a message stay as they are.
+    // A built-in message can't be removed. The page limits and short ids that refer to a message stay as they are.
     protocol::StatusReply remove(const protocol::DeleteUserMessageRequest& request);
 
 private:

@@ -28,7 +28,7 @@ Refused refuseId(const WideString& word, const wire::Uuid& id) {
 }
 
 Refused refuseName(const WideString& word, const WideString& name) {
-    // A text ends at its first zero for a console, so a name that begins with one is empty there.
+    // To a console a text ends at its first zero, so a name that begins with one is empty there.
     if (name.empty() || name.front() == u'\0')
         return ruleRefused(u"The " + word + u" needs a name.");
     return std::nullopt;

@@ -7,13 +7,13 @@
 
 #include <optional>
 
-// What is asked of every record of the rules that is written. Its console has made its id. Names may stand twice: no
-// write of these is answered, so that a refusal would silently throw away what an administrator has typed.
+// Checks for every rules record that is written. The console chooses its id. Names may occur twice: none of these
+// writes is answered, so a refusal would silently discard what an administrator has typed.
 namespace server {
 
 [[nodiscard]] protocol::StatusReply ruleRefused(const wire::WideString& text);
 
-// Something to refuse, or nothing. The word is what a person calls the record ("price plan").
+// A refusal, or nothing. The word is the name for the kind of record ("price plan").
 using Refused = std::optional<protocol::StatusReply>;
 
 [[nodiscard]] Refused refuseId(const wire::WideString& word, const std::string& id);
@@ -23,7 +23,7 @@ using Refused = std::optional<protocol::StatusReply>;
 [[nodiscard]] Refused refuseAction(const wire::WideString& word, std::uint8_t action, bool isThere);
 [[nodiscard]] protocol::StatusReply isGone(const wire::WideString& word);
 
-// What keeps a record with this id from being added or updated, apart from its name and its values.
+// Checks whether a record with this id can be added or updated, apart from its name and its values.
 template <class Table, protocol::Record R>
 [[nodiscard]] Refused refuseWrite(Table& table, const wire::WideString& word, std::uint8_t action, const R& record) {
     if (auto refused = refuseId(word, record.id))
@@ -33,7 +33,7 @@ template <class Table, protocol::Record R>
     return refuseAction(word, action, table.find(record.id).has_value());
 }
 
-// The record goes in as new, or in the place of the one that is there.
+// Adds the record, or replaces the one with its id.
 template <class Table, protocol::Record R>
 protocol::StatusReply store(Table& table, std::uint8_t action, const R& record) {
     if (action == protocol::ruleWriteAction::add)

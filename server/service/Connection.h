@@ -14,8 +14,8 @@ class Connection {
 public:
     Connection(asio::ip::tcp::socket socket, asio::ip::address address, Services& services);
 
-    // Takes the command, carries it out and answers. Throws nothing that a peer could cause: what is wrong goes to the
-    // log, and the connection ends.
+    // Receives the command, carries it out and answers. Throws nothing that a peer could cause: such errors are logged,
+    // and the connection ends.
     [[nodiscard]] asio::awaitable<void> serve();
 
     [[nodiscard]] PeerStream& peer() { return peer_; }

@@ -5,7 +5,7 @@
 
 namespace server {
 
-// The two commands around a login, which go on with raw blocks after their frame:
+// The two commands of a login, which continue with raw blocks after their frame:
 //
 //     block = length:u32 (acknowledgement:u8 from the receiver) byte* (result:u8 from the receiver: 1 success, 2
 //     failure)
@@ -17,7 +17,7 @@ public:
     // Sends the public key. Throws Dropped.
     [[nodiscard]] asio::awaitable<void> sendKey();
 
-    // Takes the sealed credentials and answers with a LoginStatus. Throws Dropped.
+    // Receives the sealed credentials and answers with a LoginStatus. Throws Dropped.
     [[nodiscard]] asio::awaitable<void> logIn(std::span<const std::uint8_t> fields);
 
 private:

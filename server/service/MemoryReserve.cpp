@@ -9,7 +9,7 @@ namespace server {
 
 namespace {
 
-// Little enough for the allocator to hand it out again in small pieces.
+// Small enough for the allocator to reuse it for small allocations.
 constexpr std::size_t reserveSize = 65536;
 
 std::atomic<void*> reserve = nullptr;
@@ -33,7 +33,7 @@ void MemoryReserve::refill() noexcept {
         return;
     void* const fresh = std::malloc(reserveSize);
     if (fresh != nullptr)
-        std::memset(fresh, 1, reserveSize); // memory that was never written is only promised
+        std::memset(fresh, 1, reserveSize); // memory that was never written may not really exist
     std::free(reserve.exchange(fresh));
 }
 

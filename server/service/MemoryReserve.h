@@ -2,14 +2,14 @@
 
 namespace server {
 
-// Memory put aside for the moment when there is no other: whoever asks for some then gets it after all, so that what
-// was begun can be ended. When that is gone too, asking throws std::bad_alloc as usual. Belongs to the whole program.
+// Memory put aside for when there is no other: an allocation that would fail then succeeds, so that work in progress
+// can finish. Once the reserve is used up too, allocations throw std::bad_alloc as usual. Global to the program.
 class MemoryReserve {
 public:
-    // From now on the program has a reserve.
+    // Gives the program a reserve.
     static void install();
 
-    // Puts it aside again after it was used, if there is memory.
+    // Puts a reserve aside again after it was used, if there is memory.
     static void refill() noexcept;
 };
 

@@ -30,24 +30,25 @@ asio::ip::tcp::acceptor listenOn(asio::io_context& context, const std::string& l
     }
 }
 
-// As often as the shortest of the limits needs.
+// Short enough for the shortest of the limits.
 Clock::duration watchInterval(const Limits& limits) {
     const auto shortest = std::min({limits.headerTime, limits.bodyTime, limits.sendTime, limits.stopTime});
     return std::clamp(shortest / 4, std::chrono::milliseconds(10), std::chrono::milliseconds(1000));
 }
 
-// Its command is not there and nothing of it waits to be looked at.
+// Whether its command has not arrived and no bytes of it are waiting to be read.
 bool isSilent(Connection& connection) {
     return connection.isArriving() && !connection.peer().isDropped() && !connection.peer().hasUnread();
 }
 
-// An error that no peer can cause ends the server.
+// Rethrows the error: one that no peer can cause ends the server.
 void passOn(const std::exception_ptr& error) {
     if (error)
         std::rethrow_exception(error);
 }
 
-// So that the first login does not wait for it. A login that needs a key which cannot be made says so again.
+// Makes the key in advance, so that the first login need not wait for it. A failure is reported again by the login that
+// needs the key.
 void makeLoginKey(Accounts& accounts) {
     try {
         (void)accounts.publicKey();
@@ -99,7 +100,7 @@ asio::awaitable<void> Server::acceptAll() {
     }
 }
 
-// When all connections are at work, new ones wait outside.
+// While all connections are busy, new ones are not accepted.
 asio::awaitable<void> Server::waitForRoom() {
     while (acceptor_.is_open() && connections_.size() >= services_.limits.connections) {
         makeRoom();
@@ -109,13 +110,13 @@ asio::awaitable<void> Server::waitForRoom() {
     }
 }
 
-// A connection for which there is no memory is closed, and those after it are none the worse for it.
+// A connection for which there is no memory is closed without affecting later ones.
 void Server::welcome(asio::ip::tcp::socket socket) noexcept {
     MemoryReserve::refill();
     error_code error;
     const auto address = socket.remote_endpoint(error).address();
     if (error)
-        return; // it is gone already
+        return; // it has already disconnected
     const auto before = connections_.size();
     try {
         keepWithinShare(address);
@@ -152,7 +153,7 @@ void Server::keepWithinShare(const asio::ip::address& address) {
         (*found)->peer().drop("too many connections of its address sent no command");
 }
 
-// Room is made at the cost of those that send nothing or do not take their answer, never of a command that has come.
+// Closes connections that send nothing or do not receive their answer, but never one whose command has arrived.
 void Server::makeRoom() {
     for (const auto& connection : connections_) {
         if (isIdle(*connection) || connection->peer().isSendingSince(Clock::now() - stalled))

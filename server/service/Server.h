@@ -9,7 +9,7 @@
 
 namespace server {
 
-// What a server is told about itself.
+// The settings of a server.
 struct ServerSettings {
     std::string listen = "127.0.0.1";
     std::uint16_t port = 0; // 0 for any that is free
@@ -17,12 +17,12 @@ struct ServerSettings {
     Limits limits;
 };
 
-// Listens, and serves each connection. One thread does the network and the reading, another one the changes, a third
-// one the logins.
+// Listens, and serves each connection. One thread does the network and the reads, another the changes, a third the
+// logins.
 class Server {
 public:
-    // Listens from here on. The store, the accounts and the commands outlive the server; the accounts are its alone
-    // from here on. Throws std::runtime_error with one line when the address cannot be listened on.
+    // Starts to listen. The store, the accounts and the commands outlive the server; only the server may use the
+    // accounts from now on. Throws std::runtime_error with one line when it cannot listen on the address.
     Server(const Store& store, Accounts& accounts, const CommandTable& commands, const ServerSettings& settings);
     ~Server();
     Server(const Server&) = delete;
@@ -30,10 +30,10 @@ public:
 
     [[nodiscard]] std::uint16_t port() const;
 
-    // Serves on the calling thread until stop() has been called and what was under way is done.
+    // Serves on the calling thread until stop() has been called and work in progress is done.
     void run();
 
-    // May be called by any thread. Commands that have come to this machine are still carried out.
+    // May be called by any thread. Commands that have reached this machine are still carried out.
     void stop();
 
 private:
@@ -48,12 +48,12 @@ private:
     [[nodiscard]] bool isIdle(Connection& connection) const;
     void beginStopping();
 
-    Services services_; // outlives the context, which holds what is left of the connections after a failure
+    Services services_; // outlives the context, which keeps the remaining connections after a failure
     asio::io_context context_{1};
     asio::ip::tcp::acceptor acceptor_;
     asio::steady_timer watch_;
     asio::steady_timer room_;                            // cancelled whenever a connection ends
-    std::list<std::shared_ptr<Connection>> connections_; // in the order of their making
+    std::list<std::shared_ptr<Connection>> connections_; // in the order in which they were made
     bool stopping_ = false;
     PeerStream::Clock::time_point endBy_ = PeerStream::Clock::time_point::max();
 };

@@ -9,8 +9,8 @@
 
 namespace server {
 
-// What all connections of a server share. The members are used on the network thread, but for the one connection that
-// only the writer's thread touches and the accounts that only the login thread touches.
+// What all connections of a server share. The members are used on the network thread, except for the one connection
+// that only the writer's thread uses and the accounts that only the login thread uses.
 struct Services {
     Services(asio::io_context& context, const Store& store, Accounts& whoMayLogIn, const CommandTable& allCommands,
              const Limits& setLimits, std::chrono::minutes loginRequired)

@@ -14,12 +14,12 @@ struct Listing {
     Rows rows{nullptr};
 };
 
-// A SELECT of which a list needs both.
+// A SELECT together with the query that counts its rows.
 class ListQuery {
 public:
     ListQuery(sqlite3* connection, const std::string& select) : ListQuery(connection, withoutOrder(select), select) {}
 
-    // With another SELECT of as many rows that is easier to count.
+    // Counts with another SELECT that has as many rows but is cheaper to count.
     ListQuery(sqlite3* connection, const std::string& counted, const std::string& select)
         : count_(connection, "SELECT count(*) FROM (" + counted + ")"), rows_(connection, select) {}
 
@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    // To count rows that have an order SQLite would make every column of them.
+    // Without ORDER BY: to count sorted rows SQLite would compute all their columns.
     [[nodiscard]] static std::string withoutOrder(const std::string& select) {
         const auto end = std::min(select.rfind(" ORDER BY "), select.size());
         const auto order = std::string_view(select).substr(end);

@@ -29,7 +29,7 @@ void keyOf(sqlite3_context* context, int, sqlite3_value** values) {
             std::memcpy(name.data(), sqlite3_value_blob(values[0]), name.size() * 2);
         const auto key = nameKey(name);
         if (key.empty())
-            sqlite3_result_zeroblob(context, 0); // a blob of nothing would be a null
+            sqlite3_result_zeroblob(context, 0); // an empty blob would become NULL
         else
             sqlite3_result_blob64(context, key.data(), key.size(), SQLITE_TRANSIENT);
     } catch (const std::exception&) {

@@ -18,7 +18,7 @@ namespace server {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// The rows of one run of a query; the run ends, and its hold on the database with it, when this object goes.
+// The rows of one run of a query; destroying this object ends the run and releases its lock on the database.
 class Rows {
 public:
     explicit Rows(sqlite3_stmt* statement) : statement_(statement) {}
@@ -28,10 +28,10 @@ public:
     Rows(const Rows&) = delete;
     Rows& operator=(const Rows&) = delete;
 
-    // Goes to the first row, then to the next; false after the last. Throws StoreError.
+    // Moves to the first row, then to the next; false after the last. Throws StoreError.
     bool next();
 
-    // What the present row holds. Views last until the next call of next().
+    // The values of the current row. Views are valid until the next call of next().
     [[nodiscard]] std::int64_t number(int column) const;
     [[nodiscard]] double real(int column) const;
     [[nodiscard]] std::string_view text(int column) const;
@@ -45,7 +45,7 @@ private:
     sqlite3_stmt* statement_;
 };
 
-// A statement, prepared when it is first used and kept for as long as its connection lives.
+// A statement, prepared on first use and kept as long as its connection lives.
 class Query {
 public:
     Query(sqlite3* connection, std::string sql) : connection_(connection), sql_(std::move(sql)) {}

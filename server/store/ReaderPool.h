@@ -7,12 +7,12 @@
 
 namespace server {
 
-// Database connections for readers, made when they are needed and kept for the next ones. Used by one thread.
+// Database connections for readers, opened on demand and kept for reuse. Used by one thread.
 class ReaderPool {
 public:
     explicit ReaderPool(const Store& store) : store_(store) {}
 
-    // One that nobody else uses, given back when it goes. Throws StoreError.
+    // A connection for exclusive use, given back on destruction. Throws StoreError.
     class Lease {
     public:
         explicit Lease(ReaderPool& pool);

@@ -8,7 +8,8 @@
 // Records as rows: one column for each field, named after it, in the order of the wire.
 namespace server {
 
-// "ip, fpBoxIp, ..." for a SELECT or an INSERT; the prefix stands before each name ("old." for a table of that alias).
+// "ip, fpBoxIp, ..." for a SELECT or an INSERT; the prefix is put before each name ("old." for a table with that
+// alias).
 template <protocol::Record R>
 [[nodiscard]] std::string columnNames(std::string_view prefix = {}) {
     std::string text;
@@ -37,14 +38,14 @@ template <protocol::Record R>
 template <protocol::Record R>
 inline constexpr int columnCount = static_cast<int>(std::tuple_size_v<decltype(R::fields.list)>);
 
-// Binds each field from the index on; the result is the next index.
+// Binds each field from the index on; returns the next index.
 template <protocol::Record R>
 int bindFields(Query& query, const R& record, int index = 1) {
     protocol::forEachField(record, [&](std::string_view, const auto& value) { query.bind(index++, value); });
     return index;
 }
 
-// The value of a column of the present row.
+// The value of a column of the current row.
 template <class Value>
 void readColumn(const Rows& rows, int column, Value& value) {
     if constexpr (wire::FieldTraits<Value>::kind == wire::FieldKind::optional) {
@@ -65,7 +66,7 @@ void readColumn(const Rows& rows, int column, Value& value) {
     }
 }
 
-// The present row as a record, its columns in the order of the fields from the first column on.
+// The current row as a record, its columns in the order of the fields from the first column on.
 template <protocol::Record R>
 [[nodiscard]] R readFields(const Rows& rows, int firstColumn = 0) {
     R record;

@@ -51,8 +51,8 @@ Store::~Store() {
     ::close(lock_);
 }
 
-// The lock stands on a descriptor that is closed last of all: closing any descriptor of the file drops the locks that
-// SQLite holds on it for this process.
+// The lock is on a descriptor that is closed last: closing any descriptor of the file drops the locks that SQLite holds
+// on it for this process.
 void Store::lockFile() {
     lock_ = ::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (lock_ < 0)

@@ -8,17 +8,17 @@
 
 namespace server {
 
-// The database file of a server, held against every other server for as long as this object lives. Throws StoreError
-// with one line for the person who started the server.
+// The database file of a server, locked against other servers as long as this object lives. Throws StoreError with one
+// line for the person who started the server.
 class Store {
 public:
-    // Makes the file when there is none, readable by its owner only, and takes an older one forward.
+    // Creates the file if there is none, readable by its owner only, and upgrades an older one.
     Store(std::filesystem::path file, const Schema& schema);
     ~Store();
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
 
-    // A connection of its own for a thread, bare and with tables.
+    // A new connection for a thread: the bare database, or with tables.
     [[nodiscard]] SQLite::Database openDatabase() const;
     [[nodiscard]] std::unique_ptr<StoreConnection> openConnection() const;
 

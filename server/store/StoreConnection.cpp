@@ -21,7 +21,7 @@ void StoreConnection::rollback() noexcept {
     try {
         rollback_.execute();
     } catch (const StoreError&) {
-        // The connection stays in a transaction, and its next begin tells so.
+        // The connection stays in a transaction, and its next begin reports that.
     }
 }
 

@@ -10,15 +10,15 @@
 
 namespace server {
 
-// One connection to the database, with the tables that have been asked for and their prepared statements. Used by one
-// thread at a time. Throws StoreError.
+// One connection to the database, with the tables requested so far and their prepared statements. Used by one thread at
+// a time. Throws StoreError.
 class StoreConnection {
 public:
     explicit StoreConnection(SQLite::Database database);
     StoreConnection(const StoreConnection&) = delete;
     StoreConnection& operator=(const StoreConnection&) = delete;
 
-    // A table by its type, which is made of the connection when it is first asked for.
+    // A table by its type, constructed from the connection when it is first requested.
     template <class Table>
     [[nodiscard]] Table& table() {
         auto& held = tables_[std::type_index(typeid(Table))];
@@ -27,7 +27,7 @@ public:
         return *static_cast<Table*>(held.get());
     }
 
-    // Runs the action as one transaction: all of it is on the disk when this returns, and nothing of it happened when
+    // Runs the action as one transaction: all of it is on disk when this returns, and nothing of it has happened when
     // this throws. No other change comes in between.
     template <class Action>
     auto change(Action&& action) {
@@ -42,7 +42,7 @@ public:
         }
     }
 
-    // While it lives, all that is read belongs to one moment.
+    // While it lives, all reads see the same snapshot.
     class Moment {
     public:
         explicit Moment(StoreConnection& connection) : connection_(connection) { connection_.beginRead_.execute(); }

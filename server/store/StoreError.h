@@ -10,7 +10,7 @@ class StoreError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 
-    // The words for a result code of SQLite, with the connection's own message where that says more.
+    // The text for a result code of SQLite, with the connection's own message where that says more.
     [[nodiscard]] static StoreError fromCode(int code, const std::string& detail);
 };
 
