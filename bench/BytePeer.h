@@ -6,8 +6,8 @@
 
 namespace bench {
 
-// The least that a server can do: a process that takes connections on the loopback address, reads one byte, sends one
-// back and closes. The anchor for a command with one record.
+// The minimum that a server can do: a process that accepts connections on the loopback address, reads one byte, sends
+// one back and closes. The baseline for a command with one record.
 class BytePeer {
 public:
     BytePeer();
@@ -15,7 +15,7 @@ public:
     BytePeer(const BytePeer&) = delete;
     BytePeer& operator=(const BytePeer&) = delete;
 
-    // A connection, a byte there, a byte back, and the end of the connection; false when any of it failed.
+    // Connects, sends a byte, receives a byte, and closes; false when any of it failed.
     [[nodiscard]] bool exchange() const;
 
 private:

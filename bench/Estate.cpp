@@ -15,7 +15,7 @@ Estate::Estate(const std::filesystem::path& folder, int printers)
 void Estate::gatherPrinters() {
     SQLite::Database database(database_.string(), SQLite::OPEN_READWRITE);
     region_ = database.execAndGet("SELECT min(id) FROM region WHERE kind = 0").getInt();
-    // Names are unique in a region, which names of many regions are not when they meet.
+    // Names are unique within a region, but not once the records of many regions are merged into one.
     database.exec("UPDATE record SET regionId = " + std::to_string(region_) +
                   ", nameKey = CAST(nameKey || number AS BLOB) WHERE recordType IN (0, 1)");
     printer_ = database

@@ -6,7 +6,7 @@
 
 namespace bench {
 
-// The database of a sample estate with so many printers, all of them in one region so that one list holds them.
+// The database of a sample estate with the given number of printers, all in one region so that one list contains them.
 class Estate {
 public:
     Estate(const std::filesystem::path& folder, int printers);

@@ -4,7 +4,7 @@
 
 namespace bench {
 
-// A temporary folder beside the database of a real server, on the same disk; gone with this object.
+// A temporary folder on the same disk as the database of a real server; removed with this object.
 class Folder {
 public:
     Folder();

@@ -38,7 +38,8 @@ void Goals::atLeast(double limit, const std::string& what, double measured, cons
 }
 
 bool Goals::ReportContext(const Context& context) {
-    // What it says of the machine and of the benchmark library's own build goes to the errors, and would look like one.
+    // The library's remarks about the machine and its own build go to standard error, where they would look like
+    // errors.
     std::ostringstream ignored;
     std::ostream& errors = GetErrorStream();
     SetErrorStream(&ignored);

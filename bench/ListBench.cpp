@@ -31,14 +31,14 @@ constexpr int fewRows = 1000;
 constexpr int manyRows = 30000;
 constexpr double mebibyte = 1024.0 * 1024.0;
 
-// What a list takes: of the times the fastest, since a machine that has other things to do only makes one longer.
+// What a list costs: the fastest of its times, because other load can only make them longer.
 struct Figures {
     std::size_t records = 0;
     double seconds = 60;
     double secondsToFirst = 60;
     double receiveCalls = 0;
     double sendCalls = 0;
-    double serverMemory = 0; // bytes more than before the list
+    double serverMemory = 0; // in bytes, compared with before the list
     double clientMemory = 0;
     bool inOneMessage = false;
 
@@ -61,7 +61,7 @@ void measure(const MeasuredList& list, const ManyRows& rows, const ServerProcess
 }
 
 double memoryMore(pid_t process, const std::function<void()>& action) {
-    malloc_trim(0); // what this process has given back to its heap would not be seen again
+    malloc_trim(0); // returns freed memory to the system, so that new use of it shows
     forgetPeakMemoryOf(process);
     const auto before = peakMemoryOf(process);
     action();
@@ -75,7 +75,7 @@ void measureMemory(const MeasuredList& list, const ManyRows& rows, Figures& figu
     figures.serverMemory = memoryMore(server.process(), [&] { figures.clientMemory = memoryMore(getpid(), run); });
 }
 
-// Calls of the system that send on a socket, for each record of each list.
+// The sending system calls per record of each list.
 void countSendCalls(const std::vector<MeasuredList>& lists, const ManyRows& rows, const Folder& folder,
                     std::vector<Figures>& figures) {
     for (std::size_t index = 0; index < lists.size(); ++index) {
@@ -146,7 +146,8 @@ void measureLists(const Folder& folder, Goals& goals) {
     };
     worst("The slowest list, a record beside one of the printers", 3, "times",
           [&](std::size_t index) { return many[index].perRecord() / many.front().perRecord(); });
-    // 1,000 records fit the processor's own memory and 30,000 do not; work that grows faster than a list is far above.
+    // 1,000 records fit into the processor's caches and 30,000 do not; work that grows faster than the list is far
+    // above the limit.
     worst("The list that grows fastest, a record of 30,000 beside one of 1,000", 2, "times", [&](std::size_t index) {
         const bool comeAlike = many[index].inOneMessage == few[index].inOneMessage;
         return comeAlike ? many[index].perRecord() / few[index].perRecord() : 0;
@@ -160,7 +161,7 @@ void measureLists(const Folder& folder, Goals& goals) {
           [&](std::size_t index) { return many[index].serverMemory / mebibyte; });
 }
 
-// A printer's name is free in its region when it has a number that no other has.
+// A unique number makes a printer's name unique in its region.
 bool createPrinter(client::CQVXAdminClass& client, std::int32_t region) {
     static std::atomic<int> number = 0;
     auto printer = samplePrinter();
@@ -171,7 +172,7 @@ bool createPrinter(client::CQVXAdminClass& client, std::int32_t region) {
     return client.createRecord({}, printer).status.caption.empty();
 }
 
-// Changes that survive a crash, a second.
+// Measures changes that survive a crash, per second.
 void measureChanges(const Folder& folder, Goals& goals) {
     const ManyRows rows(folder.path(), 100);
     const ServerProcess server(rows.database());
@@ -180,7 +181,7 @@ void measureChanges(const Folder& folder, Goals& goals) {
     double bare = 0;
     double one = 0;
     double sixteen = 0;
-    // What a disk takes to sync changes from one moment to the next, so they take turns.
+    // The time that a disk takes to sync varies from moment to moment, so the measurements take turns.
     for (int round = 0; round < 5; ++round) {
         constexpr int inserts = 200;
         const auto begin = Clock::now();
@@ -201,7 +202,7 @@ void measureChanges(const Folder& folder, Goals& goals) {
 }
 
 int run(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv); // the options of the other programs, which have no meaning here
+    benchmark::Initialize(&argc, argv); // accepts the options of the other programs, which are ignored here
     const Folder folder;
     Goals goals;
     measureLists(folder, goals);

@@ -12,7 +12,7 @@
 namespace bench {
 namespace {
 
-// What the columns of a copy hold other than the row that it copies; i is the number of the copy.
+// The columns of a copy that differ from the copied row; i is the number of the copy.
 using Differences = std::map<std::string, std::string>;
 
 const std::string newId = "printf('%08x-6d61-4e79-a230-000000000000', i)";
@@ -50,7 +50,7 @@ public:
             table);
     }
 
-    // So many of what the query gives.
+    // Inserts the given number of rows from the query.
     void insert(const std::string& table, const std::string& query) {
         run("INSERT OR IGNORE INTO " + table + " " + query + " LIMIT " + std::to_string(rows_), table);
     }

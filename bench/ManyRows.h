@@ -6,8 +6,8 @@
 
 namespace bench {
 
-// The database of a small sample estate with so many rows more in every table that a list comes from. The rows have one
-// owner where a list is that of an owner, so that one list holds them all.
+// The database of a small sample estate with the given number of extra rows in every table that a list reads. Where a
+// list belongs to an owner, all rows have the same one, so that one list contains them all.
 class ManyRows {
 public:
     ManyRows(const std::filesystem::path& folder, int rows);
@@ -20,7 +20,7 @@ public:
         std::int32_t region = 0;      // of printers, queues and follow-print queues
         std::int32_t localRegion = 0; // of local printers
         std::string printer;          // of queues
-        std::string queue;            // of what it may use with each deployment
+        std::string queue;            // of configurations that it may use with each deployment
         std::string brand;            // of models and drivers
         std::string model;            // of alternates, drivers, deployments and configurations; the queue's
         std::string driver;           // of deployments

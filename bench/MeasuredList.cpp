@@ -50,7 +50,7 @@ std::unique_ptr<wire::Message> next(client::Exchange& exchange, std::unique_ptr<
     return message;
 }
 
-// What an operation of the console does, in steps that can be told apart.
+// What an operation of the console does, in separate steps.
 template <Record R, Record Request>
 ListRun list(client::CQVXAdminClass& client, const Request& request) {
     ListRun run;
@@ -76,7 +76,7 @@ ListRun list(client::CQVXAdminClass& client, const Request& request) {
     return run;
 }
 
-// The request is made by a function of the owners.
+// Builds the request from the owners.
 template <Record R, class Make>
 MeasuredList measured(std::string name, Make make) {
     return {std::move(name),

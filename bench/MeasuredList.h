@@ -16,7 +16,7 @@ struct ListRun {
     double seconds = 0;
     double secondsToFirst = 0; // until the first record was read
     double receiveCalls = 0;
-    bool inOneMessage = false; // as regions come while they fit into one
+    bool inOneMessage = false; // as regions are sent while they fit into one
 };
 
 // A list command of the catalogue, and how a console asks for the one with many records.

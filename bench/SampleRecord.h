@@ -6,10 +6,10 @@
 
 namespace bench {
 
-// A printer as an estate has thousands of them: every field set, texts of ordinary length.
+// A typical printer of a large estate: every field set, texts of ordinary length.
 protocol::PrinterRecord samplePrinter();
 
-// The same printer in protobuf's own form.
+// The same printer encoded by protobuf.
 std::string sampleInProtobuf();
 
 } // namespace bench

@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-// What a real vantreld and the client take for their work, beside bare sockets and bare SQLite.
+// The time that a real vantreld and the client take, compared with bare sockets and bare SQLite.
 namespace bench {
 namespace {
 
@@ -43,7 +43,7 @@ bool findPrinter(client::CQVXAdminClass& client, const Estate& estate) {
     return client.getPrinterById(estate.printer(), count) && count == 1;
 }
 
-// A queue's name is free in its region when it has a number that no other has.
+// A unique number makes a queue's name unique in its region.
 bool createQueue(client::CQVXAdminClass& client, const Estate& estate) {
     static std::atomic<int> number = 0;
     auto queue = samplePrinter();
@@ -56,7 +56,7 @@ bool createQueue(client::CQVXAdminClass& client, const Estate& estate) {
     return client.createRecord(estate.printer(), queue).status.caption.empty();
 }
 
-// The benchmarks that take their time by repetition.
+// The benchmarks that the library times by repetition.
 void registerBenchmarks(const Estate& hundred, const Estate& many, const Estate& most, const ServerProcess& ofHundred,
                         const ServerProcess& ofMany, const ServerProcess& ofMost, const BytePeer& peer) {
     benchmark::RegisterBenchmark("listTenThousand", [&](benchmark::State& state) {
@@ -89,14 +89,14 @@ void registerBenchmarks(const Estate& hundred, const Estate& many, const Estate&
     })->UseRealTime();
 }
 
-// The lower quartile: a machine that has other things to do only ever makes a time longer.
+// The lower quartile: other load can only make a time longer.
 double undisturbed(std::vector<double>& values) {
     std::ranges::sort(values);
     return values[values.size() / 4];
 }
 
-// The time of a create as a part of that of a bare insert. What a disk takes to sync changes from one moment to the
-// next, so the two take turns.
+// The time of a create relative to that of a bare insert. The time that a disk takes to sync varies from moment to
+// moment, so the two take turns.
 double createBesideInsert(const Estate& estate, const ServerProcess& server, WalTable& table) {
     constexpr int rounds = 100;
     client::CQVXAdminClass client(consoleOf(server.port()));
@@ -116,7 +116,7 @@ double createBesideInsert(const Estate& estate, const ServerProcess& server, Wal
     return undisturbed(creates) / undisturbed(inserts);
 }
 
-// The client's calls that receive, for each record of one list.
+// The client's receiving calls per record of one list.
 double receiveCallsForRecord(const Estate& estate, const ServerProcess& server) {
     client::CQVXAdminClass client(consoleOf(server.port()));
     client::Exchange exchange(client, protocol::commandOf<protocol::ListPrinterRecordsRequest>());
@@ -134,7 +134,7 @@ double receiveCallsForRecord(const Estate& estate, const ServerProcess& server) 
     return double(exchange.transport().counts().receiveCalls) / count;
 }
 
-// Calls of the system that send on a socket, for each record of one list.
+// The sending system calls per record of one list.
 double sendCallsForRecord(const Estate& estate, const std::filesystem::path& folder) {
     const auto calls = folder / "calls";
     {
@@ -168,7 +168,7 @@ double secondsToFirstAnswer(const Estate& estate) {
     return undisturbed(seconds);
 }
 
-// The time of a list while another console changes the estate without pause, as a part of its time in peace.
+// The time of a list while another console keeps changing the estate, relative to its time without that.
 double listBesideWriter(const Estate& estate, const ServerProcess& server) {
     client::CQVXAdminClass client(consoleOf(server.port()));
     const auto fastest = [&] {

@@ -57,7 +57,7 @@ ServerProcess::ServerProcess(const std::filesystem::path& database, const std::v
                              const std::vector<std::string>& before) {
     const auto portFile = database.string() + ".port";
     std::filesystem::remove(portFile);
-    // A benchmark that is broken off leaves no server behind.
+    // An interrupted benchmark leaves no server behind.
     std::vector<std::string> words{"setpriv", "--pdeathsig", "TERM"};
     words.insert(words.end(), before.begin(), before.end());
     words.insert(words.end(), {VANTREL_SERVER, "--database", database.string(), "--port", "0", "--port-file", portFile,

@@ -9,15 +9,15 @@
 
 namespace bench {
 
-// The most memory that was resident in a process since the last call of forgetPeakMemory, in bytes.
+// The peak resident memory of a process since the last call of forgetPeakMemory, in bytes.
 [[nodiscard]] std::uint64_t peakMemoryOf(pid_t process);
 void forgetPeakMemoryOf(pid_t process);
 
-// A vantreld of its own process on a free port, asking for no login; it ends with this object.
+// A vantreld in its own process on a free port, without logins; it ends with this object.
 class ServerProcess {
 public:
-    // Returns when the server listens. The command before it, with its arguments, runs the server (strace, for
-    // instance). Throws std::runtime_error when the server does not come up.
+    // Returns when the server listens. A wrapper command with its arguments may run the server (strace, for instance).
+    // Throws std::runtime_error when the server does not start.
     explicit ServerProcess(const std::filesystem::path& database, const std::vector<std::string>& options = {},
                            const std::vector<std::string>& before = {});
     ~ServerProcess();
@@ -26,12 +26,12 @@ public:
 
     [[nodiscard]] std::uint16_t port() const { return port_; }
 
-    // Bytes of memory that are resident now.
+    // The resident memory now, in bytes.
     [[nodiscard]] std::uint64_t residentMemory() const;
 
     [[nodiscard]] pid_t process() const { return process_; }
 
-    // Ends the server and waits for its end.
+    // Ends the server and waits until it has exited.
     void stop();
 
 private:

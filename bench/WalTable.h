@@ -8,7 +8,7 @@ struct sqlite3_stmt;
 
 namespace bench {
 
-// A bare SQLite table in WAL mode with full sync: the anchor for a change that survives a crash.
+// A bare SQLite table in WAL mode with full sync: the baseline for a change that survives a crash.
 class WalTable {
 public:
     explicit WalTable(const std::filesystem::path& file);

@@ -5,12 +5,12 @@
 #include "fuzz/Operations.h"
 #include "fuzz/PeerPlatform.h"
 
-// A console and a server that answers each of its commands with whatever it likes: how the answer comes, what is asked,
+// A console, and a server that answers each command with arbitrary bytes. Input: how the answer arrives, what is asked,
 // and the answer.
 
 namespace {
 
-constexpr std::size_t firstOperation = 128; // below it opcodes, called by their number
+constexpr std::size_t firstOperation = 128; // smaller values are opcodes
 
 void callByNumber(client::CQVXAdminClass& client, std::uint8_t opcode) {
     std::vector<protocol::FieldValue> fields;

@@ -13,8 +13,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-// One connection of the server, and a peer that sends whatever it likes: whether somebody has to have logged in, in
-// what pieces the bytes come, and the bytes.
+// One connection of the server, and a peer that sends arbitrary bytes. Input: whether a login is required, in what
+// pieces the bytes arrive, and the bytes.
 
 namespace {
 
@@ -23,7 +23,7 @@ namespace asio = server::asio;
 constexpr int runsOfAStore = 1000;
 constexpr std::chrono::seconds longestRun(20);
 
-// A folder of its own, gone at the end of the program.
+// A temporary folder, removed at the end of the program.
 class Folder {
 public:
     Folder() {
@@ -43,7 +43,7 @@ private:
     std::filesystem::path path_;
 };
 
-// A database without anything in it but what runs have put there; and what its connections share.
+// A database that contains only what runs have added; and what its connections share.
 class Place {
 public:
     Place() : store_(folder_.path() / "estate.db", server::schema()), accounts_(store_) {
@@ -70,7 +70,7 @@ private:
     std::vector<std::unique_ptr<server::Services>> services_;
 };
 
-// Takes what the server has sent, so that it never waits for room.
+// Receives what the server has sent, so that it never waits for buffer space.
 void drain(int peer) {
     std::array<std::uint8_t, 65536> into;
     while (::recv(peer, into.data(), into.size(), MSG_DONTWAIT) > 0) {
@@ -79,7 +79,7 @@ void drain(int peer) {
 
 void Place::serve(bool loginRequired, std::size_t piece, std::span<const std::uint8_t> bytes) {
     auto& services = *services_[loginRequired ? 1 : 0];
-    services.ledger = server::LoginLedger(std::chrono::minutes(loginRequired ? 1 : 0)); // failures slow down nobody
+    services.ledger = server::LoginLedger(std::chrono::minutes(loginRequired ? 1 : 0)); // failed logins cause no delays
     std::array<int, 2> ends{};
     fuzz::expect(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) == 0);
     asio::ip::tcp::socket socket(context_);

@@ -11,8 +11,8 @@ inline void expect(bool holds) {
         std::abort();
 }
 
-// Runs an action that bad bytes may end with an exception of the standard library or with a plain text; anything else
-// that it throws ends the program.
+// Runs an action that bad bytes may end with a standard exception or with a plain string; any other exception ends the
+// program.
 template <class Action>
 void tolerate(Action&& action) {
     try {

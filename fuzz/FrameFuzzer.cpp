@@ -7,7 +7,7 @@
 
 #include <optional>
 
-// The data of a frame, as each end cuts it into messages; and a message, read in whatever order.
+// The data of a frame, as each end splits it into messages; and a message, read in any order.
 
 namespace {
 
@@ -19,7 +19,7 @@ std::optional<server::RequestFrame> parse(std::uint8_t count, std::span<const st
     }
 }
 
-// What one end takes for a request is one for the other: two messages at most, which fill the frame.
+// Both ends agree on what a request is: at most two messages, which fill the frame.
 void expectMessages(std::span<const std::uint8_t> data, std::uint8_t count) {
     for (; count > 0; --count) {
         wire::Message message;

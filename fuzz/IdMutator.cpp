@@ -4,7 +4,7 @@
 #include <cstring>
 #include <random>
 
-// Changes a request now and then by naming something that is in the estate: nobody guesses an id.
+// Sometimes changes a request so that it names a record of the estate, because random bytes never match an id.
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
@@ -17,7 +17,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     const auto& id = ids[random() % ids.size()];
     const std::size_t taken = id.size() + 2;
     const std::size_t at = 1 + random() % std::max<std::size_t>(size, 1);
-    // In the place of an empty text where there is one, so that what follows keeps its place.
+    // Replaces an empty text if there is one here, so that the following fields stay aligned.
     const bool replaces = at + 2 <= size && data[at] == 0 && data[at + 1] == 0;
     const std::size_t from = std::min(size, at + (replaces ? 2U : 0U));
     const std::size_t moved = size - std::min(from, size);

@@ -7,12 +7,12 @@
 
 namespace fuzz {
 
-// The bytes of a run: first those that choose what is done, then those that are read.
+// The bytes of a run: first those that choose what to do, then those that are read.
 class Input {
 public:
     Input(const std::uint8_t* data, std::size_t size) : rest_(data, size) {}
 
-    // 0 when there is none left.
+    // 0 when none is left.
     [[nodiscard]] std::uint8_t byte() {
         if (rest_.empty())
             return 0;

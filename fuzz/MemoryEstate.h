@@ -7,17 +7,17 @@
 
 namespace fuzz {
 
-// The sample estate in memory, as it was at first for every run.
+// The sample estate in memory, in its initial state for every run.
 class MemoryEstate {
 public:
     MemoryEstate();
 
     [[nodiscard]] server::StoreConnection& connection() { return *connection_; }
 
-    // Undoes what the last run has changed.
+    // Undoes the changes of the last run.
     void restore();
 
-    // All ids that stand in the estate, for those that want to name something that is there.
+    // All ids of the estate, for requests that name existing records.
     [[nodiscard]] std::vector<std::string> ids();
 
 private:
@@ -27,7 +27,7 @@ private:
     int changes_ = 0;
 };
 
-// The one of this program.
+// The instance of this program.
 [[nodiscard]] MemoryEstate& memoryEstate();
 
 } // namespace fuzz

@@ -13,7 +13,7 @@ namespace {
 using client::CQVXAdminClass;
 using protocol::RegionKind;
 
-// Takes records from a cursor until it says that there are none.
+// Takes records from a cursor until it has none left.
 template <auto next>
 void takeAll(CQVXAdminClass& client) {
     const auto take = [&]<class Class, class Record>(bool (Class::*member)(Record&)) {
@@ -24,7 +24,7 @@ void takeAll(CQVXAdminClass& client) {
     take(next);
 }
 
-// A list of the client, read and handed out.
+// A list of the client, read and then iterated.
 template <auto list, auto next>
 void cursor(CQVXAdminClass& client) {
     const auto read = [&]<class Class, class... Arguments>(bool (Class::*member)(Arguments...)) {
@@ -34,7 +34,7 @@ void cursor(CQVXAdminClass& client) {
     takeAll<next>(client);
 }
 
-// A list into a vector of the caller's.
+// A list read into a vector of the caller.
 template <class Record, auto list>
 void whole(CQVXAdminClass& client) {
     std::vector<Record> records;
@@ -48,7 +48,7 @@ void whole(CQVXAdminClass& client) {
         static_cast<void>(std::invoke(list, client, "id", 0, records));
 }
 
-// A question whose answer is one record.
+// A command whose answer is one record.
 template <auto ask>
 void single(CQVXAdminClass& client) {
     static_cast<void>(std::invoke(ask, client, "id"));

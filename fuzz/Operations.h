@@ -6,13 +6,13 @@
 
 namespace fuzz {
 
-// One use of a client that reads something from the server, with whatever comes.
+// One use of a client that reads something from the server, whatever that answers.
 struct Operation {
     std::uint16_t opcode = 0;
     void (*run)(client::CQVXAdminClass&) = nullptr;
 };
 
-// New ones are added at the end, so that inputs that were kept stay what they were.
+// Add new ones at the end, so that stored inputs keep their meaning.
 [[nodiscard]] std::span<const Operation> operations();
 
 } // namespace fuzz

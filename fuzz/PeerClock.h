@@ -4,7 +4,7 @@
 
 namespace fuzz {
 
-// Time that goes by only where a connection waits for its peer, and then at once.
+// A clock that advances only while a connection waits for its peer, and then at once.
 class PeerClock final : public wire::Clock {
 public:
     std::chrono::nanoseconds now() override { return now_; }

@@ -18,7 +18,7 @@ PeerSocket& peer() {
 
 } // namespace fuzz
 
-// The linker takes these and leaves the platform's in their library.
+// These override the platform's own: the linker leaves those in their library.
 namespace wire {
 
 Socket& platformSocket() {

@@ -4,8 +4,7 @@
 
 namespace fuzz {
 
-// The peer that every connection of this program leads to: it and its clock stand in the place of those of the
-// platform.
+// The peer of every connection of this program: it and its clock replace the socket and clock of the platform.
 [[nodiscard]] PeerSocket& peer();
 
 } // namespace fuzz

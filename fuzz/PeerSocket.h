@@ -6,12 +6,13 @@
 
 namespace fuzz {
 
-// A peer in memory: whatever is sent to it, it answers with the bytes of the run, over as many connections as are made.
+// A peer in memory: it answers everything with the bytes of the run, over any number of connections.
 class PeerSocket final : public wire::Socket {
 public:
     explicit PeerSocket(PeerClock& clock) : clock_(clock) {}
 
-    // The manner says in what pieces the bytes come, and whether the peer closes, resets, stalls or fails after them.
+    // The manner selects in what pieces the bytes arrive, and whether the peer closes, resets, stalls or fails after
+    // them.
     void play(std::uint8_t manner, std::span<const std::uint8_t> bytes);
 
     bool start() override { return true; }

@@ -1,7 +1,7 @@
 #include "server/login/PasswordHash.h"
 
-// The linker takes these and leaves the slow ones in their library: a run is no place to spend a tenth of a second on a
-// password that is wrong.
+// These override the slow functions, which the linker leaves in their library: a run must not spend a tenth of a second
+// on a wrong password.
 namespace server {
 
 PasswordHash PasswordHash::of(const std::u16string& password) {

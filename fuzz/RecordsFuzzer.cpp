@@ -7,7 +7,7 @@
 #include <cstring>
 #include <vector>
 
-// The fields of a message, read by a layout of the catalogue: an opcode, which of its layouts, and the fields.
+// The fields of a message, read by a layout of the catalogue. Input: an opcode, which of its layouts, and the fields.
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <set>
 #include <vector>
 
-// Runs a fuzzer on inputs that were kept, without looking for new ones: files, and all files of folders.
+// Runs a fuzzer on stored inputs, without searching for new ones: files, and all files of folders.
 
 namespace {
 
@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
         for (int index = 1; index < argc; ++index)
             addInputs(argv[index], inputs);
         for (const auto& input : inputs) {
-            std::cout << input.filename().string() << std::endl; // before the run, so that it names the one that fails
+            std::cout << input.filename().string() << std::endl; // before the run, so that the failing input is known
             if (!run(input)) {
                 std::cerr << "cannot read " << input.string() << '\n';
                 return 1;

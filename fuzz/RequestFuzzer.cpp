@@ -9,14 +9,14 @@
 
 #include <cstring>
 
-// A request, carried out by its handler on the sample estate: an opcode, and the fields. A console can receive whatever
-// is answered.
+// A request, carried out by its handler on the sample estate. Input: an opcode, and the fields. Checks that a console
+// can receive the answer.
 
 namespace {
 
 constexpr std::size_t pieceSize = 65536;
 
-// The frames of an answer, each with one Data message.
+// Checks the frames of an answer: each contains one Data message.
 void expectFrames(std::span<const std::uint8_t> bytes) {
     while (!bytes.empty()) {
         fuzz::expect(bytes.size() >= wire::frameHeaderSize);

@@ -44,7 +44,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(input.rest().begin(), input.rest().end());
 
     convert(units, choice % 4, (choice & 4) != 0);
-    // A second pass through proper text changes nothing any more.
+    // Converting proper text a second time changes nothing.
     const auto utf8 = wire::toUtf8(units);
     fuzz::expect(wire::toUtf8(wire::toWide(utf8)) == utf8);
     fuzz::expect(wire::toUtf8(wire::toWide(bytes)) == wire::toUtf8(wire::toWide(wire::toUtf8(wire::toWide(bytes)))));

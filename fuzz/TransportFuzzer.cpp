@@ -4,7 +4,7 @@
 #include "fuzz/PeerSocket.h"
 #include "wire/CTrans.h"
 
-// A connection of a console and a peer that sends whatever it likes: frames and raw blocks, in any order.
+// A connection of a console, and a peer that sends arbitrary bytes: frames and raw blocks, in any order.
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <set>
 #include <stdexcept>
 
-// Writes the inputs that the fuzzers begin with into a folder, one folder below it for each fuzzer. They are what each
-// of them reads, put together by hand or field by field from the layouts of the catalogue.
+// Writes the initial inputs of the fuzzers into a folder, with a subfolder for each fuzzer. They are valid inputs,
+// built by hand or field by field from the layouts of the catalogue.
 
 namespace {
 

@@ -6,12 +6,12 @@
 
 namespace bench {
 
-// The same rows as nothing but a table of strings: what a list costs that can nothing else.
+// The same rows as a mere table of strings: the cost of a list that can do nothing else.
 class BareList final : public QAbstractTableModel {
 public:
     BareList() { fill(); }
 
-    // All rows and their strings anew.
+    // Makes all rows and their strings again.
     void refresh();
 
     int rowCount(const QModelIndex& parent) const override;

@@ -18,7 +18,7 @@ namespace {
 constexpr QSize viewSize(1000, 600);
 constexpr int repetitions = 5;
 
-// Nobody to ask.
+// A user interface without a user.
 class NoPerson final : public shell::ShellUserInterface {
 public:
     using ShellUserInterface::ShellUserInterface;
@@ -33,7 +33,7 @@ std::size_t memory() {
     return mallinfo2().uordblks;
 }
 
-// The list of this program on the long list.
+// This program's list model over the long list.
 struct OurList {
     shell::Observers observers;
     shell::TaskQueue tasks;
@@ -55,7 +55,7 @@ struct OurList {
     }
 };
 
-// Makes views on it.
+// Makes views of it.
 struct OurView {
     desktop::ListModel model;
     desktop::ListView view;
@@ -103,7 +103,7 @@ void firstPaintBare(benchmark::State& state) {
     }
 }
 
-// The node makes all texts anew and hands all of its rows to the console again.
+// The node makes all texts again and passes all of its rows to the console again.
 void refresh(benchmark::State& state) {
     OurView shown(ours());
     paint(shown.view);
@@ -124,7 +124,7 @@ void refreshBare(benchmark::State& state) {
     }
 }
 
-// In an order, as the rows of the console are.
+// Sorted, as the rows of the console are.
 void refreshSortedBare(benchmark::State& state) {
     QTreeView view;
     prepare(view);
@@ -212,7 +212,7 @@ double overheadPerRow() {
     return static_cast<double>(memory() - before) / static_cast<double>(rowCount);
 }
 
-// How much more memory there is after twenty refreshes, in per cent.
+// The growth of memory after twenty refreshes, in per cent.
 double growth() {
     OurView shown(ours());
     const auto refreshAndPaint = [&] {

@@ -13,7 +13,7 @@ namespace bench {
 constexpr std::size_t columnCount = 8;
 constexpr std::size_t rowCount = 100'000;
 
-// What stands in a cell, different in each row, not sorted by any column.
+// The text of a cell, different in each row, not sorted by any column.
 std::u16string cellText(std::size_t row, std::size_t column);
 
 // A row of the list.
@@ -24,7 +24,7 @@ public:
 
     std::string refreshKey() const override { return std::to_string(number_); }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
-    // Makes its strings anew, as they would come from a server.
+    // Makes its strings again, as if they came from a server.
     void renew();
 
 private:
@@ -32,7 +32,7 @@ private:
     std::array<std::u16string, columnCount> cells_;
 };
 
-// A node with a long list, which stands in memory.
+// A node with a long list, kept in memory.
 class ManyRows final : public console::CBaseNodeItem<ManyRows> {
 public:
     static constexpr console::NodeIdentity identity{.displayName = u"Many", .openImage = 1, .children = 1};

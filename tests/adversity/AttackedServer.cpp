@@ -16,7 +16,7 @@ using server::Query;
 
 constexpr std::size_t pieceSize = 65536;
 
-// What SQLite says of the database, and whether it waits for the disk.
+// What SQLite reports about the database, and whether it waits for the disk.
 struct Inspection {
     explicit Inspection(sqlite3* connection)
         : version(connection, "PRAGMA data_version"),

@@ -10,26 +10,27 @@ namespace adversity {
 
 using support::Bytes;
 
-// How a server took the data of one frame.
+// What a server did with the data of one frame.
 enum class Taking {
     dropped,  // the connection is closed without an answer
-    refused,  // the change was turned down
-    answered, // it was carried out
+    refused,  // the change was refused
+    answered, // the request was carried out
 };
 
-// The server's way from the data of a frame to the database, in this process and without a network, on a sample estate.
+// The server's code from the data of a frame to the database, run in this process without a network, on a sample
+// estate.
 class AttackedServer {
 public:
     AttackedServer();
 
-    // Carries out what the frame asks for. Throws std::runtime_error when what is dropped or refused has changed
-    // something; anything else that comes out is a fault of the server's as well.
+    // Carries out what the frame asks for. Throws std::runtime_error when a dropped or refused request has changed
+    // something; any other exception is a fault of the server, too.
     Taking take(std::uint8_t count, const Bytes& data);
 
-    // The words of the last refusal.
+    // The text of the last refusal.
     [[nodiscard]] const std::string& refusal() const { return refusal_; }
 
-    // Empty as long as the database is sound.
+    // What is wrong with the database; empty if nothing is.
     [[nodiscard]] std::string unsound();
 
     [[nodiscard]] server::StoreConnection& connection() { return place_.connection(); }

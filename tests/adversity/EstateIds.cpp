@@ -9,13 +9,13 @@ namespace adversity {
 
 namespace {
 
-// A column of what belongs to the first configuration that a queue uses.
+// A column of a row that belongs to the first configuration used by a queue.
 std::string used(const std::string& column, const std::string& table, const std::string& condition) {
     return "SELECT " + column + " FROM queueConfiguration JOIN " + table + " ON " + condition +
            " ORDER BY queueNumber, deploymentId";
 }
 
-// Where a field's id stands, by the name of the record and the field, or of the field alone.
+// The query for a field's id, by the name of the record and the field, or of the field alone.
 const std::map<std::string, std::string, std::less<>>& places() {
     static const std::map<std::string, std::string, std::less<>> all{
         {"printerId", "SELECT id FROM record WHERE recordType = 0"},

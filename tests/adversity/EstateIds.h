@@ -5,8 +5,8 @@
 
 namespace adversity {
 
-// Gives the text fields of samples ids that stand in the estate, so that the requests mean something to its server. An
-// estate that has changed gives other ids. It outlives what is made of it.
+// Fills the text fields of samples with ids that exist in the estate, so that its server understands the requests. Ids
+// follow changes of the estate. The connection must outlive the result.
 [[nodiscard]] KnownText idsOf(server::StoreConnection& connection);
 
 } // namespace adversity

@@ -24,7 +24,7 @@ protected:
 
     static constexpr std::uint32_t nothing = 999;
 
-    // How many the server lists, or nothing when it does not answer.
+    // How many regions the server lists; `nothing` when it does not answer.
     [[nodiscard]] std::uint32_t regions() {
         const auto messages = messagesOf(answerTo(request(0, u8(0) + u32(0) + u16(0))));
         return messages.empty() ? nothing : FieldCursor(messages.front()).number(2);
@@ -50,8 +50,8 @@ TEST_F(FrameMutation, aDamagedQuestionIsDroppedWithoutAnAnswer) {
     EXPECT_EQ(regions(), 0U);
 }
 
-// The checksum misses two bytes that change against each other. What comes of it may be another command than the one
-// that was sent, and the server goes on.
+// The checksum misses two changes that cancel out. The server may see a different command from the one sent, but it
+// goes on.
 TEST_F(FrameMutation, damageThatTheChecksumMissesLeavesTheServerAnswering) {
     const auto sound = request(1, u8(0) + u32(0) + str16(u"North"));
     for (std::size_t first = 9; first < sound.size(); ++first) {

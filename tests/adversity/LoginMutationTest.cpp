@@ -18,7 +18,7 @@ using support::toHex;
 
 constexpr auto loggedIn = "01 07 00 00 00 09 00 00 00 01 07 00 00 00 01 00";
 
-// One key for all tests, since making one takes long.
+// One key for all tests, because generating one takes long.
 const server::LoginKey& key() {
     static const auto made = server::LoginKey::generate();
     return made;
@@ -68,7 +68,7 @@ TEST_F(LoginMutation, aDamagedFrameOfALoginLetsNobodyIn) {
     EXPECT_TRUE(letsIn(login_));
 }
 
-// Every wrong password makes the next try wait, and a right one makes that forgotten.
+// Every wrong password delays the next attempt, and a correct one resets the delay.
 TEST_F(LoginMutation, aDamagedLengthOfACredentialLetsNobodyIn) {
     constexpr std::array<std::size_t, 3> places{27, 27 + 260, 27 + 520};
     for (const auto place : places) {
@@ -100,7 +100,7 @@ TEST(SealedCredential, damageAnywhereNeverOpensAsWhatWasSealed) {
 TEST(PublicKey, damageAnywhereSealsForNobodyOrNothingAtAll) {
     client::initCrypto();
     const auto der = key().publicDer();
-    testing::internal::CaptureStdout(); // the sealing leaves a trace there
+    testing::internal::CaptureStdout(); // sealing prints something
     forEachFlippedBit(der, [](const Bytes& bytes, const std::string& what) {
         EXPECT_LE(client::encryptCredential(std::string(bytes.begin(), bytes.end()), u"secret").size(), 2048U) << what;
     });
@@ -112,7 +112,7 @@ TEST(PublicKey, damageAnywhereSealsForNobodyOrNothingAtAll) {
 
 class FetchKey : public testing::Test {
 protected:
-    // What the console makes of these bytes in answer to its request for the key: the key, or nothing.
+    // What the console gets from these bytes as the answer to its request for the key: the key, or nothing.
     static std::optional<std::string> fetch(const Bytes& answer) {
         support::ScriptedServer server([&](support::ScriptedServer::Connection& connection) {
             connection.expectFrame();
@@ -144,7 +144,7 @@ TEST_F(FetchKey, aDamagedFrameBeforeTheKeyIsAFailure) {
     });
 }
 
-// A block has no checksum: a length that is too small gives the beginning of the key, one that is too large a failure.
+// A block has no checksum: a length that is too small yields the beginning of the key, one that is too large a failure.
 TEST_F(FetchKey, aDamagedLengthGivesTheBeginningOfTheKeyOrAFailure) {
     forEachFlippedBit(u32(40), [&](const Bytes& length, const std::string& what) {
         const auto fetched = fetch(frame_ + length + key_);

@@ -11,20 +11,20 @@ namespace adversity {
 
 using support::Bytes;
 
-// How a peer goes on once all of its bytes are out.
+// What a peer does once it has sent all of its bytes.
 enum class Ending {
     close, // the reader sees the end
     reset, // the reader sees a broken connection
-    stall, // nothing comes any more, and time passes
+    stall, // nothing more arrives, and time passes
 };
 
-// A peer in memory, with a clock of its own: says its bytes in pieces of a chosen size, takes whatever it is sent.
+// A peer in memory, with its own clock: sends its bytes in pieces of a chosen size, and accepts whatever it is sent.
 class MemoryPeer final : public wire::Socket, public wire::Clock {
 public:
     MemoryPeer(Bytes bytes, Ending ending, std::size_t pieceSize = 65536)
         : bytes_(std::move(bytes)), ending_(ending), pieceSize_(pieceSize) {}
 
-    // Seconds that the reader has waited for nothing.
+    // The seconds that the reader has waited in vain.
     [[nodiscard]] std::chrono::seconds waited() const { return waited_; }
 
     bool start() override { return true; }

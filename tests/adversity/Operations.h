@@ -9,7 +9,7 @@
 
 namespace adversity {
 
-// Something that a console does, and what it got as text that can be compared: the same for the same answer.
+// An operation of a console that returns what it received as text for comparison: the same for the same answer.
 struct Operation {
     std::string name;
     std::function<std::string(client::CQVXAdminClass&)> run;
@@ -18,10 +18,10 @@ struct Operation {
 // Operations that only read, each with a reply of a few hundred bytes.
 [[nodiscard]] std::vector<Operation> shortReads();
 
-// Adds a printer to region 1, where no other may have its name; "made" when it was.
+// Adds a printer to region 1, where no other may have its name; returns "made" on success.
 [[nodiscard]] Operation addingPrinter(const wire::WideString& name);
 
-// Every list and every question of the catalogue, with the fields of a sample.
+// Every list and every single read of the catalogue, with the fields of a sample.
 [[nodiscard]] std::vector<Operation> everyRead();
 
 // Runs an operation; what it throws, as text.

@@ -12,7 +12,7 @@
 
 namespace adversity {
 
-// A server on the small sample estate, and a bad line to it.
+// A server on the small sample estate, behind a faulty connection.
 class ProxiedServer : public testing::Test {
 protected:
     explicit ProxiedServer(const server::Limits& limits = {}) : server_(limits) {
@@ -26,12 +26,12 @@ protected:
         line.emplace(server_.port());
     }
 
-    // The settings of a console that goes over the bad line, or straight to the server.
+    // The settings of a console that connects through the faulty proxy, or straight to the server.
     [[nodiscard]] std::shared_ptr<client::CQVXAdminClassProperties> overLine() { return settingsFor(line->port()); }
     [[nodiscard]] std::shared_ptr<client::CQVXAdminClassProperties> straight() { return settingsFor(server_.port()); }
     [[nodiscard]] std::uint16_t serverPort() const { return server_.port(); }
 
-    // Whether the last command that went over the line was reported as a failure.
+    // Whether the last command through the proxy was reported as a failure.
     [[nodiscard]] bool isFailureReported() const {
         return !observer.ended.empty() && observer.ended.back().outcome == client::CommandOutcome::failed &&
                !observer.ended.back().text.empty();

@@ -138,7 +138,7 @@ void Proxy::acceptOne() {
     try {
         line.sockets[1] = connectTo(serverPort_);
     } catch (const std::system_error&) {
-        end(line); // a console sees that as the server's doing
+        end(line); // to a console it looks as if the server had done it
         return;
     }
     prepare(line.sockets[0]);
@@ -153,7 +153,7 @@ void Proxy::acceptOne() {
 
 void Proxy::carry(Line& line, Direction direction) {
     const auto from = indexOf(direction);
-    std::array<std::uint8_t, 65536> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by what comes
+    std::array<std::uint8_t, 65536> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by what is received
     const auto count = ::recv(line.sockets.at(from), bytes.data(), bytes.size(), 0);
     if (count < 0) {
         end(line);

@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A server that gives up on what does not come, so that a test does not wait for it.
+// A server with short time-outs, so that tests do not wait for it.
 constexpr server::Limits impatient{.headerTime = 250ms, .bodyTime = 250ms};
 
 class SlowLine : public ProxiedServer {};
@@ -96,7 +96,7 @@ TEST_F(BrokenLine, aReadWithOneByteChangedAnywhereEndsInAReportedFailure) {
     }
 }
 
-// The checksum does not see it; what comes may be anything that the contract knows, but it comes.
+// The checksum does not detect it; the outcome may be anything that the contract allows, but there is one.
 TEST_F(BrokenLine, aReadWithTwoBytesChangedAgainstEachOtherStillEnds) {
     for (const auto& operation : shortReads()) {
         for (const auto direction : {Direction::toServer, Direction::toClient}) {

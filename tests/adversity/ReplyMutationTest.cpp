@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A header's wait and a body's, one after the other, each noticed within a second; a list has one more of each.
+// The wait for a header and then for a body, each noticed within a second; a list has one more of each.
 constexpr std::chrono::seconds longestWait = 2 * (15s + 500s + 2s);
 
 ReadOutcome read(const SampleReply& reply, const Bytes& bytes, Ending ending = Ending::close) {
@@ -39,7 +39,7 @@ TEST(ReplyMutation, everySampleIsReadAlikeByteForByte) {
     }
 }
 
-// The checksum adds up bytes: one that differs never goes unnoticed where it would matter.
+// The checksum adds up bytes: a single different byte never goes unnoticed where it matters.
 TEST(ReplyMutation, aByteThatDiffersEndsInAFailureOrGivesWhatWasSent) {
     for (const auto& reply : sampleReplies()) {
         const auto sent = read(reply, reply.frames()).read;
@@ -63,7 +63,7 @@ TEST(ReplyMutation, aStreamWithoutItsBeginningStaysWithinTheContract) {
     }
 }
 
-// Bytes that did not come count as zeros: only an end that is nothing but zeros can be missed.
+// Bytes that did not arrive count as zeros: only a missing end of nothing but zeros goes unnoticed.
 TEST(ReplyMutation, aStreamThatIsCutEndsInAFailureOrGivesWhatWasSent) {
     for (const auto& reply : sampleReplies()) {
         const auto sent = read(reply, reply.frames()).read;
@@ -79,7 +79,7 @@ TEST(ReplyMutation, aStreamThatIsCutEndsInAFailureOrGivesWhatWasSent) {
     }
 }
 
-// What a server that is out of its mind says, in sound frames.
+// What a server gone mad sends, in valid frames.
 TEST(ReplyMutation, damageInsideOfASoundFrameStaysWithinTheContract) {
     for (const auto& reply : sampleReplies()) {
         for (std::size_t index = 0; index < reply.messages.size(); ++index) {
@@ -106,7 +106,7 @@ TEST(ReplyMutation, everyCountOfAListStaysWithinTheContract) {
     }
 }
 
-// Two bytes that change against each other leave the checksum right.
+// Two changes that cancel out leave the checksum right.
 TEST(ReplyMutation, damageThatTheChecksumMissesStaysWithinTheContract) {
     for (const auto& reply : sampleReplies()) {
         const auto sound = reply.frames();

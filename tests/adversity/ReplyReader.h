@@ -9,14 +9,14 @@ namespace adversity {
 
 // How the console's reading of a reply ended.
 struct ReadOutcome {
-    bool whole = false;  // every message that was announced came, and was read
-    std::string failure; // else: the text of the reader's contract that it ended with
-    std::string breach;  // an end that the contract does not know
+    bool whole = false;  // every announced message arrived and was read
+    std::string failure; // otherwise: the text, documented in the reader's contract, with which it ended
+    std::string breach;  // an outcome that the contract does not allow
     Bytes read;          // the records, written again
 };
 
 // Reads the reply to a command, whose records have this layout, as the console does: over its transport and with its
-// reader, in the form of the catalogue's row.
+// reader, in the form that the catalogue states.
 [[nodiscard]] ReadOutcome readReply(const protocol::Command& command, const protocol::RecordLayout& layout,
                                     MemoryPeer& peer);
 

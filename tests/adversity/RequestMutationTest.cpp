@@ -21,7 +21,7 @@ Bytes joined(const std::vector<Bytes>& messages) {
     return data;
 }
 
-// What the server makes of the data of a frame; whatever it must not do fails the test.
+// What the server does with the data of a frame; anything that it must not do fails the test.
 Taking attack(AttackedServer& server, const SampleRequest& request, std::size_t count, const Bytes& data,
               const std::string& what) {
     try {
@@ -34,11 +34,11 @@ Taking attack(AttackedServer& server, const SampleRequest& request, std::size_t 
     return Taking::dropped;
 }
 
-// What the tests below damage is not only what a server turns down.
+// Makes sure that the tests below do not only damage requests that a server would refuse anyway.
 TEST(RequestMutation, everyCommandHasASampleThatIsCarriedOut) {
     std::optional<AttackedServer> server(std::in_place);
     std::map<std::string, std::string> failed;
-    // Those of a login are no requests for the estate, and the others need fields that fit each other.
+    // Those of a login are not requests to the estate, and the others need fields that match each other.
     std::set<std::string> done{"22 Login",        "78 GetPublicKey",          "3 MoveRegion",
                                "45 DeleteRegion", "41 CreateInventoryReport", "83 AddShortId"};
     std::string last;
@@ -71,7 +71,7 @@ TEST(RequestMutation, damageInsideOfASoundFrameIsDroppedOrRefusedOrDoneWhole) {
     EXPECT_EQ(server.unsound(), "");
 }
 
-// The data message keeps its length right, so that the damage is seen by nobody but the reader of its fields.
+// The length of the data message stays right, so that only the reader of its fields sees the damage.
 TEST(RequestMutation, damageToTheFieldsAloneIsDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
     for (const auto& request : sampleRequests(idsOf(server.connection()))) {
@@ -96,7 +96,7 @@ TEST(RequestMutation, everyCountOfMessagesIsDroppedOrRefusedOrDoneWhole) {
     EXPECT_EQ(server.unsound(), "");
 }
 
-// The fields of one command under the number of another.
+// The fields of one command with the opcode of another.
 TEST(RequestMutation, fieldsOfOtherCommandsAreDroppedOrRefusedOrDoneWhole) {
     AttackedServer server;
     const auto requests = sampleRequests(idsOf(server.connection()));

@@ -39,7 +39,7 @@ Bytes wideTextOf(Filling filling) {
     if (filling != Filling::rich) {
         return str16(filling == Filling::empty ? u"" : u"Nord");
     }
-    // A character outside of the basic plane, and one byte more than whole units.
+    // A character outside the basic plane, and one extra byte beyond whole units.
     return support::hex("07 00 41 00 3D D8 00 DE 42");
 }
 
@@ -125,7 +125,7 @@ bool isAction(std::uint16_t opcode, std::uint8_t byte) {
     }
 }
 
-// A request whose first byte says what is meant comes once with each of those that the server knows.
+// A request whose first byte selects its form is added once with each byte that the server knows.
 void addForm(std::vector<SampleRequest>& requests, const SampleRequest& request) {
     const auto& fields = request.layout->fields;
     std::vector<std::uint8_t> actions;

@@ -7,18 +7,18 @@
 #include <string>
 #include <vector>
 
-// Messages of every kind that the catalogue knows, made from its layouts, so that a command that joins it takes part.
+// Messages of every kind in the catalogue, made from its layouts, so that new commands are included automatically.
 namespace adversity {
 
 using support::Bytes;
 using support::operator+;
 
-// How much the fields of a sample hold.
+// How a sample's fields are filled.
 enum class Filling {
     empty,    // zeros, empty texts and lists, nothing optional
-    plain,    // as ordinary, but zero in all numbers of one or two bytes, which mostly tell a kind
+    plain,    // as ordinary, but zero in all numbers of one or two bytes, which mostly select a kind
     ordinary, // small numbers, short texts, lists of one
-    rich,     // large numbers, texts outside of the basic plane and of odd length, lists of three
+    rich,     // large numbers, texts outside the basic plane and of odd length, lists of three
 };
 
 // The text of a str8 or uuid field that a peer would understand, such as an id; empty leaves the choice to the filling.
@@ -33,13 +33,13 @@ struct SampleRequest {
     const protocol::RecordLayout* layout = nullptr;
     Bytes fields;
 
-    // The messages of its frame: the fields first when there are any, the command behind them.
+    // The messages of its frame: the fields first, if there are any, then the command.
     [[nodiscard]] std::vector<Bytes> messages() const;
     [[nodiscard]] std::string name() const;
 };
 
-// Every form of every request in every filling; a form that a first byte chooses comes with each byte that the server
-// knows for the opcode.
+// Every form of every request in every filling; a form selected by a first byte is included with each byte that the
+// server knows for the opcode.
 [[nodiscard]] std::vector<SampleRequest> sampleRequests(const KnownText& known = {});
 
 // One reply: a message for each of its frames.
@@ -52,7 +52,7 @@ struct SampleReply {
     [[nodiscard]] std::string name() const;
 };
 
-// The reply of every command that has one, in every filling; a list holds a record of each filling, or none.
+// The reply of every command that has one, in every filling; a list contains a record of each filling, or none.
 [[nodiscard]] std::vector<SampleReply> sampleReplies();
 
 } // namespace adversity

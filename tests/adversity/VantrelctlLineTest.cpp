@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-// The command line over a bad line.
+// The command line over a faulty connection.
 namespace adversity {
 namespace {
 
@@ -41,12 +41,12 @@ TEST_F(VantrelctlLine, aTreeReadByteByByteIsTheSameTree) {
     }
 }
 
-// A size that has grown goes unnoticed at the end of a reply, where the bytes that are missing count as zeros.
+// An increased size goes unnoticed at the end of a reply, where missing bytes count as zeros.
 TEST_F(VantrelctlLine, aCallThatIsCutOrDamagedFailsWithOneLineOrGivesWhatWasSent) {
     const Arguments call{"call", "0", "u8:0", "u32:0", "u16:0"};
     const auto sound = over({}, call);
     ASSERT_EQ(sound.status, 0) << sound.errors;
-    constexpr std::size_t command = 2; // behind the two connections of the login
+    constexpr std::size_t command = 2; // after the two connections of the login
     for (const std::size_t place : {0U, 1U, 5U, 9U, 15U, 16U, 25U, 40U}) {
         for (const Fault& fault :
              {Fault{.direction = Direction::toClient, .cutAfter = place, .connection = command},

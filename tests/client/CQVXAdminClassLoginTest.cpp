@@ -30,7 +30,7 @@ protected:
         };
     }
 
-    // Takes the three blocks, and answers with this frame.
+    // Receives the three blocks, and answers with this frame.
     ScriptedServer::Script takesCredentials(const Bytes& reply) {
         return [this, reply](Connection& connection) {
             connection.expectFrame();

@@ -8,7 +8,7 @@ using protocol::PrinterRecord;
 
 class Printers : public ClientTest {
 protected:
-    // The fields of a record in which only the name is of interest.
+    // The fields of a record of which only the name matters.
     static Bytes named(char letter) {
         Bytes fields = protocol::ordinaryPrinterFields();
         fields[52] = static_cast<std::uint8_t>(letter);

@@ -23,7 +23,7 @@ using support::hex;
 using support::operator+;
 using Connection = support::ScriptedServer::Connection;
 
-// A client on settings of its own, and a server that plays a script for each of its connections.
+// A client with its own settings, and a server that plays a script for each of its connections.
 class ClientTest : public testing::Test {
 protected:
     ClientTest() {
@@ -37,7 +37,7 @@ protected:
         settings->port = server->port();
     }
 
-    // One connection for each reply: takes a frame, answers with these bytes, and waits for the end.
+    // One connection for each reply: receives a frame, answers with these bytes, and waits for the end.
     void answer(const std::vector<Bytes>& replies) {
         std::vector<support::ScriptedServer::Script> scripts;
         scripts.reserve(replies.size());
@@ -50,13 +50,13 @@ protected:
         serve(std::move(scripts));
     }
 
-    // What came in over a connection, once all scripts have ended well.
+    // The bytes received over a connection, once all scripts have ended without a failure.
     Bytes received(std::size_t connection = 0) {
         EXPECT_EQ(server->finish(), "");
         return server->received(connection);
     }
 
-    // What a request with these fields is on the wire: the fields first, the command behind them.
+    // A request with these fields on the wire: the fields first, then the command.
     static Bytes request(std::uint16_t opcode, const Bytes& fields, std::uint16_t version = 1) {
         return frame({dataMessage(fields), commandMessage(opcode, version)});
     }

@@ -221,7 +221,7 @@ TEST_F(PrinterEdit, aNewQueueThatIsSavedAgainIsNotCreatedASecondTime) {
     EXPECT_TRUE(edit.exists());
 
     EXPECT_TRUE(edit.save());
-    EXPECT_EQ(observer.ended.size(), 1U); // what was set has gone out with the new record
+    EXPECT_EQ(observer.ended.size(), 1U); // what was set has been sent with the new record
     edit.setPort(9100);
     EXPECT_TRUE(edit.save());
 

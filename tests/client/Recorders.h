@@ -10,7 +10,7 @@
 
 namespace client {
 
-// Keeps what a command observer is told.
+// Records the calls of a command observer.
 class RecordingObserver final : public CommandObserver {
 public:
     void commandStarted(const CommandReport& report) override { started.push_back(report); }
@@ -20,7 +20,7 @@ public:
     std::vector<CommandReport> ended;
 };
 
-// Keeps what the server's messages show.
+// Records the messages of the server.
 class RecordingMessages final : public ServerMessages {
 public:
     struct Box {
@@ -38,7 +38,7 @@ public:
     std::vector<Box> boxes;
 };
 
-// Gives up at the first question.
+// Cancels at the first call.
 class GivingUp final : public wire::WaitObserver {
 public:
     bool keepWaiting(std::chrono::milliseconds, std::uint32_t) override { return false; }

@@ -45,7 +45,7 @@ wire::WideString ServerKey::open(const support::Bytes& cipher) const {
     unsigned long paddedSize = padded.size();
     check(rsa_exptmod(cipher.data(), static_cast<unsigned long>(cipher.size()), padded.data(), &paddedSize, PK_PRIVATE,
                       &key_->rsa));
-    // 00 02, at least eight bytes of padding, 00, the text. The library's own decoder takes no empty text.
+    // 00 02, at least eight bytes of padding, 00, the text. The library's own decoder rejects an empty text.
     const unsigned char* const begin = padded.data();
     const unsigned char* const end = begin + paddedSize;
     const auto* const separator = std::find(begin + 2, end, 0);

@@ -8,7 +8,7 @@
 
 namespace client {
 
-// An RSA key as a server has it: gives away its public half and opens what was sealed with it.
+// An RSA key as a server has it: returns its public half and opens what was sealed with it.
 class ServerKey {
 public:
     explicit ServerKey(int bits = 2048);
@@ -27,7 +27,7 @@ private:
     std::unique_ptr<Key> key_;
 };
 
-// The one key of all tests, since making one takes long.
+// One key for all tests, because generating one takes long.
 [[nodiscard]] const ServerKey& serverKey();
 
 } // namespace client

@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A box that may stand in the back of the cupboard, where the tree does not show it.
+// A jar that may be at the back of the cupboard, where the tree does not show it.
 class JarNode final : public CBaseNodeItem<JarNode> {
 public:
     static constexpr NodeIdentity identity{.displayName = u"Jar"};
@@ -29,7 +29,7 @@ private:
     std::string id_;
 };
 
-// A cupboard with a fixed shelf, boxes, and jars, of which there is a second set as rows.
+// A cupboard with a fixed shelf, boxes, and jars, which also have a second set of nodes for the rows.
 class CupboardNode final : public CBaseNodeItem<CupboardNode> {
 public:
     static constexpr NodeIdentity identity{.displayName = u"Cupboard", .children = 2};

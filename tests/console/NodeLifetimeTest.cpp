@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Which of a console's faces a node keeps, and who keeps a node.
+// Which of a console's interfaces a node keeps, and who keeps a node alive.
 class NodeLifetime : public testing::Test {
 protected:
     NodeLifetime() { shelf->records = {{"a", u"Apples"}, {"b", u"Bolts"}}; }
@@ -78,7 +78,7 @@ TEST_F(NodeLifetime, knowsNoConsoleOnceThatWasTakenFromTheSnapIn) {
     EXPECT_THAT(platform.ui.presses(), IsEmpty());
 }
 
-// A console that knows its rows by the nodes' addresses alone has somebody keep them.
+// A console that knows its rows only by the nodes' addresses needs somebody to keep them alive.
 TEST_F(NodeLifetime, endsWithTheLastRowThatShowsIt) {
     expand();
     const std::weak_ptr<BoxNode> apples = shelf->boxes[0];

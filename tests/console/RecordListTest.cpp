@@ -21,7 +21,7 @@ struct BookRecord {
     std::int32_t year = 0;
 };
 
-// What the lists of the test are read from, and what they were told to do.
+// What the lists of the test are read from, and a record of what they were asked to do.
 struct Library {
     std::vector<BookRecord> books{{"m", u"Middlemarch", u"Eliot", 1871}, {"e", u"Emma", u"Austen", 1815}};
     bool answers = true;

@@ -16,7 +16,7 @@ struct BoxRecord {
     wire::WideString name;
 };
 
-// A box on a shelf: a leaf that stands as a row in the shelf's list and in the tree.
+// A box on a shelf: a leaf that is a row in the shelf's list and an item of the tree.
 class BoxNode final : public CBaseNodeItem<BoxNode> {
 public:
     static constexpr NodeIdentity identity{.displayName = u"Box", .image = 4, .openImage = 5, .strip = noStrip};
@@ -41,8 +41,8 @@ private:
     std::string id_;
 };
 
-// A shelf with boxes, which it reads from a list as other nodes read theirs from the server. What it does can be set by
-// the test.
+// A shelf with boxes, which it reads from a list as other nodes read theirs from the server. The test sets its
+// behaviour.
 class ShelfNode final : public CBaseNodeItem<ShelfNode> {
 public:
     static constexpr NodeIdentity identity{
@@ -53,7 +53,7 @@ public:
     explicit ShelfNode(platform::Platform& platform) : CBaseNodeItem(platform) {}
 
     std::vector<Record> records;
-    std::function<void()> reading; // called where the server would be asked
+    std::function<void()> reading; // called where other nodes ask the server
     std::function<Result(std::int32_t, CommandOrigin)> command;
     std::function<Result()> pasting;
     wire::WideString renamedTo;

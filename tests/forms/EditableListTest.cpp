@@ -16,7 +16,7 @@ using platform::Answer;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Lists names, and notes down what it is asked to do.
+// Lists names, and records what it is asked to do.
 class NameList final : public EditableList {
 public:
     explicit NameList(Container& container) : EditableList(container, u"Names", u"Edit...") {

@@ -7,7 +7,7 @@
 
 namespace forms {
 
-// A host that notes down what the form tells it.
+// A host that records what the form reports.
 class RecordingFormObserver final : public FormObserver {
 public:
     std::vector<std::pair<Control*, Aspect>> changes;

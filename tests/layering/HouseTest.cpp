@@ -8,7 +8,7 @@ namespace {
 
 using testing::IsEmpty;
 
-// The project's own sources against the rules of the house.
+// Checks the project's own sources against the layering rules.
 class House : public testing::Test {
 protected:
     const SourceTree tree = readSourceTree(VANTREL_SOURCE_DIR);

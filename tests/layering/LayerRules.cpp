@@ -14,10 +14,10 @@ namespace {
 constexpr std::size_t longestSource = 500;
 constexpr std::size_t longestMedian = 150;
 
-// The one header of ours that includes those of Windows, and counts as one of them.
+// The only project header that includes Windows headers; it counts as one of them.
 constexpr std::string_view windowsHeader = "src/diagnostics/DbgHelp.h";
 
-// Each folder with those that it builds on directly; what these build on comes with them.
+// Each folder with its direct dependencies; indirect ones follow from these.
 const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
     static const std::map<std::string, std::vector<std::string>, std::less<>> folders{
         {"src/wire", {}},
@@ -56,7 +56,7 @@ const std::map<std::string, std::vector<std::string>, std::less<>>& house() {
         {"server/login", {"server/store", "server/net"}},
         {"server/estate", {"server/commands"}},
         {"server/configurations", {"server/estate"}},
-        {"server/drivers", {"server/configurations"}}, // what queues use goes along with a deployment
+        {"server/drivers", {"server/configurations"}}, // removing a deployment also removes what queues use with it
         {"server/rules", {"server/estate"}},
         {"server/alarms", {"server/estate"}},
         {"server/inventory", {"server/estate"}},
@@ -74,19 +74,19 @@ bool isSource(const SourceFile& file) {
     return file.path.ends_with(".cpp") || file.path.ends_with(".h");
 }
 
-// Tests, benchmarks and fuzzers look at everything.
+// Tests, benchmarks and fuzzers may include everything.
 bool isProgramSource(const SourceFile& file) {
     return isSource(file) && startsWithAny(file.path, {"src/", "hosts/", "server/"});
 }
 
-// Whether the house tells rooms below the folder.
+// Whether the layering lists subfolders of the folder.
 bool hasRooms(std::string_view folder) {
     const auto below = std::string(folder) + "/";
     return std::ranges::any_of(house(), [&](const auto& one) { return one.first.starts_with(below); });
 }
 
-// The folder of the house that a file belongs to: the nearest one above it that has a place there, else the one that it
-// stands in. A folder beside the rooms of another one has no place.
+// The folder of the layering that a file belongs to: the nearest one above it that is listed, or else the one that
+// contains the file. An unlisted folder beside listed subfolders does not belong to any.
 std::string folderOf(std::string_view path) {
     const auto own = path.substr(0, path.rfind('/'));
     for (auto folder = own; !folder.empty(); folder = folder.substr(0, folder.rfind('/'))) {
@@ -154,7 +154,7 @@ bool isWordCharacter(char character) {
     return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
 }
 
-// The words of a line of a build script, as far as no comment begins.
+// The words of a line of a build script, up to a comment.
 std::set<std::string_view> wordsOf(std::string_view line) {
     std::set<std::string_view> words;
     line = line.substr(0, line.find('#'));

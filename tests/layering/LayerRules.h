@@ -7,16 +7,16 @@
 
 namespace layering {
 
-// What is wrong, one line each, beginning with the path; empty when a rule is kept.
+// The violations, one line each, starting with the path; empty when a rule is kept.
 using Complaints = std::vector<std::string>;
 
-// Every folder includes only itself and the folders below it in the house; nothing includes a host or a test.
+// Every folder includes only itself and the folders below it in the layering; nothing includes a host or a test.
 Complaints includesAcrossLayers(const SourceTree& tree);
 
-// Qt, Win32 and SQLite headers stand only in the folders that own them, Win32 headers only in sources there.
+// Qt, Win32 and SQLite headers are included only in the folders that own them, Win32 headers only in sources there.
 Complaints platformHeadersOutside(const SourceTree& tree);
 
-// An include is told from the root of the sources, never from where the including file stands.
+// Include paths start at the source root, never at the including file.
 Complaints relativeIncludes(const SourceTree& tree);
 
 // No source is longer than 500 lines, and half of the sources of the programs are shorter than 150.
@@ -25,7 +25,7 @@ Complaints longSources(const SourceTree& tree);
 // CMake files name their sources: a glob misses new files until somebody configures again.
 Complaints globbedSources(const SourceTree& tree);
 
-// Every source and header stands in the CMakeLists.txt of its folder, or of the nearest folder above that has one.
+// Every source and header is listed in the CMakeLists.txt of its folder, or of the nearest folder above that has one.
 Complaints unlistedSources(const SourceTree& tree);
 
 } // namespace layering

@@ -15,7 +15,8 @@ struct SourceFile {
 // The sources, headers and CMake files of the project, in the order of their paths.
 using SourceTree = std::vector<SourceFile>;
 
-// Throws std::runtime_error when the root holds no src folder, so that a wrong path cannot pass for a clean tree.
+// Throws std::runtime_error when the root contains no src folder, so that a wrong path is not mistaken for a clean
+// tree.
 SourceTree readSourceTree(const std::filesystem::path& root);
 
 } // namespace layering

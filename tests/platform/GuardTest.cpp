@@ -15,7 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Keeps the lines for as long as the test lives; the list of loggers lives longer.
+// Keeps the lines only during a test; the list of loggers lives longer.
 class LineKeeper final : public QvxDiagnostics::LoggerI {
 public:
     explicit LineKeeper(std::shared_ptr<std::vector<std::string>> lines) : lines_(std::move(lines)) {}

@@ -131,7 +131,7 @@ TEST_F(Printer, isDeletedAfterTheQuestion) {
     EXPECT_EQ(console_.calls,
               (Strings{"DeleteItem " + row + " itself", queuesRefreshed(), "SelectScopeItem " + idOf(u"North")}));
     EXPECT_EQ(platform_.ui.presses(),
-              (Presses{{Key::f5}, {Key::f5, Key::f5}})); // of the handler, and after the command
+              (Presses{{Key::f5}, {Key::f5, Key::f5}})); // from the handler, and after the command
 }
 
 TEST_F(Printer, leavesTheListWhenItIsDeletedFromThere) {

@@ -16,7 +16,7 @@ using support::shownNode;
 
 class PrinterRegion : public PrinterTree {
 protected:
-    // What the console's person does in the dialog of a new region.
+    // What the user does in the dialog of a new region.
     void expectNewRegion(const char16_t* name, std::int32_t newRegionId = 0) {
         platform_.ui.expect<CreateRegionDlg>([name, newRegionId](CreateRegionDlg& dialog) {
             dialog.name.userTyped(name);
@@ -323,7 +323,7 @@ TEST_F(PrinterRegion, thatHoldsOnlyAnEmptySubRegionIsNotDeletedAndNoDeleteIsSent
     EXPECT_EQ(platform_.ui.boxes().back().caption, u"Information");
     EXPECT_EQ(platform_.ui.boxes().back().style, platform::boxStyle::iconInformation);
     EXPECT_EQ(estate_.requests(6).back(), "0: 00 00 00 00 00 00 00");
-    EXPECT_EQ(platform_.commands().size(), 6U); // three lists of expanding, three of the check
+    EXPECT_EQ(platform_.commands().size(), 6U); // three lists for expanding, three for the check
     EXPECT_TRUE(console_.calls.empty());
 }
 

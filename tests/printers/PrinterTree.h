@@ -32,7 +32,7 @@ protected:
         estate_.printers = {support::printer("p1", 1, u"Copier"), support::printer("p2", 1, u"Plotter")};
     }
 
-    // Expands a node that stands in the tree.
+    // Expands a node of the tree.
     console::Result expandNode(std::u16string_view name) {
         return support::expand(console_, *support::nodeOf(console_, name), support::rowOf(console_, name));
     }
@@ -44,7 +44,7 @@ protected:
         console_.calls.clear();
     }
 
-    // Puts a row below that of the queues, which a refresh of the queues takes away.
+    // Adds a row below that of the queues, which a refresh of the queues removes.
     void watchQueues() { console_.addScopeRow(queues_, queuesRow_); }
 
     std::string queuesRefreshed() const { return "DeleteItem " + std::to_string(queuesRow_) + " children"; }

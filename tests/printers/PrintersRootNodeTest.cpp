@@ -189,7 +189,7 @@ TEST_F(PrintersRoot, doesNotMoveAPastedPrinter) {
     paste(console_, *root_, *support::nodeOf(console_, u"Copier"));
 
     EXPECT_TRUE(platform_.ui.presses().empty());
-    EXPECT_EQ(platform_.commands().size(), 3U); // the lists of expanding
+    EXPECT_EQ(platform_.commands().size(), 3U); // the lists for expanding
 }
 
 } // namespace

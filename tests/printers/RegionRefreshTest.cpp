@@ -30,7 +30,7 @@ protected:
         }
         return 0;
     }
-    // What the server is asked while the work is done.
+    // The commands that the server receives during the work.
     Strings asked(std::size_t most, const std::function<void()>& work) {
         const auto before = estate_.requests(0).size();
         work();

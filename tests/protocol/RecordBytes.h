@@ -17,7 +17,7 @@ std::string hexOf(const R& record) {
     return support::toHex({message->bytes().begin(), message->bytes().end()});
 }
 
-// Hex text in the form that toHex gives it.
+// Hex text in the form that toHex returns.
 inline std::string tidy(const std::string& hexText) {
     return support::toHex(support::hex(hexText));
 }
@@ -41,7 +41,7 @@ R fromFields(const std::string& hexText) {
     return fromFields<R>(support::hex(hexText));
 }
 
-// So many bytes of one value.
+// The given number of bytes of one value.
 inline support::Bytes repeated(std::size_t count, const std::string& hexText) {
     const support::Bytes unit = support::hex(hexText);
     support::Bytes bytes;

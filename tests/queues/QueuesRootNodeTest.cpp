@@ -42,7 +42,7 @@ TEST(QueuesRoot, keepsItsRowForRefreshesFromOutside) {
     const auto root = std::make_shared<QueuesRootNode>(platform);
     const auto row = console.addScopeRow(root);
     expand(console, *root, row);
-    console.addScopeRow(root, row); // something to be taken away by the refresh
+    console.addScopeRow(root, row); // something for the refresh to remove
 
     QueuesRootNode::refreshInstance(console);
 

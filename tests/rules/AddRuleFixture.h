@@ -7,7 +7,7 @@
 
 #include <memory>
 
-// The dialog that makes rule entries, over an estate with two of each kind of object.
+// The dialog that creates rule entries, over an estate with two of each kind of object.
 class AddRuleFixture : public ::testing::Test {
 protected:
     using AddRuleEntryDlg = rules::AddRuleEntryDlg;

@@ -27,7 +27,7 @@ protected:
     rules::RuleEntryPlace place(std::string parentId = {}) {
         return {.entries = entries_, .ownerId = "g1", .ownerNumber = 0, .parentId = std::move(parentId)};
     }
-    // A dialog that lacks nothing.
+    // Fills in every field.
     void fill(CNewRuleDialog& dialog) {
         dialog.open();
         dialog.name.userTyped(u"Billing");

@@ -286,7 +286,7 @@ TEST_F(RuleGroupDialog, editsThePlanThatAnEntryPointsAtAndTheEntryWithIt) {
 
     dialog->editButton.userPressed();
 
-    EXPECT_EQ(estate_.requests(2)[1], "69: 05 00 70 6C 61 6E 31"); // only that plan
+    EXPECT_EQ(estate_.requests(2)[1], "69: 05 00 70 6C 61 6E 31"); // only this plan
     EXPECT_EQ(estate_.change<protocol::UpdateRuleEntryRequest>(2).entry, estate_.entries["g1"][1]);
 }
 

@@ -7,7 +7,7 @@ using platform::Answer;
 using rules::PageLimitDlg;
 using rules::SearchDestinationDlg;
 
-// What becomes of a print job beyond its limit, and where it goes.
+// What happens to a print job beyond its limit, and where it goes.
 class PageLimitAction : public PageLimitFixture {
 protected:
     // The row and the text of the Action list for a number.

@@ -300,7 +300,7 @@ TEST_F(PageLimitDialog, tellsTheDialogOfARuleAboutTheNewLimit) {
     auto added = longJobs();
     added.id = dialog.limit().id;
     added.name = u"Posters";
-    estate_.limits.push_back(added); // as the server has it by then
+    estate_.limits.push_back(added); // as the server has it by now
 
     dialog.okButton().userPressed();
 

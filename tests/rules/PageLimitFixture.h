@@ -25,7 +25,7 @@ inline protocol::UserMessageRecord userMessage(const wire::Uuid& id, wire::WideS
     return record;
 }
 
-// A limit that stands on the server.
+// A limit of the server.
 inline protocol::PageLimitRecord longJobs() {
     return {.id = "limit-1",
             .priority = 5,
@@ -47,7 +47,7 @@ inline protocol::PageLimitRecord longJobs() {
             .extraText2 = u"three"};
 }
 
-// A dialog for page limits before a server that has one limit, two messages and two queues.
+// A dialog for page limits, with a server that has one limit, two messages and two queues.
 class PageLimitFixture : public ::testing::Test {
 protected:
     PageLimitFixture() {

@@ -141,7 +141,7 @@ TEST_F(PageLimiters, keepOneWhenTheQuestionIsCancelled) {
     EXPECT_TRUE(platform_.ui.presses().empty());
 }
 
-// A limit that another administrator removes between the list and the question for it.
+// A limit that another administrator removes after the list was read and before the limit is.
 TEST(PageLimitersOfAChangingServer, haveNoRowsWhenALimitHasGoneMeanwhile) {
     support::TestPlatform platform;
     support::FakeEstate estate(platform.platform().hooks);

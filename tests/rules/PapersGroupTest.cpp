@@ -448,7 +448,7 @@ TEST_F(Papers, aRowWithoutANameCannotBeUpdated) {
     expectAdding();
 }
 
-// A row whose exact price the boxes round when they show it.
+// A row whose exact price is rounded in the boxes.
 protocol::PriceEntryRecord exactRow(std::uint8_t kind, std::uint16_t paperCode) {
     return {.id = "row",
             .paperName = "A4",

@@ -106,7 +106,7 @@ TEST_F(PricePlans, makeOneAndReadTheListAnew) {
     EXPECT_EQ(estate_.change<protocol::WritePricePlanRequest>(1).plan.name, u"Guests");
     EXPECT_EQ(console_.calls, Strings{"SelectScopeItem 1"});
     EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::up, Key::down, Key::f5, Key::f5}}));
-    EXPECT_EQ(platform_.commands(), Strings{"WritePricePlan"}); // no rule entry is made to point at it
+    EXPECT_EQ(platform_.commands(), Strings{"WritePricePlan"}); // no rule entry is made for it
 }
 
 TEST_F(PricePlans, readTheListAnewAfterACancelToo) {

@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-// Records of the rules with the fields that tests mostly care for.
+// Records of the rules with the fields that most tests need.
 namespace samples {
 
 inline protocol::AffectedRecord affected(std::string id, wire::WideString name) {
@@ -65,7 +65,7 @@ inline std::vector<wire::WideString> textsOf(const forms::DropList& list) {
     return texts;
 }
 
-// Selects as a person does; fails the test when no row has the text.
+// Selects as the user does; fails the test when no row has the text.
 inline void choose(forms::DropList& list, std::u16string_view text) {
     const auto row = std::ranges::find(list.items(), text, &forms::DropListItem::text) - list.items().begin();
     EXPECT_TRUE(list.userSelected(static_cast<std::size_t>(row))) << wire::toUtf8(text);

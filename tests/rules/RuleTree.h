@@ -23,7 +23,7 @@ protected:
     template <class Node>
     std::shared_ptr<Node> standing() {
         auto node = std::make_shared<Node>(platform_);
-        node->scopeFields().ID = console_.addScopeRow(node); // as the console does when it takes the row in
+        node->scopeFields().ID = console_.addScopeRow(node); // as the console does when it inserts the row
         support::expand(console_, *node, node->scopeFields().ID);
         console_.calls.clear();
         return node;

@@ -19,7 +19,7 @@ using rules::ShortIdDlg;
 const wire::Uuid knownId = wire::parseUuid("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480");
 const wire::Uuid quotaId = wire::parseUuid("00000000-0000-4000-8000-000000000001");
 
-// A rule that stands on the server.
+// A short id of the server.
 ShortIdRecord lobby() {
     ShortIdRecord record;
     record.id = knownId;
@@ -37,7 +37,7 @@ protected:
         estate_.messages = {quota};
     }
 
-    // What is shown of a record, as "Valid for" with its unit.
+    // The "Valid for" value shown for a record, with its unit.
     wire::WideString validTimeOf(std::uint32_t minutes) {
         auto record = lobby();
         record.validMinutes = minutes;

@@ -13,7 +13,7 @@ namespace {
 using protocol::FieldKind;
 using test::Bytes;
 
-// A value of so many bytes, or a text, a list or an optional that is empty.
+// A value of the kind's size, or an empty text, list or optional.
 Bytes fieldOf(FieldKind kind, std::uint8_t number) {
     switch (kind) {
     case FieldKind::u8:
@@ -35,8 +35,8 @@ Bytes fieldOf(FieldKind kind, std::uint8_t number) {
     }
 }
 
-// A request in which each kind of list and each mode is this number. A text is empty or, if it is to name something,
-// one letter.
+// A request in which each kind of list and each mode has this number. Texts are empty or, if they name something, one
+// letter.
 Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool named) {
     Bytes fields;
     for (const auto& field : layout.fields) {
@@ -47,7 +47,7 @@ Bytes fieldsOf(const protocol::RecordLayout& layout, std::uint8_t number, bool n
     return fields;
 }
 
-// Asks for the list and takes its first piece; what no handler takes is passed over.
+// Requests the list and takes its first piece; requests that no handler takes are skipped.
 void askForList(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields) {
     try {
         ReplyBuffer buffer;

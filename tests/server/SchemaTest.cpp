@@ -59,7 +59,7 @@ TEST(Schema, eachFieldOfAPrinterRecordHasAColumnOfItsName) {
     });
 }
 
-// A database of the version before the keys of names were made anew, with what the statement puts into it.
+// A database of the version before the keys of names were recomputed, with the rows that the statement inserts.
 SQLite::Database withOldKeys(const test::TestFolder& folder, const std::string& statement) {
     auto database = openNew(folder);
     auto old = schema();
@@ -95,7 +95,7 @@ TEST(Schema, theKeyOfAnEmptyTextStaysEmpty) {
     EXPECT_EQ(database.execAndGet("SELECT hex(nameKey) FROM ruleGroup").getString(), "");
 }
 
-// What stands in every table was stored under the present keys already, so nothing of it changes.
+// Everything in the tables was already stored with the current keys, so nothing changes.
 TEST(Schema, makingKeysAnewChangesNoKeyThatIsRight) {
     test::TestEstate place;
     place.connection().change([&] {

@@ -30,7 +30,7 @@ protected:
         return arguments;
     }
 
-    // Runs to its end, which must come at once.
+    // Runs until it exits, which must be at once.
     static std::pair<int, std::string> run(const std::vector<std::string>& arguments) {
         VantreldProcess process(arguments);
         const int status = process.wait();

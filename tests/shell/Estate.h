@@ -14,14 +14,14 @@ namespace shelltest {
 
 class FolderNode;
 
-// What the nodes of a test read their children from, in place of a server, and what they report back.
+// What the nodes of a test read their children from instead of a server, and a record of what they did.
 struct Estate {
     struct Entry {
         std::string key;
         wire::WideString name;
         wire::WideString number{};
         bool leaf = false;
-        std::optional<std::int64_t> time{}; // by which its number is sorted
+        std::optional<std::int64_t> time{}; // by which its number column is sorted
     };
 
     std::map<std::string, std::vector<Entry>> below; // by the key of the parent

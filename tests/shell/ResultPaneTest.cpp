@@ -6,7 +6,7 @@
 namespace shelltest {
 namespace {
 
-// Writes down what happens to the rows.
+// Records what happens to the rows.
 class RowEvents final : public shell::ShellObserver {
 public:
     void rowsInserted(std::size_t first, std::size_t count) override { add("in", first, count); }
@@ -108,7 +108,7 @@ TEST_F(ResultPane, redrawsARowThatAFilterHidesOnceItIsShown) {
     EXPECT_EQ(pane.row(0).image, 7);
 }
 
-// Dates of the last month of one year and the first of the next, as an American reads them.
+// Dates in the last month of one year and the first months of the next, in American format.
 TEST_F(ResultPane, sortsDatesByTheirTimesAndNotByTheirTexts) {
     const auto add = [&](const wire::WideString& name, const wire::WideString& date, std::optional<std::int64_t> time) {
         const auto node = std::make_shared<LeafNode>(

@@ -15,7 +15,7 @@
 
 namespace shelltest {
 
-// Nobody at the screen: boxes are answered with OK, forms are cancelled.
+// A user interface without a user: boxes are answered with OK, forms are cancelled.
 class QuietUserInterface final : public shell::ShellUserInterface {
 public:
     using ShellUserInterface::ShellUserInterface;
@@ -26,7 +26,7 @@ public:
     int runModal(forms::Form&, platform::WindowHandle) override { return 2; }
 };
 
-// A shell on the estate
+// A shell on this estate:
 //
 //     Top             its children are listed by the console itself
 //         A           A2, A10 (folders), a1, a2 (leaves)

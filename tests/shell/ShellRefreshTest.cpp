@@ -14,7 +14,7 @@ protected:
     }
 };
 
-// Writes down what happens to the tree.
+// Records what happens to the tree.
 class TreeEvents final : public shell::ShellObserver {
 public:
     void scopeItemsInserted(console::ScopeId, std::size_t first, std::size_t count) override {
@@ -95,7 +95,7 @@ TEST_F(ShellRefresh, doesNotReadWhatIsNotOpen) {
     shell.select(top());
     estate.lists.clear();
 
-    shell.refresh(); // A was loaded to be shown, and never opened
+    shell.refresh(); // A was loaded to be shown, but never opened
 
     EXPECT_EQ(estate.lists, (Lines{"top"}));
 }
@@ -137,7 +137,7 @@ TEST_F(ShellRefresh, keepsTheSelectedItemThatAnotherNodeReads) {
 
     EXPECT_EQ(shell.selection().scope, inner);
     EXPECT_EQ(snapIn.log.back(), "select A2 on");
-    EXPECT_TRUE(rows().empty()); // those of A2, not those that A has put into the list
+    EXPECT_TRUE(rows().empty()); // the rows of A2, not those that A has inserted
 }
 
 TEST_F(ShellRefresh, selectsTheNearestItemLeftWhenTheSelectedOneIsGone) {
@@ -159,7 +159,7 @@ TEST_F(ShellRefresh, rowsOfAnotherNodeDoNotStay) {
         node.RefreshNode(node.itsConsole(), node.scopeFields().ID, node.itsConsole());
     };
 
-    shell.invoke(1, {b(), 0}); // not loaded before, so that its console is not known
+    shell.invoke(1, {b(), 0}); // not loaded before, so it does not know its console yet
 
     EXPECT_EQ(rows(), (Lines{"A2", "A10", "a1", "a2"}));
 }

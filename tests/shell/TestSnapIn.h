@@ -9,7 +9,7 @@
 
 namespace shelltest {
 
-// A snap-in around any root node. Writes down every notification, as "expand Top 1" or "select Leaf row on".
+// A snap-in around any root node. Records every notification, as "expand Top 1" or "select Leaf row on".
 class TestSnapIn final : public shell::SnapIn, public console::IComponentData, public console::IComponent {
 public:
     explicit TestSnapIn(std::shared_ptr<console::CSnapInItem> root) : root_(std::move(root)) {}

@@ -59,7 +59,7 @@ protected:
     }
 
     void add(Node node) { nodes_.push_back(std::move(node)); }
-    // One that never stands in the tree.
+    // A node that is never in the tree.
     void addRow(const Node& node) {
         rowsOfLists_.push_back(node);
         add(node);
@@ -81,8 +81,8 @@ TEST_F(AllNodes, haveNames) {
     }
 }
 
-// A node with a row in the tree points into the common strip, which is that of the tree; the strip that it sets is for
-// the list of its rows.
+// A node with a row in the tree takes its image from the common strip, which is that of the tree; the strip that it
+// sets is for the list of its rows.
 TEST_F(AllNodes, pointIntoTheirStripOfImages) {
     for (const Node& node : nodes_) {
         const auto& identity = node->nodeIdentity();

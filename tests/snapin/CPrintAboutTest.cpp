@@ -13,7 +13,7 @@ using console::Result;
 using snapin::CPrintAbout;
 using snapin::ImageHandle;
 
-// The resources of a module as a test wants them; an image's handle is its number and its size.
+// The resources of a module, set by the test; an image's handle is made of its number and size.
 class Resources final : public snapin::ModuleResources {
 public:
     std::map<std::int32_t, wire::WideString> strings;

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-// A process in which nobody has logged in yet, and a person who does it.
+// A process in which nobody has logged in yet, and a user who does.
 class LoginSteps : public ::testing::Test {
 protected:
     LoginSteps() { snapin::loginDone = 0; }
@@ -17,7 +17,7 @@ protected:
         client::theProperties.reset();
     }
 
-    // The person logs in at the server, which is to answer with success.
+    // The user logs in at the server, which is expected to answer with success.
     void expectLogin(const support::FakeLoginServer& server) {
         platform_.ui.expect<snapin::AuthenticationDlg>([port = server.portText()](snapin::AuthenticationDlg& dialog) {
             dialog.serverName.userTyped(u"127.0.0.1");

@@ -52,7 +52,7 @@ TEST_F(LoginThread, onlyPressesF5OnceTheLoginIsDone) {
     EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
 }
 
-// A host that gives the login a thread has its hooks called from there.
+// If a host runs the login on its own thread, its hooks are called from there.
 TEST_F(LoginThread, tellsTheObserverOfItsCommandsOnItsOwnThread) {
     struct Threads final : client::CommandObserver {
         void commandStarted(const client::CommandReport&) override { seen.insert(std::this_thread::get_id()); }

@@ -13,7 +13,7 @@ using platform::Answer;
 using snapin::AuthenticationDlg;
 using snapin::PrintData;
 
-// A person at a wizard that may take a dialog away without its "Cancel".
+// A user at a wizard that may close a dialog without its "Cancel".
 class Wizard final : public platform::UserInterface {
 public:
     struct Box {
@@ -23,7 +23,7 @@ public:
 
         friend bool operator==(const Box&, const Box&) = default;
     };
-    std::deque<std::function<void(AuthenticationDlg&)>> steps; // one for each dialog
+    std::deque<std::function<void(AuthenticationDlg&)>> steps; // one per dialog
     std::vector<Box> boxes;
     std::vector<platform::WindowHandle> owners;
 

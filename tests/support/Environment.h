@@ -7,7 +7,7 @@
 
 namespace support {
 
-// Sets a variable of the environment for the length of a test, and puts back what was there.
+// Sets an environment variable for the duration of a test, and restores the old value.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(std::string name, const std::string& value) : name_(std::move(name)) {

@@ -8,7 +8,7 @@
 
 namespace support {
 
-// A machine that a test furnishes.
+// An environment whose content the test sets.
 class FakeEnvironment final : public platform::Environment {
 public:
     std::map<std::string, std::string> variables;

@@ -19,7 +19,7 @@ constexpr std::uint16_t updateRecord = 10;
 
 struct Request {
     std::uint16_t opcode = 0;
-    Bytes message; // the whole data message; empty without one
+    Bytes message; // the whole Data message; empty without one
 };
 
 std::uint32_t number(const Bytes& bytes, std::size_t offset, std::size_t width) {

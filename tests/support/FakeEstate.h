@@ -16,8 +16,8 @@
 
 namespace support {
 
-// A server on a real loopback socket that lists what the test puts into it and notes down what it is asked. It changes
-// nothing by itself. While it lives, the console's settings name it.
+// A server on a real loopback socket that lists what the test puts into it and records the requests. It changes nothing
+// by itself. While it lives, the console's settings point to it.
 class FakeEstate {
 public:
     explicit FakeEstate(client::ClientHooks hooks = {});
@@ -25,23 +25,24 @@ public:
     FakeEstate(const FakeEstate&) = delete;
     FakeEstate& operator=(const FakeEstate&) = delete;
 
-    // Set these between commands only. Lists go out in the order in which they stand here.
+    // Set these only between commands. Lists are sent in this order.
     std::vector<protocol::RegionRecord> regions;
     std::vector<protocol::PrinterRecord> printers;
     std::vector<protocol::PrinterRecord> followQueues;
     std::map<std::string, std::vector<protocol::PrinterRecord>> queuesOfPrinter;
     protocol::StatusReply updateReply;
-    // What goes out in place of a list of regions or of printer records, by opcode, as bytes of frames.
+    // The bytes of frames sent instead of a list of regions or of printer records, by opcode.
     std::map<std::uint16_t, Bytes> brokenLists;
-    // What the lists of other commands hold, by opcode: the bytes of each record, from the fields of the request.
+    // The content of the lists of other commands, by opcode: the bytes of each record, from the fields of the request.
     std::map<std::uint16_t, std::function<std::vector<Bytes>(const Bytes& fields)>> lists;
     // The same for commands that are answered with one record; no bytes for no answer.
     std::map<std::uint16_t, std::function<Bytes(const Bytes& fields)>> replies;
 
-    // From now on there is nobody to connect to.
+    // From now on connections fail.
     void goOffline();
 
-    // All commands so far, once so many have come, as "45: 05 00 00 00 00" with the bytes of the fields in hex.
+    // All commands so far, once the given number has arrived, as "45: 05 00 00 00 00" with the bytes of the fields in
+    // hex.
     std::vector<std::string> requests(std::size_t count);
     // The same without those that only list.
     std::vector<std::string> changes(std::size_t count);
@@ -57,7 +58,7 @@ private:
     ScriptedServer server_;
 };
 
-// Records with the fields that tests mostly care for.
+// Records with the fields that most tests need.
 protocol::RegionRecord region(std::int32_t id, std::int32_t parentId, wire::WideString name);
 protocol::PrinterRecord printer(std::string id, std::int32_t regionId, wire::WideString name);
 

@@ -6,11 +6,11 @@
 
 namespace support {
 
-// Notes down the programs that would have been started.
+// Records the programs that would have been started.
 class FakeLauncher final : public platform::ProcessLauncher {
 public:
     std::vector<std::vector<wire::WideString>> started; // each the program, then its arguments
-    std::error_code error;                              // what the next starts fail with
+    std::error_code error;                              // the error of the next starts
 
     std::error_code start(const wire::WideString& program, const std::vector<wire::WideString>& arguments) override {
         if (!error) {

@@ -5,7 +5,7 @@
 namespace support {
 namespace {
 
-// A public key of 2048 bits, whose other half nobody has kept.
+// A public key of 2048 bits, whose private half was discarded.
 constexpr const char* publicKey =
     "30 82 01 0a 02 82 01 01 00 a6 45 db 74 05 42 8e 7c cc 86 23 fd 0e e1 e1 d3 b6 f9 4c b6 81 d6 8b "
     "df 6a a1 5b 5e 6a e4 c9 55 92 d5 e0 39 0d 7c 4a 7f a4 33 7f e5 5b b0 d5 46 7a 39 fa d9 2a 8a be "

@@ -37,7 +37,7 @@ platform::Answer escape(std::uint32_t style) {
     }
 }
 
-// Sees to it that a form ends once and that its controls are told apart from those of other forms.
+// Checks that a form ends only once and reports only its own controls.
 class Watcher final : public forms::FormObserver {
 public:
     explicit Watcher(const forms::Form& form) : form_(form) {}

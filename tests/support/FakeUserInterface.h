@@ -10,8 +10,8 @@
 
 namespace support {
 
-// The person at the screen, with answers prepared by the test. The running test fails on a question or a form that was
-// not announced, on one that comes in another order, and on an announced one that never came.
+// The user, with answers prepared by the test. The running test fails on a box or a form that was not announced, on one
+// out of order, and on an announced one that never appeared.
 class FakeUserInterface final : public platform::UserInterface {
 public:
     // A message box that was shown.
@@ -24,9 +24,9 @@ public:
 
     ~FakeUserInterface() override;
 
-    // Announces the next message box, with its text when the test cares for it.
+    // Announces the next message box, with its text if the test checks it.
     void expectBox(platform::Answer answer, std::optional<wire::WideString> text = std::nullopt);
-    // Announces the next form. The script acts as the person does and has to bring the form to its end.
+    // Announces the next form. The script acts as the user does and has to end the form.
     void expectForm(std::function<void(forms::Form&)> script);
     // The same for a form of the class Dialog.
     template <class Dialog>
@@ -37,11 +37,11 @@ public:
     const std::vector<Box>& boxes() const { return boxes_; }
     // Every sequence of keys that was pressed.
     const std::vector<std::vector<platform::Key>>& presses() const { return presses_; }
-    // The titles of all forms, as they stood once the form was filled.
+    // The titles of all forms, read once the form was filled.
     const std::vector<wire::WideString>& forms() const { return forms_; }
 
     bool runThreadsAtOnce = true;
-    // Runs what startThread has kept.
+    // Runs the work passed to startThread.
     void runThreads();
     std::size_t waitingThreads() const { return threads_.size(); }
 

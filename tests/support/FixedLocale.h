@@ -6,7 +6,7 @@
 
 namespace support {
 
-// A locale with the number format that a test gives it.
+// A locale with the number format that a test sets.
 class FixedLocale final : public platform::Locale {
 public:
     explicit FixedLocale(platform::NumberFormat format) : format_(std::move(format)) {}

@@ -31,7 +31,7 @@ using namespace forms;
 
 namespace {
 
-// Tests one control, and whether a person needs a name for it.
+// Checks one control, and whether it needs a name.
 class Check final : public ControlVisitor {
 public:
     bool needsName = true;

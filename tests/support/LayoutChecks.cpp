@@ -66,7 +66,7 @@ private:
     }
 };
 
-// A label of a form, of a control that takes a key or of a page.
+// A label of a form: that of a page, or of a control that takes a key.
 struct Keyed {
     KeyedLabel label;
     bool isStandard = false;
@@ -99,7 +99,7 @@ std::vector<Keyed> keyedLabelsOf(Form& form) {
     return all;
 }
 
-// Whether no exchange of keys would leave one for it: all its letters belong to labels of which the same is true, or to
+// Whether no exchange of keys could free one for it: all its letters belong to labels for which the same is true, or to
 // the standard buttons, which keep theirs.
 bool hasNoChance(const Keyed& without, const std::vector<Keyed>& all) {
     std::vector<const Keyed*> seen{&without};

@@ -4,11 +4,11 @@
 
 namespace support {
 
-// Fails the running test unless the plan of the form's layout holds each control once, and each label that its control
-// does not show itself.
+// Fails the running test unless the plan of the form's layout contains each control once, and each label that its
+// control does not show itself.
 void expectPlacedOnce(forms::Form& form);
-// Fails it unless no two labels of the form have one access key, and those without a key have no letter that could
-// still be had, whichever way the others gave way.
+// Fails the running test if two labels of the form share an access key, or if a label without a key could have one by
+// any exchange with the others.
 void expectAccessKeys(forms::Form& form);
 
 } // namespace support

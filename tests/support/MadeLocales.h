@@ -9,8 +9,8 @@
 
 namespace support {
 
-// Locales of the system made for a test in a folder of its own, in which the C library of this program and of those
-// that it starts looks for them; it need not have them installed. The sources come with the package "locales".
+// System locales compiled for a test into a temporary folder, where the C library of this program and its children
+// finds them; they need not be installed. The sources come with the package "locales".
 class MadeLocales {
 public:
     // Names such as "de_DE.UTF-8". Throws std::runtime_error when one can't be made.

@@ -7,7 +7,7 @@
 
 namespace support {
 
-// Settings that a test sets up and looks at.
+// Settings that a test sets up and inspects.
 class MemorySettingsStore final : public platform::SettingsStore {
 public:
     std::map<std::string, wire::WideString, std::less<>> values;

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string_view>
 
-// What a console does to nodes, in the words of a test.
+// What a console does with nodes, as functions for tests.
 namespace support {
 
 inline console::Result notify(RecordingConsole& console, console::CSnapInItem& node,
@@ -43,7 +43,7 @@ inline console::Result queryPaste(RecordingConsole& console, console::CSnapInIte
     return notify(console, node, {.event = console::Event::queryPaste, .source = &source});
 }
 
-// The verbs that the node sets when it is selected, in order.
+// The verbs that the node sets when selected, in order.
 inline std::vector<std::string> verbsOf(RecordingConsole& console, console::CSnapInItem& node) {
     console.verbs[console::Verb::paste] = true; // so that only the selection's own verbs are set
     console.verbCalls.clear();
@@ -57,7 +57,7 @@ inline std::vector<RecordingConsole::MenuItem> menuOf(RecordingConsole& console,
     return console.menu;
 }
 
-// The row of a node in the tree; fails the test and answers 0 when there is none.
+// The row of a node in the tree; fails the test and returns 0 when there is none.
 inline console::ScopeId rowOf(const RecordingConsole& console, std::u16string_view name) {
     const auto found =
         std::ranges::find_if(console.scopeRows, [&](const auto& row) { return row.node->displayName() == name; });
@@ -75,7 +75,7 @@ inline std::shared_ptr<console::CSnapInItem> nodeOf(const RecordingConsole& cons
     return found != console.scopeRows.end() ? found->node : nullptr;
 }
 
-// The node of that name in the result pane; fails the test and answers null when there is none.
+// The node of that name in the result pane; fails the test and returns null when there is none.
 inline std::shared_ptr<console::CSnapInItem> shownNode(const RecordingConsole& console, std::u16string_view name) {
     const auto found =
         std::ranges::find_if(console.resultRows, [&](const auto& row) { return row.node->displayName() == name; });

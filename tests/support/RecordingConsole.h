@@ -17,8 +17,8 @@
 
 namespace support {
 
-// A console with all its faces that notes down each call as a line of text and keeps what a real one would show. Rows
-// get the numbers 1, 2, 3, ... It keeps the node of each row alive until the row goes.
+// A console with all its interfaces that records each call as a line of text and keeps what a real one would show. Rows
+// get the numbers 1, 2, 3, ... It keeps the node of each row alive until the row is removed.
 class RecordingConsole final : public console::IConsole,
                                public console::IConsoleNameSpace,
                                public console::IResultData,
@@ -35,7 +35,7 @@ public:
         console::ScopeId id = 0;
         console::ScopeId parent = 0;
         NodePointer node;
-        wire::WideString text; // of SetItem, else empty
+        wire::WideString text; // from SetItem, otherwise empty
     };
     struct ResultRow {
         console::ResultId id = 0;
@@ -55,8 +55,8 @@ public:
     };
 
     // The calls, such as "InsertItem Printers under 1", "DeleteItem 1 children", "InsertRow North",
-    // "UpdateRow 3", "SetColumnWidth 0 200", "SelectScopeItem 1". Questions (GetChildItem, GetColumnWidth) and verbs
-    // are not among them.
+    // "UpdateRow 3", "SetColumnWidth 0 200", "SelectScopeItem 1". Queries (GetChildItem, GetColumnWidth) and verbs are
+    // not recorded here.
     std::vector<std::string> calls;
     // "refresh on", "cut off", ... in the order in which they were set.
     std::vector<std::string> verbCalls;
@@ -66,19 +66,19 @@ public:
     std::vector<ScopeRow> scopeRows;
     std::vector<ResultRow> resultRows;
 
-    // What it answers.
+    // What it returns.
     std::int32_t automaticColumnWidth = 100;
     bool hasVerbs = true;
     bool hasImages = true;
     bool hasFaces = true; // tree, list and columns
     platform::WindowHandle mainWindow = 11;
 
-    // Puts a node into the tree, as the console does with the root, without noting it down.
+    // Puts a node into the tree, as the console does with the root, without recording it.
     console::ScopeId addScopeRow(const NodePointer& node, console::ScopeId parent = 0);
     // The nodes under a row, in order; and their display names.
     std::vector<NodePointer> children(console::ScopeId parent) const;
     std::vector<wire::WideString> childNames(console::ScopeId parent) const;
-    // The texts of the result pane as the nodes answer them, row by row, as many columns as stand.
+    // The texts of the result pane as the nodes return them, row by row, for all current columns.
     std::vector<std::vector<wire::WideString>> table() const;
     // The column titles.
     std::vector<wire::WideString> titles() const;

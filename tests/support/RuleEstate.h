@@ -22,7 +22,7 @@ class RuleEstate {
 public:
     explicit RuleEstate(client::ClientHooks hooks = {});
 
-    // Set these between commands only.
+    // Set these only between commands.
     std::vector<protocol::RuleGroupRecord> groups;
     std::vector<protocol::AffectedRecord> affected;
     std::map<std::string, std::vector<protocol::RuleEntryRecord>> entries; // by the id of the owner
@@ -35,12 +35,12 @@ public:
     std::vector<protocol::FoundQueueRecord> queues; // found by every search
 
     void goOffline() { estate_.goOffline(); }
-    // All commands so far, once so many have come, as "45: 05 00 00 00 00" with the bytes of the fields in hex; and the
-    // same without those that only list.
+    // All commands so far, once the given number has arrived, as "45: 05 00 00 00 00" with the bytes of the fields in
+    // hex; and the same without those that only list.
     std::vector<std::string> requests(std::size_t count) { return estate_.requests(count); }
     std::vector<std::string> changes(std::size_t count) { return estate_.changes(count); }
 
-    // The last of so many changes; fails the test when its opcode is not that of the request.
+    // The last of the given number of changes; fails the test when its opcode is not that of the request.
     template <class Request>
     Request change(std::size_t count) {
         return decoded<Request>(changes(count), count);

@@ -13,20 +13,20 @@
 
 namespace support {
 
-// A server on a real loopback socket that plays a script, one for each connection in turn, on a thread of its own.
-// Every wait has an end: a script that waits too long fails, and the destructor breaks off what still waits.
+// A server on a real loopback socket that plays a script for each connection in turn, on its own thread. Every wait is
+// limited: a script that waits too long fails, and the destructor interrupts waits in progress.
 class ScriptedServer {
 public:
     // The server's end of one connection. A step that can't be done throws, which ends the script as a failure.
     class Connection {
     public:
-        // Reads exactly so many bytes.
+        // Reads exactly the given number of bytes.
         Bytes expect(std::size_t count);
 
         // Reads one frame and returns all of it.
         Bytes expectFrame();
 
-        // Reads whatever comes until the peer closes or resets.
+        // Reads everything until the peer closes or resets.
         Bytes untilClosed();
 
         void send(const Bytes& bytes);
@@ -34,12 +34,12 @@ public:
         // Sends byte by byte, each in a packet of its own.
         void drip(const Bytes& bytes);
 
-        // Says nothing until the peer closes.
+        // Sends nothing until the peer closes.
         void stall() { untilClosed(); }
 
         void close();
 
-        // Ends the server's side: the peer reads to an end, but may still send.
+        // Ends the server's side: the peer reads an end of file, but may still send.
         void endSending() const;
 
         // Ends the connection so that the peer sees a reset.
@@ -52,7 +52,7 @@ public:
         Connection(ScriptedServer& server, int socket, std::size_t index)
             : server_(server), socket_(socket), index_(index) {}
 
-        // Waits for something to read and takes it: 0 when the peer has closed, -1 when it reset the connection.
+        // Waits for bytes and reads them: 0 when the peer has closed, -1 when it reset the connection.
         std::ptrdiff_t receiveSome(std::uint8_t* into, std::size_t count);
 
         ScriptedServer& server_;
@@ -73,10 +73,10 @@ public:
     // Waits until all scripts have ended; the text of the first failure, empty when there was none.
     [[nodiscard]] std::string finish();
 
-    // What has come in over a connection so far.
+    // The bytes received over a connection so far.
     [[nodiscard]] Bytes received(std::size_t connection = 0) const;
 
-    // A port of the loopback address that nobody listens at.
+    // A port of the loopback address on which nobody listens.
     [[nodiscard]] static std::uint16_t unusedPort();
 
 private:
@@ -86,13 +86,13 @@ private:
     void record(std::size_t connection, const std::uint8_t* bytes, std::size_t count);
 
     std::vector<Script> scripts_;
-    std::uint16_t port_ = 0; // before the listener, which sets it
+    std::uint16_t port_ = 0; // declared before the listener, which sets it
     int listener_;
     std::atomic<bool> stopping_ = false;
     mutable std::mutex mutex_; // guards received_ and failure_
     std::vector<Bytes> received_;
     std::string failure_;
-    std::thread thread_; // last, so that it starts when all else stands
+    std::thread thread_; // last, so that it starts when everything else is constructed
 };
 
 } // namespace support

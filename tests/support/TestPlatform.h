@@ -31,10 +31,10 @@ public:
     TestPlatform(const TestPlatform&) = delete;
     TestPlatform& operator=(const TestPlatform&) = delete;
 
-    operator platform::Platform&() { return platform_; } // NOLINT(google-explicit-constructor): stands in for one
+    operator platform::Platform&() { return platform_; } // NOLINT(google-explicit-constructor): is used as one
     platform::Platform& platform() { return platform_; }
 
-    // What the guards of nodes and forms have stopped, as "where: what".
+    // The exceptions that the guards of nodes and forms have caught, as "where: what".
     const std::vector<std::string>& failures() const { return observer_.failures; }
     // The names of the commands that were sent, in order.
     const std::vector<std::string>& commands() const { return observer_.commands; }

@@ -17,7 +17,7 @@ namespace {
 using testing::Eq;
 using testing::Optional;
 
-// Counts, and asks for no memory for it.
+// Counts commands without allocating memory.
 class CountingObserver final : public client::CommandObserver {
 public:
     void commandStarted(const client::CommandReport&) override { ++started; }
@@ -31,7 +31,7 @@ public:
     bool allTold = true;
 };
 
-// Has the patience that a person would have.
+// Waits as long as a user would.
 class Patience final : public wire::WaitObserver {
 public:
     bool keepWaiting(std::chrono::milliseconds elapsed, std::uint32_t) override {
@@ -42,7 +42,7 @@ public:
     bool wasTried = false;
 };
 
-// One operation of a client, of which the calls fail, one after the other.
+// One operation of a client, whose calls are made to fail one after the other.
 class ClientFaults : public testing::TestWithParam<ClientOperation> {
 protected:
     void SetUp() override {
@@ -52,7 +52,7 @@ protected:
         settings_->hooks.wait = &patience_;
         plan_.thread = ::pthread_self();
         currentPlan = &plan_;
-        (void)GetParam().run(client_); // the first time makes what the next ones find
+        (void)GetParam().run(client_); // the first run creates what later runs find
         const auto result = GetParam().run(client_);
         ASSERT_TRUE(result);
         expected_ = *result;
@@ -61,7 +61,7 @@ protected:
 
     void TearDown() override { currentPlan = nullptr; }
 
-    // What the operation gave while something failed; nothing when it told or threw that it did not succeed.
+    // What the operation returned while something failed; empty when it reported a failure or threw.
     std::optional<std::string> runWithFault(Call call, std::int64_t before, std::int64_t times) {
         arm(plan_, bits(call), Effect::fail, before, times);
         std::optional<std::string> result;

@@ -9,12 +9,12 @@
 
 namespace torture {
 
-// What a console asks of the server, and how it reads the answer.
+// A request of a console, and how it reads the answer.
 struct ClientOperation {
     std::string name;
-    // What came back, as lines of text; nothing when the operation has told that it failed. May throw.
+    // The answer as lines of text; empty when the operation reported a failure. May throw.
     std::optional<std::string> (*run)(client::CQVXAdminClass& client);
-    bool mayBreakOff = false; // a list that the server breaks off holds what came before
+    bool mayBreakOff = false; // a list that the server cuts short contains what arrived before
 };
 
 inline std::ostream& operator<<(std::ostream& stream, const ClientOperation& operation) {

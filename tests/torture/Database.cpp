@@ -52,7 +52,7 @@ private:
     sqlite3* database_ = nullptr;
 };
 
-// A row as text that tells wide text apart too. The moment at which a report was made is left out.
+// A row as text in which wide texts are distinct, too. The time at which a report was made is left out.
 std::string quotedColumns(Connection& connection, const std::string& table) {
     std::string columns;
     for (const auto& column :
@@ -72,7 +72,7 @@ bool isUuid(std::string_view text) {
     return text.size() == uuidLength;
 }
 
-// Calls the action with each place where a uuid stands.
+// Calls the action with the position of each uuid.
 template <class Action>
 void eachUuid(std::string_view line, Action action) {
     for (std::size_t dash = line.find('-'); dash != std::string_view::npos; dash = line.find('-', dash + 1)) {

@@ -11,10 +11,10 @@ namespace {
 
 using testing::IsEmpty;
 
-// One command, and a server that dies at every one of the writes that it takes to carry it out.
+// One command, and a server that dies at each of the writes needed to carry it out.
 class DeathAtEachWrite : public testing::TestWithParam<WideCommand> {
 protected:
-    // Carries the command out in peace, to know how the database looks then.
+    // Carries the command out without faults, to know what the database contains then.
     void SetUp() override {
         const auto file = sample_.copy();
         FaultyServer server(file, sample_.shared());
@@ -25,7 +25,7 @@ protected:
         ASSERT_THAT(damageOf(file), IsEmpty());
     }
 
-    // Whether the server died before it was through with the command.
+    // Whether the server died before it finished the command.
     bool diesDuringCommand(const std::filesystem::path& file, std::uint32_t calls, Effect effect, int before) {
         FaultyServer server(file, sample_.shared());
         const auto port = server.waitForPort();
@@ -39,7 +39,7 @@ protected:
         return died;
     }
 
-    // A server makes what was left of the database whole again, and what stands in it then is looked at.
+    // Lets a server recover the database, and returns its content.
     Contents contentsAfterRestart(const std::filesystem::path& file) {
         FaultyServer server(file, sample_.shared());
         EXPECT_TRUE(regionsAt(server.waitForPort()).has_value());

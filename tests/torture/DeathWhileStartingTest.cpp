@@ -11,10 +11,10 @@ namespace {
 using testing::IsEmpty;
 using testing::SizeIs;
 
-// A server that dies while it makes its database, or while it closes it.
+// A server that dies while it creates its database, or while it closes it.
 class DeathWhileStarting : public testing::Test {
 protected:
-    // A fresh name for a database; the one before goes.
+    // A new path for a database; the previous one is removed.
     std::filesystem::path newDatabase() {
         std::filesystem::remove_all(folder_ / "new");
         std::filesystem::create_directory(folder_ / "new");
@@ -37,7 +37,7 @@ protected:
         }
     }
 
-    // One death in so many, for there are hundreds of writes.
+    // Only every so many writes, because there are hundreds.
     static constexpr int stepOfNew = 7;
     static constexpr int stepOfSample = 31;
 

@@ -7,22 +7,22 @@
 
 namespace torture {
 
-// What an administrator does while things go wrong, with a memory of what the server has said to it.
+// What an administrator does while things go wrong, remembering what the server has answered.
 class Errands {
 public:
-    // Looks for a region at a server where all is well.
+    // Looks up a region on a server without faults.
     explicit Errands(std::uint16_t port) : port_(port), region_(regionsAt(port).value().front().id) {}
 
-    // The server is somewhere else now.
+    // The server now has another port.
     void goTo(std::uint16_t port) { port_ = port; }
 
-    // Makes a queue of a name that was not there before, and reads the list of all. Nothing that goes wrong is thrown.
+    // Creates a queue with a new name, and reads the list of all. Throws nothing when something fails.
     void run();
 
-    // The queue of the last run was acknowledged.
+    // Whether the queue of the last run was acknowledged.
     [[nodiscard]] bool wasAcknowledged() const { return acknowledged_.contains(name_); }
 
-    // What the server does not remember rightly of all that it said; empty when all is well.
+    // Everything the server acknowledged or listed that is no longer true; empty when there is nothing.
     [[nodiscard]] std::string lies() const;
 
 private:

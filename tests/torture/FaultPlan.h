@@ -5,7 +5,7 @@
 
 namespace torture {
 
-// The calls that can be made to go wrong.
+// The calls that can be made to fail.
 enum class Call : std::uint32_t {
     allocate = 1U << 0U,
     open = 1U << 1U,
@@ -26,34 +26,34 @@ enum class Call : std::uint32_t {
     return static_cast<std::uint32_t>(call);
 }
 
-// All that changes a file.
+// All calls that change a file.
 constexpr std::uint32_t changingCalls = bits(Call::write) | bits(Call::sync) | bits(Call::truncate);
 
 enum class Effect : std::uint32_t {
     none,
     fail,
-    die,             // at once, as by kill -9
+    die,             // at once, as with kill -9
     writeHalfAndDie, // a call that writes nothing dies at once
 };
 
-// Which calls go wrong, and how. Lies in memory that a test and the process under test may share.
+// Which calls fail, and how. Placed in memory that a test and the process under test may share.
 struct FaultPlan {
     std::atomic<Effect> effect{Effect::none};
-    std::atomic<std::uint32_t> calls{0};   // the bits of those that count
-    std::atomic<std::int64_t> before{0};   // so many pass first
-    std::atomic<std::int64_t> times{1};    // then so many go wrong
-    std::atomic<std::int64_t> failures{0}; // how many have
-    std::atomic<bool> keepsSynced{false};  // each synced file leaves a copy of itself, named with .synced at its end
-    std::atomic<std::uint64_t> thread{0};  // the only one that is meant; 0 for all
+    std::atomic<std::uint32_t> calls{0};   // the bits of the calls that count
+    std::atomic<std::int64_t> before{0};   // so many calls succeed first
+    std::atomic<std::int64_t> times{1};    // then so many fail
+    std::atomic<std::int64_t> failures{0}; // how many have failed
+    std::atomic<bool> keepsSynced{false};  // each sync leaves a copy of the file, with ".synced" appended to its name
+    std::atomic<std::uint64_t> thread{0};  // the only affected thread; 0 for all
 };
 
-// Null for a process in which nothing goes wrong.
+// Null for a process without faults.
 inline std::atomic<FaultPlan*> currentPlan = nullptr;
 
-// What is to happen at this call, which counts as one.
+// The effect for this call, which is counted.
 [[nodiscard]] Effect nextEffect(Call call) noexcept;
 
-// Whether this call is to fail; does not return when the process is to die.
+// Whether this call must fail; does not return when the process must die.
 [[nodiscard]] bool fails(Call call) noexcept;
 
 [[noreturn]] void die() noexcept;

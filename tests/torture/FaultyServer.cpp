@@ -14,7 +14,7 @@ std::vector<std::string> argumentsFor(const std::filesystem::path& database, std
     return more;
 }
 
-// The sanitizer's own library wants to be the first, but our calls have to stand in front of its.
+// The sanitizer's library insists on being loaded first, but our calls have to precede its own.
 std::string sanitizerOptions() {
     const char* const options = std::getenv("ASAN_OPTIONS");
     return std::string(options == nullptr ? "" : options) + ":verify_asan_link_order=0";

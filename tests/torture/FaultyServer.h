@@ -7,16 +7,16 @@
 
 namespace torture {
 
-// A vantreld on the loopback address that needs no login, and of which every call can be made to go wrong.
+// A vantreld on the loopback address that needs no login, and whose system calls can be made to fail.
 class FaultyServer {
 public:
-    // All goes well while it starts. With makeFaulty the plan counts from its first call on.
+    // Starts without faults, unless makeFaulty is set: then the plan counts from its first call on.
     FaultyServer(const std::filesystem::path& database, SharedPlan& shared, std::vector<std::string> more = {});
 
     [[nodiscard]] std::uint16_t waitForPort() { return process_->waitForPort(); }
     [[nodiscard]] server::test::VantreldProcess& process() { return *process_; }
 
-    // Ends it in good order and tells whether that went well: an exit status of 0, memory given back included.
+    // Ends it properly and returns whether its exit status was 0, which includes that no memory leaked.
     [[nodiscard]] bool ends();
 
     // Kills it, unless it has died already.

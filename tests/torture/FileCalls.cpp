@@ -1,4 +1,4 @@
-// The calls on files, in front of those of the platform.
+// The file calls, intercepted before those of the platform.
 #include "tests/torture/FaultPlan.h"
 #include "tests/torture/NextFunction.h"
 #include "tests/torture/SyncedCopy.h"

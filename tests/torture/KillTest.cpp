@@ -23,10 +23,10 @@ wire::WideString numbered(const char* word, int round, int number) {
     return wire::toWide(std::string(word) + " " + std::to_string(round) + "." + std::to_string(number));
 }
 
-// A database that outlives a hundred of its servers.
+// A database that survives the deaths of a hundred servers.
 class Kill : public testing::Test {
 protected:
-    // Changes and looks until the server is gone.
+    // Repeats a step until the server is gone.
     template <class Step>
     void untilGone(Step step) {
         try {
@@ -52,7 +52,7 @@ protected:
         });
     }
 
-    // Makes regions, of which nobody is told, and keeps the names that were listed.
+    // Makes regions, which are not acknowledged, and keeps the names that were listed.
     void makeRegions(std::uint16_t port, int round) {
         untilGone([&](int number) {
             const protocol::CreateRegionRequest request{
@@ -67,13 +67,13 @@ protected:
         });
     }
 
-    // Waits until so much has been done, and no longer than the server lives.
+    // Waits until so many steps are done, but no longer than the server lives.
     void waitFor(int count) {
         for (int now = 0; (now = done_.load()) < count;)
             done_.wait(now);
     }
 
-    static constexpr int steps = 1000; // more than are waited for
+    static constexpr int steps = 1000; // more than any test waits for
 
     std::int32_t region_ = 0;
     SampleDatabase sample_{[this](std::uint16_t port) { region_ = regionsAt(port).value().front().id; }};

@@ -1,5 +1,5 @@
-// The allocation of the platform, for the libraries that use it. What asks for it may run before anything else does, so
-// nothing here needs to be set up.
+// Intercepts the platform's allocation, for the libraries that use it. Callers may run before anything else does, so
+// nothing here needs initialization.
 #include "tests/torture/FaultPlan.h"
 #include "tests/torture/NextFunction.h"
 
@@ -16,7 +16,7 @@ using Realloc = void*(void*, std::size_t);
 Malloc* nextMalloc = nullptr;
 Realloc* nextRealloc = nullptr;
 
-// What the platform's own library asks for is left alone, since a sanitizer cannot do without it.
+// Calls from the platform's own library never fail, because a sanitizer depends on them.
 bool failsFor(const void* caller) {
     const FaultPlan* const plan = currentPlan.load();
     if (plan == nullptr || plan->effect.load() == Effect::none)

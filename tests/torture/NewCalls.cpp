@@ -1,4 +1,4 @@
-// The operators that allocate, in front of those of the library.
+// The allocating operators, intercepted before those of the library.
 #include "tests/torture/FaultPlan.h"
 #include "tests/torture/NextFunction.h"
 
@@ -8,7 +8,7 @@ using namespace torture;
 
 namespace {
 
-// As the operators of the library: a handler is asked for memory as long as there is one.
+// Like the library's operators: calls the new-handler as long as there is one.
 template <class Function, class... Arguments>
 void* allocateOrThrow(Function* next, Arguments... arguments) {
     while (fails(Call::allocate)) {

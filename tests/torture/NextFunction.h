@@ -4,7 +4,7 @@
 
 namespace torture {
 
-// The function of that name that would be called if ours were not there.
+// The function of that name that would be called without ours.
 template <class Function>
 [[nodiscard]] Function* nextFunction(const char* name) {
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));

@@ -1,4 +1,4 @@
-// In a process that another one has started: the plan that it has made.
+// In a process started by another one: the plan that the other has made.
 #include "tests/torture/FaultPlan.h"
 
 #include <fcntl.h>

@@ -9,7 +9,7 @@
 #include <optional>
 #include <stdexcept>
 
-// Records to and from a server, over connections that show every way to fail.
+// Sends and receives records over connections that may fail in every way.
 namespace torture {
 
 using support::Bytes;
@@ -30,7 +30,7 @@ template <class Record>
     return protocol::read<Record>(loaded);
 }
 
-// The messages of all frames that came as a whole.
+// The messages of all complete frames.
 [[nodiscard]] inline std::vector<Bytes> wholeMessages(Bytes frames) {
     constexpr std::size_t header = 9;
     std::size_t end = 0;
@@ -44,14 +44,14 @@ template <class Record>
     return server::test::messagesOf(frames);
 }
 
-// The only reply; none when the connection ended before it was there.
+// The only reply; none when the connection ended before it arrived.
 template <class Reply, class Request>
 [[nodiscard]] std::optional<Reply> askFor(std::uint16_t port, const Request& request) {
     const auto messages = wholeMessages(server::test::ask(port, requestOf(request)));
     return messages.size() == 1 ? std::optional(recordOf<Reply>(messages.front())) : std::nullopt;
 }
 
-// A list that came as a whole; none otherwise.
+// A complete list; none otherwise.
 template <class Record, class Request>
 [[nodiscard]] std::optional<std::vector<Record>> listOf(std::uint16_t port, const Request& request) {
     const auto messages = wholeMessages(server::test::ask(port, requestOf(request)));

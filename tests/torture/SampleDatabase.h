@@ -10,11 +10,11 @@
 
 namespace torture {
 
-// The folder of a test, with a database of a small estate that no server has open and that has all that a server makes
-// by itself.
+// The folder of a test, with a database of a small estate that no server has open and that contains everything that a
+// server creates by itself.
 class SampleDatabase {
 public:
-    // The visitor is given the port of a server that has it, to look things up and to prepare them.
+    // The visitor gets the port of a server that has it open, to look things up and to prepare them.
     template <class Visitor>
     explicit SampleDatabase(Visitor&& visitor) {
         server::test::VantreldProcess process(
@@ -34,7 +34,7 @@ public:
     // For whatever else a test needs.
     [[nodiscard]] std::filesystem::path folder(const std::string& name) const { return makeFolder(folder_ / name); }
 
-    // A fresh copy to try things with.
+    // A fresh copy for experiments.
     [[nodiscard]] std::filesystem::path copy() const { return copyDatabase(file_, tries_); }
 
 private:

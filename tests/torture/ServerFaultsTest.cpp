@@ -15,17 +15,17 @@ constexpr int failureStatus = 1;
 struct Fault {
     std::string name;
     Call call;
-    std::int64_t often = forEver; // how many failures in a row stand for ever, where the server only tries again
+    std::int64_t often = forEver; // how many failures in a row count as permanent, where the server only retries
 };
 
 std::ostream& operator<<(std::ostream& stream, const Fault& fault) {
     return stream << fault.name;
 }
 
-// A server of which the calls of one kind fail, one after the other.
+// A server whose calls of one kind fail, one after the other.
 class FaultsOfServer : public testing::Test {
 protected:
-    // Lets each call fail in turn, until an errand meets no failure any more.
+    // Makes each call fail in turn, until an errand meets no failure any more.
     void failEach(Call call, std::int64_t times) {
         int before = 0;
         for (bool failed = true; failed; ++before) {
@@ -70,7 +70,7 @@ TEST_P(LastingServerFaults, callsThatFailForEverHarmTheServerNoLongerThanTheyDo)
     failEach(GetParam().call, GetParam().often);
 }
 
-// Without any memory a server may end, but as it does after other failures: with a reason, and losing nothing.
+// Without any memory a server may end, but only as after other failures: with a reason, and without losing anything.
 TEST_F(MemoryFaults, aServerWithoutMemoryGoesOnOrEndsInGoodOrder) {
     int before = 0;
     for (bool failed = true; failed; ++before) {

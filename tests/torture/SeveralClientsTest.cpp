@@ -25,13 +25,13 @@ wire::WideString numbered(const std::string& word, int number) {
     return wire::toWide(word + " " + std::to_string(number));
 }
 
-// One administrator of several, who works in a region that all of them use.
+// One of several administrators who all work in the same region.
 class Administrator {
 public:
     Administrator(std::uint16_t port, std::int32_t region, std::string name)
         : port_(port), region_(region), name_(std::move(name)) {}
 
-    // Everything is looked at again right after it was done.
+    // Checks every change right after it was made.
     void work() {
         for (int round = 0; round < rounds; ++round) {
             makeQueueOfContestedName(round);
@@ -82,7 +82,7 @@ private:
         expectOwnQueues();
     }
 
-    // Nobody is told of a region: the next list shows it.
+    // New regions are not acknowledged: the next list shows them.
     void makeRegion(int round) {
         const auto name = numbered(name_, round);
         const protocol::CreateRegionRequest request{.kind = 0, .parentId = region_, .name = name};
@@ -91,7 +91,7 @@ private:
         EXPECT_EQ(std::ranges::count(regions, name, &protocol::RegionRecord::name), 1);
     }
 
-    // A plan is there with all of its prices or not at all.
+    // A plan exists with all of its prices or not at all.
     void makePricePlan(int round) {
         protocol::WritePricePlanRequest request;
         request.plan.id = wire::toText(wire::randomUuid());

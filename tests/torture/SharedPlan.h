@@ -7,7 +7,7 @@
 
 namespace torture {
 
-// A plan in a file of its own, for a process that maps it too.
+// A plan in its own file, for another process to map.
 class SharedPlan {
 public:
     explicit SharedPlan(std::filesystem::path file);
@@ -25,10 +25,10 @@ private:
 
 constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
 
-// From now on so many such calls go wrong, after some that do not.
+// From now on so many such calls fail, after some that succeed.
 void arm(FaultPlan& plan, std::uint32_t calls, Effect effect, std::int64_t before, std::int64_t times = 1);
 
-// From now on all goes well; returns whether something has gone wrong.
+// Ends all faults; returns whether any call has failed.
 bool disarm(FaultPlan& plan);
 
 } // namespace torture

@@ -1,4 +1,4 @@
-// The calls on sockets, in front of those of the platform.
+// The socket calls, intercepted before those of the platform.
 #include "tests/torture/FaultPlan.h"
 #include "tests/torture/NextFunction.h"
 

@@ -26,7 +26,7 @@ void keepSyncedCopy(int descriptor) {
     if (length <= 0 || ::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
         return;
     std::memcpy(path.data() + length, ending.data(), ending.size());
-    // By the bare calls of the system, which nothing stands in front of.
+    // Uses raw system calls, which are not intercepted.
     const auto copy = static_cast<int>(
         ::syscall(SYS_openat, AT_FDCWD, path.data(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, S_IRUSR | S_IWUSR));
     loff_t offset = 0;

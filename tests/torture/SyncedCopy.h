@@ -2,7 +2,7 @@
 
 namespace torture {
 
-// Copies the file to one with ".synced" at the end of its name, when the plan wants it: what would be left of it if the
+// If the plan says so, copies the file to one with ".synced" appended to its name: what would be left of it if the
 // power failed before its next sync.
 void keepSyncedCopy(int descriptor);
 

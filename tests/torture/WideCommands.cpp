@@ -55,7 +55,7 @@ Bytes movePrinterWithQueues(std::uint16_t port) {
 Bytes updatePrinterIntoAnotherRegion(std::uint16_t port) {
     auto printer = busiestPrinter(port);
     printer.regionId = newRegion(port);
-    printer.comment = std::u16string(6000, u'c'); // more than one page of the database holds
+    printer.comment = std::u16string(6000, u'c'); // more than fits into one page of the database
     return requestOf(protocol::UpdateRecordRequest{.record = printer});
 }
 

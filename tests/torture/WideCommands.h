@@ -12,7 +12,7 @@ namespace torture {
 // A command that changes many rows at once.
 struct WideCommand {
     std::string name;
-    // Looks up what it needs at the port of a server with the small sample estate, makes what is missing, and gives
+    // Looks up what it needs on a server with the small sample estate at the port, makes what is missing, and returns
     // the request.
     support::Bytes (*request)(std::uint16_t port);
 };

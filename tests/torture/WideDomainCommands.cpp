@@ -29,7 +29,7 @@ std::vector<protocol::DriverModelRecord> modelsAt(std::uint16_t port) {
 
 } // namespace
 
-// Of a deployment with configurations, which move to the one that takes its place.
+// Replaces a deployment with configurations, which move to the new one.
 Bytes replaceDeployment(std::uint16_t port) {
     const auto models = modelsAt(port);
     for (const auto& model : models) {
@@ -69,7 +69,7 @@ Bytes deleteUsedConfiguration(std::uint16_t port) {
     throw std::runtime_error("no configuration of the sample is in use");
 }
 
-// With other prices in place of those that it had.
+// Replaces all prices of a plan.
 Bytes rewritePricePlan(std::uint16_t port) {
     const auto plans = listOf<protocol::PricePlanRecord>(port, protocol::ListPricePlansRequest{}).value();
     for (const auto& plan : plans) {

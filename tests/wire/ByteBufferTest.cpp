@@ -32,7 +32,7 @@ TEST(ByteBuffer, keepsItsMemoryWhenItIsCleared) {
     EXPECT_EQ(buffer.capacity(), 100U);
 }
 
-// Memory that nobody writes to costs nothing, which lets these two be so large.
+// Memory that is never written costs nothing, so these two can be so large.
 TEST(ByteBuffer, refusesToGrowBeyondTwoGibibytesWhereTwiceItsSizeWouldHaveDone) {
     ByteBuffer buffer;
     buffer.extend(gibibyte + gibibyte / 2);

@@ -120,7 +120,7 @@ TEST(CTransBlocks, aReceivedBlockOfNothingIsASuccess) {
 }
 
 TEST(CTransBlocks, aReceivedBlockOfSeveralChunksIsPutTogether) {
-    const Bytes sent = hex("A8 61 00 00"); // 25000
+    const Bytes sent = hex("A8 61 00 00"); // 25,000
     Bytes body(25000);
     for (std::size_t index = 0; index < body.size(); ++index) {
         body[index] = static_cast<std::uint8_t>(index % 253);

@@ -23,7 +23,7 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* loopback = "127.0.0.1";
 
-// Tries to connect with what the socket does wrong, and gives what was logged.
+// Tries to connect with a faulty socket, and returns what was logged.
 Lines logOfFailure(FaultySocket& socket, const std::string& host = loopback) {
     ManualClock clock;
     LogRecorder log;
@@ -35,8 +35,8 @@ Lines logOfFailure(FaultySocket& socket, const std::string& host = loopback) {
     return log.lines;
 }
 
-// Connects to a port that never answers, with the clock moved on by the given time at each wait, and gives the seconds
-// that had gone by when the attempt was given up.
+// Connects to a port that never answers, advancing the clock by the given times at each wait, and returns the time
+// after which the attempt was given up.
 std::chrono::milliseconds waitOf(std::uint32_t timeoutSeconds, std::vector<std::chrono::milliseconds> times) {
     const SilentListener listener;
     ManualClock clock;
@@ -306,7 +306,7 @@ TEST(CTransConnect, aShutdownThatKeepsFailingIsTriedElevenTimesBeforeTheCloseTha
 
 TEST(CTransConnect, aPeerThatWentFirstCostsNoTimeAtTheEnd) {
     ScriptedServer server([](auto& connection) {
-        connection.expect(9); // else the reset might come before the connection stands
+        connection.expect(9); // otherwise the reset might arrive before the connection is established
         connection.reset();
     });
     ManualClock clock;

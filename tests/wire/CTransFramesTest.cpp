@@ -36,7 +36,7 @@ std::unique_ptr<Message> dataWith(std::initializer_list<std::uint8_t> bytes) {
 }
 
 // One call of getMessages against a server that sends something and closes: its result, what was logged, what the
-// server got, and the kinds of what stood in the queue afterwards, front first.
+// server received, and the kinds of the messages in the queue afterwards, front first.
 struct Outcome {
     bool result = false;
     Lines log;
@@ -60,7 +60,7 @@ Outcome outcomeOf(const Bytes& sent) {
     return outcome;
 }
 
-// What a server gets back that sends something and then ends its side only.
+// The answer to a server that sends something and then ends only its own side.
 std::string answerTo(const Bytes& sent) {
     ScriptedServer server([&](auto& connection) {
         connection.send(sent);
@@ -175,7 +175,7 @@ TEST(CTransFrames, aSendFailureDoesNotMakeSendMessagesFalseButIsReportedForEachP
 
 TEST(CTransFrames, sendingToAPeerThatIsGoneEndsWithoutASignal) {
     ScriptedServer server([](auto& connection) {
-        connection.expect(9); // else the reset might come before the connection stands
+        connection.expect(9); // otherwise the reset might arrive before the connection is established
         connection.reset();
     });
     CTrans connection;
@@ -250,7 +250,7 @@ TEST(CTransFrames, aServerThatClosesWithoutAnsweringIsRejected) {
 
 TEST(CTransFrames, anErrorWhileRejectingIsIgnored) {
     ScriptedServer server([](auto& connection) {
-        connection.expect(9); // else the reset might come before the connection stands
+        connection.expect(9); // otherwise the reset might arrive before the connection is established
         connection.reset();
     });
     CTrans connection;

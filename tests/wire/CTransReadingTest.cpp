@@ -17,7 +17,7 @@ using trans::CTrans;
 namespace {
 
 // Reads eight bytes from a server that sends only two, with the clock moved to the given times since the first wait,
-// one after the other: the result and the number of times that were used up.
+// one after the other: the result and how many of the times were used.
 struct TimedRead {
     int result = 0;
     std::uint32_t received = 0;

@@ -64,7 +64,7 @@ TEST(CaseFold, foldingAgainChangesNothing) {
 }
 
 #ifndef _WIN32
-// The C library's table of another kind: what it takes for a capital and a small letter is one letter here, too.
+// The C library has a table of its own: an upper and lower case pair in it must fold to one letter here, too.
 TEST(CaseFold, agreesWithThePlatform) {
     locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     ASSERT_NE(unicode, nullptr);

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-// The platform's socket calls, except for those that a test makes fail; keeps the names of the calls in their order.
+// The platform's socket calls, except for those that a test makes fail; records the names of the calls in order.
 class FaultySocket final : public wire::Socket {
 public:
     static constexpr wire::SocketResult failure{.value = -1, .error = 77, .fault = wire::SocketFault::other};
@@ -90,7 +90,7 @@ public:
     std::optional<wire::ResolveResult> resolved;
     std::deque<std::vector<std::uint8_t>> arrivals; // received before anything else
     std::function<void()> onReceive;
-    // What a wait for a name gives, instead of the resolver's answer.
+    // The result of waiting for a name, instead of the resolver's answer.
     std::function<std::optional<wire::ResolveResult>(std::chrono::milliseconds limit)> onLookup;
     std::vector<std::string> calls;
 

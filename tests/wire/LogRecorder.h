@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// Keeps what a connection logs, one line for each call: "text | code | level".
+// Records what a connection logs, one line for each call: "text | code | level".
 class LogRecorder {
 public:
     [[nodiscard]] wire::TransLogger logger() {

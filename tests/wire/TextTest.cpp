@@ -29,16 +29,16 @@ TEST(Text, malformedUtf8BecomesReplacementCharacters) {
     EXPECT_EQ(toWide("\x80"
                      "a"),
               u"\xFFFD"
-              u"a"); // a byte that only follows
+              u"a"); // a continuation byte
     EXPECT_EQ(toWide("\xE2\x82"
                      "a"),
               u"\xFFFD"
-              u"a");                                  // a sequence that breaks off
+              u"a");                                  // a truncated sequence
     EXPECT_EQ(toWide("\xE2\x82"), u"\xFFFD");         // a sequence cut at the end
-    EXPECT_EQ(toWide("\xE0\x80\xAF"), u"\xFFFD");     // a longer form than needed
+    EXPECT_EQ(toWide("\xE0\x80\xAF"), u"\xFFFD");     // an overlong form
     EXPECT_EQ(toWide("\xED\xA0\xBD"), u"\xFFFD");     // a surrogate
     EXPECT_EQ(toWide("\xF4\x90\x80\x80"), u"\xFFFD"); // beyond Unicode
-    EXPECT_EQ(toWide("\xC0\xAF"), u"\xFFFD\xFFFD");   // a lead that never stands
+    EXPECT_EQ(toWide("\xC0\xAF"), u"\xFFFD\xFFFD");   // a lead byte that is never valid
     EXPECT_EQ(toWide("\xFF"), u"\xFFFD");
 }
 

@@ -26,7 +26,7 @@ protected:
         return fields;
     }
 
-    // Answers the first connection without the end of the last record, and further ones with all.
+    // Answers the first connection without the end of the last record, and later ones completely.
     void breakOffFirst(const Bytes& whole) {
         serve({[whole](Connection& connection) {
                    connection.expectFrame();

@@ -9,14 +9,14 @@ using protocol::ConfigurationRecord;
 using protocol::QueueConfigChoice;
 using protocol::QueueConfigEntry;
 
-// A configuration of which the id and the date are of interest.
+// A configuration of which only the id and the date matter.
 Bytes configuration(const char* id, const char* date = "00 00") {
     return hex(id) + hex("00 00") + hex(date) + hex("00 00 00 00 00 00");
 }
 
 class Configurations : public ClientTest {
 protected:
-    // The action fails, quietly, when there is no server.
+    // Checks that the action fails without an exception when there is no server.
     template <class Action>
     void expectFalseWithoutAServer(Action&& action) {
         CQVXAdminClass client(settings);

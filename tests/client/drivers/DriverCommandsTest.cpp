@@ -16,7 +16,7 @@ namespace modelList = protocol::driverModelList;
 
 class Drivers : public ClientTest {
 protected:
-    // A driver of that one letter for an id.
+    // A driver with this one-letter id.
     static Bytes driver(const char* id) {
         return hex("01 00") + hex(id) +
                hex("2A 00 28 00 32 00 30 00 31 00 34 00 2D 00 30 00 33 00 2D 00 30 00 35 00 20 00 31 00 37 00 3A 00 "
@@ -32,7 +32,7 @@ protected:
                hex("01 00 6F  02 00 57 00  04 00 64 00 65 00 01 00 02");
     }
 
-    // All ids that the operation hands out, in order.
+    // All ids that the operation returns, in order.
     template <class R>
     static std::string handedOut(CQVXAdminClass& client, bool (DriverCommands::*next)(R&), std::string R::*id) {
         std::string ids;

@@ -6,7 +6,7 @@ namespace {
 
 class Inventory : public ClientTest {
 protected:
-    // Two records whose lists end with the one that comes first.
+    // A list of two records; cursors return the first one last.
     static Bytes listOfTwo(const char* first, const char* second) { return countedList({hex(first), hex(second)}); }
 };
 

@@ -16,7 +16,7 @@ using protocol::RuleGroupRecord;
 using protocol::ShortIdRecord;
 using protocol::UserMessageRecord;
 
-// 0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480 as it travels.
+// 0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480 on the wire.
 const std::string uuidFields = "24 00 30 66 38 65 32 61 36 34 2D 35 62 31 64 2D 34 66 30 65 2D 39 63 33 37 2D"
                                "36 61 32 64 35 31 62 37 65 34 38 30 ";
 const wire::Uuid uuid = wire::parseUuid("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480");
@@ -117,8 +117,8 @@ const std::vector<Sent>& writes() {
 
 class Rules : public ClientTest {
 protected:
-    // A list is asked for with this request, and holds the two records of the reply in their order; a reply that
-    // breaks off behind the first record ends in this text.
+    // Checks that a list is requested with this request, and contains the two records of the reply in order; a reply
+    // cut after the first record ends in this text.
     template <class Record, class List>
     void expectList(List list, const Bytes& expectedRequest, const Record& record, const Bytes& fields,
                     const std::string& textOfEarlyEnd) {
@@ -137,7 +137,7 @@ protected:
 
         EXPECT_TRUE(list(client, records));
         EXPECT_EQ(records, (std::vector<Record>{record, record}));
-        bool complete = false; // stays so where the early end throws
+        bool complete = false; // stays false when the early end throws
         EXPECT_EQ(thrownBy([&] { complete = list(client, records); }), textOfEarlyEnd);
         EXPECT_FALSE(complete);
         EXPECT_EQ(records, std::vector<Record>{record});

@@ -5,7 +5,7 @@
 namespace common {
 namespace {
 
-// The value as it comes back after having been written and read.
+// The value after it was written and read back.
 wire::WideString roundTrip(const wire::WideString& value) {
     auto written = IniText::parse("[vantrel]\n").value();
     EXPECT_TRUE(written.setValue("Name", value));

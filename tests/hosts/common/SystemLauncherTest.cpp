@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Starts shell commands that leave what they see in a fifo, of which the test reads until they have ended.
+// Starts shell commands that write their output to a fifo, from which the test reads until they have ended.
 class SystemLauncherTest : public testing::Test {
 protected:
     SystemLauncherTest() {
@@ -30,7 +30,7 @@ protected:
 
     fs::path fifo() const { return folder_ / "fifo"; }
 
-    // What a command writes, which gets the arguments as "$1" and so on.
+    // The output of a command, which gets the arguments as "$1" and so on.
     std::string outputOf(const std::string& command, const std::vector<wire::WideString>& arguments = {}) {
         std::vector<wire::WideString> all{u"-c", wire::toWide("exec >'" + fifo().string() + "'; " + command), u"sh"};
         all.insert(all.end(), arguments.begin(), arguments.end());

@@ -15,7 +15,7 @@ using support::EnvironmentVariable;
 using support::MadeLocales;
 using Groups = std::vector<std::uint8_t>;
 
-// What the environment asks for; the variables that are not named are empty.
+// The locale variables of the environment; those not set here are empty.
 struct Wanted {
     std::string all{};
     std::string numeric{};

@@ -19,7 +19,7 @@ using testing::IsEmpty;
 using testing::Optional;
 using Client = client::CQVXAdminClass;
 
-// The settings of the program, for a real server with the sample estate.
+// The program's settings for a real server with the sample estate.
 class SampleServer {
 public:
     explicit SampleServer(client::RequestObserver& requests) {
@@ -161,7 +161,7 @@ TEST_F(WriteCheck, seesMessagesAndAffectedUsers) {
     expectRefused("WriteUserMessage", [&] { return client.deleteUserMessage(builtIn->id); });
     auto message = client::newRecord<protocol::UserMessageRecord>();
     message.name = u"Message";
-    message.builtIn = true; // as a console may say
+    message.builtIn = true; // a console may send this
     expectDone([&] { return client.addUserMessage(message); });
     expectDone([&] { return client.deleteUserMessage(message.id); });
 
@@ -194,7 +194,7 @@ TEST_F(WriteCheck, seesRuleEntriesInTheListsThatTheConsoleHasRead) {
     expectDone([&] { return client.removeRuleEntry(entry.id, 1); });
 }
 
-// As the dialog of a price plan changes the entry that it was opened from; this must stay.
+// The dialog of a price plan changes the entry that it was opened from, even before the server has it; this must stay.
 TEST_F(WriteCheck, doesNotMindAChangeOfARuleEntryThatIsNotThereYet) {
     std::vector<protocol::RuleEntryRecord> entries;
     ASSERT_TRUE(client.listRuleEntries({}, 0, entries));

@@ -10,7 +10,7 @@
 
 namespace desktoptest {
 
-// Holds a model to the rules of Qt for as long as it lives, through everything that the test does.
+// Checks that a model keeps Qt's rules throughout the test, for as long as this object lives.
 class Tested {
 public:
     explicit Tested(QAbstractItemModel& model)
@@ -20,7 +20,7 @@ private:
     QAbstractItemModelTester tester_;
 };
 
-// Runs what waits for the event loop until the condition holds; false when it does not within a generous time.
+// Runs the event loop until the condition holds; false when it does not within a generous time limit.
 template <class Condition>
 bool waitFor(Condition condition) {
     return QTest::qWaitFor(condition, 20'000);
@@ -29,7 +29,7 @@ bool waitFor(Condition condition) {
 // A shell on a small estate, with everything that models and views need.
 class ModelFixture : public shelltest::ShellFixture {
 protected:
-    // Runs what was put off until the console is idle.
+    // Runs postponed work until the console is idle.
     void settle() {
         bool done = false;
         operations.later([&] { done = true; });

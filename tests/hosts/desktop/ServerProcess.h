@@ -5,7 +5,7 @@
 
 namespace desktoptest {
 
-// A vantreld of its own process with the sample estate, on a free port of the loopback address. The account is "admin"
+// A vantreld in its own process with the sample estate, on a free port of the loopback address. The account is "admin"
 // with the password "secret-pw".
 class ServerProcess {
 public:
@@ -14,7 +14,7 @@ public:
     ServerProcess& operator=(const ServerProcess&) = delete;
     ~ServerProcess();
 
-    // 0 when the server did not come up.
+    // 0 when the server did not start.
     quint16 port() const { return port_; }
     static constexpr const char16_t* password = u"secret-pw";
 

@@ -36,7 +36,7 @@ void WindowFixture::SetUp() {
         if (dialog != nullptr && isNew && !acts_.empty()) {
             const auto act = std::move(acts_.front());
             acts_.pop_front();
-            // Not from within the timer, which would not fire while a box stands over the dialog.
+            // Not from within the timer, which would not fire while a box is open over the dialog.
             QMetaObject::invokeMethod(
                 dialog, [act, dialog] { act(*dialog); }, Qt::QueuedConnection);
         }

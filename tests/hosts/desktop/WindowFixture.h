@@ -25,21 +25,21 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    // A window that has logged in without a dialog and shows the path.
+    // Opens a window that logs in without a dialog and shows the path.
     void open(const QString& path = QStringLiteral("Printers"));
-    // A window that asks for the login.
+    // Opens a window that asks for the login.
     void openWithDialog();
 
-    // Acts on the next dialogs, each once it is in front, in the order of asking. A dialog that comes to the front
-    // again is the next one too.
+    // Acts on the next dialogs, each once it is in front, in the order of the calls. A dialog that comes to the front
+    // again counts as the next one.
     void whenAsked(std::function<void(QDialog&)> act);
     // Presses the button with that text, access key or not.
     static void press(QWidget& dialog, const QString& button);
     static void type(QWidget& dialog, int field, const QString& text);
 
-    // Runs what was put off, until the console is idle and nothing is asked any more.
+    // Runs postponed work until the console is idle and no dialog is expected any more.
     void settle();
-    // Chooses an entry of the menu of what is selected.
+    // Chooses an entry of the selection's menu.
     void choose(const QString& entry);
 
     console::ScopeId item(const QString& path) const;
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<desktop::Session> session_;
     std::unique_ptr<desktop::MainWindow> window_;
     std::deque<std::function<void(QDialog&)>> acts_;
-    QPointer<QDialog> seen_; // the dialog that was in front at the last look; another may come to stand where it was
+    QPointer<QDialog> seen_; // the dialog that was in front at the last check; a new one may get the same address
     QTimer watch_;
 };
 

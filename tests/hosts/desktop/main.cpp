@@ -4,7 +4,7 @@
 
 #include <QStandardPaths>
 
-// Every test has an application, on no screen.
+// Every test has an application, on an offscreen platform.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);

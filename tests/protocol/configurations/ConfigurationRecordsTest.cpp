@@ -7,14 +7,14 @@
 namespace protocol {
 namespace {
 
-// A record is these bytes when it goes out, and these bytes are the record when they come in.
+// Checks that a record is written as these bytes and read back from them.
 template <Record R>
 void expectBytes(const R& record, const std::string& header, const std::string& fields) {
     EXPECT_EQ(hexOf(record), tidy(header + fields));
     EXPECT_EQ(fromFields<R>(fields), record);
 }
 
-// What a peer adds behind is left unread.
+// Checks that extra bytes from a peer are left unread.
 template <Record R>
 void expectTrailingBytesUnread(const R& record, const std::string& fields) {
     EXPECT_EQ(fromFields<R>(fields + " 01 02 03"), record);

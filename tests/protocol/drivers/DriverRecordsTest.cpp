@@ -17,7 +17,7 @@ const support::Bytes longest8 = support::hex("FF FF") + repeated(65535, "69");
 const support::Bytes longest16 = support::hex("FE FF") + repeated(32767, "4E 00");
 const wire::WideString longestWide(32767, u'N');
 
-// The record as these fields, in both directions.
+// Checks the record against these fields, in both directions.
 template <class R>
 void expectRecord(const R& record, const std::string& fields) {
     EXPECT_EQ(hexOf(record), support::toHex(support::dataMessage(support::hex(fields))));

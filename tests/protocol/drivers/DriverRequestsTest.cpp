@@ -9,7 +9,7 @@
 namespace protocol {
 namespace {
 
-// The request as these fields, in both directions.
+// Checks the request against these fields, in both directions.
 template <class Request>
 void expectFields(const Request& request, const std::string& fields) {
     EXPECT_EQ(hexOf(request), support::toHex(support::dataMessage(support::hex(fields))));

@@ -5,7 +5,7 @@
 
 namespace protocol {
 
-// A record with something of its own in nearly every field.
+// A record with a distinct value in nearly every field.
 inline PrinterRecord ordinaryPrinter() {
     PrinterRecord record;
     record.ip = "10.0.0.7";

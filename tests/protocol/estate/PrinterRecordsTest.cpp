@@ -7,7 +7,7 @@
 namespace protocol {
 namespace {
 
-// All 32 fields, of which every text is empty and every number stands at what a new record has.
+// All 32 fields of a new record: every text is empty and every number has its initial value.
 constexpr const char* emptyPrinterFields = "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"
                                            "03 02 00 00 00 00 00 00 00 00 30 30 30 00 00 00 00 00 00 00"
                                            "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00";

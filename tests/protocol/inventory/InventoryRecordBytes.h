@@ -6,7 +6,7 @@
 #include "protocol/inventory/IpRange.h"
 #include "protocol/inventory/Schema.h"
 
-// Records with something of their own in every field, and their fields on the wire.
+// Records with a distinct value in every field, and their fields on the wire.
 namespace protocol {
 
 inline SchemaRecord ordinarySchema() {

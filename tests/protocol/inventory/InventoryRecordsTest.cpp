@@ -7,7 +7,7 @@
 namespace protocol {
 namespace {
 
-// The record goes out as these fields behind the header of their message, and comes back.
+// Checks that the record is written as these fields after the message header, and read back.
 template <Record R>
 void expectBothWays(const R& record, const support::Bytes& fields) {
     EXPECT_EQ(hexOf(record), support::toHex(support::dataMessage(fields)));
@@ -20,7 +20,7 @@ void expectBothWays(const R& record, const char* fields) {
     expectBothWays(record, support::hex(fields));
 }
 
-// What a text beyond the basic plane is after it went out and came in.
+// What becomes of a text beyond the basic plane when it is written and read back.
 const wire::WideString face = u"\U0001F600";
 const wire::WideString movedFace = u"\U0001FE00";
 

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-// What every record and request of the rules has to do with its bytes.
+// Checks of the bytes of every record and request of the rules.
 namespace protocol::test {
 
-// 0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480 as it travels.
+// 0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480 on the wire.
 inline const std::string uuidFields = "24 00 30 66 38 65 32 61 36 34 2D 35 62 31 64 2D 34 66 30 65 2D 39 63 33 37 2D"
                                       "36 61 32 64 35 31 62 37 65 34 38 30 ";
 
@@ -15,7 +15,7 @@ inline wire::Uuid ordinaryUuid() {
     return wire::parseUuid("0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480");
 }
 
-// The record is written as these fields and read back from them, whatever stands behind.
+// The record is written as these fields and read back from them, whatever follows them.
 template <Record R>
 void expectFields(const R& record, const std::string& fields) {
     EXPECT_EQ(hexOf(record), support::toHex(support::dataMessage(support::hex(fields))));
@@ -37,7 +37,7 @@ void expectNoShorterMessage(const std::string& fields) {
     }
 }
 
-// The texts that a name can be, between the fields before it and behind it.
+// The texts that a name can be, between the fields before and after it.
 template <Record R>
 void expectNames(const std::string& before, const std::string& after) {
     const auto nameOf = [&](const support::Bytes& name) {

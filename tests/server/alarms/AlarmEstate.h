@@ -16,7 +16,7 @@
 
 namespace server::test {
 
-// An estate of its own for a test about alarms, and short words for what tests do with it.
+// A database for a test about alarms, with shorthands for what tests do with it.
 class AlarmEstate : public TestEstate {
 public:
     [[nodiscard]] EmailRecipientService recipientService() { return EmailRecipientService(connection()); }

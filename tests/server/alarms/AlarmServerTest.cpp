@@ -9,7 +9,7 @@ namespace {
 using support::toHex;
 using namespace test; // the words of requests
 
-// A server and the commands for alarms as they travel.
+// A server, and the commands for alarms on the wire.
 class AlarmServer : public testing::Test {
 protected:
     AlarmServer() { server.start(); }

@@ -112,7 +112,7 @@ TEST(EmailRecipientService, aRecipientTooLongToBeListedIsRefusedAndOneThatJustFi
     const std::size_t room = (65535 - 5 - 38 - 2 - 2 - 1) / 2;
     EXPECT_TRUE(place.addRecipient(u"N", std::u16string(room, u'e')).empty());
     EXPECT_FALSE(place.addRecipient(u"N", std::u16string(room - 1, u'e')).empty());
-    // With its name the list of a program's actions shows those of the event and the action too.
+    // The list of a program's actions contains the names of the event and the action beside it.
     EXPECT_TRUE(place.addRecipient(std::u16string(room - 1, u'n'), u"e").empty());
     EXPECT_FALSE(place.addRecipient(std::u16string(room - 50, u'n'), u"e").empty());
 }

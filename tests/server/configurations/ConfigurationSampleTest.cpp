@@ -10,7 +10,7 @@
 namespace server {
 namespace {
 
-// Two models with drivers of their own, one of them deployed twice, and so many queues of each.
+// Two models with their own drivers, one of them deployed twice, and the given number of queues of each.
 std::string sampleWith(int queues, const std::function<void(test::ConfiguredEstate&)>& look) {
     test::TestEstate place;
     test::ConfiguredEstate estate(place.connection());

@@ -245,7 +245,7 @@ TEST_F(ConfigurationServiceTest, whatQueuesUseMovesToTheDeploymentThatReplacesTh
     apply(queue, "de", "c1");
     apply(queue, "en", "c2");
     place.connection().change([&] {
-        estate.queues().moveAll("de", "new"); // which comes only afterwards, since there can be one of a locale only
+        estate.queues().moveAll("de", "new"); // added only afterwards, because there can be only one per locale
         estate.sql().run("DELETE FROM driverDeployment WHERE id = 'de'");
         estate.deploy("new", "m1", u"de");
         return true;

@@ -17,7 +17,7 @@
 
 namespace server::test {
 
-// A way to SQL for what the tests of configurations need of the other tables.
+// SQL access to what the tests of configurations need from the other tables.
 class Statements {
 public:
     explicit Statements(sqlite3* connection) : connection_(connection) {}
@@ -35,7 +35,7 @@ public:
         return rows.next() ? rows.number(0) : -1;
     }
 
-    // How often a statement of the connection has sorted its rows or made an index for itself.
+    // How often a statement of the connection has sorted its rows or built a temporary index.
     [[nodiscard]] int sorts() const {
         int sorts = 0;
         for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
@@ -49,7 +49,7 @@ private:
     sqlite3* connection_;
 };
 
-// Short words for what tests do with the models, queues and configurations of an estate. Ids are given by the test.
+// Shorthands for what tests do with the models, queues and configurations of an estate. The test chooses the ids.
 class ConfiguredEstate {
 public:
     explicit ConfiguredEstate(StoreConnection& connection) : connection_(connection) {
@@ -58,7 +58,7 @@ public:
         home_ = connection.table<RegionTable>().insert(1, 0, u"Home");
     }
 
-    // A model with a driver of the same id, "driver " before it.
+    // A model with a driver of the same id, prefixed with "driver ".
     void addModel(const std::string& id) {
         const std::u16string name(id.begin(), id.end());
         sql().run("INSERT INTO driverModel (id, brandId, name, nameKey) VALUES (?, 'brand', ?, ?)", id, name,
@@ -71,7 +71,7 @@ public:
                   "VALUES (?, ?, 'brand', ?, ?, x'', '', x'')",
                   id, model, version, nameKey(version));
     }
-    // Of the model's driver, unless another one is named.
+    // Deploys the model's driver, unless another one is given.
     void deploy(const std::string& id, const std::string& model, const std::u16string& locale,
                 std::string driver = {}) {
         driver = driver.empty() ? "driver " + model : driver;
@@ -98,7 +98,7 @@ public:
         return add(6, name, model, {});
     }
 
-    // All that a change sets, so that a record that was loaded is stored with another model or name.
+    // Makes a full change: loads the record and stores it with another model or name.
     void change(const std::string& id, const std::u16string& name, const std::string& model) {
         auto record = connection_.table<RecordTable>().find(id).value().record;
         record.name = name;

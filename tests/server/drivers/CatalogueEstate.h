@@ -14,7 +14,7 @@
 namespace server::test {
 
 // Two brands, the models "m1" and "m2" of the first and "m3" of the second, and the drivers "d1", "d2" and "d3" of
-// these, with short words for what tests do with them.
+// these, with shorthands for what tests do with them.
 class CatalogueEstate {
 public:
     using Names = std::vector<std::u16string>;

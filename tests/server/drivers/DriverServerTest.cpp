@@ -53,7 +53,7 @@ protected:
         const auto message = messagesOf(ask(server.port(), request(opcode, fields))).at(0);
         return toHex({message.begin() + 5, message.end()});
     }
-    // Sends a change, and sees that nothing comes back.
+    // Sends a change, and checks that nothing is answered.
     void change(std::uint16_t opcode, const test::Bytes& fields) {
         EXPECT_EQ(toHex(ask(server.port(), request(opcode, fields))), "") << opcode;
     }

@@ -20,7 +20,7 @@ PrinterRecord named(const std::u16string& name, std::int32_t regionId, std::uint
     return record;
 }
 
-// Every field with a value of its own.
+// Every field with a distinct value.
 PrinterRecord fullRecord(std::int32_t regionId) {
     return {.ip = "10.1.2.3",
             .fpBoxIp = "10.9.9.9",

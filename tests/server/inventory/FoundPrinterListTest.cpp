@@ -74,7 +74,7 @@ TEST(FoundPrinterList, anOwnPrinterAtTheAddressIsMappedWithItsFirstQueue) {
     const auto report = place.report();
     EXPECT_EQ(place.found(report).at(0).mappedPrinterId, "");
     const auto printer = place.addOwn(u"P", "10.1.0.7");
-    EXPECT_EQ(place.found(report).at(0).mappedPrinterName, u"P"); // made later, and shown all the same
+    EXPECT_EQ(place.found(report).at(0).mappedPrinterName, u"P"); // made later, and still shown
     EXPECT_EQ(place.found(report).at(0).mappedPrinterId, printer);
     EXPECT_EQ(place.found(report).at(0).mappedQueueId, "");
     place.addQueue(u"second", printer);

@@ -20,7 +20,7 @@
 
 namespace server::test {
 
-// All records of a list, whose count must be theirs.
+// All records of a list; checks its count.
 template <protocol::Record R>
 std::vector<R> recordsOf(Listing listing) {
     std::vector<R> records;
@@ -41,7 +41,7 @@ std::vector<Value> each(const std::vector<R>& records, Value R::*member) {
     return values;
 }
 
-// A database with an old estate, and short words for what tests do with it.
+// A database with an old estate, and shorthands for what tests do with it.
 class InventoryPlace : public TestEstate {
 public:
     [[nodiscard]] OldEstateTable& old() { return connection().table<OldEstateTable>(); }
@@ -62,7 +62,7 @@ public:
         return old().addPrinter(printer);
     }
 
-    // A printer that hangs on a workstation of its own.
+    // A printer connected to its own workstation.
     std::int64_t addLocal(const std::u16string& name, const std::u16string& workstation, const std::string& hostIp,
                           const std::u16string& model = u"Ink", bool shared = false) {
         OldPrinter printer;
@@ -153,7 +153,7 @@ public:
         changeRange(1, range);
     }
 
-    // 0 for one that is not there.
+    // 0 for one that does not exist.
     [[nodiscard]] std::int64_t numberOf(const std::string& reportId) {
         return connection().table<ReportTable>().find(reportId).value_or(0);
     }

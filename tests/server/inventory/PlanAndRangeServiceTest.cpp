@@ -9,7 +9,7 @@ using protocol::IpRangeRecord;
 using protocol::SchemaRecord;
 using test::InventoryPlace;
 
-// Something of its own in each field but the id.
+// A distinct value in each field except the id.
 SchemaRecord fullPlan() {
     return {.creator = u"eva",
             .planNumber = -7,
@@ -122,7 +122,7 @@ TEST(MigrationPlanService, aPlanOutlivesItsQueue) {
     const auto orphan = place.plans().at(0);
     EXPECT_EQ(orphan.newQueueId, "");
     EXPECT_EQ(orphan.newPrinterName, u"Color");
-    plan.schemaId = orphan.schemaId; // a dialog that was open meanwhile still has the queue's id
+    plan.schemaId = orphan.schemaId; // a dialog that was open in the meantime still has the queue's id
     EXPECT_TRUE(isDone(place.changePlan(2, plan)));
     EXPECT_EQ(place.plans(), std::vector{orphan});
 }
@@ -160,7 +160,7 @@ TEST(IpRangeService, anEditReplacesAllFieldsAndADeleteNamesTheIdAlone) {
     edited.name = u"Roof";
     edited.startIp = u"10.1.0.9";
     EXPECT_TRUE(isDone(place.changeRange(2, edited)));
-    EXPECT_EQ(place.ranges(), std::vector{edited}); // what a dialog does not show travels with it
+    EXPECT_EQ(place.ranges(), std::vector{edited}); // fields that a dialog does not show are kept
     IpRangeRecord gone;
     gone.rangeId = edited.rangeId;
     EXPECT_TRUE(isDone(place.changeRange(3, gone)));

@@ -19,12 +19,12 @@ namespace server::test {
 constexpr std::uint8_t adds = 1;
 constexpr std::uint8_t updates = 2;
 
-// A text with which no record can be sent back in one frame any more.
+// A text too long for any record to be sent back in one frame.
 inline std::u16string tooLongText() {
     return std::u16string(32767, u'x');
 }
 
-// A database for the rules, and short words for what tests do with it.
+// A database for the rules, and shorthands for what tests do with it.
 class RuleEstate : public TestEstate {
 public:
     template <class Service>

@@ -80,14 +80,14 @@ UserMessageRecord fullMessage() {
             .builtIn = false};
 }
 
-// True when the record, changed so, is refused and nothing is written.
+// True when the changed record is refused and nothing is written.
 template <class Write, class R, class Change>
 bool refuses(const Write& write, R record, Change change) {
     change(record);
     return !isDone(write(record));
 }
 
-// What is asked of the id, the name and the size of every record.
+// Checks the id, the name and the size of every record.
 template <class R, class Write>
 void expectRefusals(RuleEstate& place, const R& record, const Write& write, std::size_t alreadyThere = 0) {
     EXPECT_TRUE(refuses(write, record, [](R& one) { one.id = {}; }));

@@ -109,7 +109,7 @@ TEST(HostilePeer, garbageLeavesTheServerAnswering) {
         Bytes bytes(random() % 600);
         for (auto& byte : bytes)
             byte = static_cast<std::uint8_t>(random());
-        // Half of it comes in a frame that holds, around a command that exists.
+        // Half of it is sent in a valid frame, with an existing command.
         if (round % 2 == 0)
             bytes = request(static_cast<std::uint16_t>(random() % 90), bytes, round % 3 == 0 ? 2 : 1);
         (void)answerTo(server, bytes);
@@ -149,7 +149,7 @@ TEST(HostilePeer, whoStallsInsideOfALoginIsDropped) {
     TestClient key(server.port());
     key.send(request(78, std::nullopt));
     (void)key.receiveFrame();
-    EXPECT_EQ(key.receiveAll().size(), 4U); // the length of the key, which nobody acknowledges
+    EXPECT_EQ(key.receiveAll().size(), 4U); // the length of the key, which is never acknowledged
 }
 
 TEST(HostilePeer, whoDoesNotTakeItsAnswerIsDropped) {
@@ -161,7 +161,7 @@ TEST(HostilePeer, whoDoesNotTakeItsAnswerIsDropped) {
     const auto list = request(6, str8("") + u32(1) + u16(0));
     TestClient slow(server.port());
     slow.send(list);
-    // When the server waits for nobody any more it has dropped the one that does not read.
+    // Once the server waits for nobody, it has dropped the peer that does not read.
     server.stop();
     EXPECT_LT(slow.receiveAll().size(), std::size_t{1000} * 60000);
 }

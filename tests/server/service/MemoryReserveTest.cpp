@@ -7,7 +7,7 @@
 namespace server {
 namespace {
 
-// The program's handler for a request that found no memory, put back at the end of a test.
+// Restores the program's new-handler at the end of a test.
 class MemoryReserveTest : public testing::Test {
 protected:
     MemoryReserveTest() { MemoryReserve::install(); }

@@ -33,7 +33,7 @@ std::vector<std::u16string> regionNames(std::uint16_t port) {
     return names;
 }
 
-// The fields of a record with nothing but a name, a region and a type.
+// The fields of a record with only a name, a region and a type.
 Bytes recordFields(const std::u16string& name, std::uint32_t region, std::uint16_t type, const std::string& id = {}) {
     return str8("") + str8("") + str8(id) + str16(name) + str16(u"") + str16(u"") + str16(u"") + str8("") + str8("") +
            str16(u"") + u32(515) + u32(region) + u16(0) + hex("30 30 30") + u16(type) + u8(0) + str16(u"") + u16(0) +

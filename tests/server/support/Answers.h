@@ -5,7 +5,7 @@
 
 namespace server::test {
 
-// All frames of the answer of a server to a request that reads, asked for in pieces of the size.
+// All frames of a server's answer to a read request, fetched in pieces of the given size.
 inline Bytes answerOf(StoreConnection& connection, std::uint16_t opcode, const Bytes& fields,
                       std::size_t piece = 65536) {
     const auto answer = commands().find(opcode, fields)->answer(fields, connection);

@@ -5,8 +5,8 @@
 
 namespace server::test {
 
-// Puts so many printers into a region, straight into the table and in one transaction. Their ids and names are their
-// numbers, from 0 on.
+// Adds the given number of printers to a region, straight into the table and in one transaction. Their ids and names
+// are their numbers, from 0 on.
 inline void addManyPrinters(StoreConnection& connection, std::int32_t region, int count,
                             const std::u16string& comment = {}) {
     connection.change([&] {

@@ -9,7 +9,8 @@
 
 namespace server::test {
 
-// What SQLite says about the statements of one connection: Estate::table makes it of the connection of the estate.
+// What SQLite reports about the statements of one connection: constructed by Estate::table from the connection of the
+// estate.
 class QueryPlans {
 public:
     explicit QueryPlans(sqlite3* connection) : connection_(connection) {}
@@ -34,7 +35,7 @@ public:
         return statements;
     }
 
-    // Those of them, with their plans, that gather all rows to sort them before the first one goes out.
+    // Those that collect and sort all rows before returning the first one, with their plans.
     [[nodiscard]] std::string sortingStatements() const {
         std::string found;
         for (const auto& sql : readingStatements())

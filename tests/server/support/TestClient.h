@@ -22,7 +22,7 @@ using support::operator+;
 // A whole request: the Data message when there are fields, then the Command message.
 [[nodiscard]] Bytes request(std::uint16_t opcode, const std::optional<Bytes>& fields, std::uint16_t version = 1);
 
-// Takes fields off the bytes of a message, in order.
+// Reads fields from the bytes of a message, in order.
 class FieldCursor {
 public:
     explicit FieldCursor(const Bytes& message, std::size_t offset = 5) : message_(message), offset_(offset) {}
@@ -36,7 +36,7 @@ private:
     std::size_t offset_;
 };
 
-// One connection to a server, which speaks in bytes. A wait of more than twenty seconds throws.
+// One connection to a server that sends and receives raw bytes. A wait of more than twenty seconds throws.
 class TestClient {
 public:
     explicit TestClient(std::uint16_t port);
@@ -46,7 +46,7 @@ public:
     TestClient& operator=(const TestClient&) = delete;
 
     TestClient& send(const Bytes& bytes);
-    // Like send, but a server that has closed is no failure.
+    // Like send, but does not fail if the server has closed.
     void trySend(const Bytes& bytes);
     void closeSending();
     void close();
@@ -56,9 +56,9 @@ public:
     [[nodiscard]] Bytes receive(std::size_t count);
     // The data of the next frame, its header checked.
     [[nodiscard]] Bytes receiveFrame();
-    // All that comes until the server closes; a reset counts as closing.
+    // All bytes until the server closes; a reset counts as closing.
     [[nodiscard]] Bytes receiveAll();
-    // The server closes without a byte.
+    // Whether the server closes without sending a byte.
     [[nodiscard]] bool isClosedSilently() { return receiveAll().empty(); }
 
 private:
@@ -67,9 +67,9 @@ private:
     int socket_;
 };
 
-// One command over a connection of its own, all of its answer.
+// Sends one command over a new connection; returns the whole answer.
 [[nodiscard]] Bytes ask(std::uint16_t port, const Bytes& request);
-// Sends, closes and waits for nothing.
+// Sends, and closes without waiting.
 void tell(std::uint16_t port, const Bytes& request);
 
 // The messages of all frames.

@@ -11,7 +11,7 @@
 
 namespace server::test {
 
-// A database of its own for a test, and short words for what tests do with it.
+// A database for one test, and shorthands for what tests do with it.
 class TestEstate {
 public:
     [[nodiscard]] StoreConnection& connection() { return *connection_; }

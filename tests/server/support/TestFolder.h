@@ -8,7 +8,7 @@
 
 namespace server::test {
 
-// A folder of its own for a test, gone with everything in it at the end.
+// A temporary folder for one test, removed with everything in it at the end.
 class TestFolder {
 public:
     TestFolder() {

@@ -79,7 +79,7 @@ TEST_F(ActivityLogTest, aCommandWithinACommandCompletesItsOwnLine) {
 }
 
 TEST_F(ActivityLogTest, keepsTheLatestAndDropsTheOldest) {
-    tested.reset(); // looks at all lines for each
+    tested.reset(); // checks all lines after each change
     for (std::size_t number = 0; number < desktop::ActivityLog::capacity + 3; ++number) {
         run(report("ListRegions", std::to_string(number)));
     }

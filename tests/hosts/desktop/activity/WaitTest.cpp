@@ -12,7 +12,7 @@ namespace {
 
 using support::ScriptedServer;
 
-// Does something again and again while a command waits.
+// Repeats an action while a command waits.
 class Meanwhile {
 public:
     explicit Meanwhile(std::function<void()> act) {
@@ -28,7 +28,7 @@ private:
 
 class Wait : public WindowFixture {
 protected:
-    // From now on every command meets a server that takes it and says nothing.
+    // From now on the server receives every command and never answers.
     void stall() {
         stalling_ = std::make_unique<ScriptedServer>(
             std::vector<ScriptedServer::Script>(6, [](ScriptedServer::Connection& connection) { connection.stall(); }));

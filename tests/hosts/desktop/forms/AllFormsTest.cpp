@@ -28,7 +28,7 @@
 namespace desktop {
 namespace {
 
-// A form of the product, at a size of the letters in per cent.
+// A form of the product, with its font scaled to a percentage.
 struct Case {
     std::string name;
     int scale = 100;
@@ -104,7 +104,7 @@ QString withoutMarks(QString text) {
     return text.remove(QLatin1Char('&'));
 }
 
-// Everything that a person can read on the dialog besides what stands in its boxes.
+// All readable texts of the dialog except the content of its boxes.
 QStringList textsOn(const QWidget& dialog) {
     QStringList texts;
     for (const auto* label : dialog.findChildren<QLabel*>()) {

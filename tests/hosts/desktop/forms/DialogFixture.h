@@ -12,15 +12,15 @@
 
 namespace desktop {
 
-// Where the widget of a control is on its dialog.
+// The place of a control's widget on its dialog.
 QRect placeOn(const FormDialog& dialog, const forms::Control& control);
 
 // A form with every kind of control, as a dialog in front of a person.
 class DialogFixture : public testing::Test {
 protected:
-    // Shows the form and waits until the keyboard goes to it.
+    // Shows the form and waits until it has the focus.
     FormDialog& show();
-    // Lets everything happen that waits for its turn.
+    // Processes all pending events.
     static void settle();
 
     template <class Widget>

@@ -216,7 +216,7 @@ TEST_F(FormDialogs, whatAHandlerThrowsLeavesTheDialogAsItIs) {
     EXPECT_EQ(platform.failures()[0], "Sample: lost");
 }
 
-// More boxes than a small screen has room for below one another.
+// More boxes than fit below one another on a small screen.
 class TallForm final : public forms::Form {
 public:
     explicit TallForm(platform::Platform& owner) : Form(owner, u"Tall") {
@@ -270,7 +270,7 @@ TEST_F(FormDialogs, groupsBesideEachOtherShareALineAndTheirFirstBoxesAreLevel) {
 
     pair.right.setVisible(true);
     for (int round = 0; round < 4; ++round) {
-        settle(); // from the group to the dialog, each asks the next for more room
+        settle(); // from the group to the dialog, each asks its parent for more room
     }
 
     const auto place = [&](const forms::Control& control) { return placeOn(dialog, control); };

@@ -19,7 +19,7 @@ namespace {
 
 class FormKeyboard : public DialogFixture {};
 
-// Where the mnemonic of each text of the dialog is, in capitals.
+// The mnemonic of each text of the dialog, in upper case.
 std::vector<QChar> accessKeys(const QWidget& dialog) {
     std::vector<QChar> keys;
     const auto add = [&](const QString& text) {

@@ -17,7 +17,7 @@ namespace {
 using platform::Answer;
 namespace boxStyle = platform::boxStyle;
 
-// Shows a box and lets the person act on it.
+// Shows a box, acts on it as the user, and returns its answer.
 Answer answerTo(std::uint32_t style, const std::function<void(QMessageBox&)>& act,
                 const wire::WideString& text = u"Delete the region?") {
     QTimer::singleShot(0, [&act] {

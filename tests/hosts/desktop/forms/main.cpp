@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTemporaryFile>
 
-// Every test has an application, on a screen that is none but has room for the largest dialog in large letters.
+// Every test has an application, on an offscreen platform with room for the largest dialog with a large font.
 int main(int argc, char** argv) {
     QTemporaryFile screen;
     if (!screen.open()) {

@@ -22,7 +22,7 @@ QPalette darkPalette() {
     return palette;
 }
 
-// How much brighter than the window the brightest point at its edge is, of an empty widget without the keyboard.
+// How much brighter the brightest point at the edge of an empty, unfocused widget is than the window.
 int outlineOf(QWidget& widget) {
     desktop::DarkStyle style;
     widget.setStyle(&style);

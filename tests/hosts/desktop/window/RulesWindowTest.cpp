@@ -7,10 +7,10 @@
 namespace desktoptest {
 namespace {
 
-// The rules as a person makes them at the screen, in dialogs over dialogs.
+// Editing rules as a user does, in nested dialogs.
 class RulesWindow : public WindowFixture {
 protected:
-    // The box or list with that label; fails the test and answers the dialog when there is none in sight.
+    // The visible box or list with that label; fails the test and returns the dialog when there is none.
     static QWidget& field(QDialog& dialog, const QString& label) {
         for (auto* const widget : dialog.findChildren<QWidget*>()) {
             if (widget->accessibleName() == label && widget->isVisible()) {
@@ -23,7 +23,7 @@ protected:
     static void enter(QDialog& dialog, const QString& label, const QString& text) {
         QTest::keyClicks(&field(dialog, label), text);
     }
-    // Chooses the last row of a list, which is "<New>", and acts on the dialog that comes.
+    // Chooses the last row of a list, which is "<New>", and acts on the dialog that opens.
     void makeNew(QDialog& dialog, const QString& list, std::function<void(QDialog&)> act) {
         whenAsked(std::move(act));
         QTest::keyClick(&field(dialog, list), Qt::Key_End);

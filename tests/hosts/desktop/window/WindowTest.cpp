@@ -34,7 +34,7 @@ protected:
         window().actions().refresh->trigger();
         settle();
     }
-    // As the person drags it: the data of the list given to the tree.
+    // Drags as the user does: drops the data of the list on the tree.
     void drag(const QString& row, const QString& target) {
         const std::unique_ptr<QMimeData> data(panes().listModel().mimeData({rowNamed(row)}));
         auto& model = *panes().tree().model();
