@@ -7,7 +7,7 @@
 
 namespace ctl {
 
-// Adds a line of JSON to a file for each command that went to the server. No password is ever in it.
+// Appends a line of JSON to a file for each command sent to the server. Never contains a password.
 class Activity final : public shell::ShellObserver {
 public:
     // Throws Failure (refused) when the file can't be written.

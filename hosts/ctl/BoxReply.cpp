@@ -14,9 +14,9 @@ using platform::Answer;
 namespace style = platform::boxStyle;
 
 struct Buttons {
-    std::string_view words; // as --answer takes them
+    std::string_view words; // as in --answer
     std::vector<Answer> answers;
-    Answer least; // what changes nothing
+    Answer least; // the answer that changes nothing
 };
 
 Buttons buttonsOf(std::uint32_t boxStyle) {

@@ -10,27 +10,27 @@ namespace forms {
 class Form;
 }
 
-// How the steps of a command line get on with boxes and forms; the same for every host.
+// How the steps of a command line deal with boxes and forms; the same for every host.
 namespace ctl {
 
-// What becomes of a message box.
+// The reply to a message box.
 struct BoxReply {
     platform::Answer answer = platform::Answer::ok;
-    bool takesStep = false;         // the next step has answered it
-    std::string said;               // a statement that is passed on; empty for none
+    bool takesStep = false;         // the next step answers it
+    std::string said;               // a message to pass on; empty for none
     std::optional<Failure> failure; // of the command
 };
 
-// The reply of the next step, which is null at the end of the steps. A box that can't be answered gets the answer that
-// changes nothing. One that only has an OK is a statement: unless a step stands for it, it is the failure of the
-// command; with a warning or an error on it, always.
+// The reply that the next step gives; the step is null at the end. A box that can't be answered gets the answer that
+// changes nothing. A box with only an OK is a message: unless a step answers it, it makes the command fail; with a
+// warning or error icon it always does.
 BoxReply replyTo(const Step* next, wire::WideStringView text, wire::WideStringView caption, std::uint32_t style);
 
-// That the steps are over and the form is not.
+// The failure for a form that is still open after the last step.
 Failure leftOpen(forms::Form& form);
-// That an answer was given and no question asked.
+// The failure for an answer without a question.
 Failure notAsked(const Step& step);
-// That a step was left over.
+// The failure for a step that was not used.
 Failure leftOver(const Step& step);
 
 } // namespace ctl

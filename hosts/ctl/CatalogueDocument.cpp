@@ -50,7 +50,7 @@ std::string kindText(const protocol::FieldInfo& field) {
     }
 }
 
-// Notes the records that are a part of this one, and what they have as parts.
+// Collects the records that this one contains, and those that they contain.
 void noteParts(Records& records, const RecordLayout* layout) {
     if (layout == nullptr) {
         return;
@@ -80,7 +80,7 @@ Records recordsOf(std::span<const protocol::Command> commands) {
     return records;
 }
 
-// "`str8` id, `str16` name", or a word for none.
+// "`str8` id, `str16` name", or "none".
 std::string fieldsText(const RecordLayout* layout) {
     if (layout == nullptr || layout->fields.empty()) {
         return "none";
@@ -103,7 +103,7 @@ std::string requestText(const protocol::Command& command) {
     return text;
 }
 
-// A record by its name when the records are told elsewhere, else its fields.
+// A record's name if the record is described elsewhere, otherwise its fields.
 std::string recordText(const RecordLayout* layout, const Records& records) {
     return layout != nullptr && records.contains(layout->name) ? inBackticks(layout->name) : fieldsText(layout);
 }

@@ -4,7 +4,7 @@
 
 namespace ctl {
 
-// The last chapters of the document on the protocol, as Markdown: a table of all commands and one of their records.
+// The last chapters of the protocol document, as Markdown: a table of all commands and one of their records.
 void writeCatalogueDocument(std::ostream& out);
 
 } // namespace ctl

@@ -18,7 +18,7 @@ std::string_view nameOf(protocol::ReplyShape shape) {
     return names[static_cast<std::size_t>(shape)];
 }
 
-// One entry for each field; those of a record within the record stand in its place, their names behind its own.
+// One entry for each field; a nested record is replaced by its fields, with its name as their prefix.
 void addFields(Json& fields, const protocol::RecordLayout& layout, const std::string& before) {
     for (const auto& field : layout.fields) {
         const auto name = before + std::string(field.name);

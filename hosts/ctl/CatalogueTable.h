@@ -8,10 +8,9 @@
 
 namespace ctl {
 
-// All commands of the protocol, in the format asked for. JSON has the fields of each request and reply:
-// "requestFields", or "forms" of a command that has several; "replyFields", and "otherRecord" for what a list holds
-// instead when its request begins with that byte. Null stands for no fields. A list or an optional tells what it is
-// "of".
+// All commands of the protocol, in the requested format. JSON contains the fields of each request and reply:
+// "requestFields", or "forms" for a command that has several; "replyFields", and "otherRecord" for what a list contains
+// instead when its request begins with that byte. Null means no fields. A list or an optional says what it is "of".
 void writeCatalogue(std::ostream& out, Format format);
 
 // A command by its number or, without regard to case, its name. Throws Failure (usage) for any other.

@@ -5,11 +5,11 @@
 
 namespace ctl {
 
-// Chooses a menu entry, by its id or its text, with the steps that its forms and questions need.
+// Chooses a menu entry, by its id or its text, and applies the steps to its forms and questions.
 void runEntry(const Options& options, Session& session);
 
-// The rename of a node, and the cut and paste of one below another, where the nodes offer them. Both look afterwards
-// whether it came true, since a server that refuses does not say so. Throw Failure when it did not.
+// Renames a node, or cuts and pastes it below another, if the nodes offer that. Both check the result afterwards,
+// because a server does not report a refusal. Throw Failure when the change was not made.
 void renameNode(const Options& options, Session& session);
 void moveNode(const Options& options, Session& session);
 

@@ -166,7 +166,7 @@ private:
         runCommand_ = &command;
     }
 
-    // The steps stand in one list for each option; only the order of parsing tells how they were mixed.
+    // The parser keeps one list of steps for each option; only the order of parsing shows how they were interleaved.
     std::vector<Step> stepsInOrder() {
         std::vector<Step> steps;
         std::map<Step::Kind, std::size_t> taken;

@@ -7,13 +7,13 @@
 
 namespace ctl {
 
-// A text that was asked for with --help or --version.
+// A text requested with --help or --version.
 struct Information {
     std::string text;
 };
 
-// Reads the command line; global options may stand before or after the command. The format is what counts when none is
-// given. Throws Failure (usage) with one line.
+// Reads the command line; global options may be before or after the command. The format applies when none is given.
+// Throws Failure (usage) with one line.
 std::variant<Options, Information> parseCommandLine(int count, const char* const* arguments,
                                                     Format format = Format::table);
 

@@ -48,7 +48,7 @@ void writeTree(const Options& options, Session& session, std::ostream& out) {
     session.check();
 }
 
-// One row on a line, so that long lists stay readable.
+// One row per line, so that long lists stay readable.
 void writeListJson(std::ostream& out, const NodePath& path, const shell::Table& table) {
     Json columns = Json::array();
     std::ranges::transform(table.columns, std::back_inserter(columns), wire::toUtf8);
@@ -114,7 +114,7 @@ void call(const Options& options, Session& session, std::ostream& out) {
     } catch (const Failure&) {
         throw;
     } catch (...) {
-        session.check(); // says what has failed
+        session.check(); // reports what has failed
         throw;
     }
 }

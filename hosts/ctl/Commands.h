@@ -7,8 +7,7 @@
 
 namespace ctl {
 
-// Carries out what the command line asks for, other than a script; data goes to `out`. Throws Failure when it could not
-// be done.
+// Carries out any command except a script; data goes to `out`. Throws Failure when it could not be done.
 void carryOut(const Options& options, Session& session, std::ostream& out);
 
 } // namespace ctl

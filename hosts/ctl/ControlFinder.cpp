@@ -67,7 +67,7 @@ std::optional<bool> parseChecked(const wire::WideString& value) {
     return std::nullopt;
 }
 
-// The cells of each row in one column that people see.
+// The cells of one visible column.
 Texts cellsOf(const forms::ListView& list, std::size_t column) {
     Texts texts;
     for (const auto& row : list.rows()) {
@@ -76,8 +76,7 @@ Texts cellsOf(const forms::ListView& list, std::size_t column) {
     return texts;
 }
 
-// What the rows of a list may be called by: the texts of each column that people see. Those of a tree by their paths
-// from the top, and by their texts.
+// The names of the rows of a list: the texts of each visible column. For a tree, the paths from the top, and the texts.
 std::vector<Texts> rowNames(const Control& control) {
     std::vector<Texts> names;
     if (const auto* const drop = dynamic_cast<const forms::DropList*>(&control)) {
@@ -105,7 +104,7 @@ bool hasRow(const Control& control, const wire::WideString& name) {
     });
 }
 
-// Whether a value is of the sort that only such a control takes. Digits are for boxes.
+// Whether only this kind of control takes such a value. Digits are for boxes.
 bool isMadeFor(const Control* control, const wire::WideString& value) {
     using namespace forms;
     if (isOneOf<CheckBox>(control)) {
@@ -117,7 +116,8 @@ bool isMadeFor(const Control* control, const wire::WideString& value) {
     return isOneOf<DropList, ListView, TreeView>(control) && hasRow(*control, value);
 }
 
-// A check box, the number beside it and the unit beside that may have one name: the value tells which of them is meant.
+// A check box, the number beside it and the unit beside that may share one name: the value tells which of them is
+// meant.
 void chooseByValue(std::vector<Control*>& found, const Step& step) {
     if (step.kind != Step::Kind::set || found.size() < 2) {
         return;

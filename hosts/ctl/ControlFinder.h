@@ -11,23 +11,23 @@ class Form;
 class TextControl;
 } // namespace forms
 
-// Which control of a form a step means, and why it can't take it; the same for every host.
+// Which control of a form a step refers to, and why the control refuses it; the same for every host.
 namespace ctl {
 
-// On the page in front, enabled and visible. Throws Failure (refused), with what there is to choose from when no
-// control or more than one is called so.
+// The control, on the page in front, enabled and visible. Throws Failure (refused), listing the choices when the name
+// matches no control or more than one.
 forms::Control& reachableControl(forms::Form& form, const Step& step);
 
-// The row of a list that is meant: by its text in the first column that has it, or by its number. Throws Failure
+// The row that a name refers to: by its text in the first column that contains it, or by its number. Throws Failure
 // (refused) likewise.
 std::size_t placeAmong(const forms::Control& control, const wire::WideString& value);
 
-// What a check box is set to. Throws Failure (refused) for anything but a yes or a no.
+// The state to set a check box to. Throws Failure (refused) for anything but a yes or a no.
 bool checkedOrRefused(const forms::Control& control, const wire::WideString& value);
 
-// That the control does not take a step.
+// The failure for a control that does not take a step.
 Failure refusal(const forms::Control& control, const std::string& why);
-// Why a box does not take a text.
+// The failure for a box that does not take a text.
 Failure textRefusal(const forms::TextControl& box, const wire::WideString& value);
 
 } // namespace ctl

@@ -10,18 +10,18 @@
 
 namespace ctl {
 
-// The person at the command line: forms and questions are answered by the steps that were given. What can't be answered
-// is answered with the least, and remembered as the failure of the command.
+// The user at the command line: forms and questions are answered by the given steps. Anything else gets the answer that
+// changes nothing, and is remembered as the failure of the command.
 //
-// A box that only has an OK is a statement: it goes to standard error. Unless an --answer stands for it, it is the
-// failure of the command; with a warning or an error on it, always.
+// A box with only an OK is a message: it goes to standard error. Unless an --answer answers it, it makes the command
+// fail; with a warning or error icon it always does.
 class CtlUserInterface final : public shell::ShellUserInterface {
 public:
     // Both outlive this.
     CtlUserInterface(shell::TaskQueue& tasks, std::ostream& errors) : ShellUserInterface(tasks), errors_(errors) {}
 
     void setSteps(StepList steps) { steps_ = std::move(steps); }
-    // Another command begins: what the one before has left behind is forgotten.
+    // Starts a new command, and forgets everything about the previous one.
     void begin() {
         steps_ = StepList();
         failure_.reset();
@@ -29,7 +29,7 @@ public:
     // Called before a step is taken; a Failure that it throws ends the steps.
     std::function<void()> beforeStep;
 
-    // Throws the failure, if there was one, or for steps that were not used.
+    // Throws the failure, if there was one, or a failure for unused steps.
     void finish();
 
     platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
@@ -38,7 +38,7 @@ public:
 
 private:
     void fail(const Failure& failure);
-    // Whether a step may be taken.
+    // Whether the next step may be taken.
     bool goesOn();
     void drive(forms::Form& form);
 

@@ -7,7 +7,8 @@
 namespace ctl {
 namespace {
 
-// Takes off the front of the text what is like the pattern, in which 0 stands for any digit; nothing when it is not.
+// Removes from the front of the text what matches the pattern, in which 0 stands for any digit; empty when it does not
+// match.
 std::optional<std::string_view> takeLike(std::string_view& text, std::string_view pattern) {
     const auto taken = text.substr(0, pattern.size());
     const bool like = std::ranges::equal(taken, pattern, [](char character, char expected) {

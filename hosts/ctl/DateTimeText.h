@@ -8,7 +8,7 @@
 namespace ctl {
 
 // Reads "2024-12-31", "23:59", "23:59:30", "2024-12-31 23:59" and the like with seconds; "none" is no value. The outer
-// optional is empty for anything else. Parts that are not given are those of DateTime.
+// optional is empty for anything else. Missing parts have the defaults of DateTime.
 std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& text);
 
 } // namespace ctl

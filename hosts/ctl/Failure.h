@@ -5,11 +5,11 @@
 
 namespace ctl {
 
-// What the program ends with.
+// The exit status of the program.
 enum class ExitStatus : int {
     done = 0,
-    refused = 1,     // by the server, by a question that nobody answered, or because something is not there
-    usage = 2,       // the command line makes no sense
+    refused = 1,     // by the server, by an unanswered question, or because something does not exist
+    usage = 2,       // the command line is invalid
     noConnection = 3 // no server, or no login
 };
 

@@ -7,13 +7,13 @@
 
 namespace ctl {
 
-// Remembers the first command that failed, since the tree goes on without a word when one does.
+// Remembers the first command that failed, because the tree does not report failures.
 class FailureWatch final : public shell::ShellObserver {
 public:
     void commandEnded(const client::CommandReport& report) override;
     void handlerStopped(std::string_view where, std::string_view what) override;
 
-    // Throws it, once.
+    // Throws that failure, once.
     void check();
     void forget() { first_.reset(); }
 

@@ -78,7 +78,7 @@ protocol::FieldValue parseField(const std::string& text) {
         return static_cast<T>(number(text, value, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
     };
     if (kind == "none" && value.empty()) {
-        return {false}; // what an optional field says when it is left out
+        return {false}; // an optional field that is left out
     }
     if (colon == text.size()) {
         refuse(text, std::string("is not KIND:VALUE; ") + kinds);

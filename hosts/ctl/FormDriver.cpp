@@ -75,7 +75,7 @@ void chooseFromRowMenu(const RowMenuEntry& entry) {
 
 void perform(forms::Form& form, const Step& step) {
     if (step.kind == Step::Kind::press) {
-        // A button of that name comes first.
+        // A button of that name takes precedence.
         const auto entries = forms::findControls(form, step.label).empty() ? findRowEntries(form, step.label)
                                                                            : std::vector<RowMenuEntry>();
         if (entries.size() == 1) {

@@ -5,9 +5,9 @@
 
 namespace ctl {
 
-// Does with a form what a step says: types into a box, checks, picks, selects a row, presses a button. Throws Failure
-// (refused) with what there is to choose from when there is no such control or row, when it is disabled, or when it
-// does not take the value.
+// Does with a form what a step says: types into a box, ticks, picks, selects a row, presses a button. Throws Failure
+// (refused), listing the choices, when there is no such control or row, when it is disabled, or when it does not take
+// the value.
 void perform(forms::Form& form, const Step& step);
 
 } // namespace ctl

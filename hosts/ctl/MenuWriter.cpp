@@ -12,7 +12,7 @@
 namespace ctl {
 namespace {
 
-// The marks stand only where there are some.
+// The marks are only written where there are any.
 Json jsonOf(const shell::MenuItem& item) {
     Json json{{"text", wire::toUtf8(item.text)}, {"status", wire::toUtf8(item.statusText)}, {"id", item.id}};
     if (item.checked) {

@@ -42,7 +42,7 @@ std::size_t placeOfRow(wire::WideStringView name, std::span<const wire::WideStri
 }
 
 ScopeId findNode(shell::Shell& shell, const NodePath& path) {
-    // Paths begin below the server, the only item below the root.
+    // Paths start below the server, the only item below the root.
     const auto& tree = shell.tree();
     const auto servers = tree.children(tree.root());
     if (servers.empty()) {

@@ -8,8 +8,8 @@
 
 namespace ctl {
 
-// The names from "Printers" and its like down to a node. Written with slashes in between; a slash in a name is "\/", a
-// backslash "\\". Slashes at the ends do not count, so that "/" is the top.
+// The names from a branch such as "Printers" down to a node. Written with slashes in between; a slash in a name is
+// "\/", a backslash "\\". Leading and trailing slashes are ignored, so that "/" is the top.
 using NodePath = std::vector<wire::WideString>;
 
 // Throws Failure (usage) for a backslash before anything else, and for an empty name in the middle.

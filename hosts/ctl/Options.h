@@ -14,9 +14,9 @@ enum class Format : std::uint8_t { table, json, csv };
 
 enum class CommandKind : std::uint8_t { login, tree, show, menu, run, rename, move, call, commands, script };
 
-// What the person has typed. Texts are UTF-8.
+// The parsed command line. Texts are UTF-8.
 struct Options {
-    // The connection; what is not given comes from the settings.
+    // The connection; values not given come from the settings.
     std::optional<std::string> server;
     std::optional<std::uint16_t> port;
     std::optional<std::string> user;

@@ -25,7 +25,7 @@ wire::WideString fromFile(const std::filesystem::path& file) {
     return wire::toWide(line);
 }
 
-// The terminal shows nothing of what is typed for as long as this lives.
+// Turns off the terminal's echo while it lives.
 class SilentTerminal {
 public:
     SilentTerminal() : changed_(tcgetattr(STDIN_FILENO, &before_) == 0) {

@@ -7,8 +7,8 @@
 
 namespace ctl {
 
-// The password: the first line of the file, else the environment variable VANTREL_PASSWORD, else what is typed at the
-// terminal without being shown. Throws Failure (no connection) when there is none to be had.
+// The password: the first line of the file, or else the environment variable VANTREL_PASSWORD, or else typed at the
+// terminal without echo. Throws Failure (no connection) when there is none.
 wire::WideString obtainPassword(const std::optional<std::filesystem::path>& file);
 
 } // namespace ctl

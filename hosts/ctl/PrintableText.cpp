@@ -29,7 +29,7 @@ Places placesOf(std::span<const wire::WideString> texts, Matches matches) {
     return places;
 }
 
-// Those that are equal, else those that are without regard to case.
+// The places of texts equal to the name, or else of those equal without regard to case.
 Places placesCalled(wire::WideStringView name, std::span<const wire::WideString> texts) {
     auto exact = placesOf(texts, [&](const wire::WideString& text) { return text == name; });
     return !exact.empty() ? exact : placesOf(texts, [&](const wire::WideString& text) { return sameWord(text, name); });
@@ -50,7 +50,7 @@ std::optional<std::pair<wire::WideStringView, std::size_t>> numbered(wire::WideS
     return std::pair(name.substr(0, sign), number);
 }
 
-// The place of what is called by its number; texts.size() when there is none.
+// The place of a text named by its number; texts.size() when there is none.
 std::size_t numberedPlace(wire::WideStringView name, std::span<const wire::WideString> texts) {
     const auto parts = numbered(name);
     if (!parts) {

@@ -8,10 +8,10 @@
 
 namespace ctl {
 
-// Texts as they stand in a line for a person: with control characters visible, in UTF-8.
+// A text for a line of output: with control characters made visible, in UTF-8.
 std::string shown(wire::WideStringView text);
 
-// "A", "B", "C", or "A", ..., "T" and 12 more. What occurs several times has its number behind it: "B#1", "B#2".
+// "A", "B", "C", or "A", ..., "T" and 12 more. Texts that occur several times get a number: "B#1", "B#2".
 std::string listed(std::span<const wire::WideString> texts);
 
 // The text itself. Throws Failure (usage) when it is longer than the 32,767 characters that a command can carry.
@@ -20,9 +20,9 @@ wire::WideString bearable(wire::WideString text);
 // Equal without regard to case.
 bool sameWord(wire::WideStringView a, wire::WideStringView b);
 
-// The place of the one text that is meant: the one that is equal, else the only one that is without regard to case,
-// else for "North#2" the second of those called so and for "#2" the second of all. texts.size() when there is none;
-// throws Failure when there are several, where `what` says what they are.
+// The place of the text that a name refers to: the one that is equal, or else the only one that is equal without regard
+// to case, or else for "North#2" the second of that name and for "#2" the second of all. texts.size() when there is
+// none; throws Failure when there are several; `what` says what they are.
 std::size_t placeOf(wire::WideStringView name, std::span<const wire::WideString> texts, const std::string& what);
 
 } // namespace ctl

@@ -5,7 +5,7 @@
 
 namespace ctl {
 
-// What is written to std::cout while this lives goes nowhere.
+// Discards what is written to std::cout while it lives.
 class QuietOutput {
 public:
     QuietOutput() : before_(std::cout.rdbuf(&nowhere_)) {}

@@ -12,7 +12,7 @@ namespace {
 
 Json valueJson(const protocol::FieldValue& field);
 
-// With the digits that tell it from other floats, not those of the double next to it: 0.2 and not 0.20000000298.
+// With just enough digits to identify the float, not those of the nearest double: 0.2 and not 0.20000000298.
 double shortest(float value) {
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;

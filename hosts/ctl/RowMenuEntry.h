@@ -12,19 +12,19 @@ class ListView;
 
 namespace ctl {
 
-// An entry of the menu on the rows of a list.
+// An entry of the context menu of a list's rows.
 struct RowMenuEntry {
     forms::ListView* list = nullptr;
     std::size_t entry = 0;
 };
 
-// As a person calls it: "List: Entry", with the groups and pages that the list stands on in front.
+// Its name: "List: Entry", preceded by the groups and pages that the list is on.
 wire::WideString fullName(const RowMenuEntry& entry);
 
-// Those of all lists, in the order of the Tab key.
+// The entries of all lists, in Tab order.
 std::vector<RowMenuEntry> rowEntriesOf(forms::Form& form);
 
-// What "List: Entry" may mean; the groups and pages that the list stands on may be left out.
+// The entries that "List: Entry" may refer to; the groups and pages that the list is on may be left out.
 std::vector<RowMenuEntry> findRowEntries(forms::Form& form, const wire::WideString& name);
 
 } // namespace ctl

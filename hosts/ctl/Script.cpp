@@ -49,7 +49,7 @@ std::vector<ScriptLine> readScriptFile(const Options& options) {
     return lines;
 }
 
-// Nothing when it was done.
+// Empty on success.
 std::optional<Failure> carryOutLine(const ScriptLine& line, Session& session, std::ostream& out) {
     try {
         session.beginCommand();

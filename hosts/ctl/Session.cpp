@@ -9,7 +9,7 @@
 namespace ctl {
 namespace {
 
-// What a login can carry of a name or a password, in UTF-16 units: the block of the key's size holds no more.
+// The longest name or password that a login can carry, in UTF-16 units: a block of the key's size holds no more.
 constexpr std::size_t longestCredential = 122;
 
 wire::WideString checked(wire::WideString credential, const std::string& what) {
@@ -72,7 +72,7 @@ wire::WideString Session::logIn() {
     ui_.setSteps(loginSteps(server, port));
     snapin::AuthenticationDlg dialog(platform_);
     {
-        const QuietOutput quiet; // the login leaves a word on standard output, which is for data here
+        const QuietOutput quiet; // the login prints something to standard output, which is for data here
         ui_.runModal(dialog, 0);
     }
     failures_.forget();

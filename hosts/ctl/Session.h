@@ -26,27 +26,26 @@
 
 namespace ctl {
 
-// The console for the length of one command line, or of one script.
+// The console during one command line or one script.
 class Session {
 public:
     // Both outlive it. Throws Failure when the activity file can't be written.
     Session(const Options& options, std::ostream& errors);
 
-    // Logs in with the product's own dialog, once, and answers the words that go with it. Throws Failure (no
-    // connection).
+    // Logs in with the product's own dialog, once, and returns its status text. Throws Failure (no connection).
     wire::WideString logIn();
-    // Logs in and starts a console that knows nothing of earlier ones.
+    // Logs in and starts a fresh console.
     shell::Shell& start();
-    // Another command of a script begins: what the one before has left behind is forgotten.
+    // Starts the next command of a script, and forgets everything about the previous one.
     void beginCommand();
-    // Throws Failure when a command has failed or the server did not carry it out, or a question or a step was left
-    // over.
+    // Throws Failure when a command has failed or the server did not carry it out, or a question was not answered or a
+    // step not used.
     void check();
 
     CtlUserInterface& ui() { return ui_; }
 
 private:
-    // What was given, else what the settings have under the name. Throws Failure (no connection) without either.
+    // The given value, or else that of the settings with the name. Throws Failure (no connection) without either.
     wire::WideString value(const std::optional<std::string>& given, std::string_view name,
                            std::string_view option) const;
     struct Console {
@@ -76,7 +75,7 @@ private:
     common::SystemEnvironment environment_;
     common::SystemLauncher launcher_;
     platform::Platform platform_;
-    std::optional<wire::WideString> loggedIn_; // the words of the login
+    std::optional<wire::WideString> loggedIn_; // the status text of the login
     std::optional<Console> console_;
 };
 

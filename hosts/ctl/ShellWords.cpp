@@ -7,7 +7,7 @@
 namespace ctl {
 namespace {
 
-// Reads words off a line.
+// Reads the words of a line.
 class Reader {
 public:
     explicit Reader(std::string_view line) : rest_(line) {}
@@ -50,7 +50,7 @@ private:
         }
     }
 
-    // Up to the closing quote; a backslash takes away the meaning of those characters only.
+    // Reads up to the closing quote; a backslash escapes only those characters.
     void takeUntil(char quote, std::string_view escapable, std::string& word) {
         while (!rest_.empty()) {
             const char next = take();

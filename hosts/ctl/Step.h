@@ -9,7 +9,7 @@
 
 namespace ctl {
 
-// One thing that a person does with a form or a message box.
+// One action on a form or a message box.
 struct Step {
     enum class Kind : std::uint8_t { set, select, press, answer };
 
@@ -17,7 +17,7 @@ struct Step {
     wire::WideString label{}; // of the control
     wire::WideString value{}; // to set or select
     platform::Answer answer = platform::Answer::ok;
-    std::string written; // as it stood on the command line, for messages
+    std::string written; // as on the command line, for messages
 };
 
 // From the arguments of --set, --select, --press and --answer. All throw Failure (usage).

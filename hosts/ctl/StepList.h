@@ -7,7 +7,7 @@
 
 namespace ctl {
 
-// The steps of a command line that are still to be done, in the order given.
+// The remaining steps of a command line, in the order given.
 class StepList {
 public:
     explicit StepList(std::vector<Step> steps = {}) : steps_(steps.begin(), steps.end()) {}

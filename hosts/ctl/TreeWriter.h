@@ -7,8 +7,8 @@
 
 namespace ctl {
 
-// Writes a node and what stands below it, reading what was not read yet. Below the depth nothing is read and nothing
-// written; without a depth all is.
+// Writes a node and everything below it, reading what has not been read yet. Below the depth nothing is read or
+// written; without a depth everything is.
 class TreeWriter {
 public:
     TreeWriter(shell::Shell& shell, std::optional<std::uint32_t> depth) : shell_(shell), depth_(depth) {}
@@ -17,7 +17,7 @@ public:
     void writeJson(std::ostream& out, console::ScopeId id);
     // With lines that lead from a node to its children.
     void writeText(std::ostream& out, console::ScopeId id);
-    // A line for each node: how many levels below the first it stands, and its path.
+    // A line for each node: how many levels it is below the first one, and its path.
     void writeCsv(std::ostream& out, console::ScopeId id);
 
 private:

@@ -10,7 +10,7 @@
 
 namespace {
 
-// One line, whatever the text holds.
+// Prints one line, whatever the text contains.
 void say(const std::string& text) {
     std::cerr << "vantrelctl: " << ctl::shown(wire::toWide(text)) << std::endl;
 }

@@ -25,8 +25,8 @@ namespace client {
 
 // The server, one operation for each of its commands.
 //
-// An operation that gives a bool is false when there is no connection, or when no reply came; a write command that went
-// out is true, whatever the server makes of it. Every operation may throw: ConnectFailed, std::runtime_error with the
+// An operation that returns a bool returns false when there is no connection or no reply; a write command that was sent
+// returns true, whatever the server does with it. Every operation may throw: ConnectFailed, std::runtime_error with the
 // text of a reader, wire::Cancelled, and the plain strings of the wire layer. Belongs to one thread.
 class CQVXAdminClass : public CQVXAdminClass2,
                        public DriverCommands,
@@ -35,11 +35,11 @@ class CQVXAdminClass : public CQVXAdminClass2,
                        public AlarmCommands,
                        public InventoryCommands {
 public:
-    CQVXAdminClass(); // on theProperties
+    CQVXAdminClass(); // uses theProperties
     explicit CQVXAdminClass(std::shared_ptr<CQVXAdminClassProperties> settingsToUse);
 
-    // Proves a name and a password, and gives the server's answer; every failure is noAnswer. User and domain stand
-    // in the settings afterwards, as typed, once the key has come and the server is connected.
+    // Verifies a name and a password, and returns the server's answer; every failure is noAnswer. Stores user and
+    // domain in the settings, as typed, once the key has arrived and the server is connected.
     protocol::LoginStatus login(wire::WideString user, wire::WideString password, wire::WideString domain);
 
     // True means failure. The key is bytes with a length and may hold zeros.
@@ -48,10 +48,10 @@ public:
     // Reads the regions of a tree, all or (with a parent) below one, for nextRegion and regions.
     bool listRegions(protocol::RegionKind kind, std::int32_t parentId = 0);
 
-    // Hands out the regions of the last list from the last to the first; false when there are none left.
+    // Returns the regions of the last list one by one, from the last to the first; false when none are left.
     bool nextRegion(std::int32_t& id, std::int32_t& parentId, wire::WideString& name);
 
-    // The regions of the last list that nextRegion has not handed out, in the order of the wire.
+    // The regions of the last list that nextRegion has not returned yet, in the order of the wire.
     [[nodiscard]] const std::vector<protocol::RegionRecord>& regions() const { return regions_.records(); }
 
     // How many regions the server announced for the last list, a signed 16-bit number, below 0 for none.
@@ -63,7 +63,8 @@ public:
     bool deleteRegion(protocol::RegionKind kind, std::int32_t regionId);
 
     // The lists of printer records, for nextPrinterRecord and printerRecords. The count is what the server announced, a
-    // signed 16-bit number: below 0 no records come, and a list that the server breaks off holds only what came before.
+    // signed 16-bit number: below 0 no records follow, and a list that the server cuts short contains only what arrived
+    // before.
     bool getPrintersInRegion(std::int32_t regionId, std::int16_t& count);
     bool getQueuesOfPrinter(const std::string& printerId, std::int16_t& count);
     bool getQueuesInRegion(std::int32_t regionId, std::int16_t& count);
@@ -75,11 +76,11 @@ public:
     // Mode is one of protocol::printerListMode 8, 9 and 10.
     bool getRecordById(const std::string& id, std::uint16_t mode, std::int16_t& count);
 
-    // Hands the records of the last list over from the last to the first; false when there are none left. Throws
-    // std::out_of_range "invalid vector<T> subscript" for a list that broke off, as all cursors of this class do.
+    // Returns the records of the last list one by one, from the last to the first; false when none are left. Throws
+    // std::out_of_range "invalid vector<T> subscript" for a list that was cut short, as all cursors of this class do.
     bool nextPrinterRecord(protocol::PrinterRecord& record);
 
-    // The records of the last list that nextPrinterRecord has not handed out, in the order of the wire.
+    // The records of the last list that nextPrinterRecord has not returned yet, in the order of the wire.
     [[nodiscard]] const std::vector<protocol::PrinterRecord>& printerRecords() const { return printers_.records(); }
     [[nodiscard]] std::vector<protocol::PrinterRecord> takePrinterRecords() { return printers_.takeAll(); }
 
@@ -92,16 +93,15 @@ public:
     bool deletePrinter(const std::string& id);
     bool deleteQueue(const std::string& id);
 
-    // 0 default, 1 normal, 2 swapped; none when no answer came.
+    // 0 default, 1 normal, 2 swapped; empty without an answer.
     bool setStatusOctetOrder(const std::string& printerId, std::uint32_t order);
     [[nodiscard]] std::optional<std::uint32_t> getStatusOctetOrder(const std::string& printerId);
 
-    // Shows what the server refused; true when there was something to show, which the caption alone decides.
+    // Shows a refusal by the server; true when there was one, which only the caption decides.
     bool showRefusal(const protocol::StatusReply& status) const;
 
-    // Any command of the catalogue with the fields given, which are sent as they are. Throws std::invalid_argument for
-    // an opcode that is not in use and for the login, which is more than a command; ConnectFailed for every kind of
-    // connection.
+    // Sends any command of the catalogue with the given fields, unchanged. Throws std::invalid_argument for an unused
+    // opcode and for the login, which is more than one command; ConnectFailed for every kind of connection.
     [[nodiscard]] RawReply rawCall(std::uint16_t opcode, std::span<const protocol::FieldValue> fields);
 
 private:

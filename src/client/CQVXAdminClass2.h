@@ -7,11 +7,11 @@
 
 namespace client {
 
-// What all users of the server have in common: the settings to go by, and how a connection is opened. Cheap to make.
-// Belongs to one thread.
+// What all users of the server have in common: the settings, and how a connection is opened. Cheap to make. Belongs to
+// one thread.
 class CQVXAdminClass2 : public CQVXAdminClassProperties {
 public:
-    // With a null parent the object's own settings count.
+    // With a null parent the object uses its own settings.
     explicit CQVXAdminClass2(std::shared_ptr<CQVXAdminClassProperties> settingsToUse);
     virtual ~CQVXAdminClass2();
 
@@ -25,11 +25,11 @@ public:
     // A connection for one command. Throws ConnectFailed.
     [[nodiscard]] std::unique_ptr<wire::ITransport> openConnection();
 
-    // Puts a connection for one command into transport, in place of what was there; false when it cannot be had.
+    // Opens a connection for one command in transport, replacing the previous one; false when that fails.
     [[nodiscard]] bool connectMember();
 
     std::shared_ptr<CQVXAdminClassProperties> parent;
-    std::unique_ptr<wire::ITransport> transport; // of the command in progress, when that uses connectMember
+    std::unique_ptr<wire::ITransport> transport; // of the command in progress, if that uses connectMember
 
 private:
     [[nodiscard]] std::unique_ptr<wire::ITransport> makeTransport() const;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t keyTimeout = 30; // seconds
 
-// The low byte of each unit first, which is how a sealed credential was packed.
+// The low byte of each unit first, which is how encryptCredential packs it.
 std::string bytesOf(const wire::WideString& units) {
     std::string bytes;
     bytes.reserve(units.size() * 2);

@@ -9,7 +9,7 @@
 
 namespace client {
 
-// The server and the user that all commands go by.
+// The server and the user of all commands.
 class CQVXAdminClassProperties {
 public:
     std::uint32_t connectTimeout = 10; // seconds

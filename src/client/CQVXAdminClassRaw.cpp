@@ -20,7 +20,7 @@ const protocol::Command& callable(std::uint16_t opcode) {
     return *command;
 }
 
-// What the records of the reply to these fields look like.
+// The layout of the records in the reply to these fields.
 const protocol::RecordLayout& recordLayout(const protocol::Command& command,
                                            std::span<const protocol::FieldValue> fields) {
     const auto* const first = fields.empty() ? nullptr : std::get_if<std::uint8_t>(&fields.front().value);

@@ -11,8 +11,8 @@ constexpr std::uint8_t byteOf(protocol::RegionKind kind) {
     return static_cast<std::uint8_t>(kind);
 }
 
-// All regions usually come in the one message. A server with more of them than a frame takes sends a count alone, which
-// leaves no room for a record, and then each region in a frame of its own.
+// All regions usually arrive in one message. A server with more of them than fit into a frame sends only a count,
+// recognisable because no record fits behind it, and then each region in its own frame.
 std::int16_t readRegions(Exchange& exchange, wire::Message& first, std::vector<protocol::RegionRecord>& regions) {
     const bool onlyCount = first.remaining() == sizeof(std::uint16_t);
     const std::int16_t count = exchange.run([&] { return Exchange::readCount(first); });

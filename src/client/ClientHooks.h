@@ -10,7 +10,7 @@ class CommandObserver;
 class RequestObserver;
 class ServerMessages;
 
-// Who takes part in the commands of a host. All are optional and not owned: they outlive the settings that name them.
+// The observers of a host's commands. All are optional and not owned: they outlive the settings that refer to them.
 // Each is called on the thread that runs the command: the console's own, and that of the login where a host has given
 // it one.
 struct ClientHooks {

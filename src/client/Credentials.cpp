@@ -15,7 +15,7 @@ const unsigned char* bytesOf(const std::string& text) {
     return reinterpret_cast<const unsigned char*>(text.data());
 }
 
-// This leftover trace must stay: those who watch a login look for it.
+// This leftover trace must stay: people who diagnose a login look for it.
 void traceEncoding() {
     std::cout << "encoding";
 }
@@ -24,7 +24,7 @@ void traceEncoding() {
 class ImportedKey {
 public:
     explicit ImportedKey(const std::string& der)
-        // The library ends the program over an empty key and over a call before it has been readied.
+        // The library ends the program for an empty key, and when it is used before its initialization.
         : valid_(ltc_mp.name != nullptr && !der.empty() && der.size() <= longestKey &&
                  rsa_import(bytesOf(der), static_cast<unsigned long>(der.size()), &key_) == CRYPT_OK) {}
     ~ImportedKey() {

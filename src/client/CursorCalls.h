@@ -3,11 +3,11 @@
 #include "client/RecordCursor.h"
 #include "client/ServerCalls.h"
 
-// Lists that come into a cursor.
+// Lists read into a cursor.
 namespace client {
 
-// A command with a list for a reply, which takes the place of what the cursor held; the cursor is empty when the
-// command throws. Change is made to each record. False when there is no connection or no count came.
+// Runs a command whose reply is a list, which replaces the content of the cursor; the cursor is empty when the command
+// throws. Applies change to each record. False when there is no connection or no count arrived.
 template <class R, class Request, class Change>
 bool fillCursor(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary,
                 Change&& change) {

@@ -37,7 +37,7 @@ Exchange::~Exchange() {
         report_.bytesSent = transport_->counts().bytesSent;
         report_.bytesReceived = transport_->counts().bytesReceived;
     }
-    // A command that leaves its connection open needs nothing more of it once its frame has gone.
+    // A command that leaves its connection open no longer needs it once its frame has been sent.
     client_.transport.reset();
     report_.duration = std::chrono::steady_clock::now() - start_;
     if (report_.outcome == CommandOutcome::running)
@@ -135,7 +135,7 @@ void Exchange::report(void (CommandObserver::*event)(const CommandReport&)) noex
         if (CommandObserver* const observer = client_.settings().hooks.commands)
             (observer->*event)(report_);
     } catch (...) {
-        // What an observer does with a report is no reason for a command to fail.
+        // A failing observer is no reason for a command to fail.
     }
 }
 

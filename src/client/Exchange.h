@@ -14,33 +14,33 @@
 
 namespace client {
 
-// Tells the request observer what a command asks for; null data is a command without fields.
+// Reports to the request observer what a command asks for; null data means a command without fields.
 void announceRequest(CQVXAdminClass2& client, const protocol::Command& command, const wire::Message* data);
 
-// One command on a connection of its own, in the ways that its row of the catalogue tells. Ends the connection and
-// reports to the command observer when it goes out of scope, exactly once.
+// One command on its own connection, as its row of the catalogue defines. Closes the connection and reports to the
+// command observer when it goes out of scope, exactly once.
 class Exchange {
 public:
-    // The summary says in UTF-8 what the command is about.
+    // The summary says what the command is about, in UTF-8.
     Exchange(CQVXAdminClass2& client, const protocol::Command& command, std::string summary = {});
     ~Exchange();
 
     Exchange(const Exchange&) = delete;
     Exchange& operator=(const Exchange&) = delete;
 
-    // False when a member connection cannot be had; an open one throws ConnectFailed instead.
+    // False when a member connection can't be made; an open one throws ConnectFailed instead.
     [[nodiscard]] bool connect();
 
-    // Takes a connection that was made elsewhere, its own settings included.
+    // Uses a connection that was set up elsewhere, with its own settings.
     [[nodiscard]] bool connect(std::unique_ptr<wire::ITransport> own, std::uint32_t timeoutSeconds);
 
     // Sends the command with its fields; null data means a command without fields. Announces the request of a command
-    // that is answered; of any other one that was done before. Throws std::runtime_error "failed to
-    // send messages" for a guarded send without a connection.
+    // with a reply; for any other command that was done before. Throws std::runtime_error "failed to send messages" for
+    // a guarded send without a connection.
     void send(std::unique_ptr<wire::Message> data);
 
-    // The next message of the reply. Null when it does not come and the row's reader form lets the reply end there;
-    // else throws std::runtime_error with the text of that form. A used message lends its memory to the one that comes.
+    // The next message of the reply. Null when it does not arrive and the row's reader form lets the reply end there;
+    // otherwise throws std::runtime_error with the text of that form. Reuses the memory of the previous message.
     [[nodiscard]] std::unique_ptr<wire::Message> receive(std::unique_ptr<wire::Message> used = nullptr);
 
     // The number of records that a count message announces: a signed 16-bit number, so that 32,768 and more are below 0
@@ -49,7 +49,7 @@ public:
 
     void noteRecords(std::uint32_t records);
 
-    // The command ended badly without an exception.
+    // Marks the command as failed without an exception.
     void fail(std::string text);
 
     // Runs a part of the command and keeps the text of what it throws for the report.

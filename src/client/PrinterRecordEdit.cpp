@@ -74,7 +74,7 @@ bool PrinterRecordEdit::save() {
     } else if (record_.recordType == type::copyOfQueue) {
         exists_ = false;
         record_.recordType = type::queue;
-        record_.id = physicalPrinterId_; // odd, and must stay: the printer's id goes out in the new queue's place
+        record_.id = physicalPrinterId_; // odd, but must stay: the printer's id is sent as the new queue's
     }
     return exists_ ? update() : create();
 }
@@ -86,12 +86,12 @@ bool PrinterRecordEdit::create() {
     if (refused)
         return false;
     exists_ = true;
-    dirty_.reset(); // all that was set has gone out
+    dirty_.reset(); // everything that was set has been sent
     return true;
 }
 
-// Sends the whole record once for each field that was set, all alike: a server is to see an update for each, so the
-// repetition must stay.
+// Sends the whole record once for each field that was set, always the same: servers expect an update for each field, so
+// the repetition must stay.
 bool PrinterRecordEdit::update() {
     bool refused = false;
     for (std::size_t flag = 0; flag < dirty_.size(); ++flag)

@@ -10,7 +10,7 @@
 
 namespace client {
 
-// A printer, a queue, a follow-print queue or a local printer that is being made or changed.
+// A printer, a queue, a follow-print queue or a local printer that is being created or changed.
 class PrinterRecordEdit {
 public:
     // A new record. Throws std::runtime_error "Trying to create a printer without region" unless a printer (0) has a
@@ -25,8 +25,8 @@ public:
     PrinterRecordEdit(const std::string& id, std::uint16_t recordType,
                       std::shared_ptr<CQVXAdminClassProperties> settings = theProperties);
 
-    // Creates the record, which is once; or updates it, once for each field that was set. False when the server
-    // refused, which has been shown by then. Throws as CQVXAdminClass does.
+    // Creates the record, with one command; or updates it, with one command for each field that was set. False when the
+    // server refused, which has been shown by then. Throws as CQVXAdminClass does.
     bool save();
 
     [[nodiscard]] const protocol::PrinterRecord& record() const { return record_; }
@@ -35,7 +35,7 @@ public:
 
     void setPhysicalPrinterId(std::string id) { physicalPrinterId_ = std::move(id); }
 
-    // Each sets the field and remembers that it did, also when the value is the one that stood there.
+    // Each sets the field and marks it as set, even if the value is the same as before.
     void setIp(std::string value) { set(&protocol::PrinterRecord::ip, std::move(value), Dirty::ip); }
     void setPort(std::uint32_t value) { set(&protocol::PrinterRecord::port, value, Dirty::port); }
     void setLprQueueName(wire::WideString value) {
@@ -82,7 +82,7 @@ public:
     std::uint32_t spare = 0x7FFF;
 
 private:
-    // In the order in which save tests them.
+    // In the order in which save checks them.
     enum class Dirty : std::uint8_t {
         ip,
         port,

@@ -7,11 +7,11 @@
 
 namespace client {
 
-// What a command called by its number brought back.
+// The reply to a command called by its number.
 struct RawReply {
     const protocol::Command* command = nullptr;
-    bool complete = true;                       // false: the reply did not come, or broke off
-    std::vector<protocol::FieldRecord> records; // of a list its records, of a single reply one
+    bool complete = true;                       // false: the reply did not arrive or was cut short
+    std::vector<protocol::FieldRecord> records; // the records of a list, or the one record of a single reply
 };
 
 } // namespace client

@@ -9,27 +9,27 @@
 
 namespace client {
 
-// A list that a command has brought, handed out one record at a time from the last to the first.
+// The list of a command's reply, returned one record at a time from the last to the first.
 template <class Record>
 class RecordCursor {
 public:
     void clear() { fill({}, 0); }
 
-    // The records that came, and how many the server had announced: a signed 16-bit number, below 0 for no records.
+    // The records that arrived, and how many the server had announced: a signed 16-bit number, below 0 for no records.
     void fill(std::vector<Record> records, std::int16_t announced) {
         records_ = std::move(records);
         announced_ = announced;
         remaining_ = static_cast<std::size_t>(std::max<std::int16_t>(announced, 0));
     }
 
-    // What the server announced, whatever came of it.
+    // The count that the server announced, however many records arrived.
     [[nodiscard]] std::int16_t announced() const { return announced_; }
 
-    // Those that have not been handed out, in the order in which they came.
+    // The records not returned yet, in the order in which they arrived.
     [[nodiscard]] const std::vector<Record>& records() const { return records_; }
 
-    // Hands the next record over; false when all have been. Throws std::out_of_range "invalid vector<T> subscript" when
-    // the list broke off, since the records that are missing would be the first ones to be handed out.
+    // Returns the next record; false when none is left. Throws std::out_of_range "invalid vector<T> subscript" when the
+    // list was cut short, because the missing records would be the first ones to be returned.
     bool next(Record& record) {
         if (remaining_ == 0)
             return false;
@@ -41,7 +41,7 @@ public:
         return true;
     }
 
-    // All records that remain, in the order in which they came.
+    // All remaining records, in the order in which they arrived.
     [[nodiscard]] std::vector<Record> takeAll() {
         remaining_ = 0;
         return std::exchange(records_, {});

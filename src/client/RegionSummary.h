@@ -5,7 +5,7 @@
 
 namespace client {
 
-// What the command observer is told of a command on a region.
+// The summary of a command on a region, for the command observer.
 [[nodiscard]] inline std::string regionSummary(std::int32_t id) {
     return "region " + std::to_string(id);
 }

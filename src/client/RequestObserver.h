@@ -7,14 +7,14 @@
 
 namespace client {
 
-// Is told what each command asks for, on the thread that runs it. The message of the login holds no credentials.
+// Notified of what each command asks for, on the thread that runs it. The message of the login contains no credentials.
 class RequestObserver {
 public:
     virtual ~RequestObserver() = default;
 
-    // The data is the whole message of the fields, header included; empty for a command without fields. Of a command
-    // without a reply this comes before anything else of it, so that commands of one's own may run here; of any other
-    // one it comes while the command runs. What it throws ends the command.
+    // The data is the whole message of the fields, header included; empty for a command without fields. For a command
+    // without a reply this is called before anything else, so that the observer may run commands of its own here; for
+    // any other command it is called while the command runs. What it throws ends the command.
     virtual void requestMade(const protocol::Command& command, std::span<const std::uint8_t> data) = 0;
 };
 

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-// The shapes of a command as one call each. What the catalogue's row tells decides about connection, version, reader
-// form and failure; the summary is for the command observer.
+// The shapes of a command as one call each. The catalogue's row decides about connection, version, reader form and
+// failure; the summary is for the command observer.
 namespace client {
 
 // The message of a request's fields; null for a request without fields, which sends none.
@@ -37,7 +37,7 @@ bool sendCommand(CQVXAdminClass2& client, const Request& request, std::string su
     return true;
 }
 
-// A command with a single reply; none when there is no connection, or no reply and the row lets that pass.
+// A command with a single reply; empty when there is no connection, or no reply and the row allows that.
 template <class Reply, class Request>
 [[nodiscard]] std::optional<Reply> askServer(CQVXAdminClass2& client, const Request& request,
                                              std::string summary = {}) {
@@ -51,7 +51,7 @@ template <class Reply, class Request>
     return exchange.run([&] { return std::optional(protocol::read<Reply>(*message)); });
 }
 
-// Reads count frames of one record each onto the end of records. Ends early where the row's reader form lets it.
+// Reads count frames of one record each and appends them to records. Ends early where the row's reader form allows it.
 template <class R>
 void readRecords(Exchange& exchange, std::int16_t count, std::vector<R>& records) {
     records.reserve(records.size() + static_cast<std::size_t>(std::max<std::int16_t>(count, 0)));
@@ -73,9 +73,9 @@ void readRecords(Exchange& exchange, std::int16_t count, std::vector<R>& records
     }
 }
 
-// A command with a list for a reply, which replaces what records held, in the order of the wire. Gives the count that
-// the server announced, which is more than came of a list that broke off; none when there is no connection or no count
-// came and the row lets that pass.
+// A command whose reply is a list, which replaces the content of records, in the order of the wire. Returns the count
+// that the server announced, which exceeds the records of a list that was cut short; empty when there is no connection,
+// or no count arrived and the row allows that.
 template <class R, class Request>
 [[nodiscard]] std::optional<std::int16_t> readList(CQVXAdminClass2& client, const Request& request,
                                                    std::vector<R>& records, std::string summary = {}) {
@@ -92,14 +92,14 @@ template <class R, class Request>
     return count;
 }
 
-// The same for those who take what came of a list.
+// The same for callers that accept a list that was cut short.
 template <class R, class Request>
 [[nodiscard]] bool listRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records,
                                std::string summary = {}) {
     return readList(client, request, records, std::move(summary)).has_value();
 }
 
-// The same for those who need all of a list: false also of one that broke off.
+// The same for callers that need the whole list: also false when it was cut short.
 template <class R, class Request>
 [[nodiscard]] bool listAllRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records) {
     const auto announced = readList(client, request, records);

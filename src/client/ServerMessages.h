@@ -6,12 +6,12 @@
 
 namespace client {
 
-// How a refusal by the server reaches the user.
+// Shows the user a refusal by the server.
 class ServerMessages {
 public:
     virtual ~ServerMessages() = default;
 
-    // Shows the message box as the server wants it; style is that of the platform's message boxes.
+    // Shows the message box; style is that of the platform's message boxes.
     virtual void show(const wire::WideString& caption, const wire::WideString& text, std::uint32_t style) = 0;
 };
 

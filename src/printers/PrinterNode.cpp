@@ -119,8 +119,8 @@ console::Result PrinterNode::OnRename(console::IConsole& console, const wire::Wi
     return console::Result::ok;
 }
 
-// Comes only from a console that takes the printer's cut for half of a copy: a move is over with the paste, after which
-// nothing is handed back to the console. Should it come all the same, the printer goes.
+// Only sent by a console that treats the cut of a printer as half of a copy: a move ends with the paste, after which
+// nothing is returned to the console. If it is sent all the same, the printer is deleted.
 console::Result PrinterNode::OnCutOrMove(console::CSnapInItem&) {
     client::CQVXAdminClass client;
     return client.deletePrinter(id_) ? console::Result::ok : console::Result::notDone;

@@ -21,7 +21,7 @@ void PrinterRegionNode::refreshOthers() {
     }
 }
 
-// The printers are asked for before the regions, and stand below them.
+// The printers are read before the regions, but shown below them.
 std::vector<console::ChildKind> PrinterRegionNode::childKinds() {
     auto printers = childrenOf<protocol::PrinterRecord>(printers_, [this](auto& records) {
         client::CQVXAdminClass client;
@@ -36,7 +36,7 @@ std::vector<console::ChildKind> PrinterRegionNode::childKinds() {
     return {regionsBelow(), std::move(printers)};
 }
 
-// The columns of printers stand in the place of those of regions where a region holds both.
+// If a region contains both, the columns of printers replace those of regions.
 std::span<const console::Column> PrinterRegionNode::columns() const {
     static constexpr std::array ofRegions{console::Column{u"Region Name", 2}};
     static constexpr std::array ofPrinters{console::Column{u"Printer Name", 2},   console::Column{u"Model", 4},

@@ -18,7 +18,7 @@ protected:
     std::shared_ptr<regions::RegionNode> makeRegion(protocol::RegionRecord record) const override;
     void refreshOthers() override;
     std::vector<console::ChildKind> childKinds() override;
-    // By what the region holds: nothing has no columns.
+    // Depend on what the region contains: an empty one has no columns.
     std::span<const console::Column> columns() const override;
     std::span<const console::NodeCommand<PrinterRegionNode>> commands() const override;
     std::span<const console::VerbChoice> verbs() const override;

@@ -17,10 +17,10 @@ enum class ReplyShape : std::uint8_t {
 enum class Connection : std::uint8_t {
     open,   // a failed connect throws
     member, // a failed connect makes the operation report false
-    own,    // outside of the settings, with a time-out of its own
+    own,    // apart from the settings, with its own time-out
 };
 
-// What a reader does about a reply that does not come.
+// What a reader does about a missing reply.
 enum class ReaderForm : std::uint8_t {
     none,   // nothing is read
     plain,  // the reply ends there
@@ -40,7 +40,7 @@ struct RequestForm {
     const RecordLayout* layout = nullptr;
 };
 
-// What a list holds instead of its usual records when its request begins with that byte.
+// What a list contains instead of its usual records when its request begins with that byte.
 struct OtherRecord {
     std::uint8_t firstByte = 0;
     const RecordLayout* layout = nullptr;
@@ -54,12 +54,12 @@ struct Command {
     std::string_view purpose; // one line for people
     ReplyShape reply = ReplyShape::none;
     Connection connection = Connection::member;
-    bool closes = true; // the console ends the connection by itself
+    bool closes = true; // the console closes the connection itself
     ReaderForm reader = ReaderForm::none;
     SendForm send = SendForm::plain;
     const RecordLayout* request = nullptr; // null: several forms
     std::span<const RequestForm> forms = {};
-    const RecordLayout* replyRecord = nullptr; // of a list the record; null: none
+    const RecordLayout* replyRecord = nullptr; // for a list, that of its records; null: none
     OtherRecord otherRecord = {};
 };
 

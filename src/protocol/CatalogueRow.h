@@ -2,15 +2,15 @@
 
 #include "protocol/Catalogue.h"
 
-// How the rows of the catalogue are written.
+// The notation for rows of the catalogue.
 namespace protocol {
 
 template <Record... Forms>
 inline constexpr RequestForm requestForms[] = {{Forms::form, &layoutOf<Forms>}...};
 
-// A command without a reply on a member connection that is closed, and what makes another one of it.
+// A row: by default a command without a reply on a member connection that is closed, with functions to change that.
 struct Row : Command {
-    // By another name than that of its first form.
+    // With another name than that of its first form.
     constexpr Row called(std::string_view otherName) const {
         Row row = *this;
         row.name = otherName;
@@ -61,7 +61,7 @@ struct Row : Command {
     }
 };
 
-// What a command is called after its request.
+// The name of a command, taken from its request.
 template <Record Request>
 constexpr std::string_view commandName() {
     constexpr std::string_view suffix = "Request";
@@ -70,8 +70,8 @@ constexpr std::string_view commandName() {
     return name.substr(0, name.size() - suffix.size());
 }
 
-// A row to begin with: opcode, version and name are those of the request's type. A request may have several forms, each
-// with its own fields.
+// A basic row: opcode, version and name are those of the request's type. A request may have several forms, each with
+// its own fields.
 template <Record Request, Record... OtherForms>
 constexpr Row row(std::string_view purpose) {
     static_assert(((Request::opcode == OtherForms::opcode) && ...), "the forms of a request share an opcode");

@@ -10,14 +10,14 @@
 
 namespace protocol {
 
-// A sink for fields in memory that is known to be large enough, in the form that wire::Message gives them. It copies
-// wide text as it stands and notices when the conversion of the wire would have changed a text: what was written is
-// then of no use. Several times faster than one append for each field, since the texts of a record are short.
+// Writes fields into memory that is known to be large enough, in the format of wire::Message. It copies wide text
+// unchanged and detects text that the conversion of the wire would change: the result is then useless. Several times
+// faster than one append for each field, because the texts of a record are short.
 class PlainWriter {
 public:
     explicit PlainWriter(std::uint8_t* to) : at_(to) {}
 
-    // False once a text was met that the conversion of the wire would change.
+    // False once a text was written that the conversion of the wire would change.
     [[nodiscard]] bool plain() const {
         std::array<std::uint64_t, 2> halves;
         std::memcpy(halves.data(), &strange_, sizeof strange_);

@@ -13,7 +13,7 @@ using wire::nameOf;
 
 struct RecordLayout;
 
-// One field of a record: its name, and how it travels.
+// One field of a record: its name, and how it is encoded.
 struct FieldInfo {
     std::string_view name;
     FieldKind kind = FieldKind::u8;
@@ -21,7 +21,7 @@ struct FieldInfo {
     const RecordLayout* element = nullptr; // of a record, or of an optional or a list of records
 };
 
-// The fields of a record in wire order, for those that do not know its type.
+// The fields of a record in wire order, for code that does not know its type.
 struct RecordLayout {
     std::string_view name;
     std::span<const FieldInfo> fields; // empty: nothing is sent at all

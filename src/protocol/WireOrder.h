@@ -21,7 +21,7 @@
 #include <utility>
 #include <vector>
 
-// A record is a plain struct that says its wire order once, as data:
+// A record is a plain struct that defines its wire order once, as data:
 //
 //     struct RegionRecord {
 //         wire::WideString name;
@@ -30,12 +30,12 @@
 //         static constexpr auto fields = wireOrder(field("name", &RegionRecord::name), field("id", &RegionRecord::id));
 //     };
 //
-// The C++ type decides how a field travels (wire/FieldTraits.h), and a record travels as its own fields in its place.
+// The C++ type decides how a field is encoded (wire/FieldTraits.h); a nested record is encoded as its own fields.
 //
-// Reading, writing, sizing and the layouts for those that do not know the type all walk that one list.
+// Reading, writing, sizing and the layouts for code that does not know the type all use that one list.
 namespace protocol {
 
-// A field's name and where it stands in its record.
+// A field's name and its member of the record.
 template <class Record, class Value>
 struct Field {
     std::string_view name;
@@ -85,7 +85,7 @@ void forEachField(R& record, Visitor&& visitor) {
 
 } // namespace protocol
 
-// A record travels as its fields, one after the other.
+// A record is encoded as its fields, one after the other.
 template <protocol::Record R>
 struct wire::FieldTraits<R> {
     static constexpr wire::FieldKind kind = wire::FieldKind::record;
@@ -163,8 +163,8 @@ constexpr FieldInfo infoOf(std::string_view name) {
 
 } // namespace detail
 
-// Takes the record's fields off the message, into the strings and lists that the record has. Throws what wire::Message
-// throws; the record then holds the fields that came before.
+// Reads the record's fields from the message, reusing the memory of its strings and lists. Throws what wire::Message
+// throws; the record then contains the fields read before.
 template <Record R>
 void read(wire::Message& message, R& record) {
     wire::get(message, record);
@@ -177,14 +177,14 @@ template <Record R>
     return record;
 }
 
-// Appends the record's fields. A list of more than 65,535 elements cannot be told on the wire: its caller sees to it.
+// Appends the record's fields. The wire can't carry a list of more than 65,535 elements: the caller makes sure of that.
 template <Record R>
 void write(wire::Message& message, const R& record) {
     wire::put(message, record);
 }
 
-// A finished message that holds the record's fields. Throws std::length_error "vector<T> too long" beyond what a
-// message can hold.
+// A finished message with the record's fields. Throws std::length_error "vector<T> too long" beyond what a message can
+// hold.
 template <Record R>
 [[nodiscard]] std::unique_ptr<wire::Message> makeDataMessage(const R& record) {
     auto message = std::make_unique<wire::Message>();

@@ -9,7 +9,7 @@
 namespace client {
 namespace {
 
-// What a record is called, or its id where it has no name.
+// The name of a record, or its id if it has no name.
 std::string label(const wire::WideString& name, const std::string& id) {
     return name.empty() ? id : wire::toUtf8(name);
 }

@@ -10,8 +10,8 @@
 
 namespace client {
 
-// The part of CQVXAdminClass for alarm programs and e-mail recipients. Lists come out of their cursors from the last
-// record to the first; the whole lists hold what has not been handed out, in the order of the wire.
+// The part of CQVXAdminClass for alarm programs and e-mail recipients. Cursors return their lists from the last record
+// to the first; the whole lists contain the records not returned yet, in the order of the wire.
 class AlarmCommands {
 public:
     explicit AlarmCommands(CQVXAdminClass2& client) : client_(client) {}
@@ -33,17 +33,17 @@ public:
     bool nextAlarmProgram(protocol::AlarmProgramRecord& program);
     [[nodiscard]] const std::vector<protocol::AlarmProgramRecord>& alarmPrograms() const { return programs_.records(); }
 
-    // Adds a program without an id, changes one with it; the id is then the one that the server answers with, empty for
-    // a refused one. A program without any text is deleted. False when there is no answer.
+    // Adds a program without an id, changes one with it; the id is then the one in the server's answer, empty if
+    // refused. A program without any text is deleted. False when there is no answer.
     bool writeAlarmProgram(std::string& id, const wire::WideString& name, const wire::WideString& comment,
                            const wire::WideString& createdBy);
     bool deleteAlarmProgram(const std::string& id);
 
-    // Each of these three fetches its list once for the life of this object, by its first call, and hands out a record
-    // by each call; false when there are none left or the list could not be fetched as a whole.
+    // Each of these three fetches its list once in the life of this object, with its first call, and returns one record
+    // per call; false when none are left or the list could not be fetched as a whole.
     bool listAlarmEvents(protocol::AlarmEventRecord& event);
     bool listAlarmActions(protocol::AlarmActionRecord& action);
-    // The destinations of the first action asked for are those of every later call, whatever action it names.
+    // Every later call returns the destinations of the action in the first call, whatever action it names.
     bool listAlarmDestinations(std::uint16_t actionCode, protocol::AlarmDestinationRecord& destination);
     [[nodiscard]] const std::vector<protocol::AlarmEventRecord>& alarmEvents() const { return events_.records(); }
     [[nodiscard]] const std::vector<protocol::AlarmActionRecord>& alarmActions() const { return actions_.records(); }

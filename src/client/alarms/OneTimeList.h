@@ -4,13 +4,13 @@
 
 namespace client {
 
-// A list that is fetched by the first call for a record and from then on only handed out, from the last record to the
-// first: whoever wants it afresh makes a new client.
+// A list that is fetched with the first call for a record and then only returned, from the last record to the first:
+// make a new client to fetch it again.
 template <class R>
 class OneTimeList {
 public:
-    // False when there are none left, or when the list could not be fetched as a whole: what has come of it then stays
-    // in records(), and the next call fetches again.
+    // False when none are left, or when the list could not be fetched as a whole: records that did arrive then stay in
+    // records(), and the next call fetches again.
     template <class Request>
     bool next(CQVXAdminClass2& client, const Request& request, R& record) {
         if (!fetched_)

@@ -11,13 +11,13 @@
 namespace client {
 
 // The part of CQVXAdminClass for configurations of driver models and of queues. Each list has an operation that reads
-// it, one that hands its records out from the last to the first (false when there are none left), and the records that
-// have not been handed out, in the order of the wire. A list that the server breaks off holds what came before.
+// it, one that returns its records from the last to the first (false when none are left), and the records not returned
+// yet, in the order of the wire. A list that the server cuts short contains what arrived before.
 class ConfigurationCommands {
 public:
     explicit ConfigurationCommands(CQVXAdminClass2& client) : client_(client) {}
 
-    // What a queue or a local printer uses with each driver map, or with the one that is not empty.
+    // What a queue or a local printer uses with each driver map, or only with the given one unless it is empty.
     bool getConfigurations(const std::string& queueId, const std::string& driverMapId);
     bool nextConfiguration(protocol::QueueConfigEntry& entry);
     [[nodiscard]] const std::vector<protocol::QueueConfigEntry>& configurations() const { return entries_.records(); }
@@ -27,10 +27,10 @@ public:
     bool nextConfigChoice(protocol::QueueConfigChoice& choice);
     [[nodiscard]] const std::vector<protocol::QueueConfigChoice>& configChoices() const { return choices_.records(); }
 
-    // An empty configuration takes away what the queue uses with the driver map.
+    // An empty configuration removes what the queue uses with the driver map.
     bool applyConfiguration(const std::string& queueId, const std::string& driverMapId, const std::string& configId);
 
-    // The configurations of a model, their dates in the form of the place.
+    // The configurations of a model, with dates in local form.
     bool listConfigurations(const std::string& modelId);
     bool nextConfigurationRecord(protocol::ConfigurationRecord& record);
     [[nodiscard]] const std::vector<protocol::ConfigurationRecord>& configurationRecords() const {
@@ -39,7 +39,7 @@ public:
 
     bool setConfigurationComment(const std::string& configId, const wire::WideString& comment);
 
-    // With force also while queues use it.
+    // With force even while queues use it.
     bool deleteConfiguration(const std::string& configId, bool force);
 
     // The queues that use a configuration.

@@ -15,8 +15,8 @@
 
 namespace client {
 
-// The part of CQVXAdminClass for brands, models, drivers and deployments. Lists come out of their cursors from the last
-// record to the first; the whole lists hold what has not been handed out, in the order of the wire.
+// The part of CQVXAdminClass for brands, models, drivers and deployments. Cursors return their lists from the last
+// record to the first; the whole lists contain the records not returned yet, in the order of the wire.
 class DriverCommands {
 public:
     explicit DriverCommands(CQVXAdminClass2& client) : client_(client) {}
@@ -37,7 +37,7 @@ public:
     }
 
     // The drivers of a brand or of a model, by a protocol::driverList, with their dates in local form. A short list is
-    // read and then hands out nothing.
+    // read, but none of its records are returned.
     bool listDrivers(std::uint8_t listKind, const std::string& parentId);
     bool nextDriver(protocol::DriverRecord& driver);
     [[nodiscard]] const std::vector<protocol::DriverRecord>& drivers() const { return drivers_.records(); }
@@ -64,7 +64,7 @@ public:
     bool addAlternateDriver(const std::string& modelId, const std::string& alternateModelId);
     bool removeAlternateDriver(const std::string& modelId, const std::string& alternateModelId);
 
-    // 0 default, 1 normal, 2 swapped; none when no answer came.
+    // 0 default, 1 normal, 2 swapped; empty without an answer.
     bool setModelOctetOrder(const std::string& modelId, std::uint32_t octetOrder);
     [[nodiscard]] std::optional<std::uint32_t> getModelOctetOrder(const std::string& modelId);
 

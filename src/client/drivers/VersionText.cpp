@@ -9,7 +9,7 @@ wire::WideString localVersionText(const wire::WideString& version) {
     constexpr auto parentheses = u"()";
     if (version.find_first_of(parentheses) == none)
         return version;
-    // The pieces between parentheses, from the last to the first; what stands before the first one counts too.
+    // The pieces between parentheses, from the last to the first; the text before the first one counts too.
     for (std::size_t end = version.size(); end != none;) {
         const std::size_t before = end == 0 ? none : version.find_last_of(parentheses, end - 1);
         const std::size_t start = before == none ? 0 : before + 1;

@@ -4,8 +4,8 @@
 
 namespace client {
 
-// A driver's version as it is shown: of the dates that stand between parentheses, the last one in the local form of
-// wire::formatWireDate. All else, and a version without such a date, stays as it came.
+// A driver's version as displayed: the last date between parentheses is converted to the local form of
+// wire::formatWireDate. Everything else is left unchanged.
 [[nodiscard]] wire::WideString localVersionText(const wire::WideString& version);
 
 } // namespace client

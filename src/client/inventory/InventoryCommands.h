@@ -15,8 +15,8 @@
 
 namespace client {
 
-// The part of CQVXAdminClass for inventory reports, migration plans and IP ranges. Each list replaces what the one
-// before has left; its records are handed out from the last to the first, or as a whole in the order of the wire.
+// The part of CQVXAdminClass for inventory reports, migration plans and IP ranges. Each list replaces the previous one;
+// its records are returned one by one from the last to the first, or as a whole in the order of the wire.
 class InventoryCommands {
 public:
     explicit InventoryCommands(CQVXAdminClass2& client) : client_(client) {}
@@ -26,7 +26,8 @@ public:
     bool nextSchema(protocol::SchemaRecord& schema);
     [[nodiscard]] const std::vector<protocol::SchemaRecord>& schemas() const { return schemas_.records(); }
 
-    // One plan, for editing; none when there is no connection or no such plan. What listSchemas has brought stays.
+    // One plan, for editing; none when there is no connection or no such plan. Leaves the list of listSchemas
+    // unchanged.
     [[nodiscard]] std::optional<protocol::SchemaRecord> getSchema(const std::string& schemaId);
 
     // The server makes the new plan's id.
@@ -34,7 +35,7 @@ public:
     bool updateSchema(const protocol::SchemaRecord& schema);
     bool deleteSchema(const std::string& schemaId);
 
-    // The queues whose names hold the pattern; an empty one finds all.
+    // The queues whose names contain the pattern; an empty one finds all.
     bool searchQueues(const wire::WideString& pattern);
     bool nextFoundQueue(protocol::FoundQueueRecord& queue);
     [[nodiscard]] const std::vector<protocol::FoundQueueRecord>& foundQueues() const { return foundQueues_.records(); }
@@ -55,7 +56,7 @@ public:
         return models_.records();
     }
 
-    // The kind is one of protocol::foundListKind. What a printer's spare text held is dropped.
+    // The kind is one of protocol::foundListKind. Drops the spare text of each printer.
     bool listInventoryPrinters(std::uint16_t listKind, const std::string& id);
     bool nextInventoryPrinter(protocol::InventoryPrinterRecord& printer);
     [[nodiscard]] const std::vector<protocol::InventoryPrinterRecord>& inventoryPrinters() const {
@@ -63,7 +64,7 @@ public:
     }
 
     bool listIpRanges();
-    // The list of the one range.
+    // A list of only this range.
     bool getIpRange(const std::string& rangeId);
     bool nextIpRange(protocol::IpRangeRecord& range);
     [[nodiscard]] const std::vector<protocol::IpRangeRecord>& ipRanges() const { return ranges_.records(); }

@@ -6,7 +6,7 @@
 
 namespace client {
 
-// A fresh random id for a record of the rules, which get their ids here and not from the server.
+// Gives a new random id to a record of the rules, which get their ids from the console and not from the server.
 inline void giveNewId(std::string& id) {
     id = wire::toText(wire::randomUuid());
 }
@@ -14,8 +14,8 @@ inline void giveNewId(wire::Uuid& id) {
     id = wire::randomUuid();
 }
 
-// A record as an administrator begins it: with its final id and nothing else. A record that is read needs none of its
-// own, which is why its constructor makes none.
+// An empty new record, with its final id and nothing else. Constructors make no id, because records that are read need
+// none.
 template <class Record>
 [[nodiscard]] Record newRecord() {
     Record record;

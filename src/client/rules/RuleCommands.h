@@ -17,27 +17,26 @@ namespace client {
 
 // The part of CQVXAdminClass for rule groups and entries, page limits, price plans, short ids and user messages.
 //
-// Lists replace what the vector held, in the order of the server, and leave it empty when there is no connection. No
-// write is answered: only the next list tells what the server made of it. The ids of new records are made with
-// newRecord.
+// Lists replace the content of the vector, in the server's order, and leave it empty when there is no connection. No
+// write is answered: only the next list shows its effect. The ids of new records are made with newRecord.
 class RuleCommands {
 public:
     explicit RuleCommands(CQVXAdminClass2& client) : client_(client) {}
 
-    // A list that breaks off holds what came before, and answers false. Deleting a group deletes its entries.
+    // A list that is cut short contains what arrived before, and returns false. Deleting a group deletes its entries.
     bool listRuleGroups(std::vector<protocol::RuleGroupRecord>& groups);
     bool addRuleGroup(const protocol::RuleGroupRecord& group);
     bool updateRuleGroup(const protocol::RuleGroupRecord& group);
     bool deleteRuleGroup(const std::string& id);
 
-    // A list that breaks off holds what came before, and answers false.
+    // A list that is cut short contains what arrived before, and returns false.
     bool listAffected(std::vector<protocol::AffectedRecord>& affected);
     bool addAffected(const protocol::AffectedRecord& affected);
     bool updateAffected(const protocol::AffectedRecord& affected);
     bool deleteAffected(const std::string& id);
 
     // The entries of a rule group, a printer or a queue by its id and the number 0; with an empty id those of the
-    // region of that number, of which 0 is one.
+    // region with that number, which may be 0.
     bool listRuleEntries(const std::string& ownerId, std::int32_t ownerNumber,
                          std::vector<protocol::RuleEntryRecord>& entries);
     bool addRuleEntry(std::int32_t ownerNumber, const std::string& parentId, const std::string& ownerId,
@@ -45,16 +44,16 @@ public:
     bool updateRuleEntry(const protocol::RuleEntryRecord& entry);
     bool removeRuleEntry(const std::string& id, std::uint8_t type);
 
-    // Two parallel lists. Throws std::runtime_error "failed to get messages" when the list breaks off.
+    // Two parallel lists. Throws std::runtime_error "failed to get messages" when the list is cut short.
     bool listPageLimits(std::vector<std::string>& ids, std::vector<wire::WideString>& names);
-    // None without a connection; throws std::runtime_error "failed to get message" when the limit has gone.
+    // Empty without a connection; throws std::runtime_error "failed to get message" when the limit no longer exists.
     [[nodiscard]] std::optional<protocol::PageLimitRecord> getPageLimit(const std::string& id);
     bool addPageLimit(const protocol::PageLimitRecord& limit);
     bool updatePageLimit(const protocol::PageLimitRecord& limit);
     bool deletePageLimit(const std::string& id);
 
     // The price plans and short ids throw ConnectFailed without a connection, and std::runtime_error "failed to get
-    // messages" when a list breaks off. The filter is the id of a plan, or empty for all.
+    // messages" when a list is cut short. The filter is the id of a plan, or empty for all.
     bool listPricePlans(std::vector<protocol::PricePlanRecord>& plans, const std::string& filter = {});
     bool listPriceEntries(const std::string& planId, std::vector<protocol::PriceEntryRecord>& entries);
     // The entries replace those that the plan had. Throws std::length_error for more than 65,535 of them.
@@ -67,7 +66,8 @@ public:
     bool updateShortId(const protocol::ShortIdRecord& shortId);
     bool deleteShortId(const wire::Uuid& id);
 
-    // Throws std::runtime_error "failed to get message" when the list breaks off. A built-in message is not deleted.
+    // Throws std::runtime_error "failed to get message" when the list is cut short. A built-in message can't be
+    // deleted.
     bool listUserMessages(std::vector<protocol::UserMessageRecord>& messages);
     bool addUserMessage(const protocol::UserMessageRecord& message);
     bool updateUserMessage(const protocol::UserMessageRecord& message);

@@ -15,7 +15,7 @@ struct AlarmEventRecord {
     bool operator==(const AlarmEventRecord&) const = default;
 };
 
-// Asks for all that a printer can report; it has no fields.
+// Lists everything that a printer can report; it has no fields.
 struct ListAlarmEventsRequest {
     static constexpr std::uint16_t opcode = 29;
 
@@ -37,7 +37,7 @@ struct AlarmActionRecord {
     bool operator==(const AlarmActionRecord&) const = default;
 };
 
-// Asks for all that an event can lead to; it has no fields.
+// Lists everything that an event can lead to; it has no fields.
 struct ListAlarmActionsRequest {
     static constexpr std::uint16_t opcode = 30;
 
@@ -46,7 +46,7 @@ struct ListAlarmActionsRequest {
     bool operator==(const ListAlarmActionsRequest&) const = default;
 };
 
-// Where an action can go to, such as a recipient of mail.
+// The destination of an action, such as a mail recipient.
 struct AlarmDestinationRecord {
     std::string id;
     wire::WideString name;
@@ -57,7 +57,7 @@ struct AlarmDestinationRecord {
     bool operator==(const AlarmDestinationRecord&) const = default;
 };
 
-// Asks where an action can go to.
+// Lists the destinations of an action.
 struct ListAlarmDestinationsRequest {
     static constexpr std::uint16_t opcode = 31;
 

@@ -7,13 +7,13 @@
 namespace protocol::alarmProgramKind {
 
 constexpr std::uint8_t alarm = 0;
-constexpr std::uint8_t counter = 2; // what a printer's counters are read by
+constexpr std::uint8_t counter = 2; // reads a printer's counters
 
 } // namespace protocol::alarmProgramKind
 
 namespace protocol {
 
-// A named list of actions that printers point at.
+// A named list of actions that printers refer to.
 struct AlarmProgramRecord {
     std::string id; // made by the server
     wire::WideString name;
@@ -29,7 +29,7 @@ struct AlarmProgramRecord {
     bool operator==(const AlarmProgramRecord&) const = default;
 };
 
-// Asks for the programs of a kind, or of them for the one with the id in the filter.
+// Lists the programs of a kind, or only the one with the id in the filter.
 struct ListAlarmProgramsRequest {
     static constexpr std::uint16_t opcode = 27;
 

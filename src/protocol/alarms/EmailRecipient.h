@@ -4,8 +4,8 @@
 
 namespace protocol {
 
-// A contact that alarms can send mail to. It is written in another order than it is read in: the address comes before
-// the name here.
+// A contact that alarms can send mail to. The order differs from that of the write request: here the address comes
+// before the name.
 struct EmailRecipientRecord {
     std::string id; // made by the server
     wire::WideString email;
@@ -30,8 +30,8 @@ struct ListEmailRecipientsRequest {
     bool operator==(const ListEmailRecipientsRequest&) const = default;
 };
 
-// Adds (without an id), changes, or (with an id and neither name nor address) deletes a recipient. It is read in
-// another order than it is written in: the name comes before the address here.
+// Adds (without an id), changes, or (with an id and neither name nor address) deletes a recipient. The order differs
+// from that of the record: here the name comes before the address.
 struct WriteEmailRecipientRequest {
     static constexpr std::uint16_t opcode = 24;
 

@@ -4,7 +4,7 @@
 
 namespace protocol {
 
-// One action of a program, in the words of the server. The action comes before the event, although people read them the
+// One action of a program, with the server's names. The action comes before the event, although they are displayed the
 // other way round.
 struct ProgramActionRecord {
     std::string id;
@@ -47,7 +47,7 @@ struct AddProgramActionRequest {
     bool operator==(const AddProgramActionRequest&) const = default;
 };
 
-// Takes an action out of its program.
+// Removes an action from its program.
 struct DeleteProgramActionRequest {
     static constexpr std::uint16_t opcode = 34;
 

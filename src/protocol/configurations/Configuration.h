@@ -8,9 +8,9 @@ namespace protocol {
 struct ConfigurationRecord {
     std::string configId;
     wire::WideString uploadedBy;
-    wire::WideString date;       // made by the server, shown in the form of the place
-    wire::WideString comment;    // the name under which it shows
-    wire::WideString configText; // what it sets, carried and not shown
+    wire::WideString date;       // set by the server, shown in local form
+    wire::WideString comment;    // the name under which it is shown
+    wire::WideString configText; // the settings themselves; not shown
     std::uint16_t useCount = 0;  // how many queues use it
 
     static constexpr auto fields = wireOrder(
@@ -63,7 +63,7 @@ struct SetConfigurationCommentRequest {
 struct DeleteConfigurationRequest {
     static constexpr std::uint16_t opcode = 52;
 
-    std::uint8_t force = 0; // 1 also while queues use it
+    std::uint8_t force = 0; // 1: even while queues use it
     std::string configId;
 
     static constexpr auto fields = wireOrder(field("force", &DeleteConfigurationRequest::force),
@@ -83,7 +83,7 @@ struct ListConfigurationQueuesRequest {
     bool operator==(const ListConfigurationQueuesRequest&) const = default;
 };
 
-// Takes a configuration away from a queue.
+// Removes a configuration from a queue.
 struct RemoveConfigurationFromQueueRequest {
     static constexpr std::uint16_t opcode = 54;
 

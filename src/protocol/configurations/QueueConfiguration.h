@@ -56,13 +56,13 @@ struct ListConfigurationChoicesRequest {
     bool operator==(const ListConfigurationChoicesRequest&) const = default;
 };
 
-// Gives a queue a configuration with a driver map, or takes it away.
+// Gives a queue a configuration with a driver map, or removes it.
 struct ApplyQueueConfigurationRequest {
     static constexpr std::uint16_t opcode = 19;
 
     std::string queueId;
     std::string driverMapId;
-    std::string configId; // empty takes it away
+    std::string configId; // empty to remove it
 
     static constexpr auto fields = wireOrder(field("queueId", &ApplyQueueConfigurationRequest::queueId),
                                              field("driverMapId", &ApplyQueueConfigurationRequest::driverMapId),

@@ -6,7 +6,7 @@
 
 namespace protocol::driverList {
 
-// Whose drivers a list holds, and in which form.
+// Whose drivers a list contains, and in which form.
 inline constexpr std::uint8_t ofBrand = 1;
 inline constexpr std::uint8_t shortOfModel = 2; // in ShortDriverRecords
 inline constexpr std::uint8_t ofModel = 3;
@@ -58,7 +58,7 @@ struct ListDriversRequest {
     bool operator==(const ListDriversRequest&) const = default;
 };
 
-// Takes a driver out of the catalogue.
+// Removes a driver from the catalogue.
 struct DeleteDriverRequest {
     static constexpr std::uint16_t opcode = 13;
 
@@ -80,7 +80,7 @@ struct AddBuiltInDriverRequest {
     bool operator==(const AddBuiltInDriverRequest&) const = default;
 };
 
-// Lets the drivers of another model stand in for those of a model.
+// Makes another model an alternate of a model, so that its drivers can be used too.
 struct AddAlternateDriverRequest {
     static constexpr std::uint16_t opcode = 48;
 
@@ -93,7 +93,7 @@ struct AddAlternateDriverRequest {
     bool operator==(const AddAlternateDriverRequest&) const = default;
 };
 
-// Ends that the drivers of another model stand in for those of a model.
+// Removes an alternate from a model.
 struct RemoveAlternateDriverRequest {
     static constexpr std::uint16_t opcode = 49;
 

@@ -25,7 +25,7 @@ struct DriverDeploymentRecord {
     wire::WideString locale;        // free text, as an administrator typed it
     std::uint8_t use = 0;           // 0 or '0' no, 1 or '1' yes
     std::uint8_t install = 0;       // the same
-    std::uint8_t installMethod = 0; // an InstallMethod
+    std::uint8_t installMethod = 0; // one of installMethod
 
     static constexpr auto fields = wireOrder(
         field("version", &DriverDeploymentRecord::version), field("comment", &DriverDeploymentRecord::comment),
@@ -50,7 +50,7 @@ struct ListDriverDeploymentsRequest {
     bool operator==(const ListDriverDeploymentsRequest&) const = default;
 };
 
-// Deploys a driver for a model, an operating system and a locale, in place of what was deployed there.
+// Deploys a driver for a model, an operating system and a locale, replacing what was deployed there.
 struct AddDriverDeploymentRequest {
     static constexpr std::uint16_t opcode = 15;
 
@@ -61,8 +61,8 @@ struct AddDriverDeploymentRequest {
     std::string osId;
     std::uint8_t use = 1;
     std::uint8_t install = 0;
-    std::uint8_t installMethod = 0; // an InstallMethod
-    std::uint8_t keepConfig = 0;    // 1: the configurations of queues move to the new deployment, 0: they go
+    std::uint8_t installMethod = 0; // one of installMethod
+    std::uint8_t keepConfig = 0;    // 1: the configurations of queues move to the new deployment, 0: they are removed
 
     static constexpr auto fields = wireOrder(
         field("driverId", &AddDriverDeploymentRequest::driverId),
@@ -83,8 +83,8 @@ struct UpdateDriverDeploymentRequest {
     std::string deploymentId;
     std::uint8_t use = 1;
     std::uint8_t install = 0;
-    std::uint8_t installMethod = 0; // an InstallMethod
-    std::uint8_t keepConfig = 0;    // 1: an installation that is set leaves the configurations of queues alone
+    std::uint8_t installMethod = 0; // one of installMethod
+    std::uint8_t keepConfig = 0;    // 1: setting install keeps the configurations of queues
 
     static constexpr auto fields = wireOrder(field("deploymentId", &UpdateDriverDeploymentRequest::deploymentId),
                                              field("use", &UpdateDriverDeploymentRequest::use),
@@ -95,8 +95,8 @@ struct UpdateDriverDeploymentRequest {
     bool operator==(const UpdateDriverDeploymentRequest&) const = default;
 };
 
-// Removes a deployment: the command that changes one, with ten zero bytes behind the id. They have to be exactly these,
-// as nothing else tells the two apart.
+// Removes a deployment: the command that changes one, with ten zero bytes behind the id. It has to be exactly these,
+// because nothing else distinguishes the two commands.
 struct RemoveDriverDeploymentRequest {
     static constexpr std::uint16_t opcode = 16;
     static constexpr std::string_view form = "ten zero bytes behind the id remove";
@@ -115,7 +115,7 @@ struct RemoveDriverDeploymentRequest {
     bool operator==(const RemoveDriverDeploymentRequest&) const = default;
 };
 
-// Asks how many queues a replaced deployment would touch.
+// Asks how many queues replacing a deployment would affect.
 struct CountDeploymentConfigsRequest {
     static constexpr std::uint16_t opcode = 80;
 

@@ -6,7 +6,7 @@
 
 namespace protocol::driverModelList {
 
-// What a list of models is for, which decides what stands in it.
+// What a list of models is for, which decides what it contains.
 inline constexpr std::uint8_t ofBrand = 0;       // for the tree: the hidden ones too
 inline constexpr std::uint8_t forDialogs = 1;    // of a brand, to choose the model of a printer or a queue from
 inline constexpr std::uint8_t alternates = 2;    // of a model
@@ -42,7 +42,7 @@ struct ListDriverModelsRequest {
     bool operator==(const ListDriverModelsRequest&) const = default;
 };
 
-// Makes a model of a brand.
+// Adds a model to a brand.
 struct AddDriverModelRequest {
     static constexpr std::uint16_t opcode = 46;
 

@@ -4,7 +4,7 @@
 
 namespace protocol {
 
-// An operating system that drivers can be deployed for. A console keeps the three numbers and decides nothing by them.
+// An operating system that drivers can be deployed for. A console keeps the three numbers, but does not use them.
 struct OperatingSystemRecord {
     std::string osId;
     wire::WideString name;

@@ -8,9 +8,9 @@
 
 namespace protocol {
 
-// The commands for regions, printers and queues, and the login. The list of regions comes as one message with all
-// records as long as they fit, and only beyond that in the form of the other lists. CreateRecord and UpdateRecord have
-// a single reply that must not be missing.
+// The commands for regions, printers and queues, and the login. The list of regions is sent as one message if all
+// records fit, otherwise in the form of the other lists. CreateRecord and UpdateRecord have a single reply that must
+// not be missing.
 inline constexpr Command estateRows[] = {
     row<ListRegionsRequest>("lists the regions of a tree, all or below one parent")
         .list<RegionRecord>(ReaderForm::strict)

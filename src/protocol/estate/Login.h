@@ -10,7 +10,7 @@ namespace protocol {
 using LoginStatus = std::uint16_t;
 
 namespace loginStatus {
-constexpr LoginStatus noAnswer = 0; // never sent: what a console takes when it got no answer
+constexpr LoginStatus noAnswer = 0; // never sent: used by a console that got no answer
 constexpr LoginStatus loggedIn = 1;
 constexpr LoginStatus wrongCredentials = 2;
 constexpr LoginStatus wrongVersion = 3;
@@ -47,7 +47,7 @@ struct GetPublicKeyRequest {
     bool operator==(const GetPublicKeyRequest&) const = default;
 };
 
-// What comes before the key, which follows as a raw block; consoles use neither value.
+// Precedes the key, which follows as a raw block; consoles use neither value.
 struct GetPublicKeyReply {
     std::string text;
     std::uint32_t number = 0;

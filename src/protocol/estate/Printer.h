@@ -8,12 +8,12 @@
 
 namespace protocol {
 
-// What kind of row a printer record is. The values from loadQueue on (but for localPrinter) only tell an editing object
+// What kind of row a printer record is. The values from loadQueue on (except localPrinter) only tell an editing object
 // how to load a record.
 namespace recordType {
 constexpr std::uint16_t printer = 0;
 constexpr std::uint16_t queue = 1;
-constexpr std::uint16_t followQueue = 3; // stands in a region, has no physical printer
+constexpr std::uint16_t followQueue = 3; // belongs to a region, has no physical printer
 constexpr std::uint16_t loadQueue = 4;   // stored as queue
 constexpr std::uint16_t loadPrinter = 5; // stored as printer
 constexpr std::uint16_t localPrinter = 6;
@@ -42,7 +42,7 @@ constexpr std::uint8_t valueOf(std::u16string_view name) {
 } // namespace accounting
 
 // A printer, a queue, a follow-print queue or a local printer. All fields are always sent; those that begin with "aux"
-// belong to the server, a console hands them back as they came.
+// belong to the server, and a console sends them back unchanged.
 struct PrinterRecord {
     std::string ip; // empty for a queue
     std::string fpBoxIp;
@@ -127,11 +127,11 @@ struct ListPrinterRecordsRequest {
     bool operator==(const ListPrinterRecordsRequest&) const = default;
 };
 
-// Makes a printer, a queue, a follow-print queue or a local printer.
+// Creates a printer, a queue, a follow-print queue or a local printer.
 struct CreateRecordRequest {
     static constexpr std::uint16_t opcode = 9;
 
-    std::string physicalPrinterId; // of a queue, else empty
+    std::string physicalPrinterId; // of a queue, otherwise empty
     PrinterRecord record;
 
     static constexpr auto fields = wireOrder(field("physicalPrinterId", &CreateRecordRequest::physicalPrinterId),
@@ -140,7 +140,7 @@ struct CreateRecordRequest {
     bool operator==(const CreateRecordRequest&) const = default;
 };
 
-// What became of a new record, and the id that it was given.
+// The outcome for a new record, and the id that it was given.
 struct CreateRecordReply {
     StatusReply status;
     std::string id;
@@ -182,7 +182,7 @@ struct DeleteRecordRequest {
     bool operator==(const DeleteRecordRequest&) const = default;
 };
 
-// Puts a printer into another region.
+// Moves a printer to another region.
 struct MovePrinterRequest {
     static constexpr std::uint16_t opcode = 21;
 
@@ -195,7 +195,7 @@ struct MovePrinterRequest {
     bool operator==(const MovePrinterRequest&) const = default;
 };
 
-// Tells in which order a printer reports its status octets.
+// Sets the order in which a printer reports its status octets.
 struct SetStatusOctetOrderRequest {
     static constexpr std::uint16_t opcode = 74;
 

@@ -6,7 +6,7 @@
 
 namespace protocol {
 
-// Which of the two region trees a command means; their ids have no relation to each other.
+// Which of the two region trees a command refers to; their ids are unrelated.
 enum class RegionKind : std::uint8_t {
     printersAndQueues = 0,
     localPrinters = 1,
@@ -48,7 +48,7 @@ struct ListRegionsReply {
     bool operator==(const ListRegionsReply&) const = default;
 };
 
-// Makes a region below another.
+// Creates a region below another.
 struct CreateRegionRequest {
     static constexpr std::uint16_t opcode = 1;
 
@@ -78,7 +78,7 @@ struct RenameRegionRequest {
     bool operator==(const RenameRegionRequest&) const = default;
 };
 
-// Puts a region, with all that it holds, below another.
+// Moves a region, with everything in it, below another.
 struct MoveRegionRequest {
     static constexpr std::uint16_t opcode = 3;
 

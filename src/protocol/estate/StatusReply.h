@@ -4,7 +4,7 @@
 
 namespace protocol {
 
-// The server's word on a change: a message box to show as it stands, or an empty caption when nothing went wrong.
+// The outcome of a change: a message box to show unchanged, or an empty caption for success.
 struct StatusReply {
     wire::WideString caption;
     wire::WideString text;

@@ -17,7 +17,8 @@ constexpr std::uint16_t localByModel = 4;       // local printers
 
 namespace protocol {
 
-// A printer or queue of the old estate, with the system's own printer and the plan for it. What has no match is empty.
+// A printer or queue of the old estate, with the system's own printer and the plan for it. Fields without a match are
+// empty.
 struct InventoryPrinterRecord {
     std::string entryId;
     wire::WideString windowsName;
@@ -34,7 +35,7 @@ struct InventoryPrinterRecord {
     wire::WideString workstation; // on which it was found
     wire::WideString migrationPlan;
     wire::WideString migrationAction;
-    wire::WideString spare; // a console reads and drops it
+    wire::WideString spare; // a console ignores it
 
     static constexpr auto fields = wireOrder(
         field("entryId", &InventoryPrinterRecord::entryId), field("windowsName", &InventoryPrinterRecord::windowsName),

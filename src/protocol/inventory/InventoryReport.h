@@ -16,7 +16,7 @@ constexpr std::uint16_t onlyShared = 3;
 
 namespace protocol {
 
-// An inventory report: what a run over the old estate was asked to collect, and when.
+// An inventory report: what a scan of the old estate was asked to collect, and when.
 struct InventoryReportRecord {
     std::string reportId;
     wire::WideString reportDate;
@@ -44,7 +44,7 @@ struct ListInventoryReportsRequest {
     bool operator==(const ListInventoryReportsRequest&) const = default;
 };
 
-// Makes an inventory report.
+// Creates an inventory report.
 struct CreateInventoryReportRequest {
     static constexpr std::uint16_t opcode = 41;
 
@@ -67,7 +67,7 @@ struct CreateInventoryReportRequest {
     bool operator==(const CreateInventoryReportRequest&) const = default;
 };
 
-// Deletes an inventory report with all that it found.
+// Deletes an inventory report with all its findings.
 struct DeleteInventoryReportRequest {
     static constexpr std::uint16_t opcode = 42;
 

@@ -23,20 +23,20 @@ constexpr std::uint8_t one = 2;
 
 } // namespace protocol::rangeListKind
 
-// What is to be done with an IP range.
+// The operation on an IP range.
 namespace protocol::rangeOperation {
 
 constexpr std::uint8_t add = 1;
 constexpr std::uint8_t save = 2;
-constexpr std::uint8_t remove = 3;    // by the rangeId alone
-constexpr std::uint8_t setActive = 4; // by the rangeId and active alone
+constexpr std::uint8_t remove = 3;    // uses only the rangeId
+constexpr std::uint8_t setActive = 4; // uses only the rangeId and active
 
 } // namespace protocol::rangeOperation
 
 namespace protocol {
 
 // A block of addresses and what a migration does with the printers in it. The numbered values and texts belong to the
-// server, a console hands them back as they came.
+// server, and a console sends them back unchanged.
 struct IpRangeRecord {
     std::string rangeId;
     bool active = false;

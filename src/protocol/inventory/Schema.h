@@ -16,27 +16,26 @@ constexpr std::int32_t remove = 3;
 // Which migration plans a list asks for.
 namespace protocol::schemaListKind {
 
-constexpr std::uint32_t all = 0; // with an id those of that report
+constexpr std::uint32_t all = 0; // with an id, those of that report
 constexpr std::uint32_t one = 1;
 
 } // namespace protocol::schemaListKind
 
-// What is to be done with a migration plan.
+// The operation on a migration plan.
 namespace protocol::schemaOperation {
 
 constexpr std::uint8_t create = 1;
 constexpr std::uint8_t save = 2;
-constexpr std::uint8_t remove = 4; // by the schemaId alone
+constexpr std::uint8_t remove = 4; // uses only the schemaId
 
 } // namespace protocol::schemaOperation
 
 namespace protocol {
 
-// A migration plan: what is to become of one printer of the old estate. A field of the old printer that is empty is not
-// looked at.
+// A migration plan: what to do with one printer of the old estate. Empty fields of the old printer are ignored.
 struct SchemaRecord {
     wire::WideString creator;
-    std::int32_t planNumber = 0;     // 0 in a new plan; a console hands it back as it came
+    std::int32_t planNumber = 0;     // 0 in a new plan; a console sends it back unchanged
     wire::WideString newPrinterName; // of the new queue
     std::string newQueueId;          // empty for none
     std::string oldIp;
@@ -46,7 +45,7 @@ struct SchemaRecord {
     std::string schemaId;
     wire::WideString schemaName;
     std::int32_t action = 0; // one of schemaAction
-    bool planFlag = false;   // a console hands it back as it came
+    bool planFlag = false;   // a console sends it back unchanged
 
     static constexpr auto fields = wireOrder(
         field("creator", &SchemaRecord::creator), field("planNumber", &SchemaRecord::planNumber),

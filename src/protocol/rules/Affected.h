@@ -10,7 +10,7 @@ constexpr std::uint8_t group = 2;
 
 } // namespace protocol::affectedType
 
-// Whether a rule holds for whom a record names, or for all others.
+// Whether a rule applies to those that a record names, or to all others.
 namespace protocol::affectedSense {
 
 constexpr std::uint8_t isNot = 0;
@@ -20,8 +20,8 @@ constexpr std::uint8_t is = 1;
 
 namespace protocol {
 
-// A user or a group whom rule entries affect, or all but whom. This is the order of a reply; a request has another one,
-// see WriteAffectedRequest.
+// A user or a group affected by rule entries, or exempt from them. This is the order of a reply; a request has a
+// different one, see WriteAffectedRequest.
 struct AffectedRecord {
     std::string id; // uuid text, made by the console
     std::uint8_t type = affectedType::user;
@@ -46,8 +46,8 @@ struct ListAffectedRequest {
     bool operator==(const ListAffectedRequest&) const = default;
 };
 
-// Adds or changes an affected user or group. The fields of the record come in another order than in a reply, which has
-// to stay.
+// Adds or changes an affected user or group. The fields of the record are in a different order from that of a reply,
+// which has to stay.
 struct WriteAffectedRequest {
     static constexpr std::uint16_t opcode = 60;
     static constexpr std::string_view form = "action 1 adds, 2 updates";

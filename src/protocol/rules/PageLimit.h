@@ -3,7 +3,7 @@
 #include "protocol/WireOrder.h"
 #include "protocol/rules/RuleWriteAction.h"
 
-// Which jobs a page limit is about, by their color and by whether they are printed on both sides.
+// Which jobs a page limit applies to, by their color and by whether they are printed on both sides.
 namespace protocol::limitedColor {
 
 constexpr std::uint8_t any = 0;
@@ -22,7 +22,7 @@ constexpr std::uint8_t last = yes;
 
 } // namespace protocol::limitedDuplex
 
-// What is done with a job beyond a page limit.
+// What to do with a job beyond a page limit.
 namespace protocol::limitAction {
 
 constexpr std::uint8_t nothing = 0;
@@ -38,7 +38,7 @@ constexpr std::uint8_t last = requirePin;
 
 namespace protocol {
 
-// A limit to the pages or the cost of print jobs, and what is done with a job beyond it.
+// A limit on the pages or the cost of print jobs, and what to do with a job beyond it.
 struct PageLimitRecord {
     std::string id; // uuid text, made by the console
     std::uint16_t priority = 0;
@@ -54,7 +54,7 @@ struct PageLimitRecord {
     std::optional<wire::Uuid> messageId; // the user message to show
     std::string destinationId;           // of a queue, empty for none
     std::uint8_t enforce = 0;            // 0 no, 1 yes
-    bool extraFlag = false; // the extra fields belong to the server; a console hands them back as they came
+    bool extraFlag = false;              // the extra fields belong to the server; a console sends them back unchanged
     wire::WideString extraText1;
     std::string extraId;
     wire::WideString extraText2;
@@ -73,7 +73,7 @@ struct PageLimitRecord {
     bool operator==(const PageLimitRecord&) const = default;
 };
 
-// A page limit in the list of all: what it takes to choose one.
+// A page limit in the list of all, with what is needed to choose one.
 struct PageLimitName {
     std::string id;
     wire::WideString name;

@@ -6,7 +6,7 @@
 
 namespace protocol {
 
-// A paper or a unit of area that can be priced, in the order in which they are offered. No code stands for two things.
+// A paper or a unit of area that can be priced, in the order in which they are offered. Codes are unique.
 struct PaperCode {
     std::uint16_t code;
     std::u16string_view label;

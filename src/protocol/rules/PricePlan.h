@@ -6,7 +6,7 @@
 // How a job is paid for.
 namespace protocol::payMethod {
 
-constexpr std::uint8_t log = 0; // it is only noted down
+constexpr std::uint8_t log = 0; // it is only recorded
 constexpr std::uint8_t wallet = 1;
 constexpr std::uint8_t externalDebit = 2;
 constexpr std::uint8_t walletAndExternalDebit = 3;
@@ -14,19 +14,19 @@ constexpr std::uint8_t last = walletAndExternalDebit;
 
 } // namespace protocol::payMethod
 
-// What a row of a price plan prices, and how.
+// What a row of a price plan applies to, and how.
 namespace protocol::priceKind {
 
 constexpr std::uint8_t multiplier = 0; // a paper, by its base price and the plan's multipliers
 constexpr std::uint8_t print = 1;      // a paper, absolutely
 constexpr std::uint8_t copy = 2;       // the same
 constexpr std::uint8_t scan = 3;       // the same, without duplex
-constexpr std::uint8_t other = 4;      // a paper, absolutely; no console makes such a row, and it can't be edited
+constexpr std::uint8_t other = 4;      // a paper, absolutely; no console creates such a row, and it can't be edited
 constexpr std::uint8_t areaMultiplier = 5;
 constexpr std::uint8_t areaPrint = 6; // absolutely, without duplex
 constexpr std::uint8_t last = areaPrint;
 
-// Several rows of one paper may stand side by side when each is of another one of these kinds.
+// A paper may have several rows if each is of a different one of these kinds.
 constexpr bool isAbsoluteOfPaper(std::uint8_t kind) {
     return kind >= print && kind <= other;
 }
@@ -112,7 +112,7 @@ struct ListPriceEntriesRequest {
     bool operator==(const ListPriceEntriesRequest&) const = default;
 };
 
-// Adds or changes a price plan together with all of its prices, which replace those that it had.
+// Adds or changes a price plan together with all of its prices, which replace the old ones.
 struct WritePricePlanRequest {
     static constexpr std::uint16_t opcode = 70;
     static constexpr std::string_view form = "action 1 adds, 2 updates";

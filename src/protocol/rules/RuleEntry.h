@@ -24,7 +24,7 @@ struct Labelled {
     std::u16string_view label;
 };
 
-// All types that exist, with the text that an administrator reads.
+// All types, with the text that an administrator sees.
 constexpr std::array<Labelled, 8> labels = {{
     {ruleGroup, u"Rule group"},
     {pageLimit, u"Page limit"},
@@ -40,8 +40,7 @@ constexpr std::array<Labelled, 8> labels = {{
 
 namespace protocol {
 
-// One rule placed on a rule group, a printer, a queue or a region. Where it is placed stands in the command, not in
-// here.
+// One rule placed on a rule group, a printer, a queue or a region. The command says where, not the record.
 struct RuleEntryRecord {
     std::uint8_t type = 0;     // see ruleEntryType
     std::string id;            // uuid text, made by the console
@@ -49,7 +48,7 @@ struct RuleEntryRecord {
     wire::WideString name;
     wire::WideString comment;
     wire::WideString affectedName; // a copy of the name, empty for none
-    std::string targetId;          // of a rule group, page limit, price plan or short id; else empty
+    std::string targetId;          // of a rule group, page limit, price plan or short id; otherwise empty
     std::string parentId;
     std::string affectedId; // empty for none
 
@@ -68,7 +67,7 @@ struct ListRuleEntriesRequest {
     static constexpr std::uint16_t opcode = 61;
 
     std::string ownerId;
-    std::int32_t ownerNumber = 0; // of a region; 0 is a list of its own
+    std::int32_t ownerNumber = 0; // of a region; 0 has a list of its own
 
     static constexpr auto fields = wireOrder(field("ownerId", &ListRuleEntriesRequest::ownerId),
                                              field("ownerNumber", &ListRuleEntriesRequest::ownerNumber));
@@ -83,7 +82,7 @@ struct AddRuleEntryRequest {
     static constexpr std::array<std::uint8_t, 1> actions = {ruleWriteAction::addEntry};
 
     std::uint8_t action = ruleWriteAction::addEntry;
-    std::int32_t ownerNumber = 0; // of a region, else 0
+    std::int32_t ownerNumber = 0; // of a region, otherwise 0
     std::string parentId;
     std::string ownerId;
     RuleEntryRecord entry;
@@ -96,7 +95,7 @@ struct AddRuleEntryRequest {
     bool operator==(const AddRuleEntryRequest&) const = default;
 };
 
-// Changes a rule entry where it stands. Its action is out of line with all others, which has to stay.
+// Changes a rule entry in place. Its action does not follow the pattern of the others, which has to stay.
 struct UpdateRuleEntryRequest {
     static constexpr std::uint16_t opcode = 64;
     static constexpr std::string_view form = "action 88 updates a rule entry";

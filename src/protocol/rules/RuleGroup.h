@@ -5,12 +5,12 @@
 
 namespace protocol {
 
-// A named container of rule entries, which is applied as a whole where an entry points at it.
+// A named container of rule entries, which is applied as a whole where an entry refers to it.
 struct RuleGroupRecord {
     std::string id; // uuid text, made by the console
     wire::WideString name;
     wire::WideString comment;
-    wire::WideString extra1; // the extra texts belong to the server; a console hands them back as they came
+    wire::WideString extra1; // the extra texts belong to the server; a console sends them back unchanged
     wire::WideString extra2;
 
     static constexpr auto fields =

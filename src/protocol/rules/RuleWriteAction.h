@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// The first byte of requests that share an opcode. That of a changed entry is out of line with the others, which has to
-// stay.
+// The first byte of requests that share an opcode. That of a changed entry does not follow the pattern of the others,
+// which has to stay.
 namespace protocol::ruleWriteAction {
 
 constexpr std::uint8_t add = 1;

@@ -4,7 +4,7 @@
 
 namespace protocol {
 
-// A rule about the short ids by which users fetch their print jobs: how long one is valid, and for how long it is not
+// A rule about the short ids with which users fetch their print jobs: how long one is valid, and how long it is not
 // given to another job.
 struct ShortIdRecord {
     wire::Uuid id = {}; // made by the console

@@ -13,7 +13,7 @@ constexpr std::uint32_t last = info;
 
 } // namespace protocol::messageIcon
 
-// How a user message shows.
+// How a user message is shown.
 namespace protocol::messageType {
 
 constexpr std::uint32_t box = 1;
@@ -26,16 +26,16 @@ constexpr std::uint32_t last = webPage;
 
 namespace protocol {
 
-// What a person who prints gets to see when a page limit or a short id takes effect.
+// What the printing user sees when a page limit or a short id takes effect.
 struct UserMessageRecord {
     wire::Uuid id = {}; // made by the console
     wire::WideString name;
-    wire::WideString subtitle; // never travels, and so is always empty
+    wire::WideString subtitle; // never sent, and so always empty
     wire::WideString caption;
     wire::WideString text; // or the address of a web page
     std::uint32_t icon = messageIcon::ok;
     std::uint32_t type = messageType::box;
-    bool builtIn = false; // told by the server: may be edited but not deleted
+    bool builtIn = false; // set by the server: such a message may be edited but not deleted
 
     static constexpr auto fields =
         wireOrder(field("id", &UserMessageRecord::id), field("name", &UserMessageRecord::name),

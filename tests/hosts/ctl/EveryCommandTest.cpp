@@ -14,13 +14,13 @@ using testing::Not;
 
 using Calls = std::vector<std::string>;
 
-// Goes through the commands of the protocol one by one, as a person does: a change, then the list that has to show it,
-// at once and after the server was killed.
+// Goes through the commands of the protocol one by one, as a user does: a change, then the list that has to show it, at
+// once and after the server was killed.
 class EveryCommand : public VantrelctlFixture {
 protected:
     EveryCommand() { startServerWithSample(); }
 
-    // The replies to these calls, each written as on the command line behind "call".
+    // The replies to these calls, each written as on the command line after "call".
     std::vector<Json> replies(const Calls& calls) {
         std::string script;
         for (const auto& call : calls)
@@ -44,7 +44,7 @@ protected:
         return records.empty() ? "" : records.front().at(field).get<std::string>();
     }
 
-    // A field of the record of a list that has the name.
+    // A field of the list's record with the name.
     std::string idOf(const std::string& list, const std::string& field, const std::string& name) {
         for (const auto& record : recordsOf(list)) {
             if (record.dump().find('"' + name + '"') != std::string::npos)
@@ -54,7 +54,7 @@ protected:
         return {};
     }
 
-    // After the changes the list holds the text.
+    // Makes the changes, and checks that the list contains the text.
     void expectShown(Calls calls, const std::string& list, const std::string& text) {
         calls.push_back(list);
         EXPECT_THAT(replies(calls).back().dump(), HasSubstr('"' + text + '"')) << list;
@@ -67,7 +67,7 @@ protected:
         lists_.erase(list);
     }
 
-    // What was shown is there after the server was killed, too.
+    // Checks that everything shown is still there after the server was killed.
     void expectKept() {
         kill();
         startServer();

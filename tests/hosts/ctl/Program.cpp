@@ -54,7 +54,7 @@ struct Pipe {
     _exit(127);
 }
 
-// Reads both to their ends; false when that takes too long.
+// Reads both to the end; false when that takes too long.
 bool readAll(int output, int errors, Outcome& outcome) {
     const auto limit = Clock::now() + std::chrono::minutes(1);
     std::array<pollfd, 2> entries{{{output, POLLIN, 0}, {errors, POLLIN, 0}}};

@@ -6,18 +6,18 @@
 
 namespace hosttest {
 
-// What a program has left behind.
+// The exit status and output of a program.
 struct Outcome {
     int status = 0; // minus the signal that killed it
     std::string output;
     std::string errors;
 };
 
-// Runs a program to its end, with nothing on its standard input. Throws when it takes more than a minute, and kills it.
-// A variable of the environment with an empty value is not set.
+// Runs a program until it exits, with an empty standard input. Kills it and throws when it takes more than a minute.
+// Environment variables with an empty value are unset.
 Outcome runProgram(std::vector<std::string> arguments, const std::map<std::string, std::string>& environment = {});
 
-// The same with its standard output going into a file.
+// The same with its standard output written to a file.
 Outcome runProgramInto(const std::string& outputFile, std::vector<std::string> arguments);
 
 } // namespace hosttest

@@ -11,7 +11,7 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
-// The rules with nothing but a shell, nested dialogs included.
+// Editing rules from a shell, nested dialogs included.
 class RulesCtl : public VantrelctlFixture {
 protected:
     void SetUp() override { startServerWithSample(); }

@@ -17,7 +17,7 @@ class VantrelctlBadInput : public VantrelctlFixture {
 protected:
     void SetUp() override { startServerWithSample(); }
 
-    // Ends with the status and one line that says why.
+    // Checks the exit status and that one line says why.
     void expectFailure(const Outcome& outcome, int status, const std::string& why) const {
         EXPECT_EQ(outcome.status, status) << outcome.errors;
         EXPECT_EQ(outcome.output, "");

@@ -17,7 +17,7 @@ namespace hosttest {
 using Json = nlohmann::ordered_json;
 using Arguments = std::vector<std::string>;
 
-// A server of its own on the small sample estate, and the command line to administer it with.
+// A new server on the small sample estate, and the command line to administer it.
 class VantrelctlFixture : public testing::Test {
 protected:
     void startServer() {
@@ -53,7 +53,7 @@ protected:
         return all;
     }
     Outcome ctl(const Arguments& command) const { return runProgram(withConnection(command)); }
-    // Of a command that has to succeed.
+    // The output of a command that has to succeed.
     std::string output(const Arguments& command) const {
         const auto outcome = ctl(command);
         EXPECT_EQ(outcome.status, 0) << outcome.errors;
@@ -63,7 +63,7 @@ protected:
         command.insert(command.end(), {"--format", "json"});
         return Json::parse(output(command));
     }
-    // The names right below a path.
+    // The names directly below a path.
     std::vector<std::string> below(const std::string& path) const {
         std::vector<std::string> names;
         const auto tree = json({"tree", path, "--depth", "1"});

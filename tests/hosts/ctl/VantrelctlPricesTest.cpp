@@ -9,7 +9,7 @@ namespace {
 
 using support::EnvironmentVariable;
 
-// Price plans on a server of its own, from the command line.
+// Price plans on a new server, from the command line.
 class VantrelctlPrices : public VantrelctlFixture {
 protected:
     VantrelctlPrices() { startServerWithSample(); }
