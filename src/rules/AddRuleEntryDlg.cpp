@@ -32,7 +32,7 @@ void AddRuleEntryDlg::onOk() {
     if (!fields.take(u"Name field shoud not be blank!")) {
         return;
     }
-    // A rule group on a region goes out with the group as its owner and the number of the region; this must stay.
+    // A rule group on a region is sent with the group as its owner and the number of the region; this must stay.
     auto place = place_;
     if (fields.entry.type == protocol::ruleEntryType::ruleGroup) {
         place.ownerId = fields.entry.targetId;

@@ -6,7 +6,7 @@
 
 namespace rules {
 
-// Makes a rule entry inside a rule group, or on a region.
+// Creates a rule entry inside a rule group, or on a region.
 class AddRuleEntryDlg final : public forms::Form {
 public:
     enum class Mode : std::uint8_t { place, group };

@@ -10,13 +10,13 @@
 
 namespace rules {
 
-// Makes or edits whom a rule affects: a user, a group, or all but one of these.
+// Creates or edits whom a rule affects: a user, a group, or all except one of these.
 class AffectedDlg final : public forms::Form {
 public:
-    // A dialog of a rule, which gets to know what has become of those affected. All of it outlives the form.
+    // The dialog of a rule that opened this one and is updated with the result. All of it outlives the form.
     struct Opener {
-        std::vector<protocol::AffectedRecord>& list; // read anew once the record is written
-        SavedChoice& saved;                          // becomes the record
+        std::vector<protocol::AffectedRecord>& list; // read again once the record is written
+        SavedChoice& saved;                          // set to the record
     };
 
     AffectedDlg(platform::Platform& platform, Opener opener);

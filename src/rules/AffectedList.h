@@ -9,24 +9,24 @@
 
 namespace rules {
 
-// The list of those whom a rule can affect, in a dialog of a rule.
+// The list of users and groups that a rule can affect, in a dialog of a rule.
 class AffectedList final : public forms::EditableList {
 public:
-    // Whether an empty row stands above the records, so that a rule may affect everybody.
+    // Whether there is an empty row above the records, so that a rule may affect everybody.
     enum class EmptyRow : std::uint8_t { none, first };
 
     AffectedList(forms::Container& container, EmptyRow emptyRow);
 
-    // Reads the records anew and goes back to the saved choice, else to the first row. The buttons can be pressed
-    // after that, whatever is selected; this must stay.
+    // Reads the records again and selects the saved choice, or else the first row. The buttons are enabled after that,
+    // whatever is selected; this must stay.
     void fill();
-    // Selects the record with the id; without one nothing changes.
+    // Selects the record with the id; if there is none, nothing changes.
     void select(std::string_view id);
     // The record of the selected row; null for the empty row and "<New>".
     const protocol::AffectedRecord* selected() const;
     // Writes the selected record, or none, into the entry.
     void take(protocol::RuleEntryRecord& entry) const;
-    // What a later filling goes back to where no row is saved.
+    // The name that a later fill selects if no row is saved.
     void saveName(const wire::WideString& name) { saved_.name = name; }
 
 private:

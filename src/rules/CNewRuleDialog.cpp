@@ -34,8 +34,8 @@ CNewRuleDialog::CNewRuleDialog(platform::Platform& platform, RuleEntryPlace plac
 CNewRuleDialog::CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place, RuleEntryRecord entry)
     : Form(platform, u"New Rule"), place_(std::move(place)), editing_(true), entry_(std::move(entry)) {}
 
-// The type of an entry is not shown: an edited one becomes "Client billing" unless the person chooses another type.
-// This must stay.
+// The type of an entry is not shown: an edited one becomes "Client billing" unless the user chooses another type. This
+// must stay.
 void CNewRuleDialog::onInitDialog() {
     for (const auto& [value, label] : types) {
         type.addItem(wire::WideString(label));
@@ -63,7 +63,7 @@ void CNewRuleDialog::onOk() {
     EndDialog(forms::idOk);
 }
 
-// "shoud" must stay, and so must the comment that has to be there although most rules need none.
+// "shoud" must stay, and so must the required comment, although most rules need none.
 bool CNewRuleDialog::take() {
     if (name.text().empty()) {
         forms::refuseBlank(name, u"Name field shoud not be blank!");

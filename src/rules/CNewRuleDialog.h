@@ -7,7 +7,7 @@
 
 namespace rules {
 
-// Edits a rule entry of a rule group that points at nothing that could be edited instead, or makes one.
+// Edits a rule entry of a rule group that refers to nothing that could be edited instead, or creates one.
 class CNewRuleDialog final : public forms::Form {
 public:
     CNewRuleDialog(platform::Platform& platform, RuleEntryPlace place);

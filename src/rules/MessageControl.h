@@ -10,21 +10,22 @@ class MessageControl final : public forms::EditableList {
 public:
     static constexpr std::u16string_view defaultItem = u"<Default>";
 
-    // The extra items stand below the messages, the last of them first, and offer nothing to edit or delete.
+    // The extra items are below the messages, the last of them first, and can be neither edited nor deleted.
     MessageControl(forms::Container& container, std::vector<wire::WideString> extraItems);
 
-    // Reads the messages anew and selects the one with the id, else the last. Without any message nothing is selected,
-    // and the buttons stay as they are.
+    // Reads the messages again and selects the one with the id, or else the last. Without any message nothing is
+    // selected, and the buttons stay as they are.
     void fill(const std::optional<wire::Uuid>& currentId);
-    // Sets the buttons for a row. A row that is not there changes nothing, and no row does while there are no messages.
+    // Sets the buttons for a row. A row that does not exist changes nothing, and neither does any row while there are
+    // no messages.
     void updateButtons(std::optional<std::size_t> row);
 
     const std::vector<protocol::UserMessageRecord>& messages() const { return messages_; }
-    // That of the selected message; none for an extra item, for a message without a name and without a selection. A
-    // message that is called like an extra item can't be told from it; this must stay.
+    // The id of the selected message; none for an extra item, for a message without a name and without a selection. A
+    // message named like an extra item can't be told apart from it; this must stay.
     std::optional<wire::Uuid> selectedId() const;
 
-    // The person has selected something, and a new message, if that was asked for, stands in the list.
+    // Called after the user has selected something; a new message, if one was made, is then in the list.
     std::function<void()> onSelect;
 
 private:

@@ -9,18 +9,18 @@
 
 namespace rules {
 
-// A length of time as a number and its unit, beside the control that says what it is of.
+// A length of time as a number and its unit, beside the control that names it.
 class MinutesField {
 public:
     MinutesField(forms::Container& container, const forms::Control& owner, std::u16string_view remark);
 
-    // Fills the list of units; before that there are none to choose.
+    // Fills the list of units, which is empty before.
     void open();
-    // In the largest unit that needs no fraction. Nothing leaves the number empty.
+    // Shows the minutes in the largest unit that needs no fraction; none leaves the number empty.
     void show(std::optional<std::uint32_t> minutes);
-    // Three hours, where there is no number.
+    // Sets three hours if there is no number.
     void fillIfEmpty();
-    // None for no number, one that is too large, and without a unit.
+    // None without a number, for a number that is too large, and without a unit.
     std::optional<std::uint32_t> minutes() const;
     void setEnabled(bool enabled);
 

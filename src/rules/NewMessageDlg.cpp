@@ -90,7 +90,7 @@ void NewMessageDlg::onOk() {
     EndDialog(forms::idOk);
 }
 
-// A web page keeps the caption that it had as something else. A message with a caption alone is called by it.
+// A web page keeps the caption that it had as another type. A message with only a caption gets that as its name.
 bool NewMessageDlg::takeNames() {
     if (isWebPage()) {
         if (name.text().empty()) {

@@ -8,7 +8,7 @@
 
 namespace rules {
 
-// Makes or edits what a person who prints gets to see: a message box, a balloon or a web page.
+// Creates or edits what the printing user sees: a message box, a balloon or a web page.
 class NewMessageDlg final : public forms::Form {
 public:
     explicit NewMessageDlg(platform::Platform& platform);
@@ -33,7 +33,7 @@ private:
     void typeChanged();
     void enableFields();
     void showMessage();
-    // False, with a message, when the names given do not do.
+    // False, with a message, when the names are not acceptable.
     bool takeNames();
 
     bool editing_;

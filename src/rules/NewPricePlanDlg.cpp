@@ -112,7 +112,7 @@ void NewPricePlanDlg::takePlan() {
     }
 }
 
-// The entry is updated on the server although it may not be there yet, when the rule is a new one; this must stay.
+// The entry is updated on the server, although it may not exist there yet if the rule is new; this must stay.
 void NewPricePlanDlg::tellOpener() {
     opener_->entry.targetId = plan_.id;
     client::CQVXAdminClass client;

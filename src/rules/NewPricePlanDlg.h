@@ -11,14 +11,14 @@
 
 namespace rules {
 
-// Makes or edits a price plan: its general figures, and the prices of papers and areas.
+// Creates or edits a price plan: its general figures, and the prices of papers and areas.
 class NewPricePlanDlg final : public forms::Form {
 public:
-    // A dialog of a rule, which gets to know what has become of the plans. All of it outlives the form.
+    // The dialog of a rule that opened this one and is updated with the result. All of it outlives the form.
     struct Opener {
-        std::vector<protocol::PricePlanRecord>& plans; // read anew once the plan is written
-        SavedChoice& saved;                            // becomes the plan
-        protocol::RuleEntryRecord entry;               // is made to point at the plan
+        std::vector<protocol::PricePlanRecord>& plans; // read again once the plan is written
+        SavedChoice& saved;                            // set to the plan
+        protocol::RuleEntryRecord entry;               // its target becomes the plan
     };
 
     explicit NewPricePlanDlg(platform::Platform& platform);
@@ -57,7 +57,7 @@ private:
     bool isNew_;
     protocol::PricePlanRecord plan_;
     std::optional<Opener> opener_;
-    bool knowsPrices_; // those that the server has: without them a plan would lose them
+    bool knowsPrices_; // whether the server's prices are loaded: without them the plan would lose them
     wire::WideString shownVat_;
 };
 

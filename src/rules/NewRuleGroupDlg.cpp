@@ -53,7 +53,7 @@ void NewRuleGroupDlg::onOk() {
     EndDialog(forms::idOk);
 }
 
-// The server removes the entries with their group. The result is that of OK, which must stay.
+// The server removes the entries with their group. The result is the same as for OK, which must stay.
 void NewRuleGroupDlg::onCancel() {
     if (isNew_ && !group_.id.empty()) {
         client::CQVXAdminClass client;
@@ -110,7 +110,7 @@ void NewRuleGroupDlg::edit() {
     if (selected == nullptr) {
         return;
     }
-    const RuleEntryRecord entry = *selected; // an editor may list the entries anew
+    const RuleEntryRecord entry = *selected; // an editor may list the entries again
     if (entry.type == protocol::ruleEntryType::pageLimit) {
         editPageLimit(entry);
     } else if (entry.type == protocol::ruleEntryType::pricePlan) {
@@ -125,7 +125,7 @@ void NewRuleGroupDlg::edit() {
     enableButtons();
 }
 
-// An entry without a limit opens one that is called like it and is not on the server; this must stay.
+// An entry without a limit opens one with its name that is not on the server; this must stay.
 void NewRuleGroupDlg::editPageLimit(const RuleEntryRecord& entry) {
     auto limit = std::optional(client::newRecord<protocol::PageLimitRecord>());
     limit->name = entry.name;

@@ -12,8 +12,8 @@
 
 namespace rules {
 
-// Makes or edits a rule group with its entries. A new group is on the server from the moment when the form opens, since
-// its entries need an owner; until the form ends it is there without a name, for everybody to see.
+// Creates or edits a rule group with its entries. A new group is on the server as soon as the form opens, because its
+// entries need an owner; until the form ends it is there without a name, visible to everybody.
 class NewRuleGroupDlg final : public forms::Form {
 public:
     explicit NewRuleGroupDlg(platform::Platform& platform);

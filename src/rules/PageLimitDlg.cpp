@@ -25,7 +25,7 @@ struct Action {
     std::uint8_t value;
 };
 
-// In the order of the list, where the last two stand the other way round than their numbers; this must stay.
+// In the order of the list, where the last two are in the reverse order of their numbers; this must stay.
 constexpr std::array<Action, 7> actions = {{{u"Do nothing", limitAction::nothing},
                                             {u"Allow", limitAction::allow},
                                             {u"Delete", limitAction::remove},
@@ -49,7 +49,7 @@ void fill(forms::DropList& list, std::initializer_list<std::u16string_view> item
     list.select(selected);
 }
 
-// Of a list that begins with "Any" and has two more items, whose numbers are those of their rows.
+// For a list that begins with "Any" and has two more items, whose values are their row numbers.
 void selectOneOfThree(forms::DropList& list, std::uint8_t value) {
     list.select(value <= 2 ? value : 0);
 }
@@ -62,7 +62,7 @@ wire::WideString decimal(std::uint16_t number) {
     return wire::toWide(std::to_string(number));
 }
 
-// The digits at the beginning of a text, cut to 16 bits; without any it is 0, which nobody is told. Both must stay.
+// The digits at the beginning of a text, cut to 16 bits; without any it is 0, without a message. Both must stay.
 std::uint16_t numberAtStart(wire::WideStringView text) {
     std::uint32_t number = 0;
     for (const char16_t unit : text) {
@@ -152,7 +152,7 @@ void PageLimitDlg::showLimit() {
     action.select(shown != actions.end() ? static_cast<std::size_t>(shown - actions.begin()) : 0);
 }
 
-// A limit without a message, or whose message has gone, is shown with the first there is; this must stay.
+// A limit without a message, or whose message no longer exists, is shown with the first one; this must stay.
 void PageLimitDlg::showMessage() {
     message.fill(limit_.messageId);
     const auto& known = message.messages();
@@ -184,7 +184,7 @@ void PageLimitDlg::actionSelected() {
     if (diverts) {
         destination.setText({});
     }
-    destination.setEnabled(!diverts); // not so the button beside it, which must stay
+    destination.setEnabled(!diverts); // but not the button beside it; this must stay
 }
 
 void PageLimitDlg::searchDestination() {

@@ -17,15 +17,16 @@
 
 namespace rules {
 
-// Makes or edits a page limit: which print jobs it is for, how much they may print, and what becomes of a job beyond.
+// Creates or edits a page limit: which print jobs it applies to, how much they may print, and what happens to a job
+// beyond that.
 class PageLimitDlg final : public forms::Form {
 public:
-    // A dialog of a rule, which gets to know what has become of the limits. All of it outlives the form.
+    // The dialog of a rule that opened this one and is updated with the result. All of it outlives the form.
     struct Opener {
-        std::vector<std::string>& ids;        // both read anew once the limit is written
+        std::vector<std::string>& ids;        // both read again once the limit is written
         std::vector<wire::WideString>& names; // in the order of the ids
-        SavedChoice& saved;                   // becomes the limit
-        protocol::RuleEntryRecord entry;      // unlike with a price plan, it isn't made to point at the limit
+        SavedChoice& saved;                   // set to the limit
+        protocol::RuleEntryRecord entry;      // unlike with a price plan, its target stays
     };
 
     explicit PageLimitDlg(platform::Platform& platform);
@@ -72,7 +73,7 @@ private:
     void searchDestination();
     void takeJobs();
     void takeMaximum();
-    // These two answer false once they have told what is missing.
+    // These two return false after saying what is missing.
     bool takeDestination();
     bool takePriority();
     void tellOpener();
@@ -80,8 +81,8 @@ private:
     bool isNew_;
     protocol::PageLimitRecord limit_;
     std::optional<Opener> opener_;
-    bool knowsDestination_; // the name of the queue that the limit has
-    std::string pickedId_;  // of the queue that was found
+    bool knowsDestination_; // whether the name of the limit's queue is loaded
+    std::string pickedId_;  // of the queue found by the search
     wire::WideString pickedName_;
 };
 

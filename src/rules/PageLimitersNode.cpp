@@ -5,7 +5,7 @@
 
 namespace rules {
 
-// The list of all has only names: each limit is asked for by a command of its own.
+// The list of all has only names: each limit is read with a separate command.
 bool PageLimitersNode::listRecords(std::vector<Record>& records) {
     client::CQVXAdminClass client;
     std::vector<std::string> ids;

@@ -21,7 +21,7 @@ protected:
     void readRows() override;
 
 private:
-    std::vector<wire::WideString> names_; // as the list has them
+    std::vector<wire::WideString> names_; // as in the list
 };
 
 } // namespace rules

@@ -13,7 +13,7 @@ namespace priceKind = protocol::priceKind;
 
 using protocol::PriceEntryRecord;
 
-// A code that nothing in the list has selects nothing.
+// A code that is not in the list selects nothing.
 template <class Codes>
 void selectCode(forms::DropList& list, const Codes& codes, std::uint16_t code) {
     const auto found = std::ranges::find(codes, code, &protocol::PaperCode::code);
@@ -128,8 +128,8 @@ void PapersGroup::addMultiplier() {
     }
 }
 
-// All ten prices have to be there, for an area too, although it has use for two of them only. A new row of an area
-// takes over the prices for duplex, which are not shown. Both must stay.
+// All ten prices are required, even for an area, which uses only two of them. A new row of an area takes over the
+// prices for duplex, which are not shown. Both must stay.
 void PapersGroup::addAbsolute() {
     if (chosenPaper() == nullptr) {
         return;

@@ -15,19 +15,19 @@
 
 namespace rules {
 
-// The prices of a plan by paper and area: the list of them, and the boxes with which they are added and updated.
+// The prices of a plan by paper and area: their list, and the boxes with which they are added and updated.
 class PapersGroup {
 public:
     PapersGroup(forms::Container& container, const platform::Locale& locale);
 
-    // Fills the lists to choose from; before that nothing can be chosen.
+    // Fills the lists, which are empty before.
     void open();
     const std::vector<protocol::PriceEntryRecord>& rows() const { return table_.rows(); }
     void setRows(std::vector<protocol::PriceEntryRecord> rows);
     // A row of the list is selected and waits for its update or removal.
     bool updating() const { return updated_.has_value(); }
 
-    // updating may have changed.
+    // Called when updating() may have changed.
     std::function<void()> onChange;
 
     forms::Group group;
@@ -37,7 +37,7 @@ public:
     forms::Button removeButton{group, u"Remove"};
     forms::Group type{group, u"Type"};
     forms::RadioGroup paperOrArea;
-    forms::RadioButton paper{type, paperOrArea, u"Paper "}; // the blank behind the label is part of it
+    forms::RadioButton paper{type, paperOrArea, u"Paper "}; // the blank at the end is part of the label
     forms::DropList paperList{type, u"", {.sorted = false, .belongsTo = &paper}};
     forms::RadioButton area{type, paperOrArea, u"Area"};
     forms::DropList areaList{type, u"", {.sorted = false, .belongsTo = &area}};
@@ -46,7 +46,7 @@ public:
 
 private:
     bool isAbsolute() const { return multiplierType.selection() == 1; }
-    // None when none is selected in the list concerned.
+    // None when nothing is selected in the list.
     const protocol::PaperCode* chosenPaper() const;
     protocol::PriceEntryRecord newRow(std::uint8_t kind) const;
 
@@ -58,9 +58,9 @@ private:
     void addAbsolute();
     void update();
     void remove();
-    // Lists the rows anew and is ready to add.
+    // Lists the rows again and gets ready to add.
     void finish();
-    // Brings all controls in line with what is chosen and selected.
+    // Updates all controls to match what is chosen and selected.
     void follow();
 
     const platform::Locale& locale_;

@@ -5,8 +5,8 @@
 
 namespace rules {
 
-// A box for a price in the user's way of writing. As long as its text is left alone it means the very number that it
-// shows, whatever was rounded or grouped for showing; until that is forgotten.
+// A box for a price in the user's number format. While its text is unchanged it stands for the exact number, before
+// rounding and grouping; until forget() is called.
 class PriceBox {
 public:
     PriceBox(forms::Container& container, const platform::Locale& locale, std::u16string_view label);
@@ -14,11 +14,11 @@ public:
     void show(float price);
     // The same with two decimals.
     void showAmount(float amount);
-    // The text stays, and from now on means what it says.
+    // Keeps the text, which from now on is read as a number.
     void forget() { shownText_.clear(); }
     bool empty() const { return box.text().empty(); }
     float price() const;
-    // The same, but that of before where the box is empty.
+    // The same, but `before` if the box is empty.
     float priceOr(float before) const { return empty() ? before : price(); }
 
     forms::EditBox box;

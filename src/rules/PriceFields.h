@@ -13,17 +13,17 @@ class PriceFields {
 public:
     PriceFields(forms::Container& container, const platform::Locale& locale);
 
-    // Shows the boxes for absolute prices, or that for the base price.
+    // Shows the boxes for absolute prices, or the box for the base price.
     void showAbsolute(bool absolute);
     // Areas have no prices for duplex, copy and scan.
     void enableForAdding(bool area);
-    // Only what belongs to the kind of the row.
+    // Enables only what belongs to the kind of the row.
     void enableForUpdate(std::uint8_t kind);
 
     void show(const protocol::PriceEntryRecord& row);
-    // Puts the prices of the row's kind into it and nought into the others.
+    // Stores the prices of the row's kind, and 0 in the others.
     void read(protocol::PriceEntryRecord& row) const;
-    // The texts stay, and from now on mean what they say: those of a row are not those of another one.
+    // Keeps the texts, which from now on are read as numbers: the exact prices of one row are not those of another.
     void forget();
     // The first of the ten boxes for absolute prices that is empty; null when all are filled.
     PriceBox* firstEmptyAbsolute();

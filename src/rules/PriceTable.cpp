@@ -14,7 +14,7 @@ namespace priceKind = protocol::priceKind;
 
 using protocol::PriceEntryRecord;
 
-// The prices of a row in the order of the columns, and which of them have a meaning for its kind.
+// The prices of a row in the order of the columns, and which of them matter for its kind.
 struct Shown {
     std::array<float, 5> prices;
     std::array<bool, 5> meant;

@@ -9,16 +9,16 @@
 
 namespace rules {
 
-// The rows of a price plan: which of them may stand beside each other, and how they are listed.
+// The rows of a price plan: which of them may coexist, and how they are listed.
 class PriceTable {
 public:
     const std::vector<protocol::PriceEntryRecord>& rows() const { return rows_; }
     void setRows(std::vector<protocol::PriceEntryRecord> rows) { rows_ = std::move(rows); }
 
-    // Drops, without a word, a row of a paper or area that is priced already; only absolute prices of a paper may stand
-    // beside those of another kind.
+    // Silently drops a row for a paper or area that already has a price; only absolute prices of a paper may coexist
+    // with those of another kind.
     void add(protocol::PriceEntryRecord row);
-    // Does not look for duplicates. Throws std::out_of_range for a row that is not there.
+    // Does not check for duplicates. Throws std::out_of_range for a row that does not exist.
     void replace(std::size_t row, protocol::PriceEntryRecord with);
     // Removes every row of the paper or area, whatever its kind.
     void removePaper(std::uint16_t paperCode);

@@ -41,7 +41,7 @@ wire::WideString inWayOf(const platform::NumberFormat& format, const std::string
     const std::size_t sign = number.starts_with('-') ? 1 : 0;
     const std::size_t whole = std::min(number.find_first_not_of("0123456789", sign), number.size());
     if (whole == sign) {
-        return {number.begin(), number.end()}; // infinite, or no number
+        return {number.begin(), number.end()}; // infinite, or not a number
     }
     wire::WideString text(sign, u'-');
     text += grouped(std::string_view(number).substr(sign, whole - sign), format);
@@ -56,7 +56,8 @@ bool isHexDigit(char character) {
     return std::string_view("0123456789abcdefABCDEF").find(character) != std::string_view::npos;
 }
 
-// The number at the beginning of a text, as strtod reads it in the plain locale. Words such as "infinity" are none.
+// The number at the beginning of a text, as strtod reads it in the plain locale. Words such as "infinity" are not
+// numbers.
 double numberAtStart(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     const bool negative = text.starts_with('-');
@@ -83,7 +84,7 @@ std::string withPoint(const platform::Locale& locale, wire::WideStringView text)
     if (const auto place = number.find(separator); place != wire::WideString::npos) {
         number.replace(place, separator.size(), u".");
     }
-    std::string plain(number.size(), '?'); // which ends a number
+    std::string plain(number.size(), '?'); // "?" ends a number
     std::ranges::transform(number, plain.begin(), [](char16_t unit) { return unit < 0x80 ? char(unit) : '?'; });
     return plain;
 }

@@ -10,19 +10,19 @@ namespace rules {
 // Prices and multipliers are shown and read with this many decimals.
 constexpr int priceDigits = 4;
 
-// A number in the user's way of writing, with so many decimals, or with as many as the locale has where those are more.
+// A number in the user's format, with so many decimals, or as many as the locale has if those are more.
 [[nodiscard]] wire::WideString formatPrice(const platform::Locale& locale, double value, int digits = priceDigits);
 
 // The same with two decimals, whatever the locale has.
 [[nodiscard]] wire::WideString formatAmount(const platform::Locale& locale, double value);
 
 // The number at the beginning of a text in which the user's decimal separator or a point stands before the decimals;
-// what follows the number is not looked at. A text that is no number, or none that a price can hold, reads as 0.
+// what follows the number is ignored. A text that is not a number, or not one that fits into a price, reads as 0.
 // Thousands separators are not understood: "1.234,5" is 1.234 where the comma separates. That must stay.
 [[nodiscard]] float parsePrice(const platform::Locale& locale, wire::WideStringView text);
 
-// The same in whole hundredths, cut and not rounded: "19.999" is 1999, and "7.70" no less than 770, although no number
-// of the machine is as much as that. A text that is no number, or too large a one, reads as 0.
+// The same in whole hundredths, truncated and not rounded: "19.999" is 1999, and "7.70" is exactly 770, although the
+// nearest floating-point number is less. A text that is not a number, or too large a number, reads as 0.
 [[nodiscard]] std::int64_t parseHundredths(const platform::Locale& locale, wire::WideStringView text);
 
 } // namespace rules

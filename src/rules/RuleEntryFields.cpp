@@ -59,7 +59,7 @@ void RuleEntryFields::typeChanged() {
     object.showType(chosenType());
 }
 
-// Without the list of those affected, the entry would lose the one that it has.
+// Without the list of users and groups, the entry would lose the one that it has.
 void RuleEntryFields::allowOk() {
     type.form().okButton().setEnabled(affected.known() || chosenType() == ruleEntryType::ruleGroup);
 }
@@ -70,7 +70,7 @@ bool RuleEntryFields::take(std::u16string_view blankNameText) {
         return false;
     }
     entry.name = name.text();
-    // From here on the lists go back to what is called like the entry, which must stay.
+    // From here on the lists go back to the row with the entry's name, which must stay.
     affected.saveName(entry.name);
     object.saveName(entry.name);
     entry.comment = comment.text();

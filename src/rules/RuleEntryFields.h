@@ -9,8 +9,8 @@
 
 namespace rules {
 
-// What the dialogs that make a rule entry show of it: its type, name and comment, whom it affects and what it points
-// at.
+// The controls shared by the dialogs that create a rule entry: its type, name and comment, whom it affects and what it
+// refers to.
 class RuleEntryFields {
 public:
     // Where an entry is placed: groups do not nest, so within one there is no type "Rule group".
@@ -20,8 +20,8 @@ public:
 
     // Fills the lists and shows the entry; one without a type gets the first.
     void open();
-    // Takes over what the person has chosen. False, with a message, as soon as something is missing; what comes before
-    // it stands in the entry then.
+    // Takes over what the user has chosen. False, with a message, as soon as something is missing; the entry then
+    // contains everything before it.
     [[nodiscard]] bool take(std::u16string_view blankNameText);
 
     protocol::RuleEntryRecord entry;

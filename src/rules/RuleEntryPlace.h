@@ -16,8 +16,8 @@ struct RuleEntryPlace {
     std::string parentId;
 };
 
-// Lists the entries of the owner and then those of the parent, each where it has an id and with the number. What comes
-// second takes the place of what came first, which must stay.
+// Lists the entries of the owner and then those of the parent, each if it has an id, and with the number. The second
+// list replaces the first, which must stay.
 void listAgain(const RuleEntryPlace& place, std::int32_t ownerNumber = 0);
 
 } // namespace rules

@@ -29,7 +29,7 @@ void RuleObjectList::showType(std::uint8_t type) {
     }
 }
 
-// Nothing is selected where there is no object: choosing "<New>" would open the editor at once.
+// Nothing is selected if there is no object: selecting "<New>" would open the editor at once.
 std::optional<std::size_t> RuleObjectList::rowToGoBackTo() const {
     const auto& saved = objects_->saved;
     if (size() == 0) {
@@ -85,7 +85,7 @@ void RuleObjectList::followSelection() {
     enableButtons(namedRecord() && objects_->editable());
 }
 
-// When the editor is cancelled, "<New>" stays selected, and no object is chosen until the person does it.
+// When the editor is cancelled, "<New>" stays selected, and no object is chosen until the user chooses one.
 void RuleObjectList::make() {
     const bool made = objects_->make(list.form(), entry_);
     refill();

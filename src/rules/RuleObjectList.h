@@ -7,21 +7,21 @@
 
 namespace rules {
 
-// The list of what a rule entry points at, by its type.
+// The list of objects that a rule entry can refer to, by its type.
 class RuleObjectList final : public forms::EditableList {
 public:
-    // The entry is the one that the dialog is about; it outlives the list.
+    // The entry is the one that the dialog edits; it outlives the list.
     RuleObjectList(forms::Container& container, const protocol::RuleEntryRecord& entry);
 
-    // Lists what entries of the type point at, as the server has it now, or hides all for a type that points at
-    // nothing.
+    // Lists the objects for entries of the type, as the server has them now, or hides everything for a type without
+    // objects.
     void showType(std::uint8_t type);
-    // Selects the object with the id; without one nothing changes.
+    // Selects the object with the id; if there is none, nothing changes.
     void select(std::string_view id);
-    // Makes the entry point at the selected object, or at nothing when its type needs none. False, with a message, when
+    // Makes the entry refer to the selected object, or to none if its type has no objects. False, with a message, when
     // none is selected.
     [[nodiscard]] bool take(protocol::RuleEntryRecord& entry);
-    // What a later filling goes back to where no row is saved.
+    // The name that a later fill selects if no row is saved.
     void saveName(const wire::WideString& name);
 
 private:
@@ -37,7 +37,7 @@ private:
 
     const protocol::RuleEntryRecord& entry_;
     std::map<std::uint8_t, std::unique_ptr<RuleObjects>> byType_;
-    RuleObjects* objects_ = nullptr; // those that are listed; null for a type that points at nothing
+    RuleObjects* objects_ = nullptr; // those that are listed; null for a type without objects
 };
 
 } // namespace rules

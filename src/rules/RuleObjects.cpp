@@ -19,7 +19,7 @@ std::string textOf(const wire::Uuid& id) {
     return wire::toText(id);
 }
 
-// Objects that are listed with all that there is to know of them.
+// Objects whose list contains complete records.
 template <class Record>
 class RecordObjects : public RuleObjects {
 public:
@@ -92,7 +92,7 @@ public:
     void remove(std::size_t row) override { client::CQVXAdminClass().deleteShortId(records_[row].id); }
 
 private:
-    // The dialog does not say where the list has it: it is found once the list is read anew.
+    // The dialog does not know the row: it is found once the list is read again.
     bool run(forms::Form& form, ShortIdDlg& dialog) {
         if (form.runModal(dialog) != forms::idOk) {
             return false;
@@ -104,7 +104,7 @@ private:
     }
 };
 
-// The page limits that an entry can apply. Of those that are not edited the server tells only ids and names.
+// The page limits that an entry can apply. The server lists only their ids and names.
 class PageLimitObjects final : public RuleObjects {
 public:
     PageLimitObjects()
@@ -120,14 +120,14 @@ public:
         PageLimitDlg dialog(form.platform(), opener(entry));
         return form.runModal(dialog) == forms::idOk;
     }
-    // Throws what getPageLimit throws when the limit has gone.
+    // Throws what getPageLimit throws when the limit no longer exists.
     void edit(forms::Form& form, std::size_t row, const RuleEntryRecord& entry) override {
         if (const auto limit = client::CQVXAdminClass().getPageLimit(ids_[row])) {
             PageLimitDlg dialog(form.platform(), opener(entry), *limit);
             form.runModal(dialog);
         }
     }
-    // Asks for the limit first, so that one that has gone meanwhile ends here; this must stay.
+    // Reads the limit first, so that this ends here if it no longer exists; this must stay.
     void remove(std::size_t row) override {
         client::CQVXAdminClass client;
         if (const auto limit = client.getPageLimit(ids_[row])) {

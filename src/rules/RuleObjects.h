@@ -14,38 +14,38 @@ class Form;
 
 namespace rules {
 
-// The objects of one kind that a rule entry can point at, as the server has them, and the dialogs that make and edit
-// them. The form is the one that they are chosen in, the entry the one that it is about.
+// The objects of one kind that a rule entry can refer to, as the server has them, and the dialogs that create and edit
+// them. The form is the one in which they are chosen, the entry the one that it edits.
 class RuleObjects {
 public:
     struct Texts {
         std::u16string_view label;          // of a list of them
-        std::u16string_view blank;          // what a person is told who has chosen none
-        std::u16string_view deleteQuestion; // empty where they can only be chosen
+        std::u16string_view blank;          // the message when none is chosen
+        std::u16string_view deleteQuestion; // empty if they can't be deleted
     };
 
     RuleObjects(const RuleObjects&) = delete;
     RuleObjects& operator=(const RuleObjects&) = delete;
     virtual ~RuleObjects() = default;
 
-    // Those of a type of rule entry; null for a type that points at nothing.
+    // The objects for a type of rule entry; null for a type without objects.
     static std::unique_ptr<RuleObjects> ofType(std::uint8_t type);
 
     bool editable() const { return !texts.deleteQuestion.empty(); }
 
-    // Reads them anew; false when there is no connection.
+    // Reads them again; false when there is no connection.
     virtual bool read() = 0;
     virtual std::size_t size() const = 0;
     virtual const wire::WideString& name(std::size_t row) const = 0;
     virtual std::string id(std::size_t row) const = 0;
 
-    // False when the person has cancelled.
+    // False when the user has cancelled.
     virtual bool make(forms::Form& /*form*/, const protocol::RuleEntryRecord& /*entry*/) { return false; }
     virtual void edit(forms::Form& /*form*/, std::size_t /*row*/, const protocol::RuleEntryRecord& /*entry*/) {}
     virtual void remove(std::size_t /*row*/) {}
 
     const Texts texts;
-    // What a list of them goes back to when it is filled.
+    // What their list selects when it is filled.
     SavedChoice saved;
 
 protected:

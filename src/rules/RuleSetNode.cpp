@@ -8,7 +8,7 @@ namespace rules {
 bool RuleSetNode::listRecords(std::vector<Record>& records) {
     client::CQVXAdminClass client;
     client.listRuleGroups(records);
-    return true; // what came of a list that broke off is shown
+    return true; // the part of a list that was cut short is shown
 }
 
 void RuleSetNode::openEditor() {

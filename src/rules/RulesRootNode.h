@@ -7,7 +7,7 @@
 
 namespace rules {
 
-// The top of the branch that holds the rules on print jobs.
+// The top of the branch of the rules on print jobs.
 class RulesRootNode final : public console::CBaseNodeItem<RulesRootNode> {
 public:
     static constexpr console::NodeIdentity identity{
@@ -19,7 +19,7 @@ protected:
     std::vector<console::ChildKind> childKinds() override;
 
 private:
-    std::vector<std::shared_ptr<console::NodeBase>> children_; // in the order in which they stand
+    std::vector<std::shared_ptr<console::NodeBase>> children_; // in the order of the tree
 };
 
 } // namespace rules

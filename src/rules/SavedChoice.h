@@ -10,12 +10,12 @@
 
 namespace rules {
 
-// The row that a list of an opener goes back to, and the name that it is found by when the row isn't known.
+// The row that a list of the opener goes back to, and the name by which it is found if the row isn't known.
 struct SavedChoice {
     std::optional<std::size_t> index;
     wire::WideString name;
 
-    // Becomes the record with the id, wherever the list has it now.
+    // Saves the record with the id, wherever it is in the list now.
     template <class Element, class Id, class IdOf = std::identity>
     void become(const wire::WideString& newName, const std::vector<Element>& list, const Id& id, IdOf idOf = {}) {
         const auto place = std::ranges::find(list, id, idOf);

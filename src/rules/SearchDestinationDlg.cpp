@@ -14,7 +14,7 @@ SearchDestinationDlg::SearchDestinationDlg(platform::Platform& platform, std::st
     searchButton.onPress = [this] { search(); };
 }
 
-// What the server found last stands first; this must stay.
+// The last queue that the server found comes first; this must stay.
 void SearchDestinationDlg::search() {
     if (!forms::canSend(searchTerms, searchTerms.text())) {
         return;
@@ -22,7 +22,7 @@ void SearchDestinationDlg::search() {
     ids_.clear();
     names_.clear();
     queue.clear();
-    okButton().setEnabled(false); // where the search fails, nothing takes the place of the destination
+    okButton().setEnabled(false); // if the search fails, the destination must not be replaced
     client::CQVXAdminClass client;
     const bool searched = client.searchQueues(searchTerms.text());
     protocol::FoundQueueRecord found;
@@ -35,7 +35,7 @@ void SearchDestinationDlg::search() {
     okButton().setEnabled(searched);
 }
 
-// Without a queue there is no destination any more; this must stay.
+// Without a queue the destination is removed; this must stay.
 void SearchDestinationDlg::onOk() {
     const auto row = queue.selection();
     destinationId_ = row ? ids_.at(*row) : std::string();

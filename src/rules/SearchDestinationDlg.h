@@ -10,10 +10,10 @@
 
 namespace rules {
 
-// Finds the queue to which print jobs are to go.
+// Finds the queue to which print jobs are moved.
 class SearchDestinationDlg final : public forms::Form {
 public:
-    // OK puts the queue that was chosen into the two, which outlive the form.
+    // OK stores the chosen queue in these two, which outlive the form.
     SearchDestinationDlg(platform::Platform& platform, std::string& destinationId, wire::WideString& destinationName);
 
     forms::EditBox searchTerms{*this, u"Search terms"};

@@ -22,7 +22,7 @@ ShortIdDlg::ShortIdDlg(platform::Platform& platform, bool editing, protocol::Sho
 void ShortIdDlg::onInitDialog() {
     validFor.onChange = reservedFor.onChoose = reservedUntil.onChoose = [this] { timesClicked(); };
     message.onSelect = [this] { enableTimes(); };
-    message.onKnown = [this] { okButton().setEnabled(message.known()); }; // else the rule would lose its message
+    message.onKnown = [this] { okButton().setEnabled(message.known()); }; // otherwise the rule would lose its message
     validTime.open();
     reservedTime.open();
     showTimes();
@@ -80,7 +80,7 @@ void ShortIdDlg::timesClicked() {
     validTime.fillIfEmpty();
     reservedTime.fillIfEmpty();
     if (!timeOfDay.value()) {
-        reservedTime.number.setText(u"00:00:00"); // there and not in the picker; this must stay
+        reservedTime.number.setText(u"00:00:00"); // here and not in the picker; this must stay
     }
 }
 
@@ -103,7 +103,7 @@ void ShortIdDlg::onOk() {
     EndDialog(forms::idOk);
 }
 
-// Without a time for which it is valid, a short id has no other times either.
+// A short id that has no valid time has no other times either.
 void ShortIdDlg::takeTimes() {
     shortId_.validMinutes = validFor.checked() ? validTime.minutes() : std::nullopt;
     shortId_.reservedMinutes.reset();

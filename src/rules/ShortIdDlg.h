@@ -14,7 +14,7 @@
 
 namespace rules {
 
-// Makes or edits a rule about short ids: how long one is valid, and for how long it is reserved after that.
+// Creates or edits a rule about short ids: how long one is valid, and how long it is reserved after that.
 class ShortIdDlg final : public forms::Form {
 public:
     explicit ShortIdDlg(platform::Platform& platform);
