@@ -16,7 +16,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -42,10 +41,27 @@ struct Field {
     Value Record::*member;
 };
 
+namespace detail {
+
+// A field at its place in the order, and all of them side by side. Every unit that includes a record pays for these
+// types: a std::tuple, whose constructors weigh up every conversion, takes twice as long to compile.
+template <std::size_t place, class Field>
+struct Placed {
+    Field field;
+};
+
+template <class Places, class... Fields>
+struct PlacedFields;
+
+template <std::size_t... place, class... Fields>
+struct PlacedFields<std::index_sequence<place...>, Fields...> : Placed<place, Fields>... {};
+
+} // namespace detail
+
 // All fields of a record, in the order of the wire.
 template <class... Fields>
-struct WireOrder {
-    std::tuple<Fields...> list;
+struct WireOrder : detail::PlacedFields<std::index_sequence_for<Fields...>, Fields...> {
+    static constexpr std::size_t count = sizeof...(Fields);
 };
 
 template <class Record, class Value>
@@ -55,23 +71,25 @@ constexpr Field<Record, Value> field(std::string_view name, Value Record::*membe
 
 template <class... Fields>
 constexpr WireOrder<Fields...> wireOrder(Fields... fields) {
-    return {std::tuple<Fields...>{fields...}};
+    return {{{fields}...}};
 }
 
 template <class T>
 concept Record = requires {
-    T::fields.list;
+    T::fields.count;
 };
 
 namespace detail {
 
+template <class Action, std::size_t... place, class... Fields>
+constexpr void eachOf(const PlacedFields<std::index_sequence<place...>, Fields...>& order, Action&& action) {
+    (action(static_cast<const Placed<place, Fields>&>(order).field), ...);
+}
+
 // Calls action with each field of the record's type, in order.
 template <Record R, class Action>
 constexpr void eachField(Action&& action) {
-    [&]<std::size_t... index>(std::index_sequence<index...>) {
-        (action(std::get<index>(R::fields.list)), ...);
-    }
-    (std::make_index_sequence<std::tuple_size_v<decltype(R::fields.list)>>{});
+    eachOf(R::fields, action);
 }
 
 } // namespace detail
@@ -127,7 +145,7 @@ constexpr std::string_view recordName() {
 
 template <Record R>
 constexpr auto fieldInfos() {
-    std::array<FieldInfo, std::tuple_size_v<decltype(R::fields.list)>> infos{};
+    std::array<FieldInfo, R::fields.count> infos{};
     std::size_t at = 0;
     eachField<R>([&]<class Value>(const Field<R, Value>& one) { infos[at++] = infoOf<Value>(one.name); });
     return infos;
