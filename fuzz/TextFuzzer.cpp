@@ -53,6 +53,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     bool valid = false;
     static_cast<void>(wire::formatWireDate(bytes, &valid));
     static_cast<void>(wire::formatWireDateWide(units));
+    static_cast<void>(wire::wireDateOrder(bytes));
     static_cast<void>(client::localVersionText(units));
     fuzz::tolerate([&] { readUuid(bytes); });
     return 0;

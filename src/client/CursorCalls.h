@@ -24,4 +24,20 @@ bool fillCursor(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request&
     return fillCursor(client, cursor, request, std::move(summary), [](const R&) {});
 }
 
+// The same where a console keeps more of a record than what travels, which complete makes of it.
+template <class Sent, class R, class Request, class Complete>
+bool fillCompleted(CQVXAdminClass2& client, RecordCursor<R>& cursor, const Request& request, std::string summary,
+                   Complete&& complete) {
+    cursor.clear();
+    std::vector<Sent> sent;
+    const auto announced = readList(client, request, sent, std::move(summary));
+    std::vector<R> records;
+    records.reserve(sent.size());
+    for (Sent& record : sent) {
+        records.push_back(complete(std::move(record)));
+    }
+    cursor.fill(std::move(records), announced.value_or(0));
+    return announced.has_value();
+}
+
 } // namespace client

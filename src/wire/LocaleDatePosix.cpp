@@ -64,16 +64,10 @@ const UserLocale& userLocale() {
 
 std::string shortDate(const DateNumbers& numbers) {
     using namespace std::chrono;
-    // The years that the Windows function accepts, so that both platforms leave the same texts unchanged.
-    constexpr unsigned firstYear = 1601;
-    constexpr unsigned lastYear = 30827;
-    if (numbers.year < firstYear || numbers.year > lastYear || numbers.month > 12 || numbers.day > 31) {
+    if (!isDay(numbers)) {
         return {};
     }
     const year_month_day date{year{numbers.year}, month{numbers.month}, day{numbers.day}};
-    if (!date.ok()) {
-        return {};
-    }
     std::tm time{};
     time.tm_year = numbers.year - 1900;
     time.tm_mon = numbers.month - 1;
@@ -83,8 +77,7 @@ std::string shortDate(const DateNumbers& numbers) {
 }
 
 std::string timeOfDay(const DateNumbers& numbers) {
-    // A fraction is not shown, but one that is not a number of milliseconds makes the time invalid.
-    if (numbers.hour > 23 || numbers.minute > 59 || numbers.second > 59 || numbers.milliseconds > 999) {
+    if (!isTimeOfDay(numbers)) {
         return {};
     }
     std::tm time{};

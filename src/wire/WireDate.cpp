@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <limits>
 #include <string_view>
@@ -63,34 +64,60 @@ int scanNumbers(std::string_view text, std::string_view separators, std::array<s
     return filled;
 }
 
-} // namespace
+// The numbers of a date text, and how many of them the first scan filled.
+struct Scanned {
+    DateNumbers numbers;
+    int filled = 0;
+};
 
-std::string formatWireDate(const std::string& text, bool* valid) {
+Scanned scan(std::string_view text) {
     constexpr std::uint16_t missing = 0xFFFF; // invalid in any date or time: the text stays as it is
     std::array<std::uint16_t, 7> numbers{};
     numbers.fill(missing);
     const int filled = scanNumbers(text, "-- ::.", numbers);
-    if (valid != nullptr) {
-        *valid = filled > 4;
-    }
     if (filled < 7) {
         scanNumbers(text, "-- ::", numbers);
         numbers[6] = 0;
     }
-    const DateNumbers found{.year = numbers[0],
-                            .month = numbers[1],
-                            .day = numbers[2],
-                            .hour = numbers[3],
-                            .minute = numbers[4],
-                            .second = numbers[5],
-                            .milliseconds = numbers[6]};
-    const std::string date = shortDate(found);
-    const std::string time = timeOfDay(found);
+    return {.numbers{.year = numbers[0],
+                     .month = numbers[1],
+                     .day = numbers[2],
+                     .hour = numbers[3],
+                     .minute = numbers[4],
+                     .second = numbers[5],
+                     .milliseconds = numbers[6]},
+            .filled = filled};
+}
+
+} // namespace
+
+std::string formatWireDate(const std::string& text, bool* valid) {
+    const auto [numbers, filled] = scan(text);
+    if (valid != nullptr) {
+        *valid = filled > 4;
+    }
+    const std::string date = shortDate(numbers);
+    const std::string time = timeOfDay(numbers);
     return date.empty() || time.empty() ? text : date + " " + time;
 }
 
 WideString formatWireDateWide(const WideString& text) {
     return fromCodePage(formatWireDate(toCodePage(text)));
+}
+
+std::int64_t wireDateOrder(const std::string& text) {
+    using namespace std::chrono;
+    const auto [found, filled] = scan(text);
+    if (!isDay(found) || !isTimeOfDay(found)) {
+        return std::numeric_limits<std::int64_t>::min();
+    }
+    const sys_days date = year_month_day{year{found.year}, month{found.month}, day{found.day}};
+    const auto time = date.time_since_epoch() + hours{found.hour} + minutes{found.minute} + seconds{found.second};
+    return (time + milliseconds{found.milliseconds}).count();
+}
+
+std::int64_t wireDateOrder(const WideString& text) {
+    return wireDateOrder(toCodePage(text));
 }
 
 } // namespace wire

@@ -2,6 +2,7 @@
 
 #include "wire/Text.h"
 
+#include <cstdint>
 #include <string>
 
 namespace wire {
@@ -12,5 +13,10 @@ namespace wire {
 [[nodiscard]] std::string formatWireDate(const std::string& text, bool* valid = nullptr);
 
 [[nodiscard]] WideString formatWireDateWide(const WideString& text);
+
+// A number that sorts such texts by time, whatever the locale. A text that formatWireDate returns unchanged is not a
+// date and sorts before all dates.
+[[nodiscard]] std::int64_t wireDateOrder(const std::string& text);
+[[nodiscard]] std::int64_t wireDateOrder(const WideString& text);
 
 } // namespace wire

@@ -34,11 +34,15 @@ bool ConfigurationCommands::applyConfiguration(const std::string& queueId, const
 }
 
 bool ConfigurationCommands::listConfigurations(const std::string& modelId) {
-    return fillCursor(client_, records_, protocol::ListConfigurationsRequest{.modelId = modelId}, modelId,
-                      [](auto& record) { record.date = wire::formatWireDateWide(record.date); });
+    return fillCompleted<protocol::ConfigurationRecord>(
+        client_, records_, protocol::ListConfigurationsRequest{.modelId = modelId}, modelId,
+        [](protocol::ConfigurationRecord&& sent) {
+            auto text = wire::formatWireDateWide(sent.date);
+            return ListedConfiguration{std::move(sent), std::move(text)};
+        });
 }
 
-bool ConfigurationCommands::nextConfigurationRecord(protocol::ConfigurationRecord& record) {
+bool ConfigurationCommands::nextConfigurationRecord(ListedConfiguration& record) {
     return records_.next(record);
 }
 

@@ -2,7 +2,7 @@
 
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
-#include "protocol/configurations/Configuration.h"
+#include "client/configurations/ListedConfiguration.h"
 #include "protocol/configurations/QueueConfiguration.h"
 
 #include <string>
@@ -12,7 +12,8 @@ namespace client {
 
 // The part of CQVXAdminClass for configurations of driver models and of queues. Each list has an operation that reads
 // it, one that returns its records from the last to the first (false when none are left), and the records not returned
-// yet, in the order of the wire. A list that the server cuts short contains what arrived before.
+// yet, in the order of the wire. Of a list that the server cuts short, the records
+// are what arrived, and returning them one at a time throws as all cursors do, since the missing ones would come first.
 class ConfigurationCommands {
 public:
     explicit ConfigurationCommands(CQVXAdminClass2& client) : client_(client) {}
@@ -30,12 +31,10 @@ public:
     // An empty configuration removes what the queue uses with the driver map.
     bool applyConfiguration(const std::string& queueId, const std::string& driverMapId, const std::string& configId);
 
-    // The configurations of a model, with dates in local form.
+    // The configurations of a model.
     bool listConfigurations(const std::string& modelId);
-    bool nextConfigurationRecord(protocol::ConfigurationRecord& record);
-    [[nodiscard]] const std::vector<protocol::ConfigurationRecord>& configurationRecords() const {
-        return records_.records();
-    }
+    bool nextConfigurationRecord(ListedConfiguration& record);
+    [[nodiscard]] const std::vector<ListedConfiguration>& configurationRecords() const { return records_.records(); }
 
     bool setConfigurationComment(const std::string& configId, const wire::WideString& comment);
 
@@ -59,7 +58,7 @@ private:
     CQVXAdminClass2& client_;
     RecordCursor<protocol::QueueConfigEntry> entries_;
     RecordCursor<protocol::QueueConfigChoice> choices_;
-    RecordCursor<protocol::ConfigurationRecord> records_;
+    RecordCursor<ListedConfiguration> records_;
     RecordCursor<protocol::ConfigQueueRecord> queues_;
 };
 

@@ -41,13 +41,15 @@ bool DriverCommands::listDrivers(std::uint8_t listKind, const std::string& paren
         std::vector<protocol::ShortDriverRecord> unused;
         return listRecords(client_, request, unused, parentId);
     }
-    return fillCursor(client_, drivers_, request, parentId, [](auto& driver) {
-        driver.version = localVersionText(driver.version);
-        driver.uploadDate = wire::formatWireDate(driver.uploadDate);
-    });
+    return fillCompleted<protocol::DriverRecord>(
+        client_, drivers_, request, parentId, [](protocol::DriverRecord&& sent) {
+            sent.version = localVersionText(sent.version);
+            auto text = wire::fromCodePage(wire::formatWireDate(sent.uploadDate));
+            return ListedDriver{std::move(sent), std::move(text)};
+        });
 }
 
-bool DriverCommands::nextDriver(protocol::DriverRecord& driver) {
+bool DriverCommands::nextDriver(ListedDriver& driver) {
     return drivers_.next(driver);
 }
 

@@ -2,7 +2,7 @@
 
 #include "client/CQVXAdminClass2.h"
 #include "client/RecordCursor.h"
-#include "protocol/drivers/Driver.h"
+#include "client/drivers/ListedDriver.h"
 #include "protocol/drivers/DriverBrand.h"
 #include "protocol/drivers/DriverDeployment.h"
 #include "protocol/drivers/DriverModel.h"
@@ -16,7 +16,8 @@
 namespace client {
 
 // The part of CQVXAdminClass for brands, models, drivers and deployments. Cursors return their lists from the last
-// record to the first; the whole lists contain the records not returned yet, in the order of the wire.
+// record to the first; the whole lists contain the records not returned yet, in the order of the wire. Of a list
+// that the server cuts short, they contain what arrived, and its cursor throws as all cursors do.
 class DriverCommands {
 public:
     explicit DriverCommands(CQVXAdminClass2& client) : client_(client) {}
@@ -36,11 +37,11 @@ public:
         return systems_.records();
     }
 
-    // The drivers of a brand or of a model, by a protocol::driverList, with their dates in local form. A short list is
-    // read, but none of its records are returned.
+    // The drivers of a brand or of a model, by a protocol::driverList. A short list is read, but none of its records
+    // are returned.
     bool listDrivers(std::uint8_t listKind, const std::string& parentId);
-    bool nextDriver(protocol::DriverRecord& driver);
-    [[nodiscard]] const std::vector<protocol::DriverRecord>& drivers() const { return drivers_.records(); }
+    bool nextDriver(ListedDriver& driver);
+    [[nodiscard]] const std::vector<ListedDriver>& drivers() const { return drivers_.records(); }
 
     // The deployments of a model, with an empty driver those of all its drivers.
     bool listDriverDeployments(const std::string& modelId, const std::string& driverId = {});
@@ -72,7 +73,7 @@ private:
     CQVXAdminClass2& client_;
     RecordCursor<protocol::DriverBrandRecord> brands_;
     RecordCursor<protocol::OperatingSystemRecord> systems_;
-    RecordCursor<protocol::DriverRecord> drivers_;
+    RecordCursor<ListedDriver> drivers_;
     RecordCursor<protocol::DriverDeploymentRecord> deployments_;
 };
 

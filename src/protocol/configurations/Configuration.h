@@ -8,7 +8,7 @@ namespace protocol {
 struct ConfigurationRecord {
     std::string configId;
     wire::WideString uploadedBy;
-    wire::WideString date;       // set by the server, shown in local form
+    wire::WideString date;       // a wire date
     wire::WideString comment;    // the name under which it is shown
     wire::WideString configText; // the settings themselves; not shown
     std::uint16_t useCount = 0;  // how many queues use it

@@ -20,7 +20,7 @@ struct DriverRecord {
     std::string driverId;
     wire::WideString version; // may end in a wire date between parentheses
     wire::WideString comment;
-    std::string uploadDate; // a wire date; local once a console has received it
+    std::string uploadDate; // a wire date
     wire::WideString uploadedBy;
     std::uint8_t inUse = 0; // 0 or '0' no, 1 or '1' yes
 

@@ -9,7 +9,6 @@ using protocol::CountDeploymentConfigsReply;
 using protocol::DriverBrandRecord;
 using protocol::DriverDeploymentRecord;
 using protocol::DriverModelRecord;
-using protocol::DriverRecord;
 using protocol::OperatingSystemRecord;
 namespace driverList = protocol::driverList;
 namespace modelList = protocol::driverModelList;
@@ -34,10 +33,12 @@ protected:
 
     // All ids that the operation returns, in order.
     template <class R>
-    static std::string handedOut(CQVXAdminClass& client, bool (DriverCommands::*next)(R&), std::string R::*id) {
+    static std::string handedOut(CQVXAdminClass& client, bool (DriverCommands::*next)(R&),
+                                 std::type_identity_t<std::string R::*> id) {
         std::string ids;
-        for (R record; (client.*next)(record);)
+        for (R record; (client.*next)(record);) {
             ids += record.*id;
+        }
         return ids;
     }
 
@@ -107,31 +108,32 @@ TEST_F(Drivers, areHandedOutOneAtATimeInReverseWireOrder) {
     EXPECT_TRUE(client.listDrivers(driverList::ofModel, "m1"));
 
     EXPECT_EQ(received(), request(12, "03 02 00 6D 31"));
-    EXPECT_EQ(handedOut(client, &DriverCommands::nextDriver, &DriverRecord::driverId), "cba");
+    EXPECT_EQ(handedOut(client, &DriverCommands::nextDriver, &ListedDriver::driverId), "cba");
 }
 
-TEST_F(Drivers, comeWithTheirDatesInLocalForm) {
+TEST_F(Drivers, comeWithTheirDatesInLocalFormAndTheDateOfTheServerToSortBy) {
     answer({countedList({driver("61")})});
     CQVXAdminClass client(settings);
-    DriverRecord record;
+    ListedDriver record;
 
     EXPECT_TRUE(client.listDrivers(driverList::ofBrand, "b1"));
     EXPECT_TRUE(client.nextDriver(record));
 
     EXPECT_EQ(received(), request(12, "01 02 00 62 31"));
-    EXPECT_EQ(record, (DriverRecord{.driverId = "a",
-                                    .version = u"(03/05/14 17:04:09)",
-                                    .comment = u"C",
-                                    .uploadDate = "03/05/14 17:04:09",
-                                    .uploadedBy = u"Jo",
-                                    .inUse = '1'}));
+    EXPECT_EQ(record, (ListedDriver{{.driverId = "a",
+                                     .version = u"(03/05/14 17:04:09)",
+                                     .comment = u"C",
+                                     .uploadDate = "2014-03-05 17:04:09",
+                                     .uploadedBy = u"Jo",
+                                     .inUse = '1'},
+                                    u"03/05/14 17:04:09"}));
     EXPECT_FALSE(client.nextDriver(record));
 }
 
 TEST_F(Drivers, ofAShortListAreReadAndNotHandedOut) {
     answer({countedList({driver("61")}), countedList({pair("61") + hex("02 00 43 00")})});
     CQVXAdminClass client(settings);
-    DriverRecord record;
+    ListedDriver record;
     client.listDrivers(driverList::ofModel, "m1");
 
     EXPECT_TRUE(client.listDrivers(driverList::shortOfModel, "m1"));
@@ -151,7 +153,7 @@ TEST_F(Drivers, aReplyWithACountOfZeroYieldsNoDriversAndNoError) {
     EXPECT_EQ(observer.ended.at(0).outcome, CommandOutcome::done);
 }
 
-TEST_F(Drivers, aListThatBreaksOffHoldsWhatCameBefore) {
+TEST_F(Drivers, aListThatBreaksOffHoldsWhatCameAndHandsNothingOut) {
     const Bytes whole = countedList({driver("61"), driver("62")});
     serve({[whole](Connection& connection) {
         connection.expectFrame();
@@ -162,7 +164,9 @@ TEST_F(Drivers, aListThatBreaksOffHoldsWhatCameBefore) {
     EXPECT_TRUE(client.listDrivers(driverList::ofModel, "m1"));
 
     ASSERT_EQ(client.drivers().size(), 1U);
-    EXPECT_EQ(client.drivers().at(0).uploadDate, "03/05/14 17:04:09");
+    EXPECT_EQ(client.drivers().at(0).uploadText, u"03/05/14 17:04:09");
+    ListedDriver record;
+    EXPECT_EQ(thrownBy([&] { client.nextDriver(record); }), "invalid vector<T> subscript");
 }
 
 TEST_F(Drivers, aRecordThatIsTooShortThrowsAndLeavesNothing) {
