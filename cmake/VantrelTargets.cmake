@@ -1,7 +1,8 @@
 # One folder is one target. A target names every source and header that it owns, and the targets that it may use.
 
 # vantrel_library(<folder name> SOURCES ... HEADERS ... USES <targets whose headers ours include> PRIVATE_USES ...)
-# HEADERS are verified to compile alone (target all_verify_interface_header_sets).
+# HEADERS are verified to compile alone (target all_verify_interface_header_sets). Those with a source of their own are
+# not: the source includes its header first, so that the header compiles alone if the source does.
 function(vantrel_library name)
     cmake_parse_arguments(ARG "" "BASE_DIR" "SOURCES;HEADERS;USES;PRIVATE_USES" ${ARGN})
     if(NOT ARG_BASE_DIR)
@@ -10,7 +11,20 @@ function(vantrel_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     add_library(vantrel::${name} ALIAS ${name})
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
-    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${ARG_BASE_DIR} FILES ${ARG_HEADERS})
+    set(own "")
+    set(others "")
+    foreach(header IN LISTS ARG_HEADERS)
+        string(REGEX REPLACE "[.]h$" ".cpp" source ${header})
+        if(source IN_LIST ARG_SOURCES)
+            list(APPEND own ${header})
+        else()
+            list(APPEND others ${header})
+        endif()
+    endforeach()
+    target_sources(${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS ${ARG_BASE_DIR} FILES ${others}
+        FILE_SET of_sources TYPE HEADERS BASE_DIRS ${ARG_BASE_DIR} FILES ${own})
+    set_property(TARGET ${name} PROPERTY INTERFACE_HEADER_SETS_TO_VERIFY HEADERS)
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE vantrel_options ${ARG_PRIVATE_USES})
     target_compile_features(${name} PUBLIC cxx_std_20) # also where a header is verified alone
 endfunction()

@@ -15,12 +15,14 @@ constexpr std::size_t firstOperation = 128; // smaller values are opcodes
 void callByNumber(client::CQVXAdminClass& client, std::uint8_t opcode) {
     std::vector<protocol::FieldValue> fields;
     const auto* const command = protocol::findCommand(opcode);
-    if (command != nullptr && command->otherRecord.layout != nullptr)
+    if (command != nullptr && command->otherRecord.layout != nullptr) {
         fields.push_back({command->otherRecord.firstByte});
+    }
     for (const bool withFields : {false, true}) {
         const auto reply = client.rawCall(opcode, withFields ? std::span(fields) : std::span(fields).first(0));
-        for (const auto& record : reply.records)
+        for (const auto& record : reply.records) {
             fuzz::expect(!record.empty());
+        }
     }
 }
 
@@ -36,10 +38,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     client::CQVXAdminClass client(settings);
 
     fuzz::tolerate([&] {
-        if (choice < firstOperation)
+        if (choice < firstOperation) {
             callByNumber(client, choice);
-        else if (const auto all = fuzz::operations(); choice - firstOperation < all.size())
+        } else if (const auto all = fuzz::operations(); choice - firstOperation < all.size()) {
             all[choice - firstOperation].run(client);
+        }
     });
     fuzz::expect(client.transport == nullptr);
     return 0;

@@ -47,9 +47,10 @@ private:
 class Place {
 public:
     Place() : store_(folder_.path() / "estate.db", server::schema()), accounts_(store_) {
-        for (const int required : {0, 1})
+        for (const int required : {0, 1}) {
             services_.push_back(std::make_unique<server::Services>(context_, store_, accounts_, server::commands(),
                                                                    server::Limits{}, std::chrono::minutes(required)));
+        }
     }
     ~Place() {
         for (const auto& one : services_) {
@@ -105,8 +106,9 @@ void Place::serve(bool loginRequired, std::size_t piece, std::span<const std::ui
             } else if (!ended) {
                 ended = ::shutdown(ends[1], SHUT_WR) == 0;
             }
-            if (context_.poll() == 0)
+            if (context_.poll() == 0) {
                 context_.run_one_for(std::chrono::milliseconds(1));
+            }
             drain(ends[1]);
             fuzz::expect(std::chrono::steady_clock::now() - start < longestRun);
         }

@@ -7,8 +7,9 @@ namespace fuzz {
 
 // Ends the program when something that must hold does not.
 inline void expect(bool holds) {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 // Runs an action that bad bytes may end with a standard exception or with a plain string; any other exception ends the

@@ -14,8 +14,9 @@ public:
 
     // 0 when none is left.
     [[nodiscard]] std::uint8_t byte() {
-        if (rest_.empty())
+        if (rest_.empty()) {
             return 0;
+        }
         const std::uint8_t first = rest_.front();
         rest_ = rest_.subspan(1);
         return first;

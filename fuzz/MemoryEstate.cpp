@@ -41,8 +41,9 @@ MemoryEstate::MemoryEstate() : pristine_(openInMemory()) {
 
 void MemoryEstate::restore() {
     expect(sqlite3_get_autocommit(sqlite_) != 0);
-    if (sqlite3_total_changes(sqlite_) == changes_)
+    if (sqlite3_total_changes(sqlite_) == changes_) {
         return;
+    }
     copy(pristine_.getHandle(), sqlite_);
     changes_ = sqlite3_total_changes(sqlite_);
 }
@@ -55,9 +56,11 @@ std::vector<std::string> MemoryEstate::ids() {
     while (columns.executeStep()) {
         const auto table = columns.getColumn(0).getString();
         SQLite::Statement values(pristine_, "SELECT id FROM " + table + " LIMIT 20");
-        while (values.executeStep())
-            if (auto id = values.getColumn(0).getString(); id.size() <= idLength)
+        while (values.executeStep()) {
+            if (auto id = values.getColumn(0).getString(); id.size() <= idLength) {
                 found.push_back(std::move(id));
+            }
+        }
     }
     return found;
 }

@@ -38,14 +38,15 @@ void cursor(CQVXAdminClass& client) {
 template <class Record, auto list>
 void whole(CQVXAdminClass& client) {
     std::vector<Record> records;
-    if constexpr (requires { std::invoke(list, client, records); })
+    if constexpr (requires { std::invoke(list, client, records); }) {
         static_cast<void>(std::invoke(list, client, records));
-    else if constexpr (requires { std::invoke(list, client, records, ""); })
+    } else if constexpr (requires { std::invoke(list, client, records, ""); }) {
         static_cast<void>(std::invoke(list, client, records, ""));
-    else if constexpr (requires { std::invoke(list, client, "id", records); })
+    } else if constexpr (requires { std::invoke(list, client, "id", records); }) {
         static_cast<void>(std::invoke(list, client, "id", records));
-    else
+    } else {
         static_cast<void>(std::invoke(list, client, "id", 0, records));
+    }
 }
 
 // A command whose answer is one record.

@@ -22,8 +22,9 @@ void PeerSocket::play(std::uint8_t manner, std::span<const std::uint8_t> bytes) 
     bytes_ = bytes;
     ending_ = static_cast<Ending>(manner & 3);
     piece_ = manner >> 2;
-    if (piece_ == 0)
+    if (piece_ == 0) {
         piece_ = bytes.size();
+    }
 }
 
 SocketResult PeerSocket::connect(wire::SocketHandle, std::uint32_t, std::uint16_t) {

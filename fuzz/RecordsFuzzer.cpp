@@ -41,8 +41,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Input input(data, size);
     const auto* const command = protocol::findCommand(input.byte());
     const auto* const layout = command == nullptr ? nullptr : layoutOf(*command, input.byte());
-    if (layout == nullptr)
+    if (layout == nullptr) {
         return 0;
+    }
     auto message = messageOf(input.rest());
 
     fuzz::tolerate([&] {
@@ -50,8 +51,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         fuzz::expect(record.size() == layout->fields.size());
         wire::Message again;
         again.beginMessage(0);
-        for (const auto& field : record)
+        for (const auto& field : record) {
             protocol::writeField(again, field.value);
+        }
     });
     fuzz::expect(message.cursor() <= message.size());
     return 0;

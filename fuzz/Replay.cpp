@@ -16,14 +16,16 @@ void addInputs(const std::filesystem::path& path, std::set<std::filesystem::path
         inputs.insert(path);
         return;
     }
-    for (const auto& entry : std::filesystem::directory_iterator(path))
+    for (const auto& entry : std::filesystem::directory_iterator(path)) {
         inputs.insert(entry.path());
+    }
 }
 
 bool run(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
-    if (!stream)
+    if (!stream) {
         return false;
+    }
     const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
     const auto* const data = reinterpret_cast<const std::uint8_t*>(bytes.data());
     return LLVMFuzzerTestOneInput(data, bytes.size()) == 0;
@@ -34,8 +36,9 @@ bool run(const std::filesystem::path& file) {
 int main(int argc, char** argv) {
     try {
         std::set<std::filesystem::path> inputs;
-        for (int index = 1; index < argc; ++index)
+        for (int index = 1; index < argc; ++index) {
             addInputs(argv[index], inputs);
+        }
         for (const auto& input : inputs) {
             std::cout << input.filename().string() << std::endl; // before the run, so that the failing input is known
             if (!run(input)) {

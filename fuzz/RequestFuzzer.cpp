@@ -34,8 +34,9 @@ void expectFrames(std::span<const std::uint8_t> bytes) {
 
 void carryOut(std::uint8_t opcode, server::Fields fields, server::StoreConnection& connection) {
     const auto* const handler = server::commands().find(opcode, fields);
-    if (handler == nullptr)
+    if (handler == nullptr) {
         return;
+    }
     server::ReplyBuffer reply;
     if (handler->prepare != nullptr) {
         const auto change = handler->prepare(fields);

@@ -16,8 +16,9 @@ namespace {
 
 std::u16string unitsOf(std::span<const std::uint8_t> bytes) {
     std::u16string units(bytes.size() / 2, u'\0');
-    if (!units.empty())
+    if (!units.empty()) {
         std::memcpy(units.data(), bytes.data(), units.size() * 2);
+    }
     return units;
 }
 

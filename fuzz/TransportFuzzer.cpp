@@ -12,12 +12,13 @@ constexpr int mostSteps = 16;
 constexpr std::uint32_t longestBlock = 65536;
 
 void takeMessages(trans::CTrans& connection) {
-    for (const auto kind : {wire::MessageKind::Data, wire::MessageKind::Command})
+    for (const auto kind : {wire::MessageKind::Data, wire::MessageKind::Command}) {
         while (auto message = connection.getMessage(kind)) {
             fuzz::expect(message->kind() == kind && message->rewound());
             fuzz::expect(message->size() >= wire::Message::headerSize);
             connection.reuse(std::move(message));
         }
+    }
 }
 
 // Two bits choose each step.
@@ -26,15 +27,17 @@ void exchange(trans::CTrans& connection, std::uint32_t steps) {
         std::string block;
         switch (steps & 3) {
         case 2:
-            if (connection.receiveBlock(block, longestBlock))
+            if (connection.receiveBlock(block, longestBlock)) {
                 fuzz::expect(block.size() <= longestBlock);
+            }
             break;
         case 3:
             static_cast<void>(connection.sendBlock("block"));
             break;
         default:
-            if (connection.getMessages({}, nullptr))
+            if (connection.getMessages({}, nullptr)) {
                 takeMessages(connection);
+            }
         }
     }
 }
@@ -45,8 +48,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Input input(data, size);
     const std::uint8_t manner = input.byte();
     std::uint32_t steps = 0;
-    for (int index = 0; index < 4; ++index)
+    for (int index = 0; index < 4; ++index) {
         steps = steps << 8 | input.byte();
+    }
     fuzz::PeerClock clock;
     fuzz::PeerSocket peer(clock);
     peer.play(manner, input.rest());

@@ -32,8 +32,9 @@ public:
         std::filesystem::create_directories(folder_ / fuzzer);
         std::ofstream file(folder_ / fuzzer / name, std::ios::binary);
         file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-        if (!file.flush())
+        if (!file.flush()) {
             throw std::runtime_error("cannot write " + (folder_ / fuzzer / name).string());
+        }
     }
 
 private:
@@ -46,12 +47,13 @@ Bytes valueOf(protocol::FieldKind kind, const protocol::RecordLayout* element);
 Bytes fieldsOf(const protocol::RecordLayout& layout) {
     Bytes bytes;
     for (const auto& field : layout.fields) {
-        if (field.kind == protocol::FieldKind::optional)
+        if (field.kind == protocol::FieldKind::optional) {
             bytes = std::move(bytes) + hex("01") + valueOf(field.elementKind, field.element);
-        else if (field.kind == protocol::FieldKind::list)
+        } else if (field.kind == protocol::FieldKind::list) {
             bytes = std::move(bytes) + hex("01 00") + valueOf(field.elementKind, field.element);
-        else
+        } else {
             bytes = std::move(bytes) + valueOf(field.kind, field.element);
+        }
     }
     return bytes;
 }
@@ -84,8 +86,9 @@ Bytes valueOf(protocol::FieldKind kind, const protocol::RecordLayout* element) {
 std::vector<std::pair<std::string, Bytes>> requestsOf(const protocol::Command& command) {
     std::vector<std::pair<std::string, Bytes>> requests;
     const auto name = std::to_string(command.opcode);
-    if (command.request != nullptr)
+    if (command.request != nullptr) {
         requests.emplace_back(name, fieldsOf(*command.request));
+    }
     std::size_t index = 0;
     for (const auto& form : command.forms) {
         ++index;
@@ -113,22 +116,27 @@ void addCommands(const Corpus& corpus) {
     for (const auto& command : protocol::catalogue()) {
         const auto opcode = static_cast<std::uint8_t>(command.opcode);
         const auto requests = requestsOf(command);
-        for (const auto& [name, fields] : requests)
+        for (const auto& [name, fields] : requests) {
             corpus.add("request", name, Bytes{opcode} + fields);
-        if (!requests.empty())
+        }
+        if (!requests.empty()) {
             corpus.add("connection", std::to_string(opcode), Bytes{0} + requestFrame(command, requests.front().second));
+        }
         const auto addLayout = [&](std::uint8_t which, const protocol::RecordLayout* layout) {
-            if (layout != nullptr)
+            if (layout != nullptr) {
                 corpus.add("records", std::to_string(opcode) + "-" + std::to_string(which),
                            Bytes{opcode, which} + fieldsOf(*layout));
+            }
         };
         addLayout(0, command.request);
         addLayout(1, command.replyRecord);
         addLayout(2, command.otherRecord.layout);
-        for (std::size_t form = 0; form < command.forms.size(); ++form)
+        for (std::size_t form = 0; form < command.forms.size(); ++form) {
             addLayout(static_cast<std::uint8_t>(3 + form), command.forms[form].layout);
-        if (command.replyRecord != nullptr)
+        }
+        if (command.replyRecord != nullptr) {
             corpus.add("client", std::to_string(opcode), Bytes{0, opcode} + replyOf(command, *command.replyRecord));
+        }
     }
 }
 
@@ -178,8 +186,9 @@ void addText(const Corpus& corpus) {
         {"version", "03 31 00 2E 00 30 00 20 00 28 00 32 00 30 00 31 00 34 00 2D 00 30 00 33 00 2D 00 30 00 35 00 "
                     "20 00 31 00 37 00 3A 00 30 00 34 00 3A 00 30 00 39 00 29 00"},
     };
-    for (const auto& [name, bytes] : inputs)
+    for (const auto& [name, bytes] : inputs) {
         corpus.add("text", name, hex(bytes));
+    }
 }
 
 void addFrames(const Corpus& corpus) {

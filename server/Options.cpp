@@ -15,12 +15,14 @@ constexpr int usageStatus = 2;
 constexpr int mostSamplePrinters = 1000000;
 
 std::optional<Sample> parseSample(const std::string& text) {
-    if (text == "small")
+    if (text == "small") {
         return Sample{};
+    }
     int printers = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), printers);
-    if (error != std::errc() || end != text.data() + text.size() || printers < 1 || printers > mostSamplePrinters)
+    if (error != std::errc() || end != text.data() + text.size() || printers < 1 || printers > mostSamplePrinters) {
         return std::nullopt;
+    }
     return Sample{.printers = printers};
 }
 
@@ -73,18 +75,23 @@ Options::Outcome Options::parse(int count, const char* const* arguments) {
     options.database = database;
     options.passwordFile = passwordFile;
     options.loginRequired = std::chrono::minutes(minutes);
-    if (database.empty())
+    if (database.empty()) {
         return usage("--database needs the name of a file");
-    if (userOption->count() > 0 && user.empty())
+    }
+    if (userOption->count() > 0 && user.empty()) {
         return usage("--user needs a name");
-    if (userOption->count() > 0)
+    }
+    if (userOption->count() > 0) {
         options.user = user;
-    if (!portFile.empty())
+    }
+    if (!portFile.empty()) {
         options.portFile = portFile;
+    }
     if (!sample.empty()) {
         options.sample = parseSample(sample);
-        if (!options.sample)
+        if (!options.sample) {
             return usage("--sample takes small or a number of printers from 1 to 1000000, not \"" + sample + "\"");
+        }
     }
     return {.options = options, .text = {}, .exitStatus = 0};
 }
@@ -92,13 +99,16 @@ Options::Outcome Options::parse(int count, const char* const* arguments) {
 std::u16string readPassword(const std::filesystem::path& file) {
     std::ifstream stream(file);
     std::string line;
-    if (!stream || std::filesystem::is_directory(file))
+    if (!stream || std::filesystem::is_directory(file)) {
         throw std::runtime_error(file.string() + ": the password file cannot be read");
+    }
     std::getline(stream, line);
-    if (!line.empty() && line.back() == '\r')
+    if (!line.empty() && line.back() == '\r') {
         line.pop_back();
-    if (line.empty())
+    }
+    if (line.empty()) {
         throw std::runtime_error(file.string() + ": the password file holds no password");
+    }
     return wire::toWide(line);
 }
 

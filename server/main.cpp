@@ -53,13 +53,15 @@ void prepareProcess() {
 void fillSample(const Store& store, const Sample& sample) {
     const auto connection = store.openConnection();
     connection->change([&] {
-        if (!connection->table<RegionTable>().isEmpty() || !connection->table<RecordTable>().isEmpty())
+        if (!connection->table<RegionTable>().isEmpty() || !connection->table<RecordTable>().isEmpty()) {
             throw std::runtime_error(store.file().string() + ": --sample needs an empty database");
+        }
         SampleEstate filler(*connection);
-        if (sample.printers == 0)
+        if (sample.printers == 0) {
             filler.fillSmall();
-        else
+        } else {
             filler.fill(sample.printers);
+        }
         return true;
     });
 }
@@ -67,11 +69,13 @@ void fillSample(const Store& store, const Sample& sample) {
 void serve(const Options& options) {
     const auto password = options.user ? readPassword(options.passwordFile) : std::u16string();
     const Store store(options.database, schema());
-    if (options.sample)
+    if (options.sample) {
         fillSample(store, *options.sample);
+    }
     Accounts accounts(store);
-    if (options.user)
+    if (options.user) {
         accounts.save(wire::toWide(*options.user), password);
+    }
 
     ServerSettings settings;
     settings.listen = options.listen;
@@ -83,14 +87,16 @@ void serve(const Options& options) {
     boost::asio::io_context signalContext;
     boost::asio::signal_set signals(signalContext, SIGTERM, SIGINT);
     signals.async_wait([&](const boost::system::error_code& error, int) {
-        if (!error)
+        if (!error) {
             server.stop();
+        }
     });
     const std::jthread waiting([&] { signalContext.run(); });
 
     try {
-        if (options.portFile)
+        if (options.portFile) {
             writePortFile(*options.portFile, server.port());
+        }
         server::log::info("listening on " + options.listen + " port " + std::to_string(server.port()));
         server.run();
     } catch (...) {

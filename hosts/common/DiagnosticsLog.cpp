@@ -28,7 +28,7 @@ public:
             ::close(number_);
         }
     }
-    int get() const { return number_; }
+    [[nodiscard]] int get() const { return number_; }
     int release() { return std::exchange(number_, -1); }
 
 private:

@@ -19,10 +19,10 @@ public:
     // vantrel/admin.ini below $XDG_CONFIG_HOME, or below .config in the user's home.
     static std::filesystem::path defaultPath();
 
-    const std::filesystem::path& file() const { return file_; }
+    [[nodiscard]] const std::filesystem::path& file() const { return file_; }
 
-    bool exists() const override;
-    std::optional<wire::WideString> read(std::string_view name) const override;
+    [[nodiscard]] bool exists() const override;
+    [[nodiscard]] std::optional<wire::WideString> read(std::string_view name) const override;
     // Replaces the file as a whole, and makes its folder if needed. A name is letters, digits, "_", "-" and "."; others
     // are not stored.
     bool write(std::string_view name, const wire::WideString& value) override;

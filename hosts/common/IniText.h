@@ -16,9 +16,9 @@ class IniText {
 public:
     // Empty when the text does not have this form.
     static std::optional<IniText> parse(std::string_view text);
-    std::string text() const;
+    [[nodiscard]] std::string text() const;
 
-    std::optional<wire::WideString> value(std::string_view name) const;
+    [[nodiscard]] std::optional<wire::WideString> value(std::string_view name) const;
     // Keeps the order of the lines, and comments. False for a name that can't stand in the file.
     bool setValue(std::string_view name, const wire::WideString& value);
 

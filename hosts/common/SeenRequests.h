@@ -17,7 +17,7 @@ public:
 
     // The requests of a type, the latest first.
     template <class Request>
-    std::vector<Request> of() const {
+    [[nodiscard]] std::vector<Request> of() const {
         std::vector<Request> requests;
         for (const Seen& seen : seen_) {
             if (seen.opcode == Request::opcode) {

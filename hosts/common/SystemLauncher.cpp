@@ -27,7 +27,7 @@ public:
         pointers_.push_back(nullptr);
     }
 
-    char* const* arguments() const { return pointers_.data(); }
+    [[nodiscard]] char* const* arguments() const { return pointers_.data(); }
 
 private:
     std::vector<std::string> texts_;

@@ -11,7 +11,7 @@ class SystemLocale final : public platform::Locale {
 public:
     SystemLocale();
 
-    const platform::NumberFormat& numberFormat() const override { return numberFormat_; }
+    [[nodiscard]] const platform::NumberFormat& numberFormat() const override { return numberFormat_; }
 
 private:
     platform::NumberFormat numberFormat_;

@@ -32,7 +32,7 @@ public:
 
 private:
     void lookUp();
-    Shows prepare(const protocol::Command& command, std::span<const std::uint8_t> data) const;
+    [[nodiscard]] Shows prepare(const protocol::Command& command, std::span<const std::uint8_t> data) const;
 
     const std::vector<WriteLookup> lookups_ = allWriteLookups();
     SeenRequests seen_;

@@ -18,7 +18,7 @@ class Failure : public std::runtime_error {
 public:
     Failure(ExitStatus status, const std::string& line) : std::runtime_error(line), status_(status) {}
 
-    ExitStatus status() const { return status_; }
+    [[nodiscard]] ExitStatus status() const { return status_; }
 
 private:
     ExitStatus status_;

@@ -12,9 +12,9 @@ class StepList {
 public:
     explicit StepList(std::vector<Step> steps = {}) : steps_(steps.begin(), steps.end()) {}
 
-    const Step* next() const { return steps_.empty() ? nullptr : &steps_.front(); }
+    [[nodiscard]] const Step* next() const { return steps_.empty() ? nullptr : &steps_.front(); }
     void done() { steps_.pop_front(); }
-    const std::deque<Step>& left() const { return steps_; }
+    [[nodiscard]] const std::deque<Step>& left() const { return steps_; }
 
 private:
     std::deque<Step> steps_;

@@ -23,7 +23,7 @@ public:
 private:
     // The children to write: none below the depth.
     std::vector<console::ScopeId> childrenOf(console::ScopeId id, std::uint32_t level);
-    bool below(std::uint32_t level) const { return depth_ && level >= *depth_; }
+    [[nodiscard]] bool below(std::uint32_t level) const { return depth_ && level >= *depth_; }
     void writeLines(std::ostream& out, console::ScopeId id, const std::string& guide, std::uint32_t level);
 
     shell::Shell& shell_;

@@ -46,10 +46,12 @@ Written AlarmProgramService::write(const protocol::WriteAlarmProgramRequest& req
         record.creationDate = dateOfNow();
     } else {
         const auto found = programs.find(request.id);
-        if (!found)
+        if (!found) {
             return refused(u"The alarm program does not exist any more.");
-        if (found->kind != kind::alarm)
+        }
+        if (found->kind != kind::alarm) {
             return refused(u"Counter programs belong to the server and stay as they are.");
+        }
         record = found->record;
         if (request.name.empty() && request.comment.empty() && request.createdBy.empty()) {
             programs.remove(record.id);
@@ -60,35 +62,45 @@ Written AlarmProgramService::write(const protocol::WriteAlarmProgramRequest& req
     record.comment = request.comment;
     record.createdBy = request.createdBy;
     // To a console a text ends at its first zero, so a name that begins with one is empty there.
-    if (record.name.empty() || record.name.front() == u'\0')
+    if (record.name.empty() || record.name.front() == u'\0') {
         return refused(u"An alarm program needs a name.");
-    if (frameDataSize(record) > largestReceivableFrame)
+    }
+    if (frameDataSize(record) > largestReceivableFrame) {
         return refused(u"The texts of the alarm program are too long to be sent back in one piece.");
-    if (programs.nameTaken(kind::alarm, record.name, record.id))
+    }
+    if (programs.nameTaken(kind::alarm, record.name, record.id)) {
         return refused(u"There is an alarm program named " + server::quoted(record.name) + u" already.");
-    if (isNew)
+    }
+    if (isNew) {
         programs.insert(program);
-    else
+    } else {
         programs.update(record);
+    }
     return {.status = done(), .reply = {.id = record.id}};
 }
 
 StatusReply AlarmProgramService::addAction(const protocol::AddProgramActionRequest& request) {
     auto& actions = connection_.table<ProgramActionTable>();
     const auto program = connection_.table<AlarmProgramTable>().find(request.programId);
-    if (!program || program->kind != kind::alarm)
+    if (!program || program->kind != kind::alarm) {
         return notSaved(u"The alarm program does not exist any more.");
-    if (!actions.eventExists(request.eventId))
+    }
+    if (!actions.eventExists(request.eventId)) {
         return notSaved(u"This server knows no such event.");
+    }
     const auto needsRecipient = actions.needsRecipient(request.actionCode);
-    if (!needsRecipient)
+    if (!needsRecipient) {
         return notSaved(u"This server knows no such action.");
-    if (!*needsRecipient && !request.destinationId.empty())
+    }
+    if (!*needsRecipient && !request.destinationId.empty()) {
         return notSaved(u"This action has no destination.");
-    if (*needsRecipient && !connection_.table<EmailRecipientTable>().exists(request.destinationId))
+    }
+    if (*needsRecipient && !connection_.table<EmailRecipientTable>().exists(request.destinationId)) {
         return notSaved(u"This action needs a recipient as its destination.");
-    if (actions.exists(request))
+    }
+    if (actions.exists(request)) {
         return notSaved(u"The alarm program " + server::quoted(program->record.name) + u" has this action already.");
+    }
     actions.insert(wire::toText(wire::randomUuid()), request);
     return done();
 }

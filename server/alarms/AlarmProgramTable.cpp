@@ -37,8 +37,9 @@ AlarmProgramTable::AlarmProgramTable(sqlite3* connection)
 
 std::optional<StoredProgram> AlarmProgramTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return StoredProgram{.record = readFields<AlarmProgramRecord>(rows),
                          .kind = static_cast<std::uint8_t>(rows.number(columnCount<AlarmProgramRecord>))};
 }

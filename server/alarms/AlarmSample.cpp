@@ -92,8 +92,9 @@ std::string addRecipient(StoreConnection& connection, SampleRandom& random, int 
         .email = wire::toWide(fmt::format("{}{}@vantrel.example", person.address, suffix)),
         .name = std::u16string(person.given) + u" " + std::u16string(person.family),
         .active = random.below(5) != 0};
-    if (round > 0)
+    if (round > 0) {
         recipient.name += u" (" + wire::toWide(suffix) + u")";
+    }
     connection.table<EmailRecipientTable>().insert(recipient);
     return recipient.id;
 }
@@ -108,8 +109,9 @@ void addProgram(StoreConnection& connection, SampleRandom& random, const Program
                                                              .creationDate = std::u16string(program.creationDate)},
                                                   .kind = kind::alarm});
     for (const auto& [event, code] : program.actions) {
-        if (event.empty())
+        if (event.empty()) {
             break;
+        }
         connection.table<ProgramActionTable>().insert(
             random.newId(), {.programId = id,
                              .eventId = std::string(event),
@@ -124,13 +126,16 @@ void addAlarmSample(StoreConnection& connection, SampleRandom& random, int print
     std::vector<std::string> recipients;
     const int recipientCount = std::clamp(printers / printersPerRecipient, fewestRecipients, mostRecipients);
     recipients.reserve(static_cast<std::size_t>(recipientCount));
-    for (int number = 0; number < recipientCount; ++number)
+    for (int number = 0; number < recipientCount; ++number) {
         recipients.push_back(addRecipient(connection, random, number));
-    for (const auto& program : programs)
+    }
+    for (const auto& program : programs) {
         addProgram(connection, random, program, std::u16string(program.name), recipients);
-    for (int office = 1; office <= printers / printersPerOfficeProgram; ++office)
+    }
+    for (int office = 1; office <= printers / printersPerOfficeProgram; ++office) {
         addProgram(connection, random, random.anyOf(programs), u"Offices " + wire::toWide(fmt::format("{:03}", office)),
                    recipients);
+    }
     connection.table<AlarmProgramTable>().pointPrinters();
 }
 

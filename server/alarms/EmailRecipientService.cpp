@@ -46,31 +46,36 @@ StatusReply recipientNotSaved(const WideString& text) {
 StatusReply EmailRecipientService::write(const protocol::WriteEmailRecipientRequest& request) {
     auto& recipients = connection_.table<EmailRecipientTable>();
     const bool isNew = request.id.empty();
-    if (!isNew && !recipients.exists(request.id))
+    if (!isNew && !recipients.exists(request.id)) {
         return recipientNotSaved(u"The recipient does not exist any more.");
+    }
     if (!isNew && request.name.empty() && request.email.empty()) {
         recipients.remove(request.id);
         return done();
     }
-    if (isBlank(request.name) || isBlank(request.email))
+    if (isBlank(request.name) || isBlank(request.email)) {
         return recipientNotSaved(u"A recipient needs a name and an e-mail address.");
+    }
     const EmailRecipientRecord recipient{.id = isNew ? wire::toText(wire::randomUuid()) : request.id,
                                          .email = request.email,
                                          .name = request.name,
                                          .active = isYes(request.active)};
-    if (isTooLong(recipient))
+    if (isTooLong(recipient)) {
         return recipientNotSaved(u"The name and the address of the recipient are too long.");
-    if (isNew)
+    }
+    if (isNew) {
         recipients.insert(recipient);
-    else
+    } else {
         recipients.update(recipient);
+    }
     return done();
 }
 
 StatusReply EmailRecipientService::setActive(const protocol::SetRecipientActiveRequest& request) {
     auto& recipients = connection_.table<EmailRecipientTable>();
-    if (!recipients.exists(request.id))
+    if (!recipients.exists(request.id)) {
         return recipientNotSaved(u"The recipient does not exist any more.");
+    }
     recipients.setActive(request.id, isYes(request.active));
     return done();
 }

@@ -6,15 +6,18 @@ const Handler* CommandTable::find(std::uint16_t opcode, Fields fields) const {
     bool known = false;
     for (const auto& handlers : domains_) {
         for (const auto& one : handlers) {
-            if (one.opcode != opcode)
+            if (one.opcode != opcode) {
                 continue;
-            if (one.takes == nullptr || one.takes(fields))
+            }
+            if (one.takes == nullptr || one.takes(fields)) {
                 return &one;
+            }
             known = true;
         }
     }
-    if (known)
+    if (known) {
         throw BadRequest("command " + std::to_string(opcode) + " of a form that does not exist");
+    }
     return nullptr;
 }
 

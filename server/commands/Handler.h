@@ -33,10 +33,11 @@ bool isActionOf(Fields fields) {
 
 template <class Request>
 constexpr auto formOf() -> bool (*)(Fields) {
-    if constexpr (requires { Request::actions; })
+    if constexpr (requires { Request::actions; }) {
         return &isActionOf<Request>;
-    else
+    } else {
         return nullptr;
+    }
 }
 
 inline const protocol::StatusReply& statusOf(const protocol::StatusReply& reply) {
@@ -76,8 +77,9 @@ Change prepareChange(Fields fields) {
             reply = {};
             refuse(reply, databaseRefused(error.what()));
         }
-        if constexpr (replies)
+        if constexpr (replies) {
             putReply(buffer, reply);
+        }
         return statusOf(reply);
     };
     return {.isAnswered = replies, .make = std::move(make)};

@@ -22,8 +22,9 @@ public:
     }
 
     bool append(ReplyBuffer& buffer, std::size_t wanted) override {
-        if (!announced_)
+        if (!announced_) {
             buffer.putCountFrame(static_cast<std::uint16_t>(listing_.count));
+        }
         announced_ = true;
         while (listing_.count > 0 && buffer.size() < wanted && listing_.rows.next()) {
             buffer.beginFrame();
@@ -47,8 +48,9 @@ public:
     explicit SingleReplyStream(std::optional<R> reply) : reply_(std::move(reply)) {}
 
     bool append(ReplyBuffer& buffer, std::size_t) override {
-        if (reply_)
+        if (reply_) {
             buffer.putFrame(*reply_);
+        }
         return false;
     }
 

@@ -15,8 +15,9 @@ protocol::StatusReply refusal(const wire::WideString& caption, const wire::WideS
 
 wire::WideString quoted(const wire::WideString& name) {
     wire::WideString shown = u"\"";
-    for (const char16_t unit : name.substr(0, longestQuote))
+    for (const char16_t unit : name.substr(0, longestQuote)) {
         shown += unit < u' ' ? u' ' : unit;
+    }
     return shown + (name.size() > longestQuote ? u"...\"" : u"\"");
 }
 

@@ -61,8 +61,9 @@ private:
         using Traits = wire::FieldTraits<Value>;
         if constexpr (Traits::kind == wire::FieldKind::optional) {
             put(!rows.isNull(column));
-            if (!rows.isNull(column))
+            if (!rows.isNull(column)) {
                 putColumn<typename Traits::Element>(rows, column);
+            }
         } else if constexpr (Traits::kind == wire::FieldKind::str8 || Traits::kind == wire::FieldKind::uuid) {
             text(rows.text(column));
         } else if constexpr (Traits::kind == wire::FieldKind::str16) {

@@ -35,9 +35,11 @@ public:
     [[nodiscard]] Number number() {
         Number value{};
         std::memcpy(&value, take(sizeof value).data(), sizeof value);
-        if constexpr (std::floating_point<Number>)
-            if (!std::isfinite(value))
+        if constexpr (std::floating_point<Number>) {
+            if (!std::isfinite(value)) {
                 throw BadRequest("a fraction that is no number");
+            }
+        }
         return value;
     }
     [[nodiscard]] std::string_view text() {
@@ -62,8 +64,9 @@ public:
 
 private:
     [[nodiscard]] std::span<const std::uint8_t> take(std::size_t count) {
-        if (rest_.size() < count)
+        if (rest_.size() < count) {
             throw BadRequest("the request is shorter than its fields");
+        }
         const auto taken = rest_.first(count);
         rest_ = rest_.subspan(count);
         return taken;

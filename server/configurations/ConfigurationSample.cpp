@@ -55,8 +55,9 @@ using ByModel = std::map<std::string, std::vector<std::string>>;
 ByModel readByModel(Query& query) {
     ByModel found;
     auto rows = query.run();
-    while (rows.next())
+    while (rows.next()) {
         found[std::string(rows.text(0))].emplace_back(rows.text(1));
+    }
     return found;
 }
 
@@ -80,14 +81,16 @@ void applyToQueues(QueueConfigurationTable& table, SampleRandom& random, const s
                    const std::vector<std::string>& maps, const std::vector<std::string>& configurations) {
     for (const auto& queue : queues) {
         const bool isFirst = &queue == &queues.front();
-        if (!isFirst && random.below(5) >= 3)
+        if (!isFirst && random.below(5) >= 3) {
             continue;
+        }
         const auto many = static_cast<std::uint32_t>(configurations.size() - usedOnce - 1);
         const auto& used = configurations[isFirst ? usedOnce : usedOnce + 1 + random.below(many)];
         const auto from = random.below(static_cast<std::uint32_t>(maps.size()));
         const auto count = 1 + random.below(static_cast<std::uint32_t>(std::min(maps.size(), mostMaps)));
-        for (std::uint32_t map = 0; map < count; ++map)
+        for (std::uint32_t map = 0; map < count; ++map) {
             table.put(queue, maps[(from + map) % maps.size()], used);
+        }
     }
 }
 

@@ -30,8 +30,9 @@ ConfigurationTable::ConfigurationTable(sqlite3* connection)
 
 std::optional<StoredConfiguration> ConfigurationTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return StoredConfiguration{.record = readFields<ConfigurationRecord>(rows),
                                .modelId = std::string(rows.text(columnCount<ConfigurationRecord>))};
 }

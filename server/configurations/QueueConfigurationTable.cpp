@@ -60,8 +60,9 @@ QueueConfigurationTable::QueueConfigurationTable(sqlite3* connection)
                       " GROUP BY used.queueKey, used.queueNumber ORDER BY used.queueKey, used.queueNumber") {}
 
 void QueueConfigurationTable::moveAll(const std::string& fromDeploymentId, const std::string& toDeploymentId) {
-    if (fromDeploymentId != toDeploymentId)
+    if (fromDeploymentId != toDeploymentId) {
         moveAll_.execute(fromDeploymentId, toDeploymentId);
+    }
 }
 
 void QueueConfigurationTable::removeAll(const std::string& deploymentId) {
@@ -94,8 +95,9 @@ void QueueConfigurationTable::remove(const std::string& queueId, const std::stri
 
 bool QueueConfigurationTable::putForDriver(const std::string& modelId, const std::string& driverId,
                                            const std::string& configurationId) {
-    if (!isDeployed_.run(modelId, driverId).next())
+    if (!isDeployed_.run(modelId, driverId).next()) {
         return false;
+    }
     putForDriver_.execute(modelId, driverId, configurationId);
     return true;
 }

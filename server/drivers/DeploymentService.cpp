@@ -26,8 +26,9 @@ template <class Request>
 std::optional<DeploymentState> stateOf(const Request& request) {
     const auto use = yesOrNo(request.use);
     const auto install = yesOrNo(request.install);
-    if (!use || !install || request.installMethod > protocol::installMethod::verbose)
+    if (!use || !install || request.installMethod > protocol::installMethod::verbose) {
         return std::nullopt;
+    }
     return DeploymentState{.use = *use, .install = *install, .installMethod = request.installMethod};
 }
 
@@ -39,44 +40,52 @@ StatusReply stateIsUnknown() {
 
 std::optional<StatusReply> DeploymentService::refuse(const StoredDeployment& deployment) {
     const auto& place = deployment.place;
-    if (!models_.find(place.modelId))
+    if (!models_.find(place.modelId)) {
         return refused(u"The model does not exist any more.");
+    }
     const auto driver = drivers_.find(deployment.driverId);
-    if (!driver)
+    if (!driver) {
         return refused(u"The driver was deleted in the meantime.");
-    if (driver->modelId != place.modelId && !models_.isAlternate(place.modelId, driver->modelId))
+    }
+    if (driver->modelId != place.modelId && !models_.isAlternate(place.modelId, driver->modelId)) {
         return refused(u"The driver " + quoted(driver->record.version) +
                        u" is neither one of this model nor one of its alternates.");
+    }
     const auto system = deployments_.findSystem(place.osId);
-    if (!system)
+    if (!system) {
         return refused(u"Please choose an operating system.");
+    }
     const protocol::DriverDeploymentRecord listed{.version = driver->record.version,
                                                   .comment = deployment.comment,
                                                   .deploymentId = deployment.id,
                                                   .osId = place.osId,
                                                   .osName = system->name,
                                                   .locale = place.locale};
-    if (frameDataSize(listed) > largestReceivableFrame)
+    if (frameDataSize(listed) > largestReceivableFrame) {
         return refused(u"The texts of this deployment are too long to be sent back in one piece.");
+    }
     return std::nullopt;
 }
 
 StatusReply DeploymentService::add(const protocol::AddDriverDeploymentRequest& request) {
     const auto state = stateOf(request);
     const auto keeps = yesOrNo(request.keepConfig);
-    if (!state || !keeps)
+    if (!state || !keeps) {
         return stateIsUnknown();
+    }
     const StoredDeployment deployment{
         .id = wire::toText(wire::randomUuid()),
         .driverId = request.driverId,
         .place = {.modelId = request.modelId, .osId = request.osId, .locale = request.locale},
         .comment = request.comment,
         .state = *state};
-    if (auto reply = refuse(deployment))
+    if (auto reply = refuse(deployment)) {
         return *reply;
+    }
     if (const auto former = deployments_.idAt(deployment.place)) {
-        if (*keeps)
+        if (*keeps) {
             configurations_.moveAll(*former, deployment.id);
+        }
         deployments_.remove(*former);
     }
     deployments_.insert(deployment);
@@ -86,20 +95,24 @@ StatusReply DeploymentService::add(const protocol::AddDriverDeploymentRequest& r
 StatusReply DeploymentService::update(const protocol::UpdateDriverDeploymentRequest& request) {
     const auto state = stateOf(request);
     const auto keeps = yesOrNo(request.keepConfig);
-    if (!state || !keeps)
+    if (!state || !keeps) {
         return stateIsUnknown();
+    }
     const auto deployment = deployments_.find(request.deploymentId);
-    if (!deployment)
+    if (!deployment) {
         return deploymentIsGone();
-    if (state->install && !deployment->state.install && !*keeps)
+    }
+    if (state->install && !deployment->state.install && !*keeps) {
         configurations_.removeAll(deployment->id);
+    }
     deployments_.setState(deployment->id, *state);
     return done();
 }
 
 StatusReply DeploymentService::remove(const protocol::RemoveDriverDeploymentRequest& request) {
-    if (!deployments_.find(request.deploymentId))
+    if (!deployments_.find(request.deploymentId)) {
         return deploymentIsGone();
+    }
     deployments_.remove(request.deploymentId);
     return done();
 }

@@ -56,8 +56,9 @@ void DeploymentTable::insert(const StoredDeployment& deployment) {
 
 std::optional<StoredDeployment> DeploymentTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return StoredDeployment{
         .id = std::string(rows.text(0)),
         .driverId = std::string(rows.text(1)),

@@ -32,8 +32,9 @@ Listing listSystems(StoreConnection& connection, const ListOperatingSystemsReque
 // An unknown kind of list selects nothing.
 Listing listDrivers(StoreConnection& connection, const ListDriversRequest& request) {
     auto& drivers = connection.table<DriverTable>();
-    if (request.listKind == driverList::ofBrand)
+    if (request.listKind == driverList::ofBrand) {
         return drivers.listOfBrand(request.parentId);
+    }
     return request.listKind == driverList::ofModel ? drivers.listOfModel(request.parentId) : Listing{};
 }
 
@@ -72,11 +73,13 @@ bool asksForShortDrivers(Fields fields) {
 bool removesDeployment(Fields fields) {
     constexpr std::size_t zeros = 10;
     std::uint16_t idSize = 0;
-    if (fields.size() < sizeof idSize)
+    if (fields.size() < sizeof idSize) {
         return false;
+    }
     std::memcpy(&idSize, fields.data(), sizeof idSize);
-    if (fields.size() < sizeof idSize + idSize + zeros)
+    if (fields.size() < sizeof idSize + idSize + zeros) {
         return false;
+    }
     return std::ranges::all_of(fields.subspan(sizeof idSize + idSize, zeros),
                                [](std::uint8_t byte) { return byte == 0; });
 }

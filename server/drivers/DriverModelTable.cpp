@@ -60,8 +60,9 @@ void DriverModelTable::insert(const StoredModel& model) {
 
 std::optional<StoredModel> DriverModelTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return StoredModel{.record = readFields<protocol::DriverModelRecord>(rows),
                        .brandId = std::string(rows.text(columnCount<protocol::DriverModelRecord>))};
 }

@@ -33,20 +33,25 @@ public:
           drivers_(connection.table<DriverTable>()),
           deployments_(connection.table<DeploymentTable>()),
           random_(random) {
-        for (auto listing = deployments_.listSystems(); listing.rows.next();)
+        for (auto listing = deployments_.listSystems(); listing.rows.next();) {
             systems_.emplace_back(listing.rows.text(0));
+        }
     }
 
     void add(int printers) {
-        for (const auto& maker : sample::makers)
+        for (const auto& maker : sample::makers) {
             models_.insertBrand(std::string(maker.id), std::u16string(maker.name));
-        for (const auto& model : sample::models)
+        }
+        for (const auto& model : sample::models) {
             addModel(model.name, std::string(model.id), true);
-        for (const auto& model : sample::furtherModels)
+        }
+        for (const auto& model : sample::furtherModels) {
             addModel(model.name, std::string(model.id), random_.below(3) != 0);
+        }
         addAlternates();
-        for (int number = 0; number < printers / printersPerModel; ++number)
+        for (int number = 0; number < printers / printersPerModel; ++number) {
             addNumbered(number);
+        }
     }
 
 private:
@@ -55,8 +60,9 @@ private:
             std::ranges::find_if(sample::makers, [&](const auto& one) { return name.starts_with(one.name); });
         models_.insert({.record = {.modelId = id, .name = std::u16string(name), .visible = visible},
                         .brandId = std::string(maker->id)});
-        if (const auto order = random_.below(5); order < 3)
+        if (const auto order = random_.below(5); order < 3) {
             models_.setOctetOrder(id, order);
+        }
         addDrivers(name, id);
     }
 
@@ -64,14 +70,18 @@ private:
     void addDrivers(std::u16string_view name, const std::string& modelId) {
         const auto count = made_++ % 6 == 5 ? 0 : 1 + random_.below(3);
         std::vector<StoredDriver> made;
-        for (std::uint32_t number = 0; number < count; ++number)
+        for (std::uint32_t number = 0; number < count; ++number) {
             made.push_back(addDriver(name, modelId, languages[number]));
-        if (random_.below(4) == 0)
+        }
+        if (random_.below(4) == 0) {
             addBuiltIn(modelId);
-        if (count == 3)
+        }
+        if (count == 3) {
             made.pop_back();
-        if (!made.empty())
+        }
+        if (!made.empty()) {
             deploy(made, modelId);
+        }
     }
 
     StoredDriver addDriver(std::u16string_view name, const std::string& modelId, std::u16string_view language) {
@@ -103,8 +113,9 @@ private:
     // Deploys for some operating systems, in one locale or two; most are installed, and a few are not in use.
     void deploy(const std::vector<StoredDriver>& drivers, const std::string& modelId) {
         for (const auto& system : systems_) {
-            if (random_.below(3) != 0)
+            if (random_.below(3) != 0) {
                 continue;
+            }
             const auto first = random_.below(locales.size());
             const auto count = 1 + random_.below(2);
             for (std::uint32_t number = 0; number < count; ++number) {
@@ -124,8 +135,9 @@ private:
 
     void addAlternates() {
         const auto idOf = [](std::size_t index) { return std::string(sample::models[index].id); };
-        for (const auto& [model, other] : {std::pair{0, 1}, {0, 3}, {1, 0}, {4, 3}, {7, 6}, {9, 8}})
+        for (const auto& [model, other] : {std::pair{0, 1}, {0, 3}, {1, 0}, {4, 3}, {7, 6}, {9, 8}}) {
             models_.addAlternate(idOf(static_cast<std::size_t>(model)), idOf(static_cast<std::size_t>(other)));
+        }
         models_.addAlternate(idOf(0), std::string(sample::furtherModels[1].id));
     }
 

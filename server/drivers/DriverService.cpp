@@ -30,34 +30,42 @@ StatusReply DriverService::addModel(const protocol::AddDriverModelRequest& reque
     const StoredModel model{
         .record = {.modelId = wire::toText(wire::randomUuid()), .name = request.name, .visible = true},
         .brandId = request.brandId};
-    if (!models_.hasBrand(request.brandId))
+    if (!models_.hasBrand(request.brandId)) {
         return refuse(u"The brand does not exist any more.");
+    }
     // To a console a text ends at its first zero, so a name that begins with one is empty there.
-    if (request.name.empty() || request.name.front() == u'\0')
+    if (request.name.empty() || request.name.front() == u'\0') {
         return refuse(u"A model needs a name.");
-    if (frameDataSize(model.record) > largestReceivableFrame)
+    }
+    if (frameDataSize(model.record) > largestReceivableFrame) {
         return refuse(u"The name of the model is too long.");
-    if (models_.nameTaken(request.brandId, request.name))
+    }
+    if (models_.nameTaken(request.brandId, request.name)) {
         return refuse(u"There is a model named " + quoted(request.name) + u" of this brand already.");
+    }
     models_.insert(model);
     return done();
 }
 
 StatusReply DriverService::setVisible(const protocol::SetDriverModelVisibleRequest& request) {
     const auto visible = yesOrNo(request.visible);
-    if (!visible)
+    if (!visible) {
         return refuse(u"A model is visible or not.");
-    if (!models_.find(request.modelId))
+    }
+    if (!models_.find(request.modelId)) {
         return modelIsGone();
+    }
     models_.setVisible(request.modelId, *visible);
     return done();
 }
 
 StatusReply DriverService::setOctetOrder(const protocol::SetModelOctetOrderRequest& request) {
-    if (request.octetOrder > lastOctetOrder)
+    if (request.octetOrder > lastOctetOrder) {
         return refuse(u"There is no such octet order.");
-    if (!models_.find(request.modelId))
+    }
+    if (!models_.find(request.modelId)) {
         return modelIsGone();
+    }
     models_.setOctetOrder(request.modelId, request.octetOrder);
     return done();
 }
@@ -65,30 +73,36 @@ StatusReply DriverService::setOctetOrder(const protocol::SetModelOctetOrderReque
 StatusReply DriverService::addAlternate(const protocol::AddAlternateDriverRequest& request) {
     const auto model = models_.find(request.modelId);
     const auto alternate = models_.find(request.alternateModelId);
-    if (!model || !alternate)
+    if (!model || !alternate) {
         return modelIsGone();
-    if (request.modelId == request.alternateModelId)
+    }
+    if (request.modelId == request.alternateModelId) {
         return refuse(u"A model is no alternate of itself.");
-    if (models_.isAlternate(request.modelId, request.alternateModelId))
+    }
+    if (models_.isAlternate(request.modelId, request.alternateModelId)) {
         return refuse(quoted(alternate->record.name) + u" is an alternate of " + quoted(model->record.name) +
                       u" already.");
+    }
     models_.addAlternate(request.modelId, request.alternateModelId);
     return done();
 }
 
 StatusReply DriverService::removeAlternate(const protocol::RemoveAlternateDriverRequest& request) {
-    if (!models_.isAlternate(request.modelId, request.alternateModelId))
+    if (!models_.isAlternate(request.modelId, request.alternateModelId)) {
         return refuse(u"The alternate was removed in the meantime.");
+    }
     models_.removeAlternate(request.modelId, request.alternateModelId);
     return done();
 }
 
 StatusReply DriverService::addBuiltIn(const protocol::AddBuiltInDriverRequest& request) {
     const auto model = models_.find(request.modelId);
-    if (!model)
+    if (!model) {
         return modelIsGone();
-    if (drivers_.hasBuiltIn(request.modelId))
+    }
+    if (drivers_.hasBuiltIn(request.modelId)) {
         return refuse(quoted(model->record.name) + u" has the built-in driver already.");
+    }
     const auto now = uploadTime(std::chrono::system_clock::now());
     drivers_.insert({.record = {.driverId = wire::toText(wire::randomUuid()),
                                 .version = u"Built-in driver (" + wire::toWide(now) + u")",
@@ -102,11 +116,13 @@ StatusReply DriverService::addBuiltIn(const protocol::AddBuiltInDriverRequest& r
 
 StatusReply DriverService::remove(const protocol::DeleteDriverRequest& request) {
     const auto driver = drivers_.find(request.driverId);
-    if (!driver)
+    if (!driver) {
         return refuse(u"The driver was deleted in the meantime.");
-    if (driver->record.inUse != 0)
+    }
+    if (driver->record.inUse != 0) {
         return refuse(u"The driver " + quoted(driver->record.version) +
                       u" is deployed. Please remove its deployments first.");
+    }
     drivers_.remove(request.driverId);
     return done();
 }

@@ -33,8 +33,9 @@ void DriverTable::insert(const StoredDriver& driver) {
 
 std::optional<StoredDriver> DriverTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     constexpr int next = columnCount<protocol::DriverRecord>;
     return StoredDriver{.record = readFields<protocol::DriverRecord>(rows),
                         .modelId = std::string(rows.text(next)),

@@ -59,8 +59,9 @@ std::optional<std::uint16_t> storedType(std::uint16_t recordType) {
 }
 
 bool mayDelete(std::uint8_t requested, std::uint16_t recordType) {
-    if (recordType == type::localPrinter)
+    if (recordType == type::localPrinter) {
         return requested == deletion::printer || requested == deletion::queue;
+    }
     return requested == (recordType == type::printer ? deletion::printer : deletion::queue);
 }
 
@@ -69,90 +70,109 @@ bool mayDelete(std::uint8_t requested, std::uint16_t recordType) {
 std::optional<StatusReply> RecordService::refuse(const PrinterRecord& record) {
     const auto word = wordFor(record.recordType);
     // To a console a text ends at its first zero, so a name that begins with one is empty there.
-    if (record.name.empty() || record.name.front() == u'\0')
+    if (record.name.empty() || record.name.front() == u'\0') {
         return notSaved(u"A " + word + u" needs a name.");
-    if (frameDataSize(record) > largestReceivableFrame)
+    }
+    if (frameDataSize(record) > largestReceivableFrame) {
         return notSaved(u"The texts of this " + word + u" are too long to be sent back in one piece.");
-    if (!connection_.table<RegionTable>().find(regionKindOf(record.recordType), record.regionId))
+    }
+    if (!connection_.table<RegionTable>().find(regionKindOf(record.recordType), record.regionId)) {
         return notSaved(u"The region of this " + word + u" does not exist.");
-    if (connection_.table<RecordTable>().nameTaken(record.regionId, record.recordType, record.name, record.id))
+    }
+    if (connection_.table<RecordTable>().nameTaken(record.regionId, record.recordType, record.name, record.id)) {
         return notSaved(u"There is a " + word + u" named " + quoted(record.name) +
                         u" in this region already. Please choose another name.");
+    }
     return std::nullopt;
 }
 
 void RecordService::nameModel(PrinterRecord& record) {
-    if (auto name = connection_.table<ModelNames>().find(record.modelId))
+    if (auto name = connection_.table<ModelNames>().find(record.modelId)) {
         record.modelName = std::move(*name);
+    }
 }
 
 protocol::CreateRecordReply RecordService::create(const protocol::CreateRecordRequest& request) {
     StoredRecord stored{.record = request.record, .printerId = {}};
     auto& record = stored.record;
     const auto kind = storedType(record.recordType);
-    if (!kind)
+    if (!kind) {
         return {.status = notSaved(u"This server keeps no records of this type."), .id = {}};
+    }
     record.recordType = *kind;
     if (record.recordType == type::queue) {
         const auto printer = connection_.table<RecordTable>().find(request.physicalPrinterId);
-        if (!printer || printer->record.recordType != type::printer)
+        if (!printer || printer->record.recordType != type::printer) {
             return {.status = notSaved(u"The printer of this queue does not exist."), .id = {}};
+        }
         stored.printerId = printer->record.id;
         record.regionId = printer->record.regionId;
     }
     record.id = wire::toText(wire::randomUuid());
     nameModel(record);
-    if (const auto refused = refuse(record))
+    if (const auto refused = refuse(record)) {
         return {.status = *refused, .id = {}};
+    }
     connection_.table<RecordTable>().insert(stored);
     return {.status = done(), .id = record.id};
 }
 
 StatusReply RecordService::update(const protocol::UpdateRecordRequest& request) {
     const auto before = connection_.table<RecordTable>().find(request.record.id);
-    if (!before)
+    if (!before) {
         return notSaved(u"It was deleted in the meantime.");
+    }
     auto record = request.record;
     record.recordType = before->record.recordType; // consoles send the type of the list from which they loaded it
-    if (record.recordType == type::queue)
+    if (record.recordType == type::queue) {
         record.regionId = before->record.regionId; // a queue is in the region of its printer
+    }
     nameModel(record);
-    if (const auto refused = refuse(record))
+    if (const auto refused = refuse(record)) {
         return *refused;
+    }
     const bool moves = record.recordType == type::printer && record.regionId != before->record.regionId;
     if (moves) {
-        if (const auto queue = connection_.table<RecordTable>().queueNameTakenIn(record.regionId, record.id))
+        if (const auto queue = connection_.table<RecordTable>().queueNameTakenIn(record.regionId, record.id)) {
             return queueTaken(*queue);
+        }
     }
     connection_.table<RecordTable>().update(record);
-    if (moves)
+    if (moves) {
         connection_.table<RecordTable>().moveWithQueues(record.id, record.regionId);
+    }
     return done();
 }
 
 StatusReply RecordService::move(const protocol::MovePrinterRequest& request) {
     auto& records = connection_.table<RecordTable>();
     auto found = records.find(request.printerId);
-    if (!found)
+    if (!found) {
         return notSaved(u"The printer does not exist any more.");
+    }
     auto& record = found->record;
-    if (record.recordType == type::queue)
+    if (record.recordType == type::queue) {
         return notSaved(u"A queue stands in the region of its printer.");
-    if (record.regionId == request.regionId)
+    }
+    if (record.regionId == request.regionId) {
         return done();
+    }
     record.regionId = request.regionId;
-    if (const auto refused = refuse(record))
+    if (const auto refused = refuse(record)) {
         return *refused;
-    if (const auto queue = records.queueNameTakenIn(request.regionId, record.id))
+    }
+    if (const auto queue = records.queueNameTakenIn(request.regionId, record.id)) {
         return queueTaken(*queue);
+    }
     records.moveWithQueues(record.id, request.regionId);
     return done();
 }
 
 StatusReply RecordService::remove(const protocol::DeleteRecordRequest& request) {
     const auto found = connection_.table<RecordTable>().find(request.id);
-    if (!found || !mayDelete(request.type, found->record.recordType))
+    if (!found || !mayDelete(request.type, found->record.recordType)) {
         return notSaved(u"There is no such " + WideString(request.type == deletion::printer ? u"printer." : u"queue."));
+    }
     connection_.table<RecordTable>().removeWithQueues(request.id);
     return done();
 }

@@ -68,8 +68,9 @@ RecordTable::RecordTable(sqlite3* connection)
 
 std::optional<StoredRecord> RecordTable::find(const std::string& id) {
     auto rows = find_.run(id);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return StoredRecord{.record = readFields<PrinterRecord>(rows),
                         .printerId = std::string(rows.text(columnCount<PrinterRecord>))};
 }
@@ -89,10 +90,11 @@ void RecordTable::insert(const StoredRecord& stored) {
     int next = bindFields(insert_, record);
     insert_.bind(next++, regionKindOf(record.recordType));
     insert_.bind(next++, nameKey(record.name));
-    if (stored.printerId.empty())
+    if (stored.printerId.empty()) {
         insert_.bind(next, nullptr);
-    else
+    } else {
         insert_.bind(next, stored.printerId);
+    }
     insert_.execute();
 }
 
@@ -136,8 +138,9 @@ Rows RecordTable::list(const protocol::ListPrinterRecordsRequest& request) {
 }
 
 Rows RecordTable::select(const protocol::ListPrinterRecordsRequest& request, Query Selection::*query) {
-    if (listsARegion(request))
+    if (listsARegion(request)) {
         return (inRegion_.*query).run(request.regionId, typeInRegion(request.mode));
+    }
     switch (request.mode) {
     case mode::queues:
         return (ofPrinter_.*query).run(request.printerId);

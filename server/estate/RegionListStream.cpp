@@ -9,8 +9,9 @@ RegionListStream::RegionListStream(const protocol::ListRegionsRequest& request, 
     : request_(request), connection_(connection), moment_(connection) {}
 
 bool RegionListStream::append(ReplyBuffer& buffer, std::size_t wanted) {
-    if (left_ < 0 && appendAsOne(buffer))
+    if (left_ < 0 && appendAsOne(buffer)) {
         return false;
+    }
     while (left_ > 0 && buffer.size() < wanted && rows_.next()) {
         buffer.beginFrame();
         buffer.putRow<protocol::RegionRecord>(rows_);
@@ -25,8 +26,9 @@ bool RegionListStream::appendAsOne(ReplyBuffer& buffer) {
     std::int64_t count = 0;
     auto rows = connection_.table<RegionTable>().list(request_.kind, request_.parentId);
     for (; rows.next(); ++count) {
-        if (wire::Message::headerSize + sizeof(std::uint16_t) + regions.size() <= largestReceivableFrame)
+        if (wire::Message::headerSize + sizeof(std::uint16_t) + regions.size() <= largestReceivableFrame) {
             regions.putRow<protocol::RegionRecord>(rows);
+        }
     }
     if (wire::Message::headerSize + sizeof(std::uint16_t) + regions.size() <= largestReceivableFrame) {
         buffer.beginFrame();

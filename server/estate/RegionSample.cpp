@@ -49,8 +49,9 @@ void RegionSample::fillSmall() {
     addPrinters(munich, 6, 2);
     addPrinters(showroom, 2, 1);
     addPrinters(lodz, 4, 2);
-    for (const auto& office : {ground, first, munich})
+    for (const auto& office : {ground, first, munich}) {
         addFollowQueue(office, 1);
+    }
 
     const auto home = addRegion(localTree, 0, u"Home offices");
     addLocalPrinters({addRegion(localTree, home, u"North"), u"HOME-N"}, 4);
@@ -66,8 +67,9 @@ void RegionSample::fill(int printers) {
     std::map<std::u16string_view, std::int32_t> cities;
     const auto onceIn = [&](auto& known, std::u16string_view name, std::int32_t parent) {
         const auto [place, isNew] = known.try_emplace(name, 0);
-        if (isNew)
+        if (isNew) {
             place->second = addRegion(queueTree, parent, name);
+        }
         return place->second;
     };
     const auto fieldService = addRegion(localTree, 0, u"Field service");
@@ -82,8 +84,9 @@ void RegionSample::fill(int printers) {
         const int here = std::min(left, printersInOffice);
         addPrinters(office, here, 1);
         addFollowQueue(office, 1);
-        if (round == 1)
+        if (round == 1) {
             addLocalPrinters({addRegion(localTree, fieldService, place.city), std::u16string(place.code) + u"-L"}, 5);
+        }
         left -= here;
     }
 }
@@ -96,8 +99,9 @@ void RegionSample::addPrinters(const Office& office, int count, int mostQueues) 
     for (int number = 1; number <= count; ++number) {
         auto printer = makeRecord(office, type::printer, numbered(office.code + u"-", number, count > 999 ? 5 : 3));
         const auto queues = 1 + random_.below(static_cast<std::uint32_t>(mostQueues));
-        for (std::uint32_t queue = 0; queue < queues; ++queue)
+        for (std::uint32_t queue = 0; queue < queues; ++queue) {
             printer.jobs = static_cast<std::uint16_t>(printer.jobs + (random_.below(3) == 0 ? random_.below(12) : 0));
+        }
         connection_.table<RecordTable>().insert({.record = printer, .printerId = {}});
         for (std::uint32_t queue = 0; queue < queues; ++queue) {
             auto record = makeRecord(office, type::queue, printer.name + (queue == 0 ? u"-mono" : u"-color"));

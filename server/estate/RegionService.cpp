@@ -29,12 +29,15 @@ StatusReply refuse(const WideString& text) {
 // Empty when the name is acceptable.
 std::optional<StatusReply> refuseName(RegionTable& regions, std::uint8_t kind, std::int32_t parentId,
                                       const WideString& name, std::int32_t self) {
-    if (isBlank(name))
+    if (isBlank(name)) {
         return refuse(u"A region needs a name.");
-    if (isTooLong(name))
+    }
+    if (isTooLong(name)) {
         return refuse(u"The name of the region is too long.");
-    if (regions.nameTaken(kind, parentId, name, self))
+    }
+    if (regions.nameTaken(kind, parentId, name, self)) {
         return refuse(u"There is a region named " + quoted(name) + u" here already.");
+    }
     return std::nullopt;
 }
 
@@ -42,12 +45,15 @@ std::optional<StatusReply> refuseName(RegionTable& regions, std::uint8_t kind, s
 
 StatusReply RegionService::create(const protocol::CreateRegionRequest& request) {
     auto& regions = connection_.table<RegionTable>();
-    if (request.kind > lastKind)
+    if (request.kind > lastKind) {
         return refuse(u"There is no such kind of region.");
-    if (request.parentId != 0 && !regions.find(request.kind, request.parentId))
+    }
+    if (request.parentId != 0 && !regions.find(request.kind, request.parentId)) {
         return refuse(u"The region above does not exist any more.");
-    if (const auto refused = refuseName(regions, request.kind, request.parentId, request.name, 0))
+    }
+    if (const auto refused = refuseName(regions, request.kind, request.parentId, request.name, 0)) {
         return *refused;
+    }
     regions.insert(request.kind, request.parentId, request.name);
     return done();
 }
@@ -55,10 +61,12 @@ StatusReply RegionService::create(const protocol::CreateRegionRequest& request) 
 StatusReply RegionService::rename(const protocol::RenameRegionRequest& request) {
     auto& regions = connection_.table<RegionTable>();
     const auto region = regions.find(request.kind, request.regionId);
-    if (!region)
+    if (!region) {
         return refuse(u"The region does not exist any more.");
-    if (const auto refused = refuseName(regions, request.kind, region->parentId, request.name, region->id))
+    }
+    if (const auto refused = refuseName(regions, request.kind, region->parentId, request.name, region->id)) {
         return *refused;
+    }
     regions.rename(region->id, request.name);
     return done();
 }
@@ -66,14 +74,18 @@ StatusReply RegionService::rename(const protocol::RenameRegionRequest& request) 
 StatusReply RegionService::move(const protocol::MoveRegionRequest& request) {
     auto& regions = connection_.table<RegionTable>();
     const auto region = regions.find(request.kind, request.regionId);
-    if (!region)
+    if (!region) {
         return refuse(u"The region does not exist any more.");
-    if (request.parentId != 0 && !regions.find(request.kind, request.parentId))
+    }
+    if (request.parentId != 0 && !regions.find(request.kind, request.parentId)) {
         return refuse(u"The region to move to does not exist any more.");
-    if (request.parentId != 0 && regions.isWithin(request.kind, request.parentId, region->id))
+    }
+    if (request.parentId != 0 && regions.isWithin(request.kind, request.parentId, region->id)) {
         return refuse(u"A region cannot be moved below itself.");
-    if (regions.nameTaken(request.kind, request.parentId, region->name, region->id))
+    }
+    if (regions.nameTaken(request.kind, request.parentId, region->name, region->id)) {
         return refuse(u"There is a region named " + quoted(region->name) + u" there already.");
+    }
     regions.move(region->id, request.parentId);
     return done();
 }
@@ -81,12 +93,15 @@ StatusReply RegionService::move(const protocol::MoveRegionRequest& request) {
 StatusReply RegionService::remove(const protocol::DeleteRegionRequest& request) {
     auto& regions = connection_.table<RegionTable>();
     const auto region = regions.find(request.kind, request.regionId);
-    if (!region)
+    if (!region) {
         return refuse(u"The region does not exist any more.");
-    if (regions.hasRegions(request.kind, region->id))
+    }
+    if (regions.hasRegions(request.kind, region->id)) {
         return refuse(u"The region " + quoted(region->name) + u" still holds regions.");
-    if (regions.hasRecords(request.kind, region->id))
+    }
+    if (regions.hasRecords(request.kind, region->id)) {
         return refuse(u"The region " + quoted(region->name) + u" still holds printers or queues.");
+    }
     regions.remove(region->id);
     return done();
 }

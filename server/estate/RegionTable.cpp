@@ -34,8 +34,9 @@ RegionTable::RegionTable(sqlite3* connection)
 
 std::optional<protocol::RegionRecord> RegionTable::find(std::uint8_t kind, std::int32_t id) {
     auto rows = find_.run(id, kind);
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     return protocol::RegionRecord{.name = rows.wide(0),
                                   .id = static_cast<std::int32_t>(rows.number(1)),
                                   .parentId = static_cast<std::int32_t>(rows.number(2))};
@@ -49,8 +50,9 @@ bool RegionTable::nameTaken(std::uint8_t kind, std::int32_t parentId, const wire
 bool RegionTable::isWithin(std::uint8_t kind, std::int32_t id, std::int32_t other) {
     while (id != other) {
         auto rows = parentOf_.run(id, kind);
-        if (!rows.next() || rows.isNull(0))
+        if (!rows.next() || rows.isNull(0)) {
             return false;
+        }
         id = static_cast<std::int32_t>(rows.number(0));
     }
     return true;

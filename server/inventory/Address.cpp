@@ -15,8 +15,9 @@ constexpr std::uint8_t hostMark = 0xFF;
 
 std::string trimmed(std::string_view text) {
     const auto from = text.find_first_not_of(blanks);
-    if (from == std::string_view::npos)
+    if (from == std::string_view::npos) {
         return {};
+    }
     return std::string(text.substr(from, text.find_last_not_of(blanks) - from + 1));
 }
 
@@ -28,20 +29,24 @@ char lower(char letter) {
 
 std::optional<Address> parseAddress(std::string_view text) {
     const auto word = trimmed(text);
-    if (word.find('\0') != std::string::npos)
+    if (word.find('\0') != std::string::npos) {
         return std::nullopt;
+    }
     Address address{};
-    if (::inet_pton(AF_INET6, word.c_str(), address.data()) == 1)
+    if (::inet_pton(AF_INET6, word.c_str(), address.data()) == 1) {
         return address;
+    }
     address[version4At - 2] = address[version4At - 1] = 0xFF;
-    if (::inet_pton(AF_INET, word.c_str(), address.data() + version4At) == 1)
+    if (::inet_pton(AF_INET, word.c_str(), address.data() + version4At) == 1) {
         return address;
+    }
     return std::nullopt;
 }
 
 std::optional<Address> parseAddress(std::u16string_view text) {
-    if (std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit > 0x7F; }))
+    if (std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit > 0x7F; })) {
         return std::nullopt;
+    }
     return parseAddress(std::string(text.begin(), text.end()));
 }
 
@@ -51,11 +56,13 @@ bool isVersion4(const Address& address) {
 }
 
 Bytes addressKey(std::string_view text) {
-    if (const auto address = parseAddress(text))
+    if (const auto address = parseAddress(text)) {
         return {address->begin(), address->end()};
+    }
     const auto word = trimmed(text);
-    if (word.empty())
+    if (word.empty()) {
         return {};
+    }
     Bytes key(1, hostMark);
     std::transform(word.begin(), word.end(), std::back_inserter(key),
                    [](char letter) { return static_cast<std::uint8_t>(lower(letter)); });

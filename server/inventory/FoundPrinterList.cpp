@@ -18,8 +18,9 @@ namespace range = protocol::rangeType;
 // A wide text as an SQL literal: the bytes of its units.
 std::string wideLiteral(std::u16string_view text) {
     std::string literal = "x'";
-    for (const char16_t unit : text)
+    for (const char16_t unit : text) {
         literal += fmt::format("{:02x}{:02x}", unit & 0xFFU, static_cast<unsigned>(unit) >> 8U);
+    }
     return literal + "'";
 }
 
@@ -84,16 +85,18 @@ FoundPrinterList::Kind* FoundPrinterList::kindOf(std::uint16_t listKind) {
 
 Listing FoundPrinterList::list(std::uint16_t listKind, std::int64_t report) {
     auto* const kind = kindOf(listKind);
-    if (kind == nullptr)
+    if (kind == nullptr) {
         return {};
+    }
     auto count = kind->all.count.run(report);
     return {.count = count.next() ? count.number(0) : 0, .rows = kind->all.rows.run(report)};
 }
 
 Listing FoundPrinterList::filter(std::uint16_t listKind, std::int64_t report, const NamePattern& pattern) {
     auto* const kind = kindOf(listKind);
-    if (kind == nullptr)
+    if (kind == nullptr) {
         return {};
+    }
     auto count = kind->filtered.count.run(report, pattern.key());
     return {.count = count.next() ? count.number(0) : 0, .rows = kind->filtered.rows.run(report, pattern.key())};
 }

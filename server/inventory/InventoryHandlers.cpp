@@ -29,12 +29,15 @@ Table& matchingTable(StoreConnection& connection) {
 
 Listing listSchemas(StoreConnection& connection, const protocol::ListSchemasRequest& request) {
     auto& plans = connection.table<MigrationPlanTable>();
-    if (request.listKind == protocol::schemaListKind::one)
+    if (request.listKind == protocol::schemaListKind::one) {
         return plans.find(request.id);
-    if (request.listKind != protocol::schemaListKind::all)
+    }
+    if (request.listKind != protocol::schemaListKind::all) {
         return {};
-    if (request.id.empty())
+    }
+    if (request.id.empty()) {
         return plans.list();
+    }
     const auto report = connection.table<ReportTable>().find(request.id);
     return report ? plans.listOfReport(*report) : Listing();
 }
@@ -56,16 +59,18 @@ Listing listModels(StoreConnection& connection, const protocol::ListInventoryMod
 Listing listPrinters(StoreConnection& connection, const protocol::ListInventoryPrintersRequest& request) {
     auto& reports = connection.table<ReportTable>();
     auto& printers = matchingTable<FoundPrinterList>(connection);
-    if (const auto report = reports.find(request.id))
+    if (const auto report = reports.find(request.id)) {
         return printers.list(request.listKind, *report);
+    }
     const auto newest = reports.newest();
     return newest ? printers.filter(request.listKind, *newest, NamePattern(wire::toWide(request.id))) : Listing();
 }
 
 Listing listRanges(StoreConnection& connection, const protocol::ListIpRangesRequest& request) {
     auto& ranges = connection.table<IpRangeTable>();
-    if (request.listKind == protocol::rangeListKind::all)
+    if (request.listKind == protocol::rangeListKind::all) {
         return ranges.list();
+    }
     return request.listKind == protocol::rangeListKind::one ? ranges.find(request.id) : Listing();
 }
 

@@ -101,8 +101,9 @@ private:
     void addPrinters() {
         auto own = connection_.table<OwnDevices>().all();
         for (int number = 0; number < wanted_; ++number) {
-            if (number % printersOnServer == 0)
+            if (number % printersOnServer == 0) {
                 addServer(number / printersOnServer);
+            }
             OldPrinter printer;
             printer.lastSeen = someDay();
             switch (number % 6) {
@@ -179,10 +180,12 @@ private:
 
     void addWithClients(const OldPrinter& printer, std::uint32_t others) {
         const auto number = oldEstate_.addPrinter(printer);
-        if (printer.workstation != 0)
+        if (printer.workstation != 0) {
             oldEstate_.addUse(number, printer.workstation);
-        for (std::uint32_t client = 0; client < others; ++client)
+        }
+        for (std::uint32_t client = 0; client < others; ++client) {
             oldEstate_.addUse(number, random_.anyOf(workstations_));
+        }
     }
 
     void addRange(const std::u16string& name, const std::u16string& first, const std::u16string& last,
@@ -218,8 +221,9 @@ private:
         for (auto queues = connection_.table<SomeQueues>().first(plans_ - 2); queues.next(); ++number) {
             SchemaRecord plan = newPlan(u"Move " + queues.wide(1), actions[static_cast<std::size_t>(number) % 4]);
             plan.oldIp = queues.text(2);
-            if (number % 3 == 0)
+            if (number % 3 == 0) {
                 plan.oldModelName = queues.wide(3);
+            }
             if (plan.action == protocol::schemaAction::reinstall) {
                 plan.newQueueId = queues.text(0);
                 plan.newPrinterName = queues.wide(1);

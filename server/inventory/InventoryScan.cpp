@@ -23,8 +23,9 @@ struct ModelTally {
 };
 
 bool isOfKind(std::uint16_t reportType, bool local, bool shared) {
-    if (reportType == protocol::reportType::onlyLocal)
+    if (reportType == protocol::reportType::onlyLocal) {
         return local;
+    }
     return reportType != protocol::reportType::onlyShared || shared;
 }
 
@@ -42,18 +43,23 @@ void InventoryScan::run(const protocol::InventoryReportRecord& report, const IpS
         FoundPrinter found;
         found.local = rows.number(7) != 0;
         found.printerIp = rows.text(2);
-        if (!isOfKind(report.reportType, found.local, rows.number(8) != 0))
+        if (!isOfKind(report.reportType, found.local, rows.number(8) != 0)) {
             continue;
+        }
         // A printer without its own address is at the address of its host.
         const auto address = parseAddress(found.printerIp.empty() ? rows.text(10) : rows.text(2));
-        if (!scope.covers(address))
+        if (!scope.covers(address)) {
             continue;
-        if (address)
+        }
+        if (address) {
             found.rangeType = ranges.at(*address);
-        if (found.rangeType == protocol::rangeType::ignore)
+        }
+        if (found.rangeType == protocol::rangeType::ignore) {
             continue;
-        if (report.reportType == protocol::reportType::onlyMapped && !own.anyAt(found.printerIp))
+        }
+        if (report.reportType == protocol::reportType::onlyMapped && !own.anyAt(found.printerIp)) {
             continue;
+        }
         found.entryId = newId_();
         found.windowsName = rows.wide(1);
         found.printerPort = rows.text(3);
@@ -65,12 +71,14 @@ void InventoryScan::run(const protocol::InventoryReportRecord& report, const IpS
         found.clientCount = static_cast<std::int64_t>(clients.size());
         reports.addPrinter(number, found);
         auto& tally = models[nameKey(found.model)];
-        if (tally.queues++ == 0)
+        if (tally.queues++ == 0) {
             tally.name = found.model;
+        }
         tally.clients.insert(clients.begin(), clients.end());
     }
-    for (const auto& [key, tally] : models)
+    for (const auto& [key, tally] : models) {
         reports.addModel(number, key, tally.name, tally.queues, static_cast<std::int64_t>(tally.clients.size()));
+    }
 }
 
 } // namespace server

@@ -25,17 +25,21 @@ StatusReply doneIf(bool isThere) {
 // A range that does not span addresses yet may be stored.
 std::optional<StatusReply> refuse(const IpRangeRecord& range) {
     for (const auto& text : {range.startIp, range.endIp}) {
-        if (text.find_first_not_of(u" \t\r\n") != wire::WideString::npos && !parseAddress(text))
+        if (text.find_first_not_of(u" \t\r\n") != wire::WideString::npos && !parseAddress(text)) {
             return notSaved(quoted(text) + u" is not an address.");
+        }
     }
     if (const auto block = blockOf(range)) {
-        if (isVersion4(block->first) != isVersion4(block->last))
+        if (isVersion4(block->first) != isVersion4(block->last)) {
             return notSaved(u"The two ends of an IP range must be addresses of one kind.");
-        if (block->last < block->first)
+        }
+        if (block->last < block->first) {
             return notSaved(u"The IP range ends before it begins.");
+        }
     }
-    if (frameDataSize(range) > largestReceivableFrame)
+    if (frameDataSize(range) > largestReceivableFrame) {
         return notSaved(u"The texts of this IP range are too long to be sent back in one piece.");
+    }
     return std::nullopt;
 }
 
@@ -44,11 +48,13 @@ std::optional<StatusReply> refuse(const IpRangeRecord& range) {
 StatusReply IpRangeService::change(const protocol::ChangeIpRangeRequest& request) {
     auto& ranges = connection_.table<IpRangeTable>();
     auto range = request.range;
-    if (request.operation == rangeOperation::add)
+    if (request.operation == rangeOperation::add) {
         range.rangeId = wire::toText(wire::randomUuid());
+    }
     if (request.operation == rangeOperation::add || request.operation == rangeOperation::save) {
-        if (const auto refused = refuse(range))
+        if (const auto refused = refuse(range)) {
             return *refused;
+        }
     }
     switch (request.operation) {
     case rangeOperation::add:

@@ -28,8 +28,9 @@ Address addressIn(std::span<const std::uint8_t> bytes) {
 std::optional<AddressBlock> blockOf(const IpRangeRecord& range) {
     const auto first = parseAddress(range.startIp);
     const auto last = parseAddress(range.endIp);
-    if (!first && !last)
+    if (!first && !last) {
         return std::nullopt;
+    }
     return AddressBlock{.first = first ? *first : *last, .last = last ? *last : *first};
 }
 
@@ -78,9 +79,10 @@ bool IpRangeTable::setActive(const std::string& rangeId, bool active) {
 
 std::vector<ActiveRange> IpRangeTable::active() {
     std::vector<ActiveRange> ranges;
-    for (auto rows = active_.run(); rows.next();)
+    for (auto rows = active_.run(); rows.next();) {
         ranges.push_back({.block = {.first = addressIn(rows.bytes(0)), .last = addressIn(rows.bytes(1))},
                           .rangeType = static_cast<std::int32_t>(rows.number(2))});
+    }
     return ranges;
 }
 

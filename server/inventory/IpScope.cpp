@@ -16,8 +16,9 @@ std::string closeUpDashes(std::string_view text) {
     std::string closed;
     for (std::size_t index = 0; index < text.size(); ++index) {
         if (text[index] == '-') {
-            while (!closed.empty() && closed.back() == ' ')
+            while (!closed.empty() && closed.back() == ' ') {
                 closed.pop_back();
+            }
             index = std::min(text.find_first_not_of(' ', index + 1), text.size()) - 1;
             closed += '-';
         } else {
@@ -30,8 +31,9 @@ std::string closeUpDashes(std::string_view text) {
 std::optional<AddressBlock> fromEnds(std::string_view first, std::string_view last) {
     const auto from = parseAddress(first);
     const auto to = parseAddress(last);
-    if (!from || !to || isVersion4(*from) != isVersion4(*to) || *to < *from)
+    if (!from || !to || isVersion4(*from) != isVersion4(*to) || *to < *from) {
         return std::nullopt;
+    }
     return AddressBlock{*from, *to};
 }
 
@@ -39,10 +41,12 @@ std::optional<AddressBlock> fromPrefix(std::string_view text, std::string_view l
     const auto address = parseAddress(text);
     unsigned bits = 0;
     const auto [end, error] = std::from_chars(length.data(), length.data() + length.size(), bits);
-    if (!address || error != std::errc{} || end != length.data() + length.size())
+    if (!address || error != std::errc{} || end != length.data() + length.size()) {
         return std::nullopt;
-    if (bits > (isVersion4(*address) ? addressBits - bitsBeforeVersion4 : addressBits))
+    }
+    if (bits > (isVersion4(*address) ? addressBits - bitsBeforeVersion4 : addressBits)) {
         return std::nullopt;
+    }
     bits += isVersion4(*address) ? bitsBeforeVersion4 : 0;
     AddressBlock block{*address, *address};
     for (unsigned bit = bits; bit < addressBits; ++bit) {
@@ -61,8 +65,9 @@ std::optional<AddressBlock> fromStars(std::string_view text) {
     for (int part = 0; part < 4; ++part) {
         const auto dot = std::min(text.find('.'), text.size());
         const auto word = text.substr(0, dot);
-        if (starred ? word != "*" && !word.empty() : word.empty())
+        if (starred ? word != "*" && !word.empty() : word.empty()) {
             return std::nullopt;
+        }
         starred = starred || word == "*";
         first.append(part == 0 ? "" : ".").append(starred ? "0" : word);
         last.append(part == 0 ? "" : ".").append(starred ? "255" : word);
@@ -72,12 +77,15 @@ std::optional<AddressBlock> fromStars(std::string_view text) {
 }
 
 std::optional<AddressBlock> parseBlock(std::string_view word) {
-    if (const auto dash = word.find('-'); dash != std::string_view::npos)
+    if (const auto dash = word.find('-'); dash != std::string_view::npos) {
         return fromEnds(word.substr(0, dash), word.substr(dash + 1));
-    if (const auto slash = word.find('/'); slash != std::string_view::npos)
+    }
+    if (const auto slash = word.find('/'); slash != std::string_view::npos) {
         return fromPrefix(word.substr(0, slash), word.substr(slash + 1));
-    if (word.find('*') != std::string_view::npos)
+    }
+    if (word.find('*') != std::string_view::npos) {
         return fromStars(word);
+    }
     return fromEnds(word, word);
 }
 
@@ -89,8 +97,9 @@ std::optional<IpScope> IpScope::parse(std::string_view text) {
     for (std::size_t from = closed.find_first_not_of(separators); from != std::string::npos;) {
         const auto to = std::min(closed.find_first_of(separators, from), closed.size());
         const auto block = parseBlock(std::string_view(closed).substr(from, to - from));
-        if (!block)
+        if (!block) {
             return std::nullopt;
+        }
         scope.blocks_.push_back(*block);
         from = closed.find_first_not_of(separators, to);
     }

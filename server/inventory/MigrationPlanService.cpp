@@ -26,17 +26,22 @@ StatusReply doneIfThere(bool isThere) {
 StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& request) {
     auto& plans = connection_.table<MigrationPlanTable>();
     auto plan = request.schema;
-    if (request.operation == planOperation::remove)
+    if (request.operation == planOperation::remove) {
         return doneIfThere(plans.remove(plan.schemaId));
-    if (request.operation == planOperation::create)
+    }
+    if (request.operation == planOperation::create) {
         plan.schemaId = wire::toText(wire::randomUuid());
+    }
     // A plan outlives its queue and then goes by the queue's name.
-    if (!plans.isQueue(plan.newQueueId))
+    if (!plans.isQueue(plan.newQueueId)) {
         plan.newQueueId = plans.queueNamed(plan.newPrinterName).value_or(std::string());
-    if (frameDataSize(plan) > largestReceivableFrame)
+    }
+    if (frameDataSize(plan) > largestReceivableFrame) {
         return planNotSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
-    if (request.operation != planOperation::create)
+    }
+    if (request.operation != planOperation::create) {
         return doneIfThere(plans.update(plan));
+    }
     plans.insert(plan);
     return done();
 }

@@ -43,8 +43,9 @@ MigrationPlanTable::MigrationPlanTable(sqlite3* connection)
 int MigrationPlanTable::bindAll(Query& query, const SchemaRecord& plan) {
     constexpr int queueAt = 4;
     int index = bindFields(query, plan);
-    if (plan.newQueueId.empty())
+    if (plan.newQueueId.empty()) {
         query.bind(queueAt, nullptr);
+    }
     const auto address = addressKey(plan.oldIp);
     query.bind(index++, nameKey(plan.schemaName));
     query.bind(index++, address);
@@ -77,8 +78,9 @@ bool MigrationPlanTable::isQueue(const std::string& id) {
 
 std::optional<std::string> MigrationPlanTable::queueNamed(const wire::WideString& name) {
     auto rows = queueNamed_.run(nameKey(name));
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     std::string id(rows.text(0));
     return rows.next() ? std::nullopt : std::optional(std::move(id));
 }

@@ -53,8 +53,9 @@ bool fits(const Units& name, const Units& pattern) {
             return false;
         }
     }
-    while (inPattern < pattern.size() && pattern[inPattern] == u'*')
+    while (inPattern < pattern.size() && pattern[inPattern] == u'*') {
         ++inPattern;
+    }
     return inPattern == pattern.size();
 }
 
@@ -80,8 +81,9 @@ void matchNames(sqlite3_context* context, int, sqlite3_value** values) noexcept 
 
 NamePattern::NamePattern(std::u16string_view typed) {
     const auto text = trimmed(typed);
-    if (text.empty())
+    if (text.empty()) {
         return;
+    }
     const bool isPiece = text.find_first_of(u"*?") == std::u16string_view::npos;
     pattern_ = nameKey(isPiece ? u"*" + std::u16string(text) + u"*" : std::u16string(text));
 }
@@ -94,8 +96,9 @@ NameMatching::NameMatching(sqlite3* connection) {
     const int code =
         sqlite3_create_function_v2(connection, "nameMatches", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS,
                                    nullptr, &matchNames, nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK)
+    if (code != SQLITE_OK) {
         throw StoreError::fromCode(code, sqlite3_errmsg(connection));
+    }
 }
 
 } // namespace server

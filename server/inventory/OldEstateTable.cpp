@@ -52,8 +52,9 @@ void OldEstateTable::addUse(std::int64_t printer, std::int64_t workstation) {
 
 std::vector<std::int64_t> OldEstateTable::clientsOf(std::int64_t printer) {
     std::vector<std::int64_t> clients;
-    for (auto rows = clients_.run(printer); rows.next();)
+    for (auto rows = clients_.run(printer); rows.next();) {
         clients.push_back(rows.number(0));
+    }
     return clients;
 }
 

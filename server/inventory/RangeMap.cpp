@@ -29,8 +29,9 @@ bool forces(std::int32_t rangeType) {
 // Empty after the last possible address.
 std::optional<Address> next(Address address) {
     for (std::size_t index = address.size(); index-- > 0;) {
-        if (++address[index] != 0)
+        if (++address[index] != 0) {
             return address;
+        }
     }
     return std::nullopt;
 }
@@ -44,15 +45,17 @@ std::vector<ActiveRange> inOrder(const std::vector<ActiveRange>& ranges) {
     };
     std::vector<Ranked> ranked;
     ranked.reserve(ranges.size());
-    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range)
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
         ranked.push_back({.isWeak = !forces(range->rangeType), .width = widthOf(range->block), .range = *range});
+    }
     std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked& left, const Ranked& right) {
         return std::tie(left.isWeak, left.width) < std::tie(right.isWeak, right.width);
     });
     std::vector<ActiveRange> ordered;
     ordered.reserve(ranked.size());
-    for (const auto& one : ranked)
+    for (const auto& one : ranked) {
         ordered.push_back(one.range);
+    }
     return ordered;
 }
 
@@ -67,17 +70,20 @@ RangeMap::RangeMap(const std::vector<ActiveRange>& ranges) {
     std::map<Address, Events> events;
     for (std::size_t rank = 0; rank < ordered.size(); ++rank) {
         events[ordered[rank].block.first].begin.push_back(rank);
-        if (const auto behind = next(ordered[rank].block.last))
+        if (const auto behind = next(ordered[rank].block.last)) {
             events[*behind].end.push_back(rank);
+        }
     }
     std::set<std::size_t> open;
     for (const auto& [address, event] : events) {
         open.insert(event.begin.begin(), event.begin.end());
-        for (const auto rank : event.end)
+        for (const auto rank : event.end) {
             open.erase(rank);
+        }
         stretches_.push_back({.first = address, .rangeType = {}});
-        if (!open.empty())
+        if (!open.empty()) {
             stretches_.back().rangeType = ordered[*open.begin()].rangeType;
+        }
     }
 }
 

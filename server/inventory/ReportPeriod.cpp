@@ -42,14 +42,17 @@ bool readThree(std::istream& in, char separator, int& first, int& second, int& t
 std::optional<std::string> parseDate(wire::WideStringView text, const char* ifEmpty, Time time) {
     std::istringstream in(wire::toUtf8(text));
     in >> std::ws;
-    if (in.eof())
+    if (in.eof()) {
         return ifEmpty;
+    }
     Day day;
-    if (!readThree(in, '-', day.year, day.month, day.day) || !day.exists())
+    if (!readThree(in, '-', day.year, day.month, day.day) || !day.exists()) {
         return std::nullopt;
+    }
     in >> std::ws;
-    if (!in.eof() && !(readThree(in, ':', time.hour, time.minute, time.second) && time.exists()))
+    if (!in.eof() && !(readThree(in, ':', time.hour, time.minute, time.second) && time.exists())) {
         return std::nullopt;
+    }
     return fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}", day.year, day.month, day.day, time.hour, time.minute,
                        time.second);
 }
@@ -59,8 +62,9 @@ std::optional<std::string> parseDate(wire::WideStringView text, const char* ifEm
 std::optional<ReportPeriod> ReportPeriod::parse(wire::WideStringView from, wire::WideStringView to) {
     auto first = parseDate(from, earliest, {.hour = 0, .minute = 0, .second = 0});
     auto last = parseDate(to, latest, {.hour = 23, .minute = 59, .second = 59});
-    if (!first || !last)
+    if (!first || !last) {
         return std::nullopt;
+    }
     return ReportPeriod{std::move(*first), std::move(*last)};
 }
 

@@ -36,18 +36,23 @@ StatusReply notMade(const wire::WideString& text) {
 } // namespace
 
 StatusReply ReportService::create(const protocol::CreateInventoryReportRequest& request) {
-    if (request.reportName.empty() || request.reportName.front() == u'\0')
+    if (request.reportName.empty() || request.reportName.front() == u'\0') {
         return notMade(u"A report needs a name.");
-    if (request.reportType > protocol::reportType::onlyShared)
+    }
+    if (request.reportType > protocol::reportType::onlyShared) {
         return notMade(u"There is no report of this type.");
+    }
     const auto scope = IpScope::parse(request.ipScope);
-    if (!scope)
+    if (!scope) {
         return notMade(u"The IP scope " + quoted(wire::toWide(request.ipScope)) + u" cannot be understood.");
+    }
     const auto period = ReportPeriod::parse(request.dateFrom, request.dateTo);
-    if (!period)
+    if (!period) {
         return notMade(u"The period of the report has a date that cannot be understood.");
-    if (period->isBackwards())
+    }
+    if (period->isBackwards()) {
         return notMade(u"The period of the report ends before it begins.");
+    }
     const protocol::InventoryReportRecord report{.reportId = newId(),
                                                  .reportDate = now(),
                                                  .reportUser = request.reportUser,
@@ -55,8 +60,9 @@ StatusReply ReportService::create(const protocol::CreateInventoryReportRequest& 
                                                  .comment = request.comment,
                                                  .ipScope = wire::toWide(request.ipScope),
                                                  .reportType = request.reportType};
-    if (frameDataSize(report) > largestReceivableFrame)
+    if (frameDataSize(report) > largestReceivableFrame) {
         return notMade(u"The texts of this report are too long to be sent back in one piece.");
+    }
     InventoryScan(connection_, newId).run(report, *scope, *period);
     return done();
 }

@@ -14,8 +14,9 @@ AccountTable::AccountTable(sqlite3* connection)
 
 std::optional<PasswordHash> AccountTable::find(const std::u16string& name) {
     auto rows = find_.run(nameKey(name));
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     PasswordHash found;
     const auto salt = rows.bytes(0);
     found.salt.assign(salt.begin(), salt.end());
@@ -31,8 +32,9 @@ void AccountTable::save(const std::u16string& name, const PasswordHash& password
 
 std::optional<Bytes> AccountTable::privateKey() {
     auto rows = key_.run();
-    if (!rows.next())
+    if (!rows.next()) {
         return std::nullopt;
+    }
     const auto der = rows.bytes(0);
     return Bytes(der.begin(), der.end());
 }

@@ -12,8 +12,9 @@ Accounts::Accounts(const Store& store)
 
 void Accounts::save(const std::u16string& name, const std::u16string& password) {
     const auto kept = table_.find(name);
-    if (!kept || !kept->matches(password))
+    if (!kept || !kept->matches(password)) {
         table_.save(name, PasswordHash::of(password));
+    }
 }
 
 Bytes Accounts::publicKey() {
@@ -34,8 +35,9 @@ const LoginKey& Accounts::key() {
 
 // A password that nobody has, to compare with when there is no such account.
 const PasswordHash& Accounts::nobody() {
-    if (!nobody_)
+    if (!nobody_) {
         nobody_ = PasswordHash{.salt = randomBytes(16), .hash = randomBytes(32)};
+    }
     return *nobody_;
 }
 
@@ -44,10 +46,12 @@ const PasswordHash& Accounts::nobody() {
 bool Accounts::matches(const PasswordHash& account, const std::u16string& password) {
     const auto proof = authenticationCode(proofKey_, account.hash, password);
     const auto known = proofs_.find(account.hash);
-    if (known != proofs_.end() && equalInConstantTime(known->second, proof))
+    if (known != proofs_.end() && equalInConstantTime(known->second, proof)) {
         return true;
-    if (!account.matches(password))
+    }
+    if (!account.matches(password)) {
         return false;
+    }
     proofs_[account.hash] = proof;
     return true;
 }

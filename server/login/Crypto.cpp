@@ -9,23 +9,26 @@
 namespace server {
 
 void require(int result, const char* step) {
-    if (result != CRYPT_OK)
+    if (result != CRYPT_OK) {
         throw std::runtime_error(std::string(step) + ": " + error_to_string(result));
+    }
 }
 
 void initCrypto() {
     static std::once_flag once;
     std::call_once(once, [] {
         ltc_mp = ltm_desc;
-        if (register_prng(&sprng_desc) < 0 || register_hash(&sha256_desc) < 0)
+        if (register_prng(&sprng_desc) < 0 || register_hash(&sha256_desc) < 0) {
             throw std::runtime_error("the cryptographic library cannot be set up");
+        }
     });
 }
 
 Bytes randomBytes(std::size_t count) {
     Bytes bytes(count);
-    if (rng_get_bytes(bytes.data(), static_cast<unsigned long>(count), nullptr) != count)
+    if (rng_get_bytes(bytes.data(), static_cast<unsigned long>(count), nullptr) != count) {
         throw std::runtime_error("the system gives no random numbers");
+    }
     return bytes;
 }
 

@@ -21,14 +21,17 @@ constexpr std::size_t shortestPadding = 8;
 std::optional<std::u16string> textIn(std::span<const std::uint8_t> block) {
     const auto end = std::find(block.begin() + paddingBegin, block.end(), std::uint8_t{0});
     const auto padding = static_cast<std::size_t>(end - block.begin()) - paddingBegin;
-    if (block[0] != 0 || block[1] != 2 || end == block.end() || padding < shortestPadding)
+    if (block[0] != 0 || block[1] != 2 || end == block.end() || padding < shortestPadding) {
         return std::nullopt;
+    }
     const auto bytes = block.subspan(paddingBegin + padding + 1);
-    if (bytes.size() % 2 != 0)
+    if (bytes.size() % 2 != 0) {
         return std::nullopt;
+    }
     std::u16string text(bytes.size() / 2, u'\0');
-    if (!text.empty())
+    if (!text.empty()) {
         std::memcpy(text.data(), bytes.data(), bytes.size());
+    }
     return text;
 }
 
@@ -41,8 +44,9 @@ struct LoginKey::Key {
     Key(const Key&) = delete;
     Key& operator=(const Key&) = delete;
     ~Key() {
-        if (made)
+        if (made) {
             rsa_free(&rsa);
+        }
     }
 };
 
@@ -64,8 +68,9 @@ LoginKey LoginKey::fromPrivateDer(std::span<const std::uint8_t> der) {
     auto key = std::make_unique<Key>();
     require(rsa_import(der.data(), static_cast<unsigned long>(der.size()), &key->rsa), "reading the login key");
     key->made = true;
-    if (key->rsa.type != PK_PRIVATE)
+    if (key->rsa.type != PK_PRIVATE) {
         throw std::runtime_error("reading the login key: it has no private half");
+    }
     return LoginKey(std::move(key));
 }
 
@@ -91,8 +96,9 @@ std::optional<std::u16string> LoginKey::unseal(std::span<const std::uint8_t> sea
     auto size = static_cast<unsigned long>(padded.size());
     std::optional<std::u16string> text;
     if (sealed.size() == modulusBytes && rsa_exptmod(sealed.data(), static_cast<unsigned long>(sealed.size()),
-                                                     padded.data(), &size, PK_PRIVATE, &key_->rsa) == CRYPT_OK)
+                                                     padded.data(), &size, PK_PRIVATE, &key_->rsa) == CRYPT_OK) {
         text = textIn(padded);
+    }
     zeromem(padded.data(), padded.size());
     return text;
 }

@@ -26,14 +26,16 @@ asio::awaitable<std::span<const std::uint8_t>> PeerStream::take(std::size_t coun
     expect(time);
     while (buffered() < count) {
         const std::size_t wanted = std::min(count - buffered(), largestRead);
-        if (input_.size() - end_ < wanted)
+        if (input_.size() - end_ < wanted) {
             input_.resize(std::max(end_ + wanted, smallestInput));
+        }
         error_code error;
         const std::size_t got = co_await socket_.async_read_some(
             asio::buffer(input_.data() + end_, input_.size() - end_), asio::redirect_error(asio::use_awaitable, error));
-        if (error)
+        if (error) {
             throw Dropped(dropReason_ != nullptr ? dropReason_
                                                  : "it went away before its request was there as a whole");
+        }
         end_ += got;
     }
     deadline_ = Clock::time_point::max();
@@ -49,8 +51,9 @@ asio::awaitable<void> PeerStream::send(std::span<const std::uint8_t> bytes, std:
     co_await asio::async_write(socket_, asio::buffer(bytes.data(), bytes.size()),
                                asio::redirect_error(asio::use_awaitable, error));
     sendingSince_ = Clock::time_point::max();
-    if (error)
+    if (error) {
         throw Dropped(dropReason_ != nullptr ? dropReason_ : "it went away before it had its answer");
+    }
     deadline_ = Clock::time_point::max();
 }
 
@@ -59,14 +62,16 @@ void PeerStream::expect(std::chrono::milliseconds time) {
 }
 
 void PeerStream::dropIfLate(Clock::time_point now) {
-    if (now >= deadline_)
+    if (now >= deadline_) {
         drop("it kept the server waiting too long");
+    }
 }
 
 void PeerStream::endBy(Clock::time_point latest) {
     latest_ = latest;
-    if (deadline_ != Clock::time_point::max())
+    if (deadline_ != Clock::time_point::max()) {
         deadline_ = std::min(deadline_, latest);
+    }
 }
 
 bool PeerStream::hasUnread() const {
@@ -77,8 +82,9 @@ bool PeerStream::hasUnread() const {
 // Closing with unread bytes would reset the connection, and the peer could lose the end of its answer.
 void PeerStream::close() {
     error_code ignored;
-    for (int reads = 0; reads < mostLastReads && hasUnread(); ++reads)
+    for (int reads = 0; reads < mostLastReads && hasUnread(); ++reads) {
         socket_.read_some(asio::buffer(input_), ignored);
+    }
     socket_.close(ignored);
 }
 

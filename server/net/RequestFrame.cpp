@@ -25,11 +25,13 @@ RequestFrame parseRequestFrame(std::uint8_t count, std::span<const std::uint8_t>
     bool hasCommand = false;
     bool hasData = false;
     for (int index = 0; index < count; ++index) {
-        if (data.size() < wire::Message::headerSize)
+        if (data.size() < wire::Message::headerSize) {
             throw Dropped("the frame is shorter than its messages");
+        }
         const auto length = numberAt<std::uint32_t>(data, 1);
-        if (length < wire::Message::headerSize || length > data.size())
+        if (length < wire::Message::headerSize || length > data.size()) {
             throw Dropped("the length of a message does not fit its frame");
+        }
         const auto message = data.first(length);
         data = data.subspan(length);
         const auto kind = static_cast<wire::MessageKind>(message[0]);
@@ -44,10 +46,12 @@ RequestFrame parseRequestFrame(std::uint8_t count, std::span<const std::uint8_t>
             throw Dropped("a message of the frame does not belong there");
         }
     }
-    if (!hasCommand)
+    if (!hasCommand) {
         throw Dropped("the frame holds no command");
-    if (!data.empty())
+    }
+    if (!data.empty()) {
         throw Dropped("the frame is longer than its messages");
+    }
     return request;
 }
 

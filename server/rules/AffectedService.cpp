@@ -15,14 +15,18 @@ protocol::StatusReply AffectedService::write(const protocol::WriteAffectedReques
     auto& table = connection_.table<AffectedTable>();
     const protocol::AffectedRecord record{
         .id = request.id, .type = request.type, .equals = request.equals, .name = request.name};
-    if (const auto refused = refuseWrite(table, affectedWord, request.action, record))
+    if (const auto refused = refuseWrite(table, affectedWord, request.action, record)) {
         return *refused;
-    if (const auto refused = refuseName(affectedWord, record.name))
+    }
+    if (const auto refused = refuseName(affectedWord, record.name)) {
         return *refused;
-    if (record.type != protocol::affectedType::user && record.type != protocol::affectedType::group)
+    }
+    if (record.type != protocol::affectedType::user && record.type != protocol::affectedType::group) {
         return ruleRefused(u"Only users and groups can be affected.");
-    if (record.equals > protocol::affectedSense::is)
+    }
+    if (record.equals > protocol::affectedSense::is) {
         return ruleRefused(u"A user or group is affected or is not.");
+    }
     return store(table, request.action, record);
 }
 

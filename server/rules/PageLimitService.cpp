@@ -14,14 +14,19 @@ const wire::WideString limitWord = u"page limit";
 protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequest& request) {
     auto& limits = connection_.table<PageLimitTable>();
     const auto& limit = request.limit;
-    if (const auto refused = refuseWrite(limits, limitWord, request.action, limit))
+    if (const auto refused = refuseWrite(limits, limitWord, request.action, limit)) {
         return *refused;
-    if (const auto refused = refuseName(limitWord, limit.name))
+    }
+    if (const auto refused = refuseName(limitWord, limit.name)) {
         return *refused;
-    if (limit.color > protocol::limitedColor::last || limit.duplex > protocol::limitedDuplex::last || limit.enforce > 1)
+    }
+    if (limit.color > protocol::limitedColor::last || limit.duplex > protocol::limitedDuplex::last ||
+        limit.enforce > 1) {
         return ruleRefused(u"There is no such color, duplex or enforce of a page limit.");
-    if (limit.action > protocol::limitAction::last)
+    }
+    if (limit.action > protocol::limitAction::last) {
         return ruleRefused(u"There is no such action of a page limit.");
+    }
     return store(limits, request.action, limit);
 }
 

@@ -12,10 +12,12 @@ const wire::WideString planWord = u"price plan";
 const wire::WideString entryWord = u"price of the plan";
 
 Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
-    if (auto refused = refuseId(entryWord, entry.id))
+    if (auto refused = refuseId(entryWord, entry.id)) {
         return refused;
-    if (entry.kind > protocol::priceKind::last)
+    }
+    if (entry.kind > protocol::priceKind::last) {
         return ruleRefused(u"There is no such kind of price.");
+    }
     return refuseFrameSize(entryWord, frameDataSize(entry));
 }
 
@@ -23,15 +25,20 @@ Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
 
 protocol::StatusReply PricePlanService::write(const protocol::WritePricePlanRequest& request) {
     auto& plans = connection_.table<PricePlanTable>();
-    if (const auto refused = refuseWrite(plans, planWord, request.action, request.plan))
+    if (const auto refused = refuseWrite(plans, planWord, request.action, request.plan)) {
         return *refused;
-    if (const auto refused = refuseName(planWord, request.plan.name))
+    }
+    if (const auto refused = refuseName(planWord, request.plan.name)) {
         return *refused;
-    if (request.plan.payMethod > protocol::payMethod::last)
+    }
+    if (request.plan.payMethod > protocol::payMethod::last) {
         return ruleRefused(u"There is no such pay method.");
-    for (const auto& entry : request.entries)
-        if (const auto refused = refuseEntry(entry))
+    }
+    for (const auto& entry : request.entries) {
+        if (const auto refused = refuseEntry(entry)) {
             return *refused;
+        }
+    }
     store(plans, request.action, request.plan);
     connection_.table<PriceEntryTable>().replace(request.plan.id, request.entries);
     return done();

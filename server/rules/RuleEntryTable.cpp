@@ -18,8 +18,9 @@ std::string typeTextColumn() {
     std::string sql = "CASE type";
     for (const auto& [type, label] : entryType::labels) {
         sql += fmt::format(" WHEN {} THEN x'", type);
-        for (const char16_t unit : label)
+        for (const char16_t unit : label) {
             sql += fmt::format("{:02X}{:02X}", unit & 0xFF, unit >> 8);
+        }
         sql += "'";
     }
     return sql + " END";

@@ -26,10 +26,11 @@ using namespace protocol; // the requests and records
 // All records of a table, or the one whose id the request names.
 template <class Table, class Request>
 Listing listTable(StoreConnection& connection, const Request& request) {
-    if constexpr (requires { request.filter; })
+    if constexpr (requires { request.filter; }) {
         return connection.table<Table>().list(request.filter);
-    else
+    } else {
         return connection.table<Table>().list();
+    }
 }
 
 Listing listRuleEntries(StoreConnection& connection, const ListRuleEntriesRequest& request) {

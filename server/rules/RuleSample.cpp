@@ -82,8 +82,9 @@ private:
                                       .name = name});
             connection_.table<AffectedTable>().insert(made_.affected.back());
         };
-        for (const auto& group : ruleSample::departments)
+        for (const auto& group : ruleSample::departments) {
             add(2, u16string(group));
+        }
         const auto people = std::min<std::size_t>(12 + printers_ / 5, 30000);
         for (std::size_t index = 0; index < people; ++index) {
             const auto& first = ruleSample::firstNames[index % ruleSample::firstNames.size()];
@@ -124,10 +125,12 @@ private:
             limit.maxPages = word.maxPages;
             limit.action = word.action;
             limit.maxCost = word.maxCost;
-            if (word.action != 0 && word.action != 1)
+            if (word.action != 0 && word.action != 1) {
                 limit.messageId = random_.anyOf(made_.messages);
-            if (word.action == 3)
+            }
+            if (word.action == 3) {
                 limit.destinationId = queue;
+            }
             limit.enforce = static_cast<std::uint8_t>(random_.below(4) == 0 ? 0 : 1);
             connection_.table<PageLimitTable>().insert(limit);
             made_.limits.push_back(limit.id);
@@ -174,14 +177,18 @@ private:
                                   .validMinutes = {},
                                   .reservedMinutes = {},
                                   .reservedUntil = {}};
-            if (random_.below(3) == 0)
+            if (random_.below(3) == 0) {
                 shortId.messageId = random_.anyOf(made_.messages);
-            if (word.valid != 0)
+            }
+            if (word.valid != 0) {
                 shortId.validMinutes = word.valid;
-            if (word.reserved != 0)
+            }
+            if (word.reserved != 0) {
                 shortId.reservedMinutes = word.reserved;
-            if (word.untilHour >= 0)
+            }
+            if (word.untilHour >= 0) {
                 shortId.reservedUntil = std::int64_t{3600} * word.untilHour;
+            }
             connection_.table<ShortIdTable>().insert(shortId);
             made_.shortIds.push_back(wire::toText(shortId.id));
         });
@@ -193,9 +200,11 @@ private:
             const RuleGroupRecord group{
                 .id = random_.newId(), .name = name, .comment = u16string(word.comment), .extra1 = {}, .extra2 = {}};
             connection_.table<RuleGroupTable>().insert(group);
-            for (const auto& [type, label] : entryType::labels)
-                if (type != entryType::ruleGroup && (made_.groups.empty() || random_.below(3) == 0))
+            for (const auto& [type, label] : entryType::labels) {
+                if (type != entryType::ruleGroup && (made_.groups.empty() || random_.below(3) == 0)) {
                     place(type, {.groupId = group.id, .recordId = {}, .regionId = {}});
+                }
+            }
             made_.groups.push_back(group.id);
         });
     }
@@ -204,13 +213,17 @@ private:
         std::vector<std::string> chosen;
         {
             auto rows = connection_.table<SamplePlaces>().records.run();
-            for (std::size_t number = 0; rows.next(); ++number)
-                if (number % 5 == 0)
+            for (std::size_t number = 0; rows.next(); ++number) {
+                if (number % 5 == 0) {
                     chosen.emplace_back(rows.text(0));
+                }
+            }
         }
-        for (std::size_t index = 0; index < chosen.size(); ++index)
-            for (std::size_t count = 0; count <= index % 3; ++count)
+        for (std::size_t index = 0; index < chosen.size(); ++index) {
+            for (std::size_t count = 0; count <= index % 3; ++count) {
                 place(anyType(), {.groupId = {}, .recordId = chosen[index], .regionId = {}});
+            }
+        }
     }
 
     // All regions have a group, and the region 0 has the entries for everybody.
@@ -218,13 +231,15 @@ private:
         std::vector<std::int32_t> regions;
         {
             auto rows = connection_.table<SamplePlaces>().regions.run();
-            while (rows.next())
+            while (rows.next()) {
                 regions.push_back(static_cast<std::int32_t>(rows.number(0)));
+            }
         }
         for (const auto region : regions) {
             place(entryType::ruleGroup, {.groupId = {}, .recordId = {}, .regionId = region});
-            if (random_.below(2) == 0)
+            if (random_.below(2) == 0) {
                 place(anyType(), {.groupId = {}, .recordId = {}, .regionId = region});
+            }
         }
         place(entryType::pricePlan, {});
         place(entryType::parsePrintJob, {});
@@ -237,16 +252,18 @@ private:
         entry.type = type;
         entry.id = random_.newId();
         entry.name = u16string(ruleSample::entryNames[random_.below(ruleSample::entryNames.size())]);
-        if (random_.below(2) == 0)
+        if (random_.below(2) == 0) {
             entry.comment = u16string(ruleSample::entryComments[random_.below(ruleSample::entryComments.size())]);
-        if (type == entryType::ruleGroup)
+        }
+        if (type == entryType::ruleGroup) {
             entry.targetId = random_.anyOf(made_.groups);
-        else if (type == entryType::pageLimit)
+        } else if (type == entryType::pageLimit) {
             entry.targetId = random_.anyOf(made_.limits);
-        else if (type == entryType::pricePlan)
+        } else if (type == entryType::pricePlan) {
             entry.targetId = random_.anyOf(made_.plans);
-        else if (type == entryType::shortId)
+        } else if (type == entryType::shortId) {
             entry.targetId = random_.anyOf(made_.shortIds);
+        }
         if (type != entryType::ruleGroup && random_.below(3) != 0) {
             const auto& affected = random_.anyOf(made_.affected);
             entry.affectedId = affected.id;
@@ -258,9 +275,11 @@ private:
     // A queue that jobs can be moved to; empty in an estate without queues.
     [[nodiscard]] std::string someQueue() {
         auto rows = connection_.table<SamplePlaces>().records.run();
-        while (rows.next())
-            if (rows.number(1) != recordType::printer)
+        while (rows.next()) {
+            if (rows.number(1) != recordType::printer) {
                 return std::string(rows.text(0));
+            }
+        }
         return {};
     }
 

@@ -23,12 +23,15 @@ protocol::StatusReply ShortIdService::update(const protocol::UpdateShortIdReques
 
 protocol::StatusReply ShortIdService::write(std::uint8_t action, const protocol::ShortIdRecord& shortId) {
     auto& shortIds = connection_.table<ShortIdTable>();
-    if (const auto refused = refuseWrite(shortIds, shortIdWord, action, shortId))
+    if (const auto refused = refuseWrite(shortIds, shortIdWord, action, shortId)) {
         return *refused;
-    if (const auto refused = refuseName(shortIdWord, shortId.name))
+    }
+    if (const auto refused = refuseName(shortIdWord, shortId.name)) {
         return *refused;
-    if (shortId.reservedUntil && (*shortId.reservedUntil < 0 || *shortId.reservedUntil >= secondsOfDay))
+    }
+    if (shortId.reservedUntil && (*shortId.reservedUntil < 0 || *shortId.reservedUntil >= secondsOfDay)) {
         return ruleRefused(u"A short id is reserved until a time of the day.");
+    }
     return store(shortIds, action, shortId);
 }
 

@@ -26,27 +26,31 @@ using Refused = std::optional<protocol::StatusReply>;
 // Checks whether a record with this id can be added or updated, apart from its name and its values.
 template <class Table, protocol::Record R>
 [[nodiscard]] Refused refuseWrite(Table& table, const wire::WideString& word, std::uint8_t action, const R& record) {
-    if (auto refused = refuseId(word, record.id))
+    if (auto refused = refuseId(word, record.id)) {
         return refused;
-    if (auto refused = refuseFrameSize(word, frameDataSize(record)))
+    }
+    if (auto refused = refuseFrameSize(word, frameDataSize(record))) {
         return refused;
+    }
     return refuseAction(word, action, table.find(record.id).has_value());
 }
 
 // Adds the record, or replaces the one with its id.
 template <class Table, protocol::Record R>
 protocol::StatusReply store(Table& table, std::uint8_t action, const R& record) {
-    if (action == protocol::ruleWriteAction::add)
+    if (action == protocol::ruleWriteAction::add) {
         table.insert(record);
-    else
+    } else {
         table.update(record);
+    }
     return done();
 }
 
 template <class Table, class Id>
 protocol::StatusReply removeFrom(Table& table, const wire::WideString& word, const Id& id) {
-    if (!table.find(id))
+    if (!table.find(id)) {
         return isGone(word);
+    }
     table.remove(id);
     return done();
 }

@@ -22,10 +22,12 @@ std::string nameOf(std::uint16_t opcode) {
 
 void checkVersion(const RequestFrame& request) {
     const auto* command = protocol::findCommand(request.opcode);
-    if (command == nullptr)
+    if (command == nullptr) {
         throw BadRequest(nameOf(request.opcode) + " does not exist");
-    if (command->version != request.version)
+    }
+    if (command->version != request.version) {
         throw BadRequest(nameOf(request.opcode) + " came in version " + std::to_string(request.version));
+    }
 }
 
 } // namespace
@@ -52,11 +54,13 @@ asio::awaitable<void> Connection::serve() {
 asio::awaitable<void> Connection::takeAndAnswer() {
     const auto head = co_await peer_.take(wire::frameHeaderSize, services_.limits.headerTime);
     const auto header = wire::decodeFrameHeader(head.first<wire::frameHeaderSize>());
-    if (header.size > wire::QVX_MAX_MESSAGE_SIZE)
+    if (header.size > wire::QVX_MAX_MESSAGE_SIZE) {
         throw BadRequest("a frame of " + std::to_string(header.size) + " bytes");
+    }
     const auto data = co_await peer_.take(header.size, services_.limits.bodyTime);
-    if (wire::frameChecksum(data) != header.checksum)
+    if (wire::frameChecksum(data) != header.checksum) {
         throw BadRequest("a frame with a wrong checksum");
+    }
     frame_.assign(data.begin(), data.end());
     const auto request = parseRequestFrame(header.count, frame_);
     checkVersion(request);
@@ -67,21 +71,25 @@ asio::awaitable<void> Connection::carryOut(RequestFrame request) {
     if (request.opcode == protocol::GetPublicKeyRequest::opcode || request.opcode == protocol::LoginRequest::opcode) {
         place_.finish();
         LoginExchange exchange(peer_, address_, services_);
-        if (request.opcode == protocol::LoginRequest::opcode)
+        if (request.opcode == protocol::LoginRequest::opcode) {
             co_await exchange.logIn(request.fields);
-        else
+        } else {
             co_await exchange.sendKey();
+        }
         co_return;
     }
-    if (!services_.ledger.mayCommand(address_, PeerStream::Clock::now()))
+    if (!services_.ledger.mayCommand(address_, PeerStream::Clock::now())) {
         throw BadRequest(nameOf(request.opcode) + " without a login");
+    }
     const auto* handler = services_.commands.find(request.opcode, request.fields);
-    if (handler == nullptr)
+    if (handler == nullptr) {
         throw BadRequest("this server does not answer " + nameOf(request.opcode));
-    if (handler->prepare != nullptr)
+    }
+    if (handler->prepare != nullptr) {
         co_await change(request.opcode, handler->prepare(request.fields));
-    else
+    } else {
         co_await answer(*handler, request);
+    }
 }
 
 asio::awaitable<void> Connection::change(std::uint16_t opcode, Change wanted) {
@@ -90,10 +98,12 @@ asio::awaitable<void> Connection::change(std::uint16_t opcode, Change wanted) {
     const auto status =
         co_await runOn(services_.writer, [&] { return wanted.make(*services_.writerConnection, reply); });
     place_.finish();
-    if (!isDone(status))
+    if (!isDone(status)) {
         services_.log.write(address_, nameOf(opcode) + " was refused: " + wire::toUtf8(status.text));
-    if (reply.size() > 0)
+    }
+    if (reply.size() > 0) {
         co_await peer_.send(reply.bytes(), services_.limits.sendTime);
+    }
 }
 
 asio::awaitable<void> Connection::answer(const Handler& handler, const RequestFrame& request) {

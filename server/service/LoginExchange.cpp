@@ -36,8 +36,9 @@ asio::awaitable<void> LoginExchange::logIn(std::span<const std::uint8_t> fields)
     const auto request = RequestReader(fields).read<protocol::LoginRequest>();
     const bool versionFits = request == protocol::LoginRequest{};
     SealedCredentials sealed;
-    for (auto& credential : sealed)
+    for (auto& credential : sealed) {
         credential = co_await receiveBlock();
+    }
 
     std::uint16_t status = protocol::loginStatus::wrongVersion;
     if (versionFits) {
@@ -70,12 +71,14 @@ asio::awaitable<bool> LoginExchange::verify(const SealedCredentials& sealed) {
         failure = std::current_exception();
     }
     services_.ledger.endTry(address_, Clock::now(), known);
-    if (failure)
+    if (failure) {
         std::rethrow_exception(failure);
-    if (known)
+    }
+    if (known) {
         log::info(address_.to_string(), "logged in");
-    else
+    } else {
         services_.log.write(address_, "a login with a wrong name or password");
+    }
     co_return known;
 }
 
@@ -93,8 +96,9 @@ asio::awaitable<Bytes> LoginExchange::receiveBlock() {
     const auto head = co_await peer_.take(sizeof(std::uint32_t), limits.headerTime);
     std::uint32_t length = 0;
     std::memcpy(&length, head.data(), sizeof length);
-    if (length > limits.blockSize)
+    if (length > limits.blockSize) {
         throw Dropped("a sealed credential of " + std::to_string(length) + " bytes");
+    }
     const Bytes acknowledgement = bytesOf(static_cast<std::uint8_t>(length & 0xFF));
     co_await peer_.send(acknowledgement, limits.sendTime);
     const auto bytes = co_await peer_.take(length, limits.bodyTime);

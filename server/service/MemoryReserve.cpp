@@ -16,8 +16,9 @@ std::atomic<void*> reserve = nullptr;
 
 void giveUpReserve() {
     void* const held = reserve.exchange(nullptr);
-    if (held == nullptr)
+    if (held == nullptr) {
         throw std::bad_alloc();
+    }
     std::free(held);
 }
 
@@ -29,11 +30,13 @@ void MemoryReserve::install() {
 }
 
 void MemoryReserve::refill() noexcept {
-    if (reserve != nullptr)
+    if (reserve != nullptr) {
         return;
+    }
     void* const fresh = std::malloc(reserveSize);
-    if (fresh != nullptr)
+    if (fresh != nullptr) {
         std::memset(fresh, 1, reserveSize); // memory that was never written may not really exist
+    }
     std::free(reserve.exchange(fresh));
 }
 

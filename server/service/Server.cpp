@@ -19,8 +19,9 @@ constexpr std::chrono::seconds stalled{5};
 asio::ip::tcp::acceptor listenOn(asio::io_context& context, const std::string& listen, std::uint16_t port) {
     error_code error;
     const auto address = asio::ip::make_address(listen, error);
-    if (error)
+    if (error) {
         throw std::runtime_error("\"" + listen + "\" is not an address to listen on");
+    }
     const asio::ip::tcp::endpoint endpoint(address, port);
     try {
         return asio::ip::tcp::acceptor(context, endpoint);
@@ -43,8 +44,9 @@ bool isSilent(Connection& connection) {
 
 // Rethrows the error: one that no peer can cause ends the server.
 void passOn(const std::exception_ptr& error) {
-    if (error)
+    if (error) {
         std::rethrow_exception(error);
+    }
 }
 
 // Makes the key in advance, so that the first login need not wait for it. A failure is reported again by the login that
@@ -115,8 +117,9 @@ void Server::welcome(asio::ip::tcp::socket socket) noexcept {
     MemoryReserve::refill();
     error_code error;
     const auto address = socket.remote_endpoint(error).address();
-    if (error)
+    if (error) {
         return; // it has already disconnected
+    }
     const auto before = connections_.size();
     try {
         keepWithinShare(address);
@@ -134,8 +137,9 @@ void Server::beginServing(asio::ip::tcp::socket socket, const asio::ip::address&
     asio::co_spawn(context_, connection->serve(), [this, position, connection](const std::exception_ptr& failure) {
         connections_.erase(position);
         room_.cancel();
-        if (stopping_ && connections_.empty())
+        if (stopping_ && connections_.empty()) {
             watch_.cancel();
+        }
         passOn(failure);
     });
 }
@@ -145,19 +149,22 @@ bool Server::isIdle(Connection& connection) const {
 }
 
 void Server::keepWithinShare(const asio::ip::address& address) {
-    if (services_.order.arrivingFrom(address) < services_.limits.arrivingFromOneAddress)
+    if (services_.order.arrivingFrom(address) < services_.limits.arrivingFromOneAddress) {
         return;
+    }
     const auto found = std::ranges::find_if(
         connections_, [&](const auto& connection) { return connection->address() == address && isIdle(*connection); });
-    if (found != connections_.end())
+    if (found != connections_.end()) {
         (*found)->peer().drop("too many connections of its address sent no command");
+    }
 }
 
 // Closes connections that send nothing or do not receive their answer, but never one whose command has arrived.
 void Server::makeRoom() {
     for (const auto& connection : connections_) {
-        if (isIdle(*connection) || connection->peer().isSendingSince(Clock::now() - stalled))
+        if (isIdle(*connection) || connection->peer().isSendingSince(Clock::now() - stalled)) {
             connection->peer().drop("room was needed for others");
+        }
     }
 }
 
@@ -168,14 +175,16 @@ asio::awaitable<void> Server::watchTimes() {
         watch_.expires_after(interval);
         co_await watch_.async_wait(asio::redirect_error(asio::use_awaitable, woken));
         const auto now = Clock::now();
-        for (const auto& connection : connections_)
+        for (const auto& connection : connections_) {
             connection->peer().dropIfLate(now);
+        }
     }
 }
 
 void Server::beginStopping() {
-    if (stopping_)
+    if (stopping_) {
         return;
+    }
     stopping_ = true;
     endBy_ = Clock::now() + services_.limits.stopTime;
     error_code error;
@@ -183,15 +192,17 @@ void Server::beginStopping() {
     for (;;) {
         asio::ip::tcp::socket waiting(context_);
         acceptor_.accept(waiting, error);
-        if (error)
+        if (error) {
             break;
+        }
         welcome(std::move(waiting));
     }
     acceptor_.close(error);
     for (const auto& connection : connections_) {
         connection->peer().endBy(endBy_);
-        if (isSilent(*connection))
+        if (isSilent(*connection)) {
             connection->peer().drop("the server ends");
+        }
     }
     watch_.cancel();
     room_.cancel();

@@ -29,19 +29,22 @@ Rows& Rows::operator=(Rows&& other) noexcept {
 }
 
 void Rows::end() noexcept {
-    if (statement_ == nullptr)
+    if (statement_ == nullptr) {
         return;
+    }
     sqlite3_reset(statement_);
     sqlite3_clear_bindings(statement_);
     statement_ = nullptr;
 }
 
 bool Rows::next() {
-    if (statement_ == nullptr)
+    if (statement_ == nullptr) {
         return false;
+    }
     const int code = sqlite3_step(statement_);
-    if (code == SQLITE_ROW)
+    if (code == SQLITE_ROW) {
         return true;
+    }
     if (code != SQLITE_DONE) {
         const auto error = StoreError::fromCode(code, sqlite3_errmsg(sqlite3_db_handle(statement_)));
         end();
@@ -73,8 +76,9 @@ std::span<const std::uint8_t> Rows::bytes(int column) const {
 std::u16string Rows::wide(int column) const {
     const auto source = bytes(column);
     std::u16string text(source.size() / 2, u'\0');
-    if (!text.empty())
+    if (!text.empty()) {
         std::memcpy(text.data(), source.data(), text.size() * 2);
+    }
     return text;
 }
 
@@ -84,8 +88,9 @@ bool Rows::isNull(int column) const {
 
 sqlite3_stmt* Query::statement() {
     if (statement_ == nullptr && sqlite3_prepare_v3(connection_, sql_.c_str(), static_cast<int>(sql_.size()),
-                                                    SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) != SQLITE_OK)
+                                                    SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) != SQLITE_OK) {
         fail(connection_);
+    }
     return statement_;
 }
 
@@ -94,13 +99,15 @@ Query::~Query() {
 }
 
 void Query::bind(int index, std::int64_t value) {
-    if (sqlite3_bind_int64(statement(), index, value) != SQLITE_OK)
+    if (sqlite3_bind_int64(statement(), index, value) != SQLITE_OK) {
         fail(connection_);
+    }
 }
 
 void Query::bind(int index, double value) {
-    if (sqlite3_bind_double(statement(), index, value) != SQLITE_OK)
+    if (sqlite3_bind_double(statement(), index, value) != SQLITE_OK) {
         fail(connection_);
+    }
 }
 
 void Query::bind(int index, const wire::Uuid& value) {
@@ -110,8 +117,9 @@ void Query::bind(int index, const wire::Uuid& value) {
 
 void Query::bind(int index, std::string_view text) {
     const char* from = text.empty() ? "" : text.data(); // a null pointer would mean NULL
-    if (sqlite3_bind_text(statement(), index, from, static_cast<int>(text.size()), SQLITE_TRANSIENT) != SQLITE_OK)
+    if (sqlite3_bind_text(statement(), index, from, static_cast<int>(text.size()), SQLITE_TRANSIENT) != SQLITE_OK) {
         fail(connection_);
+    }
 }
 
 void Query::bind(int index, std::u16string_view text) {
@@ -122,13 +130,15 @@ void Query::bind(int index, std::span<const std::uint8_t> bytes) {
     const int code = bytes.empty() ? sqlite3_bind_zeroblob(statement(), index, 0)
                                    : sqlite3_bind_blob(statement(), index, bytes.data(), static_cast<int>(bytes.size()),
                                                        SQLITE_TRANSIENT);
-    if (code != SQLITE_OK)
+    if (code != SQLITE_OK) {
         fail(connection_);
+    }
 }
 
 void Query::bind(int index, std::nullptr_t) {
-    if (sqlite3_bind_null(statement(), index) != SQLITE_OK)
+    if (sqlite3_bind_null(statement(), index) != SQLITE_OK) {
         fail(connection_);
+    }
 }
 
 } // namespace server

@@ -87,10 +87,11 @@ public:
 
     template <class Value>
     void bind(int index, const std::optional<Value>& value) {
-        if (value)
+        if (value) {
             bind(index, *value);
-        else
+        } else {
             bind(index, nullptr);
+        }
     }
 
 private:

@@ -18,8 +18,9 @@ ReaderPool::Lease::Lease(ReaderPool& pool) : pool_(pool) {
 }
 
 ReaderPool::Lease::~Lease() {
-    if (pool_.idle_.size() < mostIdle)
+    if (pool_.idle_.size() < mostIdle) {
         pool_.idle_.push_back(std::move(connection_));
+    }
 }
 
 } // namespace server

@@ -50,8 +50,9 @@ template <class Value>
 void readColumn(const Rows& rows, int column, Value& value) {
     if constexpr (wire::FieldTraits<Value>::kind == wire::FieldKind::optional) {
         value.reset();
-        if (!rows.isNull(column))
+        if (!rows.isNull(column)) {
             readColumn(rows, column, value.emplace());
+        }
     } else if constexpr (std::same_as<Value, std::string>) {
         value = rows.text(column);
     } else if constexpr (std::same_as<Value, wire::WideString>) {

@@ -24,8 +24,9 @@ StoreError about(const std::filesystem::path& file, const std::string& text) {
 }
 
 void configure(SQLite::Database& database) {
-    if (database.execAndGet("PRAGMA journal_mode = WAL").getString() != "wal")
+    if (database.execAndGet("PRAGMA journal_mode = WAL").getString() != "wal") {
         throw StoreError("the database cannot keep a write-ahead log here");
+    }
     database.exec("PRAGMA synchronous = FULL");
     database.exec("PRAGMA foreign_keys = ON");
     database.exec("PRAGMA trusted_schema = OFF");
@@ -55,16 +56,19 @@ Store::~Store() {
 // on it for this process.
 void Store::lockFile() {
     lock_ = ::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (lock_ < 0)
+    if (lock_ < 0) {
         throw about(file_, std::string("the database cannot be opened: ") + std::strerror(errno));
+    }
     struct stat status {};
     const char* reason = nullptr;
-    if (::fstat(lock_, &status) != 0 || !S_ISREG(status.st_mode))
+    if (::fstat(lock_, &status) != 0 || !S_ISREG(status.st_mode)) {
         reason = "the database must be an ordinary file";
-    else if (::flock(lock_, LOCK_EX | LOCK_NB) != 0)
+    } else if (::flock(lock_, LOCK_EX | LOCK_NB) != 0) {
         reason = "the database is in use by another vantreld";
-    if (reason == nullptr)
+    }
+    if (reason == nullptr) {
         return;
+    }
     ::close(lock_);
     throw about(file_, reason);
 }

@@ -16,8 +16,9 @@ StoreConnection::StoreConnection(SQLite::Database database)
       rollback_(database_.getHandle(), "ROLLBACK") {}
 
 void StoreConnection::rollback() noexcept {
-    if (sqlite3_get_autocommit(database_.getHandle()) != 0)
+    if (sqlite3_get_autocommit(database_.getHandle()) != 0) {
         return; // SQLite has ended the transaction itself
+    }
     try {
         rollback_.execute();
     } catch (const StoreError&) {

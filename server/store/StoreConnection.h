@@ -22,8 +22,9 @@ public:
     template <class Table>
     [[nodiscard]] Table& table() {
         auto& held = tables_[std::type_index(typeid(Table))];
-        if (!held)
+        if (!held) {
             held = std::make_shared<Table>(database_.getHandle());
+        }
         return *static_cast<Table*>(held.get());
     }
 

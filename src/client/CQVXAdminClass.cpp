@@ -15,10 +15,12 @@ CQVXAdminClass::CQVXAdminClass(std::shared_ptr<CQVXAdminClassProperties> setting
       InventoryCommands(static_cast<CQVXAdminClass2&>(*this)) {}
 
 bool CQVXAdminClass::showRefusal(const protocol::StatusReply& status) const {
-    if (status.caption.empty())
+    if (status.caption.empty()) {
         return false;
-    if (ServerMessages* const messages = settings().hooks.messages)
+    }
+    if (ServerMessages* const messages = settings().hooks.messages) {
         messages->show(status.caption, status.text, status.style);
+    }
     return true;
 }
 

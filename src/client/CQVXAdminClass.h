@@ -98,7 +98,7 @@ public:
     [[nodiscard]] std::optional<std::uint32_t> getStatusOctetOrder(const std::string& printerId);
 
     // Shows a refusal by the server; true when there was one, which only the caption decides.
-    bool showRefusal(const protocol::StatusReply& status) const;
+    [[nodiscard]] bool showRefusal(const protocol::StatusReply& status) const;
 
     // Sends any command of the catalogue with the given fields, unchanged. Throws std::invalid_argument for an unused
     // opcode and for the login, which is more than one command; ConnectFailed for every kind of connection.

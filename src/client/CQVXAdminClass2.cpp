@@ -20,8 +20,9 @@ const CQVXAdminClassProperties& CQVXAdminClass2::settings() const {
 
 std::unique_ptr<wire::ITransport> CQVXAdminClass2::openConnection() {
     auto connection = makeTransport();
-    if (!connection->connect(settings().connectTimeout, {}))
+    if (!connection->connect(settings().connectTimeout, {})) {
         throw ConnectFailed();
+    }
     return connection;
 }
 

@@ -42,16 +42,19 @@ bool CQVXAdminClass::fetchPublicKey(std::string& key, const std::string& serverH
         connection->setPort(serverPort);
         connection->setWaitObserver(settings().hooks.wait);
         auto& blocks = *connection;
-        if (!exchange.connect(std::move(connection), keyTimeout))
+        if (!exchange.connect(std::move(connection), keyTimeout)) {
             return failure;
+        }
         exchange.send(nullptr);
         const auto message = exchange.receive();
-        if (!message)
+        if (!message) {
             return failure;
+        }
         return exchange.run([&] {
             static_cast<void>(protocol::read<protocol::GetPublicKeyReply>(*message));
-            if (blocks.receiveBlock(key, longestKey))
+            if (blocks.receiveBlock(key, longestKey)) {
                 return !failure;
+            }
             exchange.fail("The server's key did not arrive whole");
             return failure;
         });
@@ -63,11 +66,13 @@ bool CQVXAdminClass::fetchPublicKey(std::string& key, const std::string& serverH
 protocol::LoginStatus CQVXAdminClass::login(wire::WideString user, wire::WideString password, wire::WideString domain) {
     try {
         std::string key;
-        if (fetchPublicKey(key, settings().host, settings().port))
+        if (fetchPublicKey(key, settings().host, settings().port)) {
             return protocol::loginStatus::noAnswer;
+        }
         Exchange exchange(*this, protocol::commandOf<protocol::LoginRequest>(), wire::toUtf8(user));
-        if (!exchange.connect())
+        if (!exchange.connect()) {
             return protocol::loginStatus::noAnswer;
+        }
         settings().userName = user;
         settings().domainName = domain;
         exchange.run([&] {
@@ -79,12 +84,14 @@ protocol::LoginStatus CQVXAdminClass::login(wire::WideString user, wire::WideStr
         exchange.send(loginMessage(user.size() + domain.size() + password.size()));
         exchange.run([&] {
             auto& blocks = static_cast<trans::CTrans&>(exchange.transport());
-            for (const auto* cipher : {&user, &domain, &password})
+            for (const auto* cipher : {&user, &domain, &password}) {
                 blocks.sendBlock(bytesOf(*cipher));
+            }
         });
         const auto message = exchange.receive();
-        if (!message)
+        if (!message) {
             return protocol::loginStatus::noAnswer;
+        }
         return exchange.run([&] { return protocol::read<protocol::LoginReply>(*message).status; });
     } catch (...) {
         return protocol::loginStatus::noAnswer;

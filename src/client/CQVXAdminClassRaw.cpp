@@ -13,10 +13,12 @@ namespace {
 
 const protocol::Command& callable(std::uint16_t opcode) {
     const protocol::Command* const command = protocol::findCommand(opcode);
-    if (command == nullptr)
+    if (command == nullptr) {
         throw std::invalid_argument("No command has the opcode " + std::to_string(opcode));
-    if (opcode == protocol::LoginRequest::opcode)
+    }
+    if (opcode == protocol::LoginRequest::opcode) {
         throw std::invalid_argument("A login is more than one command");
+    }
     return *command;
 }
 
@@ -24,8 +26,9 @@ const protocol::Command& callable(std::uint16_t opcode) {
 const protocol::RecordLayout& recordLayout(const protocol::Command& command,
                                            std::span<const protocol::FieldValue> fields) {
     const auto* const first = fields.empty() ? nullptr : std::get_if<std::uint8_t>(&fields.front().value);
-    if (command.otherRecord.layout != nullptr && first != nullptr && *first == command.otherRecord.firstByte)
+    if (command.otherRecord.layout != nullptr && first != nullptr && *first == command.otherRecord.firstByte) {
         return *command.otherRecord.layout;
+    }
     return *command.replyRecord;
 }
 
@@ -57,19 +60,22 @@ RawReply CQVXAdminClass::rawCall(std::uint16_t opcode, std::span<const protocol:
     RawReply reply;
     reply.command = &callable(opcode);
     auto data = protocol::makeDataMessage(fields);
-    if (reply.command->reply == protocol::ReplyShape::none)
+    if (reply.command->reply == protocol::ReplyShape::none) {
         announceRequest(*this, *reply.command, data.get());
+    }
     Exchange exchange(*this, *reply.command);
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         throw ConnectFailed();
+    }
     exchange.send(std::move(data));
     if (reply.command->reply == protocol::ReplyShape::list) {
         readList(exchange, reply, recordLayout(*reply.command, fields));
     } else if (reply.command->reply != protocol::ReplyShape::none) {
-        if (const auto message = exchange.receive())
+        if (const auto message = exchange.receive()) {
             exchange.run([&] { reply.records.push_back(protocol::readFields(*message, *reply.command->replyRecord)); });
-        else
+        } else {
             reply.complete = false;
+        }
     }
     return reply;
 }

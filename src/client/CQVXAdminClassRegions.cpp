@@ -21,8 +21,9 @@ std::int16_t readRegions(Exchange& exchange, wire::Message& first, std::vector<p
         return count;
     }
     exchange.run([&] {
-        for (std::int32_t index = 0; index < count; ++index)
+        for (std::int32_t index = 0; index < count; ++index) {
             regions.push_back(protocol::read<protocol::RegionRecord>(first));
+        }
     });
     exchange.noteRecords(static_cast<std::uint32_t>(regions.size()));
     return count;
@@ -35,8 +36,9 @@ bool CQVXAdminClass::listRegions(protocol::RegionKind kind, std::int32_t parentI
     std::vector<protocol::RegionRecord> regions;
     regions_.clear();
     Exchange exchange(*this, protocol::commandOf<protocol::ListRegionsRequest>(), regionSummary(parentId));
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         return false;
+    }
     exchange.send(dataMessageOf(request));
     const auto first = exchange.receive();
     const std::int16_t announced = readRegions(exchange, *first, regions);
@@ -46,8 +48,9 @@ bool CQVXAdminClass::listRegions(protocol::RegionKind kind, std::int32_t parentI
 
 bool CQVXAdminClass::nextRegion(std::int32_t& id, std::int32_t& parentId, wire::WideString& name) {
     protocol::RegionRecord region;
-    if (!regions_.next(region))
+    if (!regions_.next(region)) {
         return false;
+    }
     id = region.id;
     parentId = region.parentId;
     name = std::move(region.name);

@@ -28,8 +28,9 @@ public:
         : valid_(ltc_mp.name != nullptr && !der.empty() && der.size() <= longestKey &&
                  rsa_import(bytesOf(der), static_cast<unsigned long>(der.size()), &key_) == CRYPT_OK) {}
     ~ImportedKey() {
-        if (valid_)
+        if (valid_) {
             rsa_free(&key_);
+        }
     }
     ImportedKey(const ImportedKey&) = delete;
     ImportedKey& operator=(const ImportedKey&) = delete;
@@ -48,28 +49,33 @@ void initCrypto() {
     const int prng = register_prng(&sprng_desc);
     ltc_mp = ltm_desc;
     const int hash = register_hash(&sha1_desc);
-    if (prng == -1 || hash == -1)
+    if (prng == -1 || hash == -1) {
         throw "error";
+    }
 }
 
 std::string rsaEncrypt(const std::string& plain, const std::string& key) {
     ImportedKey imported(key);
-    if (!imported.valid() || register_prng(&sprng_desc) == -1)
+    if (!imported.valid() || register_prng(&sprng_desc) == -1) {
         return {};
+    }
     const int prng = find_prng("sprng");
-    if (prng == -1)
+    if (prng == -1) {
         return {};
+    }
     traceEncoding();
     CipherBuffer padded;
     auto paddedSize = static_cast<unsigned long>(padded.size());
     if (pkcs_1_v1_5_encode(bytesOf(plain), static_cast<unsigned long>(plain.size()), LTC_PKCS_1_EME, modulusBits,
-                           nullptr, prng, padded.data(), &paddedSize) != CRYPT_OK)
+                           nullptr, prng, padded.data(), &paddedSize) != CRYPT_OK) {
         return {};
+    }
     CipherBuffer cipher;
     auto cipherSize = static_cast<unsigned long>(cipher.size());
     if (rsa_exptmod(padded.data(), paddedSize, cipher.data(), &cipherSize, imported.key().type, &imported.key()) !=
-        CRYPT_OK)
+        CRYPT_OK) {
         return {};
+    }
     return {reinterpret_cast<const char*>(cipher.data()), cipherSize};
 }
 

@@ -17,8 +17,9 @@ namespace {
 } // namespace
 
 void announceRequest(CQVXAdminClass2& client, const protocol::Command& command, const wire::Message* data) {
-    if (RequestObserver* const observer = client.settings().hooks.requests)
+    if (RequestObserver* const observer = client.settings().hooks.requests) {
         observer->requestMade(command, data != nullptr ? data->bytes() : std::span<const std::uint8_t>());
+    }
 }
 
 Exchange::Exchange(CQVXAdminClass2& client, const protocol::Command& command, std::string summary)
@@ -40,8 +41,9 @@ Exchange::~Exchange() {
     // A command that leaves its connection open no longer needs it once its frame has been sent.
     client_.transport.reset();
     report_.duration = std::chrono::steady_clock::now() - start_;
-    if (report_.outcome == CommandOutcome::running)
+    if (report_.outcome == CommandOutcome::running) {
         report_.outcome = CommandOutcome::done;
+    }
     report(&CommandObserver::commandEnded);
 }
 
@@ -50,8 +52,9 @@ bool Exchange::connect() {
         if (command_.connection == protocol::Connection::member) {
             report_.connected = client_.connectMember();
             transport_ = client_.transport.get();
-            if (!report_.connected)
+            if (!report_.connected) {
                 fail("Failed to connect to server");
+            }
         } else {
             owned_ = client_.openConnection();
             transport_ = owned_.get();
@@ -66,22 +69,26 @@ bool Exchange::connect(std::unique_ptr<wire::ITransport> own, std::uint32_t time
         owned_ = std::move(own);
         transport_ = owned_.get();
         report_.connected = transport_->connect(timeoutSeconds, {});
-        if (!report_.connected)
+        if (!report_.connected) {
             fail("Failed to connect to server");
+        }
         return report_.connected;
     });
 }
 
 void Exchange::send(std::unique_ptr<wire::Message> data) {
     run([&] {
-        if (command_.reply != protocol::ReplyShape::none)
+        if (command_.reply != protocol::ReplyShape::none) {
             announceRequest(client_, command_, data.get());
+        }
         transport_->addMessage(wire::makeCommandMessage(command_.opcode, command_.version));
-        if (data)
+        if (data) {
             transport_->addMessage(std::move(data));
+        }
         const bool sent = transport_->sendMessages({});
-        if (!sent && command_.send == protocol::SendForm::guarded)
+        if (!sent && command_.send == protocol::SendForm::guarded) {
             throw std::runtime_error("failed to send messages");
+        }
     });
 }
 
@@ -89,12 +96,14 @@ std::unique_ptr<wire::Message> Exchange::receive(std::unique_ptr<wire::Message> 
     return run([&] {
         transport_->reuse(std::move(used));
         const bool received = transport_->getMessages({}, nullptr);
-        if (!received && command_.reader == protocol::ReaderForm::strict)
+        if (!received && command_.reader == protocol::ReaderForm::strict) {
             throw std::runtime_error("failed to get messages");
+        }
         auto message = transport_->getMessage(wire::MessageKind::Data);
         if (!message) {
-            if (command_.reader != protocol::ReaderForm::plain)
+            if (command_.reader != protocol::ReaderForm::plain) {
                 missingMessage(command_);
+            }
             fail("The server's reply ended early");
         }
         return message;
@@ -132,8 +141,9 @@ void Exchange::noteException() {
 
 void Exchange::report(void (CommandObserver::*event)(const CommandReport&)) noexcept {
     try {
-        if (CommandObserver* const observer = client_.settings().hooks.commands)
+        if (CommandObserver* const observer = client_.settings().hooks.commands) {
             (observer->*event)(report_);
+        }
     } catch (...) {
         // A failing observer is no reason for a command to fail.
     }

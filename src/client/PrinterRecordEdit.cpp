@@ -46,10 +46,12 @@ std::uint16_t loadMode(std::uint16_t recordType) {
 PrinterRecordEdit::PrinterRecordEdit(std::int32_t regionId, std::string physicalPrinterId, std::uint16_t recordType,
                                      std::shared_ptr<CQVXAdminClassProperties> settings)
     : server_(std::move(settings)), physicalPrinterId_(std::move(physicalPrinterId)) {
-    if (recordType == type::printer && (regionId == 0 || !physicalPrinterId_.empty()))
+    if (recordType == type::printer && (regionId == 0 || !physicalPrinterId_.empty())) {
         throw std::runtime_error("Trying to create a printer without region");
-    if (recordType == type::queue && physicalPrinterId_.empty())
+    }
+    if (recordType == type::queue && physicalPrinterId_.empty()) {
         throw std::runtime_error("Trying to create a queue without physical printer");
+    }
     record_.regionId = regionId;
     record_.recordType = storedType(recordType);
 }
@@ -57,13 +59,16 @@ PrinterRecordEdit::PrinterRecordEdit(std::int32_t regionId, std::string physical
 PrinterRecordEdit::PrinterRecordEdit(const std::string& id, std::uint16_t recordType,
                                      std::shared_ptr<CQVXAdminClassProperties> settings)
     : server_(std::move(settings)), exists_(true) {
-    if (id.empty())
+    if (id.empty()) {
         throw std::runtime_error("No printer ID");
+    }
     std::int16_t count = 0;
-    if (!server_.getRecordById(id, loadMode(recordType), count))
+    if (!server_.getRecordById(id, loadMode(recordType), count)) {
         throw ConnectFailed();
-    if (!server_.nextPrinterRecord(record_))
+    }
+    if (!server_.nextPrinterRecord(record_)) {
         throw std::runtime_error("No such printer");
+    }
     record_.recordType = storedType(recordType);
 }
 
@@ -83,8 +88,9 @@ bool PrinterRecordEdit::create() {
     auto reply = server_.createRecord(physicalPrinterId_, record_);
     const bool refused = server_.showRefusal(reply.status);
     record_.id = std::move(reply.id);
-    if (refused)
+    if (refused) {
         return false;
+    }
     exists_ = true;
     dirty_.reset(); // everything that was set has been sent
     return true;
@@ -94,9 +100,11 @@ bool PrinterRecordEdit::create() {
 // the repetition must stay.
 bool PrinterRecordEdit::update() {
     bool refused = false;
-    for (std::size_t flag = 0; flag < dirty_.size(); ++flag)
-        if (dirty_.test(flag))
+    for (std::size_t flag = 0; flag < dirty_.size(); ++flag) {
+        if (dirty_.test(flag)) {
             refused |= server_.showRefusal(server_.updateRecord(record_));
+        }
+    }
     return !refused;
 }
 

@@ -31,10 +31,12 @@ public:
     // Returns the next record; false when none is left. Throws std::out_of_range "invalid vector<T> subscript" when the
     // list was cut short, because the missing records would be the first ones to be returned.
     bool next(Record& record) {
-        if (remaining_ == 0)
+        if (remaining_ == 0) {
             return false;
-        if (remaining_ > records_.size())
+        }
+        if (remaining_ > records_.size()) {
             throw std::out_of_range("invalid vector<T> subscript");
+        }
         --remaining_;
         record = std::move(records_[remaining_]);
         records_.resize(remaining_);

@@ -18,10 +18,11 @@ namespace client {
 // The message of a request's fields; null for a request without fields, which sends none.
 template <class Request>
 [[nodiscard]] std::unique_ptr<wire::Message> dataMessageOf(const Request& request) {
-    if constexpr (protocol::layoutOf<Request>.fields.empty())
+    if constexpr (protocol::layoutOf<Request>.fields.empty()) {
         return nullptr;
-    else
+    } else {
         return protocol::makeDataMessage(request);
+    }
 }
 
 // A command without a reply; false when there is no connection.
@@ -31,8 +32,9 @@ bool sendCommand(CQVXAdminClass2& client, const Request& request, std::string su
     auto data = dataMessageOf(request);
     announceRequest(client, command, data.get());
     Exchange exchange(client, command, std::move(summary));
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         return false;
+    }
     exchange.send(std::move(data));
     return true;
 }
@@ -42,12 +44,14 @@ template <class Reply, class Request>
 [[nodiscard]] std::optional<Reply> askServer(CQVXAdminClass2& client, const Request& request,
                                              std::string summary = {}) {
     Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         return std::nullopt;
+    }
     exchange.send(dataMessageOf(request));
     const auto message = exchange.receive();
-    if (!message)
+    if (!message) {
         return std::nullopt;
+    }
     return exchange.run([&] { return std::optional(protocol::read<Reply>(*message)); });
 }
 
@@ -58,8 +62,9 @@ void readRecords(Exchange& exchange, std::int16_t count, std::vector<R>& records
     std::unique_ptr<wire::Message> message;
     for (std::uint32_t index = 0; std::cmp_less(index, count); ++index) {
         message = exchange.receive(std::move(message));
-        if (!message)
+        if (!message) {
             return;
+        }
         exchange.run([&] {
             records.emplace_back();
             try {
@@ -81,12 +86,14 @@ template <class R, class Request>
                                                    std::vector<R>& records, std::string summary = {}) {
     records.clear();
     Exchange exchange(client, protocol::commandOf<Request>(), std::move(summary));
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         return std::nullopt;
+    }
     exchange.send(dataMessageOf(request));
     const auto message = exchange.receive();
-    if (!message)
+    if (!message) {
         return std::nullopt;
+    }
     const std::int16_t count = exchange.run([&] { return Exchange::readCount(*message); });
     readRecords(exchange, count, records);
     return count;

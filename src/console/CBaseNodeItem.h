@@ -28,8 +28,8 @@ std::string classNameOf() {
 template <class T, class Base = NodeBase>
 class CBaseNodeItem : public Base {
 public:
-    const NodeIdentity& nodeIdentity() const final { return T::identity; }
-    const std::string& className() const final {
+    [[nodiscard]] const NodeIdentity& nodeIdentity() const final { return T::identity; }
+    [[nodiscard]] const std::string& className() const final {
         static const std::string name = classNameOf<T>();
         return name;
     }
@@ -43,13 +43,13 @@ protected:
     // In the order of the menu.
     virtual std::span<const NodeCommand<T>> commands() const { return {}; }
 
-    MenuEntries menu() const override { return menuOf(static_cast<const T&>(*this), commands()); }
+    [[nodiscard]] MenuEntries menu() const override { return menuOf(static_cast<const T&>(*this), commands()); }
     Result runCommand(std::int32_t commandId, CommandOrigin origin) override {
         const auto* const command = findCommand(commands(), commandId);
         return command != nullptr && command->run != nullptr ? (static_cast<T&>(*this).*command->run)(origin)
                                                              : Result::notDone;
     }
-    KeySequence keysAfterCommand(std::int32_t commandId, CommandOrigin /*origin*/) const override {
+    [[nodiscard]] KeySequence keysAfterCommand(std::int32_t commandId, CommandOrigin /*origin*/) const override {
         const auto* const command = findCommand(commands(), commandId);
         return command != nullptr ? command->keys : KeySequence();
     }

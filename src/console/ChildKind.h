@@ -29,7 +29,7 @@ struct ReadKinds {
     std::vector<bool> read{};     // by kind
     std::exception_ptr failure{}; // the first that was thrown
 
-    bool all() const;
+    [[nodiscard]] bool all() const;
 };
 
 // Reads each kind by itself: when one fails, the others are still read. The rest is skipped only when the server does

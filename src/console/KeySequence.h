@@ -18,8 +18,8 @@ public:
         std::ranges::copy(keys, keys_.begin());
     }
 
-    constexpr bool empty() const { return count_ == 0; }
-    constexpr std::span<const platform::Key> keys() const { return std::span(keys_).first(count_); }
+    [[nodiscard]] constexpr bool empty() const { return count_ == 0; }
+    [[nodiscard]] constexpr std::span<const platform::Key> keys() const { return std::span(keys_).first(count_); }
 
 private:
     std::array<platform::Key, 8> keys_{};

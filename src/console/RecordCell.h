@@ -21,10 +21,10 @@ public:
     constexpr RecordCell(const char16_t* (*made)(const Record&), Number number = nullptr)
         : made_(made), number_(number) {}
 
-    const char16_t* textOf(const Record& record) const {
+    [[nodiscard]] const char16_t* textOf(const Record& record) const {
         return made_ != nullptr ? made_(record) : (record.*text_).c_str();
     }
-    std::optional<std::int64_t> sortValueOf(const Record& record) const {
+    [[nodiscard]] std::optional<std::int64_t> sortValueOf(const Record& record) const {
         return number_ != nullptr ? std::optional(number_(record)) : std::nullopt;
     }
 

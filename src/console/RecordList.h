@@ -32,9 +32,9 @@ protected:
         rows_.back()->setParent(*this);
     }
 
-    std::span<const Column> columns() const override { return T::titles; }
-    std::vector<NodeBase*> rows() const override { return this->pointersTo(rows_); }
-    RowReading rowReading() const override { return RowReading::whenShown; }
+    [[nodiscard]] std::span<const Column> columns() const override { return T::titles; }
+    [[nodiscard]] std::vector<NodeBase*> rows() const override { return this->pointersTo(rows_); }
+    [[nodiscard]] RowReading rowReading() const override { return RowReading::whenShown; }
     void readRows() override {
         auto before = std::exchange(rows_, {});
         std::vector<Record> records;

@@ -38,12 +38,12 @@ public:
     static std::string keyOf(const wire::Uuid& id) { return wire::toText(id); }
     static std::string keyOf(const Record& record) { return keyOf(record.id); }
 
-    std::string refreshKey() const override { return T::keyOf(record_); }
+    [[nodiscard]] std::string refreshKey() const override { return T::keyOf(record_); }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override {
         const auto* const cell = cellOf(column);
         return cell != nullptr ? cell->textOf(record_) : CBaseNodeItem<T>::GetResultPaneColInfo(column);
     }
-    std::optional<std::int64_t> sortValue(std::int32_t column) const override {
+    [[nodiscard]] std::optional<std::int64_t> sortValue(std::int32_t column) const override {
         const auto* const cell = cellOf(column);
         return cell != nullptr ? cell->sortValueOf(record_) : std::nullopt;
     }

@@ -16,7 +16,7 @@ struct KeyedLabel {
     std::optional<std::size_t> key;
 
     // As toolkits take it: an ampersand before the key, other ampersands doubled.
-    wire::WideString marked() const;
+    [[nodiscard]] wire::WideString marked() const;
 };
 
 // Assigns access keys to the labels of a dialog: each key once, expected letters first, and keys for as many labels as
@@ -33,7 +33,7 @@ public:
     // Changes the text of one label: it keeps its key if possible, or takes a free one. The others keep theirs.
     void change(std::size_t number, std::u16string_view label);
 
-    KeyedLabel label(std::size_t number) const;
+    [[nodiscard]] KeyedLabel label(std::size_t number) const;
 
 private:
     struct Entry {
@@ -42,7 +42,7 @@ private:
         std::optional<std::size_t> chosen;
         Claim claim = Claim::givesWay;
 
-        char16_t keyAt(std::size_t position) const;
+        [[nodiscard]] char16_t keyAt(std::size_t position) const;
     };
 
     static Entry entryOf(std::u16string_view label);

@@ -11,7 +11,7 @@ public:
     Button(Container& container, std::u16string_view label, bool isDefault = false);
     void accept(ControlVisitor& visitor) override;
 
-    bool isDefault() const { return isDefault_; }
+    [[nodiscard]] bool isDefault() const { return isDefault_; }
 
     std::function<void()> onPress;
     // False when the button can't be pressed now.

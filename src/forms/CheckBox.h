@@ -10,7 +10,7 @@ public:
     CheckBox(Container& container, std::u16string_view label);
     void accept(ControlVisitor& visitor) override;
 
-    bool checked() const { return checked_; }
+    [[nodiscard]] bool checked() const { return checked_; }
     void setChecked(bool checked);
 
     std::function<void()> onChange;

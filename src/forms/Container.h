@@ -15,12 +15,12 @@ public:
     Container& operator=(const Container&) = delete;
     virtual ~Container() = default;
 
-    const std::vector<Control*>& controls() const { return controls_; }
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
     virtual Form& form() = 0;
     // Whether the controls on it can be seen.
-    virtual bool shown() const = 0;
+    [[nodiscard]] virtual bool shown() const = 0;
     // Whether the controls on it can be used: they can be seen, and no container below them is disabled.
-    virtual bool usable() const { return shown(); }
+    [[nodiscard]] virtual bool usable() const { return shown(); }
 
 protected:
     Container() = default;

@@ -30,27 +30,27 @@ public:
     // Calls the visitor's function for this kind of control.
     virtual void accept(ControlVisitor& visitor) = 0;
 
-    const wire::WideString& label() const { return label_; }
+    [[nodiscard]] const wire::WideString& label() const { return label_; }
     void setLabel(wire::WideString label);
-    bool enabled() const { return enabled_; }
+    [[nodiscard]] bool enabled() const { return enabled_; }
     void setEnabled(bool enabled);
-    bool visible() const { return visible_; }
+    [[nodiscard]] bool visible() const { return visible_; }
     void setVisible(bool visible);
     void setFocus();
     // Whether the control and all containers that it is on are enabled and visible (its page being the one shown).
-    bool reachable() const;
+    [[nodiscard]] bool reachable() const;
 
     // The number by which the platform's own dialogs know the control; none for most.
-    std::optional<int> resourceId() const { return resourceId_; }
+    [[nodiscard]] std::optional<int> resourceId() const { return resourceId_; }
     void setResourceId(int id) { resourceId_ = id; }
 
     // The control that this one is placed beside and belongs to: the number of a unit, the radio button of a list, the
     // list of a button, another group; null for most. A control without its own label goes by the label of that one.
-    const Control* beside() const { return beside_; }
+    [[nodiscard]] const Control* beside() const { return beside_; }
     void setBeside(const Control& other) { beside_ = &other; }
 
-    Form& form() const;
-    Container& container() const { return container_; }
+    [[nodiscard]] Form& form() const;
+    [[nodiscard]] Container& container() const { return container_; }
 
     // The keyboard has left the control.
     std::function<void()> onLeave;
@@ -63,7 +63,7 @@ protected:
     // Runs a handler of the form inside the form's guard: nothing that it throws gets out.
     void run(const std::function<void()>& handler) const;
     // Whether a person can act on the control now; not once its form has ended.
-    bool takesInput() const;
+    [[nodiscard]] bool takesInput() const;
 
 private:
     Container& container_;

@@ -22,8 +22,8 @@ public:
     DateTimePicker(Container& container, std::u16string_view label, DateTimeOptions options = {});
     void accept(ControlVisitor& visitor) override;
 
-    const DateTimeOptions& options() const { return options_; }
-    const std::optional<DateTime>& value() const { return value_; }
+    [[nodiscard]] const DateTimeOptions& options() const { return options_; }
+    [[nodiscard]] const std::optional<DateTime>& value() const { return value_; }
     // A value that is not a real day and time counts as none.
     void setValue(std::optional<DateTime> value);
 

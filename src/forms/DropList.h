@@ -28,18 +28,18 @@ public:
     DropList(Container& container, std::u16string_view label, DropListOptions options = {});
     void accept(ControlVisitor& visitor) override;
 
-    const DropListOptions& options() const { return options_; }
-    const std::vector<DropListItem>& items() const { return items_; }
+    [[nodiscard]] const DropListOptions& options() const { return options_; }
+    [[nodiscard]] const std::vector<DropListItem>& items() const { return items_; }
     // Returns the row at which it was inserted.
     std::size_t addItem(wire::WideString text, std::string data = {});
     // Above all other rows, in a sorted list too: an empty row, or one that asks to select.
     void addFirst(wire::WideString text, std::string data = {});
     void clear();
 
-    std::optional<std::size_t> selection() const { return selection_; }
+    [[nodiscard]] std::optional<std::size_t> selection() const { return selection_; }
     // The selected row's text and data; empty without a selection.
-    wire::WideString selectedText() const;
-    std::string selectedData() const;
+    [[nodiscard]] wire::WideString selectedText() const;
+    [[nodiscard]] std::string selectedData() const;
     // Does not fire onSelect. A row that does not exist clears the selection.
     void select(std::optional<std::size_t> row);
     // False, and no change, when no row has the text (compared exactly) or the data.

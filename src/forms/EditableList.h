@@ -22,7 +22,7 @@ public:
 
     // Whether the records could be read when the list was last filled. Confirming a form without them would write that
     // none is chosen.
-    bool known() const { return known_; }
+    [[nodiscard]] bool known() const { return known_; }
     // Called when known() may have changed.
     std::function<void()> onKnown;
     void setVisible(bool visible);
@@ -39,24 +39,24 @@ protected:
     // Reads and lists the records again, and selects the row to go back to.
     void refill();
     // The row of a record.
-    std::size_t rowOf(std::size_t record) const { return record + (emptyAbove_ ? 1 : 0); }
+    [[nodiscard]] std::size_t rowOf(std::size_t record) const { return record + (emptyAbove_ ? 1 : 0); }
     // The record whose row is selected. A record named "<New>", or like another of the rows below, can't be told apart
     // from that row and counts as none.
-    std::optional<std::size_t> selectedRecord() const;
+    [[nodiscard]] std::optional<std::size_t> selectedRecord() const;
     // The same, but also none for a record without a name, which can be neither edited nor deleted.
-    std::optional<std::size_t> namedRecord() const;
+    [[nodiscard]] std::optional<std::size_t> namedRecord() const;
     void enableButtons(bool enabled);
 
     // Reads the records; false, or whatever it throws, when that fails.
     virtual bool read() = 0;
-    virtual std::size_t size() const = 0;
-    virtual const wire::WideString& name(std::size_t record) const = 0;
+    [[nodiscard]] virtual std::size_t size() const = 0;
+    [[nodiscard]] virtual const wire::WideString& name(std::size_t record) const = 0;
     // The row that is selected once the list is filled.
-    virtual std::optional<std::size_t> rowToGoBackTo() const = 0;
+    [[nodiscard]] virtual std::optional<std::size_t> rowToGoBackTo() const = 0;
     // Brings the buttons in line with the selection.
     virtual void followSelection() = 0;
     // The question asked before a record is deleted; empty to delete without asking.
-    virtual std::u16string_view deleteQuestion() const { return {}; }
+    [[nodiscard]] virtual std::u16string_view deleteQuestion() const { return {}; }
     // Called when the user has chosen "<New>" or pressed a button. These three refill the list as needed.
     virtual void make() = 0;
     virtual void edit(std::size_t record) = 0;

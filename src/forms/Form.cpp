@@ -14,7 +14,7 @@ class Footer final : public Container {
 public:
     explicit Footer(Form& owner) : owner_(owner) {}
     Form& form() override { return owner_; }
-    bool shown() const override { return true; }
+    [[nodiscard]] bool shown() const override { return true; }
 
 private:
     Form& owner_;

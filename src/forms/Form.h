@@ -26,9 +26,9 @@ struct FormOptions {
 // values that it could not read.
 class Form : public Container {
 public:
-    const wire::WideString& title() const { return title_; }
+    [[nodiscard]] const wire::WideString& title() const { return title_; }
     Form& form() override { return *this; }
-    bool shown() const override { return true; }
+    [[nodiscard]] bool shown() const override { return true; }
 
     // The two standard buttons, drawn at the foot of the form and not among controls().
     Button& okButton() { return *ok_; }
@@ -44,15 +44,15 @@ public:
     // pressed, the form's own ones before the standard one.
     void userPressedDefault();
 
-    bool ended() const { return ended_; }
-    int result() const { return result_; }
+    [[nodiscard]] bool ended() const { return ended_; }
+    [[nodiscard]] int result() const { return result_; }
     // The control that has, or should get, the focus; null for the first reachable one.
-    Control* focus() const { return focus_; }
+    [[nodiscard]] Control* focus() const { return focus_; }
 
     // For the form and its helpers. The window of this form is the owner of both.
     platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption, std::uint32_t style);
     int runModal(Form& nested);
-    platform::Platform& platform() const { return platform_; }
+    [[nodiscard]] platform::Platform& platform() const { return platform_; }
 
 protected:
     Form(platform::Platform& platform, std::u16string_view title, FormOptions options = {});

@@ -18,8 +18,8 @@ class FormLabels {
 public:
     explicit FormLabels(Form& form);
 
-    KeyedLabel of(const Control& control) const;
-    KeyedLabel of(const Page& page) const;
+    [[nodiscard]] KeyedLabel of(const Control& control) const;
+    [[nodiscard]] KeyedLabel of(const Page& page) const;
     // Call when the control's label, or the title of one of its pages, has changed.
     void changed(const Control& control);
 

@@ -11,8 +11,8 @@ public:
     Group(Container& container, std::u16string_view label);
     void accept(ControlVisitor& visitor) override;
     Form& form() override;
-    bool shown() const override;
-    bool usable() const override;
+    [[nodiscard]] bool shown() const override;
+    [[nodiscard]] bool usable() const override;
 };
 
 } // namespace forms

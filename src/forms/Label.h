@@ -10,7 +10,7 @@ public:
     Label(Container& container, std::u16string_view label, std::u16string_view text = {});
     void accept(ControlVisitor& visitor) override;
 
-    const wire::WideString& text() const { return text_; }
+    [[nodiscard]] const wire::WideString& text() const { return text_; }
     void setText(wire::WideString text);
 
 private:

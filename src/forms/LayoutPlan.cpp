@@ -52,7 +52,7 @@ private:
     BlockPart partOf(Control& control);
     // Separates the groups that are beside each other from what belongs to them but is not a group.
     void split(Control& control, std::vector<Control*>& abreast, std::vector<Control*>& below) const;
-    bool grows(Controls controls) const;
+    [[nodiscard]] bool grows(Controls controls) const;
 
     Controls controls_;
     Neighbours neighbours_;

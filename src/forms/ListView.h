@@ -16,7 +16,7 @@ struct ListColumn {
     wire::WideString title;
     int width = 100;
 
-    bool hidden() const { return width <= 0; }
+    [[nodiscard]] bool hidden() const { return width <= 0; }
 };
 
 // A row of a list view: a text per column, and the id by which the program identifies the row.
@@ -31,9 +31,9 @@ public:
     ListView(Container& container, std::u16string_view label);
     void accept(ControlVisitor& visitor) override;
 
-    const std::vector<ListColumn>& columns() const { return columns_; }
+    [[nodiscard]] const std::vector<ListColumn>& columns() const { return columns_; }
     void setColumns(std::vector<ListColumn> columns);
-    const std::vector<ListRow>& rows() const { return rows_; }
+    [[nodiscard]] const std::vector<ListRow>& rows() const { return rows_; }
     // Replaces all rows and clears the selection.
     void setRows(std::vector<ListRow> rows);
     void addRow(ListRow row);
@@ -41,13 +41,13 @@ public:
     void removeRow(std::size_t row);
     void setCell(std::size_t row, std::size_t column, wire::WideString text);
 
-    std::optional<std::size_t> selection() const { return selection_; }
-    const ListRow* selectedRow() const; // null without a selection
+    [[nodiscard]] std::optional<std::size_t> selection() const { return selection_; }
+    [[nodiscard]] const ListRow* selectedRow() const; // null without a selection
     // Does not fire onSelect. A row that does not exist clears the selection.
     void select(std::optional<std::size_t> row);
 
     // The entries that a right click on a row offers; none for no menu. Hosts ask for them at the click.
-    const std::vector<wire::WideString>& rowMenu() const { return rowMenu_; }
+    [[nodiscard]] const std::vector<wire::WideString>& rowMenu() const { return rowMenu_; }
     void setRowMenu(std::vector<wire::WideString> entries) { rowMenu_ = std::move(entries); }
 
     std::function<void()> onSelect;

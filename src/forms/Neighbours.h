@@ -14,9 +14,9 @@ class Neighbours {
 public:
     explicit Neighbours(std::span<Control* const> controls);
 
-    bool goesWithAnother(const Control& control) const { return partners_.contains(&control); }
+    [[nodiscard]] bool goesWithAnother(const Control& control) const { return partners_.contains(&control); }
     // The controls that belong to this one, in order; each may have its own in turn.
-    std::span<Control* const> of(const Control& control) const;
+    [[nodiscard]] std::span<Control* const> of(const Control& control) const;
 
 private:
     void pairAsTheFormSays(std::span<Control* const> controls);

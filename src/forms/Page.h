@@ -14,15 +14,15 @@ class Page final : public Container {
 public:
     Page(Tabs& tabs, std::u16string_view title);
 
-    const wire::WideString& title() const { return title_; }
+    [[nodiscard]] const wire::WideString& title() const { return title_; }
     void setTitle(wire::WideString title);
-    bool visible() const { return visible_; }
+    [[nodiscard]] bool visible() const { return visible_; }
     // Hiding the page in front brings up the next one, or the previous one if there is no next.
     void setVisible(bool visible);
-    Tabs& tabs() const { return tabs_; }
+    [[nodiscard]] Tabs& tabs() const { return tabs_; }
     Form& form() override;
-    bool shown() const override;
-    bool usable() const override;
+    [[nodiscard]] bool shown() const override;
+    [[nodiscard]] bool usable() const override;
 
 private:
     Tabs& tabs_;

@@ -12,8 +12,8 @@ public:
     RadioButton(Container& container, RadioGroup& group, std::u16string_view label);
     void accept(ControlVisitor& visitor) override;
 
-    RadioGroup& group() const { return group_; }
-    bool chosen() const;
+    [[nodiscard]] RadioGroup& group() const { return group_; }
+    [[nodiscard]] bool chosen() const;
     void choose();
 
     std::function<void()> onChoose;

@@ -9,9 +9,9 @@ class RadioButton;
 // Radio buttons of which at most one is chosen. Not a control itself: the form places the buttons.
 class RadioGroup {
 public:
-    const std::vector<RadioButton*>& buttons() const { return buttons_; }
+    [[nodiscard]] const std::vector<RadioButton*>& buttons() const { return buttons_; }
     // Null while none is chosen.
-    RadioButton* chosen() const { return chosen_; }
+    [[nodiscard]] RadioButton* chosen() const { return chosen_; }
 
 private:
     friend class RadioButton;

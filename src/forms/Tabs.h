@@ -15,9 +15,9 @@ public:
     explicit Tabs(Container& container);
     void accept(ControlVisitor& visitor) override;
 
-    const std::vector<Page*>& pages() const { return pages_; }
+    [[nodiscard]] const std::vector<Page*>& pages() const { return pages_; }
     // The page in front; 0 at first.
-    std::size_t current() const { return current_; }
+    [[nodiscard]] std::size_t current() const { return current_; }
     // Throws std::out_of_range for a page that does not exist or is hidden.
     void show(std::size_t page);
 
@@ -26,7 +26,7 @@ public:
 
 private:
     friend class Page;
-    bool canShow(std::size_t page) const;
+    [[nodiscard]] bool canShow(std::size_t page) const;
     void leaveHiddenPage();
 
     std::vector<Page*> pages_;

@@ -20,10 +20,10 @@ struct TextOptions {
 // A box that takes text; the base of the one-line, the many-line and the password box.
 class TextControl : public Control {
 public:
-    const wire::WideString& text() const { return text_; }
+    [[nodiscard]] const wire::WideString& text() const { return text_; }
     // Does not fire onChange.
     void setText(wire::WideString text);
-    const TextOptions& options() const { return options_; }
+    [[nodiscard]] const TextOptions& options() const { return options_; }
     void setLimit(std::size_t limit);
     void setReadOnly(bool readOnly);
 

@@ -21,15 +21,15 @@ public:
     TreeView(Container& container, std::u16string_view label);
     void accept(ControlVisitor& visitor) override;
 
-    const std::vector<TreeItem>& items() const { return items_; }
+    [[nodiscard]] const std::vector<TreeItem>& items() const { return items_; }
     // Returns the number of the item. Throws std::out_of_range when the parent does not exist yet.
     std::size_t addItem(TreeItem item);
     void clear();
     // The texts from the top down to the item, joined by slashes, so that items with the same text can be told apart. A
     // slash in a text is "\/", a backslash "\\". Throws std::out_of_range for an item that does not exist.
-    wire::WideString path(std::size_t item) const;
+    [[nodiscard]] wire::WideString path(std::size_t item) const;
 
-    std::optional<std::size_t> selection() const { return selection_; }
+    [[nodiscard]] std::optional<std::size_t> selection() const { return selection_; }
     // Does not fire onSelect. An item that does not exist clears the selection.
     void select(std::optional<std::size_t> item);
 

@@ -14,13 +14,15 @@ public:
     virtual ~Environment() = default;
 
     // A variable of the environment; empty when it is not set.
-    virtual std::optional<std::string> variable(const std::string& /*name*/) const { return std::nullopt; }
+    [[nodiscard]] virtual std::optional<std::string> variable(const std::string& /*name*/) const {
+        return std::nullopt;
+    }
     // Whether the path exists: a file, a folder, or something else. Also false without the permission to look.
-    virtual bool exists(const std::string& /*path*/) const { return false; }
+    [[nodiscard]] virtual bool exists(const std::string& /*path*/) const { return false; }
     // Without a separator at the end, unless it is the root; empty when the folder no longer exists.
-    virtual std::string currentFolder() const { return {}; }
+    [[nodiscard]] virtual std::string currentFolder() const { return {}; }
     // The date and time on the user's clock.
-    virtual DateTime now() const { return {}; }
+    [[nodiscard]] virtual DateTime now() const { return {}; }
 };
 
 inline const Environment unknownEnvironment{};

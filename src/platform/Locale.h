@@ -22,7 +22,7 @@ class Locale {
 public:
     virtual ~Locale() = default;
 
-    virtual const NumberFormat& numberFormat() const {
+    [[nodiscard]] virtual const NumberFormat& numberFormat() const {
         static const NumberFormat plain;
         return plain;
     }

@@ -14,12 +14,13 @@ public:
     virtual ~SettingsStore() = default;
 
     // False when there is no store yet (nothing has been written) or it can't be opened for reading.
-    virtual bool exists() const = 0;
+    [[nodiscard]] virtual bool exists() const = 0;
     // Empty when the store has no such value.
-    virtual std::optional<wire::WideString> read(std::string_view name) const = 0;
+    [[nodiscard]] virtual std::optional<wire::WideString> read(std::string_view name) const = 0;
     // A value that another program has stored under a key of the registry, such as "SOFTWARE\\VantrelSrv". Without a
     // registry, such values are read from this store by their names alone.
-    virtual std::optional<wire::WideString> readOf(std::string_view /*key*/, std::string_view name) const {
+    [[nodiscard]] virtual std::optional<wire::WideString> readOf(std::string_view /*key*/,
+                                                                 std::string_view name) const {
         return read(name);
     }
     // False when the value could not be stored; nothing else is lost then.

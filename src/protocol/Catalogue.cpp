@@ -32,8 +32,9 @@ constexpr std::size_t noRow = commands.size();
 constexpr auto rowOfOpcode = [] {
     std::array<std::uint8_t, opcodeCount> rows{};
     rows.fill(noRow);
-    for (std::size_t row = 0; row < commands.size(); ++row)
+    for (std::size_t row = 0; row < commands.size(); ++row) {
         rows[commands[row].opcode] = static_cast<std::uint8_t>(row);
+    }
     return rows;
 }();
 
@@ -44,8 +45,9 @@ std::span<const Command> catalogue() {
 }
 
 const Command* findCommand(std::uint16_t opcode) {
-    if (opcode >= opcodeCount || rowOfOpcode[opcode] == noRow)
+    if (opcode >= opcodeCount || rowOfOpcode[opcode] == noRow) {
         return nullptr;
+    }
     return &commands[rowOfOpcode[opcode]];
 }
 

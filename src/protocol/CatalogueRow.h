@@ -11,7 +11,7 @@ inline constexpr RequestForm requestForms[] = {{Forms::form, &layoutOf<Forms>}..
 // A row: by default a command without a reply on a member connection that is closed, with functions to change that.
 struct Row : Command {
     // With another name than that of its first form.
-    constexpr Row called(std::string_view otherName) const {
+    [[nodiscard]] constexpr Row called(std::string_view otherName) const {
         Row row = *this;
         row.name = otherName;
         return row;
@@ -23,38 +23,39 @@ struct Row : Command {
         row.replyRecord = layout;
         return row;
     }
-    constexpr Row single(ReaderForm form) const { return replies(ReplyShape::single, form); }
+    [[nodiscard]] constexpr Row single(ReaderForm form) const { return replies(ReplyShape::single, form); }
     template <Record Reply>
-    constexpr Row single(ReaderForm form) const {
+    [[nodiscard]] constexpr Row single(ReaderForm form) const {
         return replies(ReplyShape::single, form, &layoutOf<Reply>);
     }
     template <Record Reply>
-    constexpr Row singleAndBlock(ReaderForm form) const {
+    [[nodiscard]] constexpr Row singleAndBlock(ReaderForm form) const {
         return replies(ReplyShape::singleAndBlock, form, &layoutOf<Reply>);
     }
-    constexpr Row list(ReaderForm form) const { return replies(ReplyShape::list, form); }
+    [[nodiscard]] constexpr Row list(ReaderForm form) const { return replies(ReplyShape::list, form); }
     template <Record Element>
-    constexpr Row list(ReaderForm form) const {
+    [[nodiscard]] [[nodiscard]] [[nodiscard]] [[nodiscard]] [[nodiscard]] [[nodiscard]] [[nodiscard]] constexpr Row
+    list(ReaderForm form) const {
         return replies(ReplyShape::list, form, &layoutOf<Element>);
     }
     // Records of this type instead when the request begins with that byte.
     template <Record Element>
-    constexpr Row orWhenFirstIs(std::uint8_t byte) const {
+    [[nodiscard]] constexpr Row orWhenFirstIs(std::uint8_t byte) const {
         Row row = *this;
         row.otherRecord = {.firstByte = byte, .layout = &layoutOf<Element>};
         return row;
     }
-    constexpr Row over(Connection kind) const {
+    [[nodiscard]] constexpr Row over(Connection kind) const {
         Row row = *this;
         row.connection = kind;
         return row;
     }
-    constexpr Row leftOpen() const {
+    [[nodiscard]] constexpr Row leftOpen() const {
         Row row = *this;
         row.closes = false;
         return row;
     }
-    constexpr Row guarded() const {
+    [[nodiscard]] constexpr Row guarded() const {
         Row row = *this;
         row.send = SendForm::guarded;
         return row;
@@ -76,12 +77,14 @@ template <Record Request, Record... OtherForms>
 constexpr Row row(std::string_view purpose) {
     static_assert(((Request::opcode == OtherForms::opcode) && ...), "the forms of a request share an opcode");
     Row row{{.opcode = Request::opcode, .name = commandName<Request>(), .purpose = purpose}};
-    if constexpr (requires { Request::version; })
+    if constexpr (requires { Request::version; }) {
         row.version = Request::version;
-    if constexpr (sizeof...(OtherForms) == 0)
+    }
+    if constexpr (sizeof...(OtherForms) == 0) {
         row.request = &layoutOf<Request>;
-    else
+    } else {
         row.forms = requestForms<Request, OtherForms...>;
+    }
     return row;
 }
 

@@ -19,8 +19,9 @@ FieldValue readOne(wire::Message& message, FieldKind kind, const FieldInfo& info
 FieldValue readList(wire::Message& message, const FieldInfo& info) {
     const std::uint16_t count = message.getUInt16();
     FieldList list;
-    for (std::uint32_t index = 0; index < count; ++index)
+    for (std::uint32_t index = 0; index < count; ++index) {
         list.push_back(readOne(message, info.elementKind, info));
+    }
     return {std::move(list)};
 }
 
@@ -61,8 +62,9 @@ FieldValue readOne(wire::Message& message, FieldKind kind, const FieldInfo& info
 FieldRecord readFields(wire::Message& message, const RecordLayout& layout) {
     FieldRecord record;
     record.reserve(layout.fields.size());
-    for (const FieldInfo& info : layout.fields)
+    for (const FieldInfo& info : layout.fields) {
         record.push_back({info.name, readOne(message, info.kind, info)});
+    }
     return record;
 }
 
@@ -71,11 +73,13 @@ void writeField(wire::Message& message, const FieldValue& field) {
         [&message]<class T>(const T& value) {
             if constexpr (std::is_same_v<T, FieldList>) {
                 message.putUInt16(static_cast<std::uint16_t>(value.size()));
-                for (const FieldValue& element : value)
+                for (const FieldValue& element : value) {
                     writeField(message, element);
+                }
             } else if constexpr (std::is_same_v<T, FieldRecord>) {
-                for (const NamedValue& element : value)
+                for (const NamedValue& element : value) {
                     writeField(message, element.value);
+                }
             } else if constexpr (!std::is_same_v<T, std::monostate>) {
                 wire::put(message, value);
             }
@@ -84,12 +88,14 @@ void writeField(wire::Message& message, const FieldValue& field) {
 }
 
 std::unique_ptr<wire::Message> makeDataMessage(std::span<const FieldValue> fields) {
-    if (fields.empty())
+    if (fields.empty()) {
         return nullptr;
+    }
     auto message = std::make_unique<wire::Message>();
     message->beginMessage(0);
-    for (const FieldValue& field : fields)
+    for (const FieldValue& field : fields) {
         writeField(*message, field);
+    }
     message->setKind(wire::MessageKind::Data);
     message->rewind();
     return message;

@@ -46,8 +46,9 @@ public:
         const std::size_t length = value.size() * sizeof(char16_t);
         std::uint8_t* const to = putCount(length);
         at_ = to + length;
-        if (length == 0)
+        if (length == 0) {
             return;
+        }
         marked_ |= value.front() == 0xFFFE || value.front() == 0xFEFF;
         strange_ |= copyUnits(to, reinterpret_cast<const std::uint8_t*>(value.data()), length);
     }
@@ -79,24 +80,26 @@ private:
     }
 
     static void copy(std::uint8_t* to, const void* from, std::size_t length) {
-        if (length > 2 * step)
+        if (length > 2 * step) {
             std::memcpy(to, from, length);
-        else if (length >= step)
+        } else if (length >= step) {
             copyEnds<Units>(to, from, length);
-        else if (length >= sizeof(std::uint64_t))
+        } else if (length >= sizeof(std::uint64_t)) {
             copyEnds<std::uint64_t>(to, from, length);
-        else if (length >= sizeof(std::uint32_t))
+        } else if (length >= sizeof(std::uint32_t)) {
             copyEnds<std::uint32_t>(to, from, length);
-        else if (length >= sizeof(std::uint16_t))
+        } else if (length >= sizeof(std::uint16_t)) {
             copyEnds<std::uint16_t>(to, from, length);
-        else if (length != 0)
+        } else if (length != 0) {
             *to = *static_cast<const std::uint8_t*>(from);
+        }
     }
 
     // The strangeness of all units together.
     static Units copyUnits(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
-        if (length < step)
+        if (length < step) {
             return copyFewUnits(to, from, length);
+        }
         Units units;
         Units strange{};
         for (std::size_t offset = 0; offset + step < length; offset += step) {

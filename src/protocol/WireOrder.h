@@ -171,8 +171,9 @@ constexpr FieldInfo infoOf(std::string_view name) {
         static_assert(
             !requires { typename wire::FieldTraits<Element>::Element; },
             "a layout tells one level: put a record between them");
-        if constexpr (Record<Element>)
+        if constexpr (Record<Element>) {
             info.element = &layoutOf<Element>;
+        }
     } else if constexpr (Record<T>) {
         info.element = &layoutOf<T>;
     }

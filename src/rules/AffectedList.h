@@ -23,7 +23,7 @@ public:
     // Selects the record with the id; if there is none, nothing changes.
     void select(std::string_view id);
     // The record of the selected row; null for the empty row and "<New>".
-    const protocol::AffectedRecord* selected() const;
+    [[nodiscard]] const protocol::AffectedRecord* selected() const;
     // Writes the selected record, or none, into the entry.
     void take(protocol::RuleEntryRecord& entry) const;
     // The name that a later fill selects if no row is saved.
@@ -31,11 +31,11 @@ public:
 
 private:
     bool read() override;
-    std::size_t size() const override { return records_.size(); }
-    const wire::WideString& name(std::size_t record) const override { return records_[record].name; }
-    std::optional<std::size_t> rowToGoBackTo() const override;
+    [[nodiscard]] std::size_t size() const override { return records_.size(); }
+    [[nodiscard]] const wire::WideString& name(std::size_t record) const override { return records_[record].name; }
+    [[nodiscard]] std::optional<std::size_t> rowToGoBackTo() const override;
     void followSelection() override { enableButtons(!list.selectedText().empty()); }
-    std::u16string_view deleteQuestion() const override;
+    [[nodiscard]] std::u16string_view deleteQuestion() const override;
     void make() override;
     void edit(std::size_t record) override;
     void remove(std::size_t record) override;

@@ -20,19 +20,19 @@ public:
     // no messages.
     void updateButtons(std::optional<std::size_t> row);
 
-    const std::vector<protocol::UserMessageRecord>& messages() const { return messages_; }
+    [[nodiscard]] const std::vector<protocol::UserMessageRecord>& messages() const { return messages_; }
     // The id of the selected message; none for an extra item, for a message without a name and without a selection. A
     // message named like an extra item can't be told apart from it; this must stay.
-    std::optional<wire::Uuid> selectedId() const;
+    [[nodiscard]] std::optional<wire::Uuid> selectedId() const;
 
     // Called after the user has selected something; a new message, if one was made, is then in the list.
     std::function<void()> onSelect;
 
 private:
     bool read() override;
-    std::size_t size() const override { return messages_.size(); }
-    const wire::WideString& name(std::size_t record) const override { return messages_[record].name; }
-    std::optional<std::size_t> rowToGoBackTo() const override;
+    [[nodiscard]] std::size_t size() const override { return messages_.size(); }
+    [[nodiscard]] const wire::WideString& name(std::size_t record) const override { return messages_[record].name; }
+    [[nodiscard]] std::optional<std::size_t> rowToGoBackTo() const override;
     void followSelection() override { updateButtons(list.selection()); }
     void make() override;
     void edit(std::size_t record) override;

@@ -21,7 +21,7 @@ public:
     // Sets three hours if there is no number.
     void fillIfEmpty();
     // None without a number, for a number that is too large, and without a unit.
-    std::optional<std::uint32_t> minutes() const;
+    [[nodiscard]] std::optional<std::uint32_t> minutes() const;
     void setEnabled(bool enabled);
 
     forms::EditBox number;

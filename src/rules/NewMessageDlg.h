@@ -15,7 +15,7 @@ public:
     NewMessageDlg(platform::Platform& platform, protocol::UserMessageRecord message);
 
     // As it was sent to the server, once the form has ended with OK.
-    const protocol::UserMessageRecord& message() const { return message_; }
+    [[nodiscard]] const protocol::UserMessageRecord& message() const { return message_; }
 
     forms::EditBox name{*this, u"Message name"};
     forms::DropList type{*this, u"Type"};
@@ -29,7 +29,7 @@ protected:
     void onOk() override;
 
 private:
-    bool isWebPage() const;
+    [[nodiscard]] bool isWebPage() const;
     void typeChanged();
     void enableFields();
     void showMessage();

@@ -27,7 +27,7 @@ public:
     NewPricePlanDlg(platform::Platform& platform, Opener opener, protocol::PricePlanRecord plan);
 
     // As it was sent to the server, once the form has ended with OK.
-    const protocol::PricePlanRecord& plan() const { return plan_; }
+    [[nodiscard]] const protocol::PricePlanRecord& plan() const { return plan_; }
 
     forms::Group general{*this, u"Plan"};
     forms::EditBox name{general, u"Name", {.limit = 64}};

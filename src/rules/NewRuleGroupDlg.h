@@ -34,7 +34,7 @@ protected:
 private:
     RuleEntryPlace place() { return {.entries = entries_, .ownerId = group_.id, .ownerNumber = 0, .parentId = {}}; }
     // Null without a selection, and for an entry without an id.
-    const protocol::RuleEntryRecord* selectedEntry() const;
+    [[nodiscard]] const protocol::RuleEntryRecord* selectedEntry() const;
     void listEntries();
     void showEntries();
     void enableButtons();

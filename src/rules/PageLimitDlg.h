@@ -35,7 +35,7 @@ public:
     PageLimitDlg(platform::Platform& platform, Opener opener, protocol::PageLimitRecord limit);
 
     // As it was sent to the server, once the form has ended with OK.
-    const protocol::PageLimitRecord& limit() const { return limit_; }
+    [[nodiscard]] const protocol::PageLimitRecord& limit() const { return limit_; }
 
     forms::Group general{*this, u"Rule"};
     forms::EditBox name{general, u"Name", {.limit = 64}};

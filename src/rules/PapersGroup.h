@@ -22,10 +22,10 @@ public:
 
     // Fills the lists, which are empty before.
     void open();
-    const std::vector<protocol::PriceEntryRecord>& rows() const { return table_.rows(); }
+    [[nodiscard]] const std::vector<protocol::PriceEntryRecord>& rows() const { return table_.rows(); }
     void setRows(std::vector<protocol::PriceEntryRecord> rows);
     // A row of the list is selected and waits for its update or removal.
-    bool updating() const { return updated_.has_value(); }
+    [[nodiscard]] bool updating() const { return updated_.has_value(); }
 
     // Called when updating() may have changed.
     std::function<void()> onChange;
@@ -45,10 +45,10 @@ public:
     PriceFields fields;
 
 private:
-    bool isAbsolute() const { return multiplierType.selection() == 1; }
+    [[nodiscard]] bool isAbsolute() const { return multiplierType.selection() == 1; }
     // None when nothing is selected in the list.
-    const protocol::PaperCode* chosenPaper() const;
-    protocol::PriceEntryRecord newRow(std::uint8_t kind) const;
+    [[nodiscard]] const protocol::PaperCode* chosenPaper() const;
+    [[nodiscard]] protocol::PriceEntryRecord newRow(std::uint8_t kind) const;
 
     void rowSelected();
     void showRow(const protocol::PriceEntryRecord& row);

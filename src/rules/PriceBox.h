@@ -16,10 +16,10 @@ public:
     void showAmount(float amount);
     // Keeps the text, which from now on is read as a number.
     void forget() { shownText_.clear(); }
-    bool empty() const { return box.text().empty(); }
-    float price() const;
+    [[nodiscard]] bool empty() const { return box.text().empty(); }
+    [[nodiscard]] float price() const;
     // The same, but `before` if the box is empty.
-    float priceOr(float before) const { return empty() ? before : price(); }
+    [[nodiscard]] float priceOr(float before) const { return empty() ? before : price(); }
 
     forms::EditBox box;
 

@@ -12,7 +12,7 @@ namespace rules {
 // The rows of a price plan: which of them may coexist, and how they are listed.
 class PriceTable {
 public:
-    const std::vector<protocol::PriceEntryRecord>& rows() const { return rows_; }
+    [[nodiscard]] const std::vector<protocol::PriceEntryRecord>& rows() const { return rows_; }
     void setRows(std::vector<protocol::PriceEntryRecord> rows) { rows_ = std::move(rows); }
 
     // Silently drops a row for a paper or area that already has a price; only absolute prices of a paper may coexist
@@ -24,7 +24,7 @@ public:
     void removePaper(std::uint16_t paperCode);
 
     static std::vector<forms::ListColumn> columns();
-    std::vector<forms::ListRow> listRows(const platform::Locale& locale) const;
+    [[nodiscard]] std::vector<forms::ListRow> listRows(const platform::Locale& locale) const;
 
 private:
     std::vector<protocol::PriceEntryRecord> rows_;

@@ -32,7 +32,7 @@ public:
     RuleObjectList object;
 
 private:
-    std::uint8_t chosenType() const;
+    [[nodiscard]] std::uint8_t chosenType() const;
     void typeChanged();
     void allowOk();
 

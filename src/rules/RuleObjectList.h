@@ -26,11 +26,11 @@ public:
 
 private:
     bool read() override { return objects_->read(); }
-    std::size_t size() const override { return objects_ != nullptr ? objects_->size() : 0; }
-    const wire::WideString& name(std::size_t record) const override { return objects_->name(record); }
-    std::optional<std::size_t> rowToGoBackTo() const override;
+    [[nodiscard]] std::size_t size() const override { return objects_ != nullptr ? objects_->size() : 0; }
+    [[nodiscard]] const wire::WideString& name(std::size_t record) const override { return objects_->name(record); }
+    [[nodiscard]] std::optional<std::size_t> rowToGoBackTo() const override;
     void followSelection() override;
-    std::u16string_view deleteQuestion() const override { return objects_->texts.deleteQuestion; }
+    [[nodiscard]] std::u16string_view deleteQuestion() const override { return objects_->texts.deleteQuestion; }
     void make() override;
     void edit(std::size_t record) override;
     void remove(std::size_t record) override;

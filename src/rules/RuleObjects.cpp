@@ -23,9 +23,9 @@ std::string textOf(const wire::Uuid& id) {
 template <class Record>
 class RecordObjects : public RuleObjects {
 public:
-    std::size_t size() const override { return records_.size(); }
-    const wire::WideString& name(std::size_t row) const override { return records_[row].name; }
-    std::string id(std::size_t row) const override { return textOf(records_[row].id); }
+    [[nodiscard]] std::size_t size() const override { return records_.size(); }
+    [[nodiscard]] const wire::WideString& name(std::size_t row) const override { return records_[row].name; }
+    [[nodiscard]] std::string id(std::size_t row) const override { return textOf(records_[row].id); }
 
 protected:
     using RuleObjects::RuleObjects;
@@ -111,9 +111,9 @@ public:
         : RuleObjects({u"Limits", u"Limit field should not be blank!",
                        u"Are you sure you want to delete this Page Limit rule?"}) {}
 
-    std::size_t size() const override { return ids_.size(); }
-    const wire::WideString& name(std::size_t row) const override { return names_[row]; }
-    std::string id(std::size_t row) const override { return ids_[row]; }
+    [[nodiscard]] std::size_t size() const override { return ids_.size(); }
+    [[nodiscard]] const wire::WideString& name(std::size_t row) const override { return names_[row]; }
+    [[nodiscard]] std::string id(std::size_t row) const override { return ids_[row]; }
 
     bool read() override { return client::CQVXAdminClass().listPageLimits(ids_, names_); }
     bool make(forms::Form& form, const RuleEntryRecord& entry) override {

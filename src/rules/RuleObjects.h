@@ -31,13 +31,13 @@ public:
     // The objects for a type of rule entry; null for a type without objects.
     static std::unique_ptr<RuleObjects> ofType(std::uint8_t type);
 
-    bool editable() const { return !texts.deleteQuestion.empty(); }
+    [[nodiscard]] bool editable() const { return !texts.deleteQuestion.empty(); }
 
     // Reads them again; false when there is no connection.
     virtual bool read() = 0;
-    virtual std::size_t size() const = 0;
-    virtual const wire::WideString& name(std::size_t row) const = 0;
-    virtual std::string id(std::size_t row) const = 0;
+    [[nodiscard]] virtual std::size_t size() const = 0;
+    [[nodiscard]] virtual const wire::WideString& name(std::size_t row) const = 0;
+    [[nodiscard]] virtual std::string id(std::size_t row) const = 0;
 
     // False when the user has cancelled.
     virtual bool make(forms::Form& /*form*/, const protocol::RuleEntryRecord& /*entry*/) { return false; }

@@ -21,7 +21,7 @@ public:
     ShortIdDlg(platform::Platform& platform, protocol::ShortIdRecord shortId);
 
     // As it was sent to the server, once the form has ended with OK.
-    const protocol::ShortIdRecord& shortId() const { return shortId_; }
+    [[nodiscard]] const protocol::ShortIdRecord& shortId() const { return shortId_; }
 
     forms::EditBox name{*this, u"Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Comment", {.limit = 255}};
@@ -47,7 +47,7 @@ private:
     void enableTimes();
     void timesClicked();
     void takeTimes();
-    std::optional<std::int64_t> secondsOfDay() const;
+    [[nodiscard]] std::optional<std::int64_t> secondsOfDay() const;
 
     bool editing_;
     protocol::ShortIdRecord shortId_;

@@ -34,7 +34,7 @@ public:
     bool commit();
 
     // The displayed columns, without uncommitted changes.
-    const std::vector<ShownColumn>& columns() const { return shown_; }
+    [[nodiscard]] const std::vector<ShownColumn>& columns() const { return shown_; }
 
     // How wide a title is in pixels, for automatic widths; a host with a font may set its own.
     std::function<std::int32_t(wire::WideStringView title)> measure;

@@ -10,7 +10,7 @@ public:
     console::Result ImageListSetStrip(const console::ImageStrip& strip, std::int32_t start,
                                       std::uint32_t mask) override;
 
-    const console::ImageStrip& strip() const { return strip_; }
+    [[nodiscard]] const console::ImageStrip& strip() const { return strip_; }
 
 private:
     console::ImageStrip strip_ = console::noStrip;

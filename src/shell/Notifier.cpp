@@ -23,16 +23,16 @@ void Notifier::stopped(std::string_view where, std::string_view what) const {
     observers_.tell([&](ShellObserver& observer) { observer.handlerStopped(where, what); });
 }
 
-Result Notifier::expand(const Node& node, ScopeId id, bool expand) const {
-    return send(Side::scope, node, {.event = Event::expand, .arg = expand ? 1 : 0, .param = id});
+void Notifier::expand(const Node& node, ScopeId id, bool expand) const {
+    static_cast<void>(send(Side::scope, node, {.event = Event::expand, .arg = expand ? 1 : 0, .param = id}));
 }
 
 Result Notifier::addImages(const Node& node, ScopeId id, console::IImageList& images) const {
     return send(Side::view, node, {.event = Event::addImages, .param = id, .images = &images});
 }
 
-Result Notifier::show(const Node& node, ScopeId id, bool show) const {
-    return send(Side::view, node, {.event = Event::show, .arg = show ? 1 : 0, .param = id});
+void Notifier::show(const Node& node, ScopeId id, bool show) const {
+    static_cast<void>(send(Side::view, node, {.event = Event::show, .arg = show ? 1 : 0, .param = id}));
 }
 
 Result Notifier::showAnew(const Node& node, console::IConsole& console) const {
@@ -41,9 +41,9 @@ Result Notifier::showAnew(const Node& node, console::IConsole& console) const {
     return result;
 }
 
-Result Notifier::select(const Node& node, DataObjectType type, bool selected) const {
+void Notifier::select(const Node& node, DataObjectType type, bool selected) const {
     const int arg = (type == DataObjectType::scope ? 1 : 0) | (selected ? 2 : 0);
-    return send(Side::view, node, {.event = Event::select, .arg = arg, .type = type});
+    static_cast<void>(send(Side::view, node, {.event = Event::select, .arg = arg, .type = type}));
 }
 
 Result Notifier::refresh(const Node& node, DataObjectType type, ScopeId scopeId) const {
@@ -54,8 +54,8 @@ Result Notifier::doubleClick(const Node& node, DataObjectType type) const {
     return send(Side::view, node, {.event = Event::doubleClick, .type = type});
 }
 
-Result Notifier::columnClick(const Node& node, std::int32_t column) const {
-    return send(Side::view, node, {.event = Event::columnClick, .arg = column});
+void Notifier::columnClick(const Node& node, std::int32_t column) const {
+    static_cast<void>(send(Side::view, node, {.event = Event::columnClick, .arg = column}));
 }
 
 Result Notifier::rename(const Node& node, DataObjectType type, const wire::WideString& newName) const {

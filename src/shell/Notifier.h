@@ -18,22 +18,25 @@ public:
     // Both outlive it.
     Notifier(SnapIn& snapIn, const Observers& observers) : snapIn_(snapIn), observers_(observers) {}
 
-    console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
+    // Nothing depends on what a node makes of these.
+    void expand(const Node& node, console::ScopeId id, bool expand) const;
     console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
-    console::Result show(const Node& node, console::ScopeId id, bool show) const;
+    void show(const Node& node, console::ScopeId id, bool show) const;
     // Asks the shown node to show its columns and rows again after a refresh.
     console::Result showAnew(const Node& node, console::IConsole& console) const;
-    console::Result select(const Node& node, console::DataObjectType type, bool selected) const;
-    console::Result refresh(const Node& node, console::DataObjectType type, console::ScopeId scopeId) const;
-    console::Result doubleClick(const Node& node, console::DataObjectType type) const;
-    console::Result columnClick(const Node& node, std::int32_t column) const;
-    console::Result rename(const Node& node, console::DataObjectType type, const wire::WideString& newName) const;
-    console::Result queryPaste(const Node& node, console::DataObjectType type, const Node& source) const;
-    console::Result paste(const Node& node, console::DataObjectType type, const Node& source) const;
-    console::Result deleteItem(const Node& node, console::DataObjectType type) const;
+    void select(const Node& node, console::DataObjectType type, bool selected) const;
+    [[nodiscard]] console::Result refresh(const Node& node, console::DataObjectType type,
+                                          console::ScopeId scopeId) const;
+    [[nodiscard]] console::Result doubleClick(const Node& node, console::DataObjectType type) const;
+    void columnClick(const Node& node, std::int32_t column) const;
+    [[nodiscard]] console::Result rename(const Node& node, console::DataObjectType type,
+                                         const wire::WideString& newName) const;
+    [[nodiscard]] console::Result queryPaste(const Node& node, console::DataObjectType type, const Node& source) const;
+    [[nodiscard]] console::Result paste(const Node& node, console::DataObjectType type, const Node& source) const;
+    [[nodiscard]] console::Result deleteItem(const Node& node, console::DataObjectType type) const;
 
     // Whether the console is to list the scope children of the node itself.
-    bool listsScopeChildren(const Node& node) const;
+    [[nodiscard]] bool listsScopeChildren(const Node& node) const;
 
     // Runs work that may throw; false when it did.
     template <class Work>
@@ -53,7 +56,7 @@ public:
 
 private:
     enum class Side : std::uint8_t { scope, view };
-    console::Result send(Side side, Node node, const console::Notification& notification) const;
+    [[nodiscard]] console::Result send(Side side, Node node, const console::Notification& notification) const;
     void stopped(std::string_view where, std::string_view what) const;
 
     SnapIn& snapIn_;

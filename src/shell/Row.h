@@ -14,8 +14,8 @@ struct Row {
     console::ResultId id = 0; // below 0: the scope item with the opposite number, listed by the console itself
     std::int32_t image = 0;
 
-    bool isScopeItem() const { return id < 0; }
-    console::ScopeId scopeId() const { return -id; } // of a scope item
+    [[nodiscard]] bool isScopeItem() const { return id < 0; }
+    [[nodiscard]] console::ScopeId scopeId() const { return -id; } // of a scope item
 };
 
 // The text of one column. Valid until the row's node is asked again; empty when it returns none.

@@ -11,8 +11,8 @@ public:
     explicit RowFilter(wire::WideStringView text);
 
     // An empty filter lets everything pass.
-    bool empty() const { return folded_.empty(); }
-    bool matches(wire::WideStringView cell) const;
+    [[nodiscard]] bool empty() const { return folded_.empty(); }
+    [[nodiscard]] bool matches(wire::WideStringView cell) const;
 
 private:
     wire::WideString folded_;

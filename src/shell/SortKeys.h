@@ -30,10 +30,10 @@ private:
     };
 
     void addKey(std::size_t begin);
-    wire::WideStringView textOf(const Key& key) const { return {units_.data() + key.begin, key.length}; }
+    [[nodiscard]] wire::WideStringView textOf(const Key& key) const { return {units_.data() + key.begin, key.length}; }
     void skipCommonBeginning();
     void setHeads();
-    bool stands(const Key& before, const Key& after, bool ascending) const;
+    [[nodiscard]] bool stands(const Key& before, const Key& after, bool ascending) const;
 
     wire::WideString units_;
     std::vector<Key> keys_;

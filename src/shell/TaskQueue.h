@@ -32,9 +32,9 @@ public:
     void add(Task task);
     std::optional<Task> next();
     void clear() { tasks_.clear(); }
-    bool empty() const { return tasks_.empty(); }
+    [[nodiscard]] bool empty() const { return tasks_.empty(); }
     // The next task; null when there is none.
-    const Task* front() const { return tasks_.empty() ? nullptr : &tasks_.front(); }
+    [[nodiscard]] const Task* front() const { return tasks_.empty() ? nullptr : &tasks_.front(); }
 
     // Called when a task was added; for hosts with a loop of their own.
     std::function<void()> onAdded;

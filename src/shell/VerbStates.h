@@ -12,7 +12,7 @@ public:
     console::Result SetVerbState(console::Verb verb, console::VerbState state, bool flag) override;
     console::Result GetVerbState(console::Verb verb, console::VerbState state, bool& flag) override;
 
-    bool offers(console::Verb verb) const;
+    [[nodiscard]] bool offers(console::Verb verb) const;
     // A new selection starts without verbs.
     void reset() { offered_.reset(); }
 

@@ -18,15 +18,15 @@ public:
     // The nearest other item that still exists; 0 when there is none.
     console::ScopeId back(const Exists& exists);
     console::ScopeId forward(const Exists& exists);
-    bool canGoBack(const Exists& exists) const;
-    bool canGoForward(const Exists& exists) const;
+    [[nodiscard]] bool canGoBack(const Exists& exists) const;
+    [[nodiscard]] bool canGoForward(const Exists& exists) const;
 
 private:
     static constexpr std::size_t longest = 200;
 
     // The index in visited_ where a step ends, or visited_.size().
-    std::size_t before(const Exists& exists) const;
-    std::size_t after(const Exists& exists) const;
+    [[nodiscard]] std::size_t before(const Exists& exists) const;
+    [[nodiscard]] std::size_t after(const Exists& exists) const;
 
     std::vector<console::ScopeId> visited_;
     std::size_t current_ = 0;

@@ -28,9 +28,9 @@ public:
 
     explicit AuthenticationDlg(platform::Platform& platform);
 
-    AuthenticationStatus status() const { return status_; }
+    [[nodiscard]] AuthenticationStatus status() const { return status_; }
     // The text for the status.
-    const wire::WideString& statusText() const { return statusText_; }
+    [[nodiscard]] const wire::WideString& statusText() const { return statusText_; }
 
     // The blanks behind the labels are part of them.
     forms::Group userAuthentication{*this, u"User Authentication"};

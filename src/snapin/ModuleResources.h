@@ -15,7 +15,7 @@ class ModuleResources {
 public:
     virtual ~ModuleResources() = default;
 
-    virtual std::optional<wire::WideString> loadString(std::int32_t id) const = 0;
+    [[nodiscard]] virtual std::optional<wire::WideString> loadString(std::int32_t id) const = 0;
     // 0 when there is no such image. Sizes are in pixels; images are square.
     virtual ImageHandle loadBitmap(std::int32_t id, std::int32_t size) = 0;
     virtual ImageHandle loadIcon(std::int32_t id) = 0;

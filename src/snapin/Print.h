@@ -41,20 +41,20 @@ public:
     console::Result CompareObjects(const console::CSnapInItem* a, const console::CSnapInItem* b) const;
 
     // The saved console file. Nothing of the tree is in it: all state is on the server.
-    console::Guid GetClassID() const;
-    console::Result IsDirty() const;
+    [[nodiscard]] console::Guid GetClassID() const;
+    [[nodiscard]] console::Result IsDirty() const;
     console::Result Load(std::istream& stream);
     console::Result Save(std::ostream& stream, bool clearDirty);
-    std::uint64_t GetSizeMax() const { return savedSize; }
+    [[nodiscard]] std::uint64_t GetSizeMax() const { return savedSize; }
 
     // An empty text: there is no help file.
-    std::array<char16_t, 260> GetHelpTopic() const { return {}; }
-    console::Result GetLinkedTopics() const { return console::Result::notDone; }
+    [[nodiscard]] std::array<char16_t, 260> GetHelpTopic() const { return {}; }
+    [[nodiscard]] console::Result GetLinkedTopics() const { return console::Result::notDone; }
 
     // Null before Initialize and after Destroy.
     console::IConsole* console() override { return console_; }
-    PrintData& root() const { return *root_; }
-    platform::Platform& platform() const { return platform_; }
+    [[nodiscard]] PrintData& root() const { return *root_; }
+    [[nodiscard]] platform::Platform& platform() const { return platform_; }
 
 private:
     platform::Platform& platform_;

@@ -79,8 +79,9 @@ TEST_F(Printers, otherRowsAreAskedForInTheirOwnModes) {
     answer({countedList({}), countedList({}), countedList({})});
     CQVXAdminClass client(settings);
 
-    for (const std::uint16_t mode : {std::uint16_t{8}, std::uint16_t{9}, std::uint16_t{10}})
+    for (const std::uint16_t mode : {std::uint16_t{8}, std::uint16_t{9}, std::uint16_t{10}}) {
         EXPECT_TRUE(client.getRecordById("x", mode, count));
+    }
 
     EXPECT_EQ(received(0), request(6, "01 00 78 00 00 00 00 08 00"));
     EXPECT_EQ(received(1), request(6, "01 00 78 00 00 00 00 09 00"));
@@ -103,8 +104,9 @@ TEST_F(Printers, areHandedOutInTheReverseOfTheWireOrder) {
     client.getPrintersInRegion(12, count);
 
     wire::WideString seen;
-    for (PrinterRecord record; client.nextPrinterRecord(record);)
+    for (PrinterRecord record; client.nextPrinterRecord(record);) {
         seen.push_back(record.name.at(0));
+    }
 
     EXPECT_EQ(count, 3);
     EXPECT_EQ(seen, u"CBA");

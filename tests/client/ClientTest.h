@@ -41,12 +41,13 @@ protected:
     void answer(const std::vector<Bytes>& replies) {
         std::vector<support::ScriptedServer::Script> scripts;
         scripts.reserve(replies.size());
-        for (const Bytes& reply : replies)
+        for (const Bytes& reply : replies) {
             scripts.emplace_back([reply](Connection& connection) {
                 connection.expectFrame();
                 connection.send(reply);
                 connection.untilClosed();
             });
+        }
         serve(std::move(scripts));
     }
 

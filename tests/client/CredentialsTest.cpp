@@ -92,8 +92,9 @@ TEST_F(Credentials, aKeyWithAnyByteChangedDoesNoHarm) {
 
 TEST_F(Credentials, aKeyThatEndsAnywhereGivesAnEmptyText) {
     const std::string key = publicKey();
-    for (std::size_t length = 0; length < key.size(); ++length)
+    for (std::size_t length = 0; length < key.size(); ++length) {
         EXPECT_EQ(rsaEncrypt("x", key.substr(0, length)), "") << length;
+    }
 }
 
 TEST_F(Credentials, aModulusOfZeroOrOneOrBelowGivesAnEmptyText) {

@@ -77,8 +77,9 @@ TEST_F(PrinterEdit, loadsInTheModeOfTheType) {
         EXPECT_EQ(edit.spare, 0x7FFFU);
     }
 
-    for (std::size_t index = 0; index < std::size(cases); ++index)
+    for (std::size_t index = 0; index < std::size(cases); ++index) {
         EXPECT_EQ(received(index), request(6, hex("02 00 70 31 00 00 00 00") + hex(cases[index].mode)));
+    }
 }
 
 TEST_F(PrinterEdit, anUpdateWithNoDirtyFlagSendsNothing) {

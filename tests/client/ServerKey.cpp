@@ -10,8 +10,9 @@ namespace client {
 namespace {
 
 void check(int result) {
-    if (result != CRYPT_OK)
+    if (result != CRYPT_OK) {
         throw std::runtime_error(error_to_string(result));
+    }
 }
 
 } // namespace
@@ -22,8 +23,9 @@ struct ServerKey::Key {
 
 ServerKey::ServerKey(int bits) : key_(std::make_unique<Key>()) {
     ltc_mp = ltm_desc;
-    if (register_prng(&sprng_desc) == -1)
+    if (register_prng(&sprng_desc) == -1) {
         throw std::runtime_error("no source of randomness");
+    }
     check(rsa_make_key(nullptr, find_prng("sprng"), bits / 8, 65537, &key_->rsa));
 }
 
@@ -39,8 +41,9 @@ support::Bytes ServerKey::publicHalf() const {
 }
 
 wire::WideString ServerKey::open(const support::Bytes& cipher) const {
-    if (cipher.empty())
+    if (cipher.empty()) {
         throw std::runtime_error("there is no cipher");
+    }
     std::array<unsigned char, 4096> padded{};
     unsigned long paddedSize = padded.size();
     check(rsa_exptmod(cipher.data(), static_cast<unsigned long>(cipher.size()), padded.data(), &paddedSize, PK_PRIVATE,
@@ -49,11 +52,13 @@ wire::WideString ServerKey::open(const support::Bytes& cipher) const {
     const unsigned char* const begin = padded.data();
     const unsigned char* const end = begin + paddedSize;
     const auto* const separator = std::find(begin + 2, end, 0);
-    if (paddedSize != 256 || padded[0] != 0 || padded[1] != 2 || separator == end || separator - begin < 10)
+    if (paddedSize != 256 || padded[0] != 0 || padded[1] != 2 || separator == end || separator - begin < 10) {
         throw std::runtime_error("the padding is wrong");
+    }
     wire::WideString text;
-    for (const auto* at = separator + 1; at + 1 < end; at += 2)
+    for (const auto* at = separator + 1; at + 1 < end; at += 2) {
         text.push_back(static_cast<char16_t>(at[0] | at[1] << 8));
+    }
     return text;
 }
 

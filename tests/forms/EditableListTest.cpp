@@ -40,11 +40,11 @@ private:
         }
         return reads;
     }
-    std::size_t size() const override { return names.size(); }
-    const wire::WideString& name(std::size_t record) const override { return names[record]; }
-    std::optional<std::size_t> rowToGoBackTo() const override { return rowOf(0); }
+    [[nodiscard]] std::size_t size() const override { return names.size(); }
+    [[nodiscard]] const wire::WideString& name(std::size_t record) const override { return names[record]; }
+    [[nodiscard]] std::optional<std::size_t> rowToGoBackTo() const override { return rowOf(0); }
     void followSelection() override { enableButtons(namedRecord().has_value()); }
-    std::u16string_view deleteQuestion() const override { return question; }
+    [[nodiscard]] std::u16string_view deleteQuestion() const override { return question; }
     void make() override { calls.emplace_back("make"); }
     void edit(std::size_t record) override { calls.push_back("edit " + std::to_string(record)); }
     void remove(std::size_t record) override { calls.push_back("remove " + std::to_string(record)); }

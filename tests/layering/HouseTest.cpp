@@ -30,6 +30,10 @@ TEST_F(House, includesAreToldFromTheRoot) {
     EXPECT_THAT(relativeIncludes(tree), IsEmpty());
 }
 
+TEST_F(House, everySourceIncludesItsOwnHeaderFirst) {
+    EXPECT_THAT(ownHeaderNotFirst(tree), IsEmpty());
+}
+
 TEST_F(House, sourcesAreShort) {
     EXPECT_THAT(longSources(tree), IsEmpty());
 }

@@ -330,6 +330,28 @@ Complaints relativeIncludes(const SourceTree& tree) {
     return complaints;
 }
 
+Complaints ownHeaderNotFirst(const SourceTree& tree) {
+    std::set<std::string, std::less<>> headers;
+    for (const auto& file : tree) {
+        if (file.path.ends_with(".h")) {
+            headers.insert(file.path);
+        }
+    }
+    Complaints complaints;
+    for (const auto& file : tree) {
+        if (!file.path.ends_with(".cpp")) {
+            continue;
+        }
+        const auto header = file.path.substr(0, file.path.size() - 3) + "h";
+        const auto name = header.starts_with("src/") ? header.substr(4) : header;
+        const auto includes = includesOf(file.text);
+        if (headers.contains(header) && (includes.empty() || includes.front().name != name)) {
+            complaints.push_back(file.path + ": does not include " + name + " first");
+        }
+    }
+    return complaints;
+}
+
 Complaints longSources(const SourceTree& tree) {
     Complaints complaints;
     std::vector<std::size_t> lengths;

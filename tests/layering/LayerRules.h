@@ -19,6 +19,9 @@ Complaints platformHeadersOutside(const SourceTree& tree);
 // Include paths start at the source root, never at the including file.
 Complaints relativeIncludes(const SourceTree& tree);
 
+// A source includes the header of its own name before all others, which proves that the header compiles alone.
+Complaints ownHeaderNotFirst(const SourceTree& tree);
+
 // No source is longer than 500 lines, and half of the sources of the programs are shorter than 150.
 Complaints longSources(const SourceTree& tree);
 

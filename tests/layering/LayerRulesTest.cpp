@@ -166,5 +166,17 @@ TEST(SourceTree, aFolderWithoutSourcesIsRefused) {
     EXPECT_THROW(readSourceTree(std::filesystem::path(VANTREL_SOURCE_DIR) / "docs"), std::runtime_error);
 }
 
+TEST(LayerRules, aSourceIncludesItsOwnHeaderBeforeAllOthers) {
+    EXPECT_THAT(ownHeaderNotFirst({{"src/wire/A.h", ""},
+                                   {"src/wire/A.cpp", "#include \"wire/A.h\"\n#include <string>\n"},
+                                   {"server/B.h", ""},
+                                   {"server/B.cpp", "#include <string>\n#include \"server/B.h\"\n"},
+                                   {"tests/C.h", ""},
+                                   {"tests/C.cpp", "int c;\n"},
+                                   {"server/main.cpp", "#include <string>\n"}}),
+                ElementsAre("server/B.cpp: does not include server/B.h first",
+                            "tests/C.cpp: does not include tests/C.h first"));
+}
+
 } // namespace
 } // namespace layering

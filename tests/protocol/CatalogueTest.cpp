@@ -136,15 +136,18 @@ TEST(Catalogue, eachCommandStandsAsItWasAgreed) {
 }
 
 TEST(Catalogue, onlyUpdateRecordHasVersionTwo) {
-    for (const Command& command : catalogue())
+    for (const Command& command : catalogue()) {
         EXPECT_EQ(command.version, command.name == "UpdateRecord" ? 2 : 1) << command.name;
+    }
 }
 
 TEST(Catalogue, onlyThreeCommandsGuardTheirSend) {
     std::set<std::uint16_t> guarded;
-    for (const Command& command : catalogue())
-        if (command.send == SendForm::guarded)
+    for (const Command& command : catalogue()) {
+        if (command.send == SendForm::guarded) {
             guarded.insert(command.opcode);
+        }
+    }
 
     EXPECT_EQ(guarded, (std::set<std::uint16_t>{5, 27, 73}));
 }
@@ -161,13 +164,15 @@ TEST(Catalogue, namesAndPurposesAreThereAndNamesDiffer) {
 }
 
 TEST(Catalogue, aCommandIsFoundByItsOpcode) {
-    for (const Command& command : catalogue())
+    for (const Command& command : catalogue()) {
         EXPECT_EQ(findCommand(command.opcode), &command);
+    }
 }
 
 TEST(Catalogue, anOpcodeThatIsNotInUseIsNotFound) {
-    for (const int opcode : {7, 8, 26, 35, 63, 72, 85, 86, 255, 256, 32768, 65535})
+    for (const int opcode : {7, 8, 26, 35, 63, 72, 85, 86, 255, 256, 32768, 65535}) {
         EXPECT_EQ(findCommand(static_cast<std::uint16_t>(opcode)), nullptr) << opcode;
+    }
 }
 
 TEST(Catalogue, everyRequestIsDescribed) {
@@ -181,8 +186,9 @@ TEST(Catalogue, everyRequestIsDescribed) {
 }
 
 TEST(Catalogue, everyReplyIsDescribed) {
-    for (const Command& command : catalogue())
+    for (const Command& command : catalogue()) {
         EXPECT_EQ(command.replyRecord != nullptr, command.reply != ReplyShape::none) << command.name;
+    }
 }
 
 TEST(Catalogue, aCommandWithoutFieldsHasALayoutWithoutFields) {

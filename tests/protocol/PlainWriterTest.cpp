@@ -31,8 +31,9 @@ support::Bytes ofMessage(wire::WideStringView text) {
 
 wire::WideString letters(std::size_t count) {
     wire::WideString text;
-    for (std::size_t index = 0; index < count; ++index)
+    for (std::size_t index = 0; index < count; ++index) {
         text.push_back(static_cast<char16_t>(u'a' + index % 26));
+    }
     return text;
 }
 
@@ -54,20 +55,24 @@ TEST(PlainWriter, narrowTextOfEveryLengthIsCopied) {
 }
 
 TEST(PlainWriter, aZeroOrASurrogateIsNoticedAtEveryPlace) {
-    for (const char16_t strange : {u'\0', char16_t{0xD800}, char16_t{0xDBFF}, char16_t{0xDC00}, char16_t{0xDFFF}})
-        for (std::size_t count = 1; count < 40; ++count)
+    for (const char16_t strange : {u'\0', char16_t{0xD800}, char16_t{0xDBFF}, char16_t{0xDC00}, char16_t{0xDFFF}}) {
+        for (std::size_t count = 1; count < 40; ++count) {
             for (std::size_t place = 0; place < count; ++place) {
                 wire::WideString text = letters(count);
                 text[place] = strange;
                 EXPECT_FALSE(writtenPlainly(wire::WideStringView(text)).plain) << count << " at " << place;
             }
+        }
+    }
 }
 
 TEST(PlainWriter, theNeighboursOfSurrogatesArePlain) {
-    for (const char16_t unit : {char16_t{1}, char16_t{0xD7FF}, char16_t{0xE000}, char16_t{0xFFFF}})
-        for (std::size_t count = 1; count < 20; ++count)
+    for (const char16_t unit : {char16_t{1}, char16_t{0xD7FF}, char16_t{0xE000}, char16_t{0xFFFF}}) {
+        for (std::size_t count = 1; count < 20; ++count) {
             EXPECT_TRUE(writtenPlainly(wire::WideStringView(wire::WideString(count, unit))).plain)
                 << static_cast<int>(unit);
+        }
+    }
 }
 
 TEST(PlainWriter, aByteOrderMarkIsNoticedOnlyInFront) {

@@ -45,8 +45,9 @@ R fromFields(const std::string& hexText) {
 inline support::Bytes repeated(std::size_t count, const std::string& hexText) {
     const support::Bytes unit = support::hex(hexText);
     support::Bytes bytes;
-    for (std::size_t index = 0; index < count; ++index)
+    for (std::size_t index = 0; index < count; ++index) {
         bytes.insert(bytes.end(), unit.begin(), unit.end());
+    }
     return bytes;
 }
 

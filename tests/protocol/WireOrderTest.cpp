@@ -178,10 +178,11 @@ TEST(WireOrder, forEachFieldVisitsNamesAndValuesInOrder) {
     const Inner inner{5, "v"};
     std::vector<std::string> seen;
     forEachField(inner, [&]<class T>(std::string_view name, const T& value) {
-        if constexpr (std::is_same_v<T, std::string>)
+        if constexpr (std::is_same_v<T, std::string>) {
             seen.push_back(std::string(name) + "=" + value);
-        else
+        } else {
             seen.push_back(std::string(name) + "=" + std::to_string(value));
+        }
     });
 
     EXPECT_EQ(seen, (std::vector<std::string>{"number=5", "text=v"}));
@@ -197,8 +198,9 @@ TEST(WireOrder, forEachFieldCanChangeTheRecord) {
 TEST(WireOrder, aLayoutNamesItsRecordAndTellsEachKind) {
     const RecordLayout& layout = layoutOf<Everything>;
     std::vector<std::string_view> kinds;
-    for (const FieldInfo& info : layout.fields)
+    for (const FieldInfo& info : layout.fields) {
         kinds.push_back(nameOf(info.kind));
+    }
 
     EXPECT_EQ(layout.name, "Everything");
     EXPECT_EQ(kinds, (std::vector<std::string_view>{"u8", "bool", "u16", "u32", "i32", "i64", "f32", "str8", "str16",

@@ -63,7 +63,7 @@ protected:
         EXPECT_TRUE(papers_.multiplierType.enabled());
     }
 
-    std::vector<int> kinds() const {
+    [[nodiscard]] std::vector<int> kinds() const {
         std::vector<int> all;
         for (const auto& row : papers_.rows()) {
             all.push_back(row.kind);

@@ -60,11 +60,15 @@ void askForList(StoreConnection& connection, std::uint16_t opcode, const Bytes& 
 
 TEST(ListQuery, ofEveryCommandAndKindGoOutWithoutBeingGatheredAndSorted) {
     test::TestEstate place;
-    for (const auto& command : protocol::catalogue())
-        if (command.reply == protocol::ReplyShape::list && command.request != nullptr)
-            for (std::uint8_t number = 0; number <= 10; ++number)
-                for (const bool named : {false, true})
+    for (const auto& command : protocol::catalogue()) {
+        if (command.reply == protocol::ReplyShape::list && command.request != nullptr) {
+            for (std::uint8_t number = 0; number <= 10; ++number) {
+                for (const bool named : {false, true}) {
                     askForList(place.connection(), command.opcode, fieldsOf(*command.request, number, named));
+                }
+            }
+        }
+    }
     const auto& plans = place.connection().table<test::QueryPlans>();
     EXPECT_GE(plans.readingStatements().size(), 30U);
     EXPECT_EQ(plans.sortingStatements(), "");

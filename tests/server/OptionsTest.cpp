@@ -58,8 +58,9 @@ TEST(Options, helpNamesEveryOption) {
     const auto outcome = parse({"--help"});
     EXPECT_EQ(outcome.exitStatus, 0);
     for (const auto* option : {"--database", "--listen", "--port", "--port-file", "--sample", "--user",
-                               "--password-file", "--login-required"})
+                               "--password-file", "--login-required"}) {
         EXPECT_NE(outcome.text.find(option), std::string::npos) << option;
+    }
 }
 
 TEST(Options, everyMisuseIsOneLineThatNamesIt) {
@@ -68,14 +69,17 @@ TEST(Options, everyMisuseIsOneLineThatNamesIt) {
     EXPECT_NE(usageError({"--database", ""}).find("--database"), std::string::npos);
     EXPECT_NE(usageError({"--database", "a.db", "--colour"}).find("--colour"), std::string::npos);
     EXPECT_NE(usageError({"--database", "a.db", "stray"}).find("stray"), std::string::npos);
-    for (const auto* port : {"65536", "-1", "http", "5005x", ""})
+    for (const auto* port : {"65536", "-1", "http", "5005x", ""}) {
         EXPECT_NE(usageError({"--database", "a.db", "--port", port}).find("--port"), std::string::npos) << port;
-    for (const auto* sample : {"big", "0", "-5", "12x", "1000001"})
+    }
+    for (const auto* sample : {"big", "0", "-5", "12x", "1000001"}) {
         EXPECT_NE(usageError({"--database", "a.db", "--sample", sample}).find("--sample"), std::string::npos) << sample;
-    for (const auto* minutes : {"-1", "soon"})
+    }
+    for (const auto* minutes : {"-1", "soon"}) {
         EXPECT_NE(usageError({"--database", "a.db", "--login-required", minutes}).find("--login-required"),
                   std::string::npos)
             << minutes;
+    }
     EXPECT_NE(usageError({"--database", "a.db", "--user", "admin"}).find("--password-file"), std::string::npos);
     EXPECT_NE(usageError({"--database", "a.db", "--password-file", "pw"}).find("--user"), std::string::npos);
     EXPECT_NE(usageError({"--database", "a.db", "--user", "", "--password-file", "pw"}).find("--user"),

@@ -24,11 +24,13 @@ struct Held {
 std::map<std::int32_t, Held> heldByRegions(StoreConnection& connection) {
     std::map<std::int32_t, Held> held;
     auto rows = connection.table<RegionTable>().list(0, 0);
-    while (rows.next())
+    while (rows.next()) {
         held[static_cast<std::int32_t>(rows.number(1))].parent = static_cast<std::int32_t>(rows.number(2));
+    }
     for (auto& [id, region] : held) {
-        if (region.parent != 0)
+        if (region.parent != 0) {
             ++held.at(region.parent).regions;
+        }
         region.printers =
             static_cast<int>(connection.table<RecordTable>().count({.printerId = {}, .regionId = id, .mode = 0}));
     }
@@ -38,10 +40,11 @@ std::map<std::int32_t, Held> heldByRegions(StoreConnection& connection) {
 void fill(TestEstate& place, int printers) {
     place.connection().change([&] {
         SampleEstate sample(place.connection());
-        if (printers == 0)
+        if (printers == 0) {
             sample.fillSmall();
-        else
+        } else {
             sample.fill(printers);
+        }
         return true;
     });
 }
@@ -59,13 +62,15 @@ TEST(SampleEstate, theSmallOneHasRegionsOfEveryKind) {
     EXPECT_GT(count([](const Held& one) { return one.regions == 0 && one.printers == 0; }), 0);
     const auto depth = [&](std::int32_t id) {
         int levels = 0;
-        for (; id != 0; id = held.at(id).parent)
+        for (; id != 0; id = held.at(id).parent) {
             ++levels;
+        }
         return levels;
     };
     int deepest = 0;
-    for (const auto& [id, region] : held)
+    for (const auto& [id, region] : held) {
         deepest = std::max(deepest, depth(id));
+    }
     EXPECT_EQ(deepest, 3);
 }
 
@@ -77,8 +82,9 @@ TEST(SampleEstate, theSmallOneHasRecordsOfEveryTypeAndState) {
         std::set<std::int64_t> found;
         Query query(database.getHandle(), sql);
         auto rows = query.run();
-        while (rows.next())
+        while (rows.next()) {
             found.insert(rows.number(0));
+        }
         return found;
     };
     EXPECT_EQ(values("SELECT recordType FROM record"), (std::set<std::int64_t>{0, 1, 3, 6}));

@@ -190,16 +190,18 @@ TEST_F(Vantreld, whatWasAcknowledgedSurvivesAKillInTheMiddleOfChanges) {
     for (int round = 0; round < 6; ++round) {
         VantreldProcess process(serving());
         const auto port = process.waitForPort();
-        if (round == 0)
+        if (round == 0) {
             createRegion(port, u"North");
+        }
         std::atomic<int> made = 0;
         std::jthread writer([&] {
             try {
                 for (int number = 0;; ++number) {
                     const auto digits = std::to_string(round * 100000 + number);
                     const auto message = messagesOf(ask(port, createQueue({digits.begin(), digits.end()})));
-                    if (message.empty())
+                    if (message.empty()) {
                         break; // the server is gone
+                    }
                     FieldCursor cursor(message[0]);
                     EXPECT_EQ(cursor.text16(), u"");
                     (void)cursor.text16();
@@ -214,8 +216,9 @@ TEST_F(Vantreld, whatWasAcknowledgedSurvivesAKillInTheMiddleOfChanges) {
             made = -1;
             made.notify_one();
         });
-        for (int count = 0; (count = made.load()) >= 0 && count < 10 + round * 7;)
+        for (int count = 0; (count = made.load()) >= 0 && count < 10 + round * 7;) {
             made.wait(count);
+        }
         process.signal(SIGKILL);
         EXPECT_EQ(process.wait(), -SIGKILL);
     }
@@ -229,8 +232,9 @@ TEST_F(Vantreld, whatWasAcknowledgedSurvivesAKillInTheMiddleOfChanges) {
         listed.insert(cursor.text8());
     }
     EXPECT_GE(acknowledged.size(), 60U);
-    for (const auto& id : acknowledged)
+    for (const auto& id : acknowledged) {
         EXPECT_TRUE(listed.contains(id)) << id;
+    }
 }
 
 TEST_F(Vantreld, aFullDiskIsToldToTheConsoleAndTheServerGoesOn) {

@@ -25,7 +25,7 @@ public:
             strings[id] = snapin::stringTable(id);
         }
     }
-    std::optional<wire::WideString> loadString(std::int32_t id) const override {
+    [[nodiscard]] std::optional<wire::WideString> loadString(std::int32_t id) const override {
         if (outOfMemory) {
             throw std::bad_alloc();
         }

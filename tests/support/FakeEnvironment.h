@@ -16,13 +16,13 @@ public:
     std::string folder = "/home/ann";
     platform::DateTime time{.year = 2014, .month = 3, .day = 5, .hour = 17, .minute = 4, .second = 9};
 
-    std::optional<std::string> variable(const std::string& name) const override {
+    [[nodiscard]] std::optional<std::string> variable(const std::string& name) const override {
         const auto found = variables.find(name);
         return found != variables.end() ? std::optional(found->second) : std::nullopt;
     }
-    bool exists(const std::string& path) const override { return files.contains(path); }
-    std::string currentFolder() const override { return folder; }
-    platform::DateTime now() const override { return time; }
+    [[nodiscard]] bool exists(const std::string& path) const override { return files.contains(path); }
+    [[nodiscard]] std::string currentFolder() const override { return folder; }
+    [[nodiscard]] platform::DateTime now() const override { return time; }
 };
 
 } // namespace support

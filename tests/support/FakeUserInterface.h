@@ -34,16 +34,16 @@ public:
         expectForm([script = std::move(script)](forms::Form& form) { script(asKind<Dialog>(form)); });
     }
 
-    const std::vector<Box>& boxes() const { return boxes_; }
+    [[nodiscard]] const std::vector<Box>& boxes() const { return boxes_; }
     // Every sequence of keys that was pressed.
-    const std::vector<std::vector<platform::Key>>& presses() const { return presses_; }
+    [[nodiscard]] const std::vector<std::vector<platform::Key>>& presses() const { return presses_; }
     // The titles of all forms, read once the form was filled.
-    const std::vector<wire::WideString>& forms() const { return forms_; }
+    [[nodiscard]] const std::vector<wire::WideString>& forms() const { return forms_; }
 
     bool runThreadsAtOnce = true;
     // Runs the work passed to startThread.
     void runThreads();
-    std::size_t waitingThreads() const { return threads_.size(); }
+    [[nodiscard]] std::size_t waitingThreads() const { return threads_.size(); }
 
     platform::WindowHandle active = 77;
     std::vector<platform::WindowHandle> foreground; // windows brought to the front

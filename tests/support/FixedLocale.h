@@ -11,7 +11,7 @@ class FixedLocale final : public platform::Locale {
 public:
     explicit FixedLocale(platform::NumberFormat format) : format_(std::move(format)) {}
 
-    const platform::NumberFormat& numberFormat() const override { return format_; }
+    [[nodiscard]] const platform::NumberFormat& numberFormat() const override { return format_; }
 
 private:
     platform::NumberFormat format_;

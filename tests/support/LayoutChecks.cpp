@@ -71,7 +71,7 @@ struct Keyed {
     KeyedLabel label;
     bool isStandard = false;
 
-    std::set<char16_t> letters() const {
+    [[nodiscard]] std::set<char16_t> letters() const {
         std::set<char16_t> all;
         for (const char16_t unit : label.text) {
             const bool isLetter = (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
@@ -81,7 +81,9 @@ struct Keyed {
         }
         return all;
     }
-    bool hasKey(char16_t key) const { return label.key && wire::foldCase(label.text.at(*label.key)) == key; }
+    [[nodiscard]] bool hasKey(char16_t key) const {
+        return label.key && wire::foldCase(label.text.at(*label.key)) == key;
+    }
 };
 
 std::vector<Keyed> keyedLabelsOf(Form& form) {

@@ -14,8 +14,8 @@ public:
     bool opens = true;  // false: there is no store to read
     bool stores = true; // false: nothing can be written
 
-    bool exists() const override { return opens; }
-    std::optional<wire::WideString> read(std::string_view name) const override {
+    [[nodiscard]] bool exists() const override { return opens; }
+    [[nodiscard]] std::optional<wire::WideString> read(std::string_view name) const override {
         const auto found = values.find(name);
         return opens && found != values.end() ? std::optional(found->second) : std::nullopt;
     }

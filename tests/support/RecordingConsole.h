@@ -76,12 +76,12 @@ public:
     // Puts a node into the tree, as the console does with the root, without recording it.
     console::ScopeId addScopeRow(const NodePointer& node, console::ScopeId parent = 0);
     // The nodes under a row, in order; and their display names.
-    std::vector<NodePointer> children(console::ScopeId parent) const;
-    std::vector<wire::WideString> childNames(console::ScopeId parent) const;
+    [[nodiscard]] std::vector<NodePointer> children(console::ScopeId parent) const;
+    [[nodiscard]] std::vector<wire::WideString> childNames(console::ScopeId parent) const;
     // The texts of the result pane as the nodes return them, row by row, for all current columns.
-    std::vector<std::vector<wire::WideString>> table() const;
+    [[nodiscard]] std::vector<std::vector<wire::WideString>> table() const;
     // The column titles.
-    std::vector<wire::WideString> titles() const;
+    [[nodiscard]] std::vector<wire::WideString> titles() const;
 
     console::IConsoleNameSpace* nameSpace() override { return hasFaces ? this : nullptr; }
     console::IResultData* resultData() override { return hasFaces ? this : nullptr; }

@@ -35,9 +35,9 @@ public:
     platform::Platform& platform() { return platform_; }
 
     // The exceptions that the guards of nodes and forms have caught, as "where: what".
-    const std::vector<std::string>& failures() const { return observer_.failures; }
+    [[nodiscard]] const std::vector<std::string>& failures() const { return observer_.failures; }
     // The names of the commands that were sent, in order.
-    const std::vector<std::string>& commands() const { return observer_.commands; }
+    [[nodiscard]] const std::vector<std::string>& commands() const { return observer_.commands; }
 
 private:
     class Observer final : public client::CommandObserver {

@@ -93,8 +93,9 @@ protected:
 
     void failEachOfAll(std::int64_t times) {
         for (const auto call :
-             {Call::resolve, Call::socket, Call::connect, Call::send, Call::receive, Call::wait, Call::allocate})
+             {Call::resolve, Call::socket, Call::connect, Call::send, Call::receive, Call::wait, Call::allocate}) {
             failEach(call, times);
+        }
         EXPECT_GT(failures_, 10);
         RecordProperty("failures", failures_);
     }

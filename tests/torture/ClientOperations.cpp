@@ -15,25 +15,29 @@ using Result = std::optional<std::string>;
 constexpr std::int32_t firstRegion = 1; // the first of the sample
 
 Result listRegions(CQVXAdminClass& client) {
-    if (!client.listRegions(RegionKind::printersAndQueues))
+    if (!client.listRegions(RegionKind::printersAndQueues)) {
         return std::nullopt;
+    }
     std::string lines;
-    for (const auto& one : client.regions())
+    for (const auto& one : client.regions()) {
         lines += wire::toUtf8(one.name) + "\n";
+    }
     return lines;
 }
 
 Result linesOf(const std::vector<protocol::PrinterRecord>& records) {
     std::string lines;
-    for (const auto& record : records)
+    for (const auto& record : records) {
         lines += record.id + " " + wire::toUtf8(record.name) + "\n";
+    }
     return lines;
 }
 
 Result listLocalPrinters(CQVXAdminClass& client) {
     std::int16_t count = 0;
-    if (!client.listRegions(RegionKind::localPrinters) || client.regions().empty())
+    if (!client.listRegions(RegionKind::localPrinters) || client.regions().empty()) {
         return std::nullopt;
+    }
     const auto last = client.regions().back().id;
     return client.getLocalPrintersInRegion(last, count) ? linesOf(client.printerRecords()) : std::nullopt;
 }
@@ -48,8 +52,9 @@ Result createQueue(CQVXAdminClass& client) {
 }
 
 Result createRegion(CQVXAdminClass& client) {
-    if (!client.createRegion(RegionKind::printersAndQueues, firstRegion, u"Made over and over again"))
+    if (!client.createRegion(RegionKind::printersAndQueues, firstRegion, u"Made over and over again")) {
         return std::nullopt;
+    }
     return "sent\n";
 }
 

@@ -31,8 +31,9 @@ public:
 
     [[nodiscard]] std::vector<Row> ask(const std::string& query) {
         sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(database_, query.c_str(), -1, &statement, nullptr) != SQLITE_OK)
+        if (sqlite3_prepare_v2(database_, query.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
             throw std::runtime_error(query + ": " + sqlite3_errmsg(database_));
+        }
         const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> owner(statement, &sqlite3_finalize);
         std::vector<Row> rows;
         int code = SQLITE_OK;
@@ -43,8 +44,9 @@ public:
                 row.emplace_back(text == nullptr ? "NULL" : text);
             }
         }
-        if (code != SQLITE_DONE)
+        if (code != SQLITE_DONE) {
             throw std::runtime_error(query + ": " + sqlite3_errmsg(database_));
+        }
         return rows;
     }
 
@@ -56,8 +58,9 @@ private:
 std::string quotedColumns(Connection& connection, const std::string& table) {
     std::string columns;
     for (const auto& column :
-         connection.ask("SELECT name FROM pragma_table_info('" + table + "') WHERE name <> 'reportDate'"))
+         connection.ask("SELECT name FROM pragma_table_info('" + table + "') WHERE name <> 'reportDate'")) {
         columns += (columns.empty() ? "quote(" : " || '|' || quote(") + column[0] + ")";
+    }
     return columns;
 }
 
@@ -66,8 +69,9 @@ constexpr std::size_t uuidLength = 36;
 bool isUuid(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         const bool isDash = at == 8 || at == 13 || at == 18 || at == 23;
-        if (isDash ? text[at] != '-' : std::string_view("0123456789abcdef").find(text[at]) == std::string_view::npos)
+        if (isDash ? text[at] != '-' : std::string_view("0123456789abcdef").find(text[at]) == std::string_view::npos) {
             return false;
+        }
     }
     return text.size() == uuidLength;
 }
@@ -86,8 +90,9 @@ void eachUuid(std::string_view line, Action action) {
 
 std::set<std::string> uuidsOf(const Contents& contents) {
     std::set<std::string> uuids;
-    for (const auto& line : contents)
+    for (const auto& line : contents) {
         eachUuid(line, [&](std::size_t at) { uuids.insert(line.substr(at, uuidLength)); });
+    }
     return uuids;
 }
 
@@ -101,8 +106,9 @@ std::filesystem::path copyDatabase(const std::filesystem::path& file, const std:
         from += ending;
         to += ending;
         std::filesystem::remove(to);
-        if (std::filesystem::exists(from))
+        if (std::filesystem::exists(from)) {
             std::filesystem::copy_file(from, to);
+        }
     }
     auto index = copy;
     std::filesystem::remove(index += "-shm");
@@ -116,8 +122,9 @@ void losePower(const std::filesystem::path& file) {
         auto synced = lost;
         synced += ".synced";
         std::filesystem::remove(lost);
-        if (std::filesystem::exists(synced))
+        if (std::filesystem::exists(synced)) {
             std::filesystem::rename(synced, lost);
+        }
     }
     auto index = file;
     std::filesystem::remove(index += "-shm");
@@ -127,11 +134,13 @@ std::string damageOf(const std::filesystem::path& file) {
     Connection connection(file);
     std::string damage;
     for (const auto& row : connection.ask("PRAGMA integrity_check")) {
-        if (row[0] != "ok")
+        if (row[0] != "ok") {
             damage += row[0] + "\n";
+        }
     }
-    for (const auto& row : connection.ask("PRAGMA foreign_key_check"))
+    for (const auto& row : connection.ask("PRAGMA foreign_key_check")) {
         damage += "row " + row[1] + " of " + row[0] + " refers to nothing in " + row[2] + "\n";
+    }
     return damage;
 }
 
@@ -141,14 +150,16 @@ Contents contentsOf(const std::filesystem::path& file, const Contents& known) {
     Contents contents;
     for (const auto& table : connection.ask("SELECT name FROM sqlite_schema WHERE type = 'table'")) {
         const auto columns = quotedColumns(connection, table[0]);
-        for (const auto& row : connection.ask("SELECT " + columns + " FROM " + table[0]))
+        for (const auto& row : connection.ask("SELECT " + columns + " FROM " + table[0])) {
             contents.push_back(table[0] + ": " + row[0]);
+        }
     }
     if (!known.empty()) {
         for (auto& line : contents) {
             eachUuid(std::string(line), [&](std::size_t at) {
-                if (!knownIds.contains(line.substr(at, uuidLength)))
+                if (!knownIds.contains(line.substr(at, uuidLength))) {
                     line.replace(at, uuidLength, std::string(uuidLength, '?'));
+                }
             });
         }
     }
@@ -160,8 +171,9 @@ std::string differenceOf(const Contents& one, const Contents& other) {
     Contents different;
     std::ranges::set_symmetric_difference(one, other, std::back_inserter(different));
     std::string text;
-    for (const auto& line : different)
+    for (const auto& line : different) {
         text += (std::ranges::binary_search(one, line) ? "+ " : "- ") + line + "\n";
+    }
     return text;
 }
 

@@ -32,10 +32,11 @@ protected:
         arm(sample_.plan(), calls, effect, before);
         answer_ = server::test::ask(port, request_);
         const bool died = disarm(sample_.plan());
-        if (died)
+        if (died) {
             EXPECT_EQ(server.process().wait(), -SIGKILL);
-        else
+        } else {
             server.kill();
+        }
         return died;
     }
 
@@ -53,12 +54,14 @@ protected:
         sample_.plan().keepsSynced = powerFails;
         for (int before = 0, deaths = 0;; before += step, ++deaths) {
             const auto file = sample_.copy();
-            if (powerFails)
+            if (powerFails) {
                 std::filesystem::copy_file(file, file.string() + ".synced",
                                            std::filesystem::copy_options::overwrite_existing);
+            }
             const bool died = diesDuringCommand(file, calls, effect, before);
-            if (powerFails)
+            if (powerFails) {
                 losePower(file);
+            }
             const auto contents = contentsAfterRestart(file);
             if (!died) {
                 EXPECT_EQ(differenceOf(contents, after_), "") << "the command was carried out";

@@ -94,8 +94,9 @@ TEST_F(DeathWhileStarting, aServerThatDiesWhileItClosesTheDatabaseLosesNothing) 
         ASSERT_EQ(ended, !died);
         (void)regionsAfterRestart(file);
         const auto contents = contentsOf(file, contentsOf(sample.file()));
-        if (expected.empty())
+        if (expected.empty()) {
             expected = contents;
+        }
         ASSERT_EQ(differenceOf(contents, expected), "") << "after death number " << before;
     }
     EXPECT_THAT(expected, SizeIs(contentsOf(sample.file()).size() + 1));

@@ -40,8 +40,9 @@ int openOrFail(Open* next, const char* path, int flags, unsigned mode) {
 
 template <class Put>
 ssize_t writeOrFail(int descriptor, std::size_t size, Put put) {
-    if (!isFile(descriptor))
+    if (!isFile(descriptor)) {
         return put(size);
+    }
     switch (nextEffect(Call::write)) {
     case Effect::none:
         return put(size);
@@ -56,11 +57,13 @@ ssize_t writeOrFail(int descriptor, std::size_t size, Put put) {
 }
 
 int syncOrFail(Sync* next, int descriptor) {
-    if (fails(Call::sync))
+    if (fails(Call::sync)) {
         return static_cast<int>(failed(EIO));
+    }
     const int result = next(descriptor);
-    if (result == 0)
+    if (result == 0) {
         keepSyncedCopy(descriptor);
+    }
     return result;
 }
 

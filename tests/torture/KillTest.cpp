@@ -46,8 +46,9 @@ protected:
         untilGone([&](int number) {
             const auto name = numbered("queue", round, number);
             const auto reply = askFor<protocol::CreateRecordReply>(port, followQueue(region_, name));
-            if (reply && reply->status.caption.empty())
+            if (reply && reply->status.caption.empty()) {
                 acknowledged_.insert(name);
+            }
             return reply.has_value();
         });
     }
@@ -59,18 +60,21 @@ protected:
                 .kind = 0, .parentId = region_, .name = numbered("region", round, number)};
             (void)server::test::ask(port, requestOf(request));
             const auto regions = regionsAt(port);
-            if (!regions)
+            if (!regions) {
                 return false;
-            for (const auto& region : *regions)
+            }
+            for (const auto& region : *regions) {
                 listed_.insert(region.name);
+            }
             return true;
         });
     }
 
     // Waits until so many steps are done, but no longer than the server lives.
     void waitFor(int count) {
-        for (int now = 0; (now = done_.load()) < count;)
+        for (int now = 0; (now = done_.load()) < count;) {
             done_.wait(now);
+        }
     }
 
     static constexpr int steps = 1000; // more than any test waits for
@@ -103,11 +107,13 @@ TEST_F(Kill, aHundredTimesInTheMiddleOfWritesLosesNothing) {
     const auto port = server.waitForPort();
     Names kept;
     const auto queues = recordsIn(port, region_, followQueuesInRegion).value();
-    for (const auto& queue : queues)
+    for (const auto& queue : queues) {
         EXPECT_TRUE(kept.insert(queue.name).second) << "twice: " << wire::toUtf8(queue.name);
+    }
     const auto regions = regionsAt(port).value();
-    for (const auto& region : regions)
+    for (const auto& region : regions) {
         kept.insert(region.name);
+    }
     EXPECT_GT(acknowledged_.size(), 30U);
     EXPECT_GT(listed_.size(), 30U);
     EXPECT_TRUE(std::ranges::includes(kept, acknowledged_));

@@ -19,8 +19,9 @@ Realloc* nextRealloc = nullptr;
 // Calls from the platform's own library never fail, because a sanitizer depends on them.
 bool failsFor(const void* caller) {
     const FaultPlan* const plan = currentPlan.load();
-    if (plan == nullptr || plan->effect.load() == Effect::none)
+    if (plan == nullptr || plan->effect.load() == Effect::none) {
         return false;
+    }
     Dl_info info{};
     const bool ofPlatform = ::dladdr(caller, &info) != 0 && std::strstr(info.dli_fname, "/libc.so") != nullptr;
     return !ofPlatform && fails(Call::allocate);
@@ -31,14 +32,16 @@ bool failsFor(const void* caller) {
 extern "C" {
 
 void* malloc(std::size_t size) noexcept {
-    if (nextMalloc == nullptr)
+    if (nextMalloc == nullptr) {
         nextMalloc = nextFunction<Malloc>("malloc");
+    }
     return failsFor(__builtin_return_address(0)) ? nullptr : nextMalloc(size);
 }
 
 void* realloc(void* memory, std::size_t size) noexcept {
-    if (nextRealloc == nullptr)
+    if (nextRealloc == nullptr) {
         nextRealloc = nextFunction<Realloc>("realloc");
+    }
     return failsFor(__builtin_return_address(0)) ? nullptr : nextRealloc(memory, size);
 }
 

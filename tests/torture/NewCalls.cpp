@@ -13,8 +13,9 @@ template <class Function, class... Arguments>
 void* allocateOrThrow(Function* next, Arguments... arguments) {
     while (fails(Call::allocate)) {
         const auto handler = std::get_new_handler();
-        if (handler == nullptr)
+        if (handler == nullptr) {
             throw std::bad_alloc();
+        }
         handler();
     }
     return next(arguments...);

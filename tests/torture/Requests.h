@@ -17,8 +17,9 @@ using support::Bytes;
 template <class Request>
 [[nodiscard]] Bytes requestOf(const Request& request) {
     const auto command = support::commandMessage(Request::opcode, protocol::commandOf<Request>().version);
-    if (protocol::layoutOf<Request>.fields.empty())
+    if (protocol::layoutOf<Request>.fields.empty()) {
         return support::frame({command});
+    }
     const auto message = protocol::makeDataMessage(request);
     return support::frame({Bytes(message->bytes().begin(), message->bytes().end()), command});
 }
@@ -36,8 +37,9 @@ template <class Record>
     std::size_t end = 0;
     while (frames.size() - end >= header) {
         const auto size = server::test::FieldCursor(frames, end + 1).number(4);
-        if (frames.size() - end - header < size)
+        if (frames.size() - end - header < size) {
             break;
+        }
         end += header + size;
     }
     frames.resize(end);
@@ -55,11 +57,13 @@ template <class Reply, class Request>
 template <class Record, class Request>
 [[nodiscard]] std::optional<std::vector<Record>> listOf(std::uint16_t port, const Request& request) {
     const auto messages = wholeMessages(server::test::ask(port, requestOf(request)));
-    if (messages.empty() || server::test::FieldCursor(messages.front()).number(2) != messages.size() - 1)
+    if (messages.empty() || server::test::FieldCursor(messages.front()).number(2) != messages.size() - 1) {
         return std::nullopt;
+    }
     std::vector<Record> records;
-    for (auto message = messages.begin() + 1; message != messages.end(); ++message)
+    for (auto message = messages.begin() + 1; message != messages.end(); ++message) {
         records.push_back(recordOf<Record>(*message));
+    }
     return records;
 }
 

@@ -23,8 +23,9 @@ public:
         const auto key = server::test::TestClient(port).send(requestOf(protocol::GetPublicKeyRequest{})).receiveFrame();
         visitor(port);
         process.signal(SIGTERM);
-        if (process.wait() != 0 || key.empty())
+        if (process.wait() != 0 || key.empty()) {
             throw std::runtime_error("there is no sample: " + process.output());
+        }
     }
 
     [[nodiscard]] const std::filesystem::path& file() const { return file_; }

@@ -78,8 +78,9 @@ TEST_F(MemoryFaults, aServerWithoutMemoryGoesOnOrEndsInGoodOrder) {
         errands_.run();
         failed = disarm(sample_.plan());
         errands_.run();
-        if (errands_.wasAcknowledged())
+        if (errands_.wasAcknowledged()) {
             continue;
+        }
         ASSERT_EQ(server_->process().wait(), failureStatus) << "after failure number " << before;
         EXPECT_THAT(server_->process().output(), HasSubstr("\nvantreld: "));
         restart();

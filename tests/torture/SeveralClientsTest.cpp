@@ -36,10 +36,12 @@ public:
         for (int round = 0; round < rounds; ++round) {
             makeQueueOfContestedName(round);
             makeQueue(round);
-            if (round % 3 == 1)
+            if (round % 3 == 1) {
                 changeQueue(round - 1);
-            if (round % 3 == 2)
+            }
+            if (round % 3 == 2) {
                 deleteQueue(round - 1);
+            }
             makeRegion(round);
             makePricePlan(round);
         }
@@ -51,10 +53,11 @@ public:
 private:
     void makeQueueOfContestedName(int round) {
         const auto reply = create(numbered("Contested", round));
-        if (reply.status.caption.empty())
+        if (reply.status.caption.empty()) {
             ++contestsWon_;
-        else
+        } else {
             EXPECT_EQ(reply.status.caption, u"Not saved");
+        }
     }
 
     void makeQueue(int round) {
@@ -96,8 +99,9 @@ private:
         protocol::WritePricePlanRequest request;
         request.plan.id = wire::toText(wire::randomUuid());
         request.plan.name = numbered(name_, round);
-        for (std::uint16_t paper = 0; paper < 5; ++paper)
+        for (std::uint16_t paper = 0; paper < 5; ++paper) {
             request.entries.push_back({.id = wire::toText(wire::randomUuid()), .paperName = "A4", .paperCode = paper});
+        }
         server::test::tell(port_, requestOf(request));
         const auto plans = listOf<protocol::PricePlanRecord>(port_, protocol::ListPricePlansRequest{}).value();
         EXPECT_EQ(std::ranges::count(plans, request.plan.id, &protocol::PricePlanRecord::id), 1);
@@ -113,8 +117,9 @@ private:
         std::map<wire::WideString, std::string> own;
         const auto all = recordsIn(port_, region_, followQueuesInRegion).value();
         for (const auto& queue : all) {
-            if (queue.name.starts_with(wire::toWide(name_)))
+            if (queue.name.starts_with(wire::toWide(name_))) {
                 own[queue.name] = queue.id;
+            }
         }
         EXPECT_EQ(own, queues_);
     }
@@ -136,19 +141,22 @@ TEST(SeveralClients, writingAtOnceEachSeesItsOwnAndNothingIsLost) {
         Administrator(port, region, "Dan")};
     {
         std::vector<std::jthread> threads;
-        for (auto& administrator : administrators)
+        for (auto& administrator : administrators) {
             threads.emplace_back([&administrator] { administrator.work(); });
+        }
     }
 
     std::map<wire::WideString, int> kept;
     const auto queues = recordsIn(port, region, followQueuesInRegion).value();
-    for (const auto& queue : queues)
+    for (const auto& queue : queues) {
         EXPECT_EQ(++kept[queue.name], 1) << wire::toUtf8(queue.name);
+    }
     int contestsWon = 0;
     for (const auto& administrator : administrators) {
         contestsWon += administrator.contestsWon();
-        for (const auto& [name, id] : administrator.queues())
+        for (const auto& [name, id] : administrator.queues()) {
             EXPECT_TRUE(kept.contains(name)) << wire::toUtf8(name);
+        }
     }
     EXPECT_EQ(contestsWon, rounds);
     EXPECT_TRUE(server.ends());

@@ -15,8 +15,9 @@ SharedPlan::SharedPlan(std::filesystem::path file) : file_(std::move(file)) {
     const bool sized = ::ftruncate(descriptor, sizeof(FaultPlan)) == 0;
     void* const memory = ::mmap(nullptr, sizeof(FaultPlan), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
     ::close(descriptor);
-    if (!sized || memory == MAP_FAILED)
+    if (!sized || memory == MAP_FAILED) {
         throw std::runtime_error(file_.string() + " cannot be shared");
+    }
     plan_ = new (memory) FaultPlan;
 }
 

@@ -15,8 +15,9 @@ namespace {
 
 template <class Result, class... Arguments>
 Result passOrFail(Call call, int error, Result (*next)(Arguments...), Arguments... arguments) {
-    if (!fails(call))
+    if (!fails(call)) {
         return next(arguments...);
+    }
     errno = error;
     return -1;
 }
@@ -24,8 +25,9 @@ Result passOrFail(Call call, int error, Result (*next)(Arguments...), Arguments.
 // A connection that fails is broken from then on, in both directions.
 template <class... Arguments>
 ssize_t transferOrBreak(Call call, ssize_t (*next)(int, Arguments...), int socket, Arguments... arguments) {
-    if (!fails(call))
+    if (!fails(call)) {
         return next(socket, arguments...);
+    }
     ::shutdown(socket, SHUT_RDWR);
     errno = ECONNRESET;
     return -1;

@@ -29,8 +29,9 @@ PrinterRecord busiestPrinter(std::uint16_t port) {
             }
         }
     }
-    if (most < 2)
+    if (most < 2) {
         throw std::runtime_error("no printer of the sample has several queues");
+    }
     return busiest;
 }
 
@@ -38,8 +39,9 @@ std::int32_t newRegion(std::uint16_t port) {
     (void)server::test::ask(port, requestOf(protocol::CreateRegionRequest{.kind = 0, .parentId = 0, .name = u"New"}));
     const auto regions = regionsAt(port).value();
     for (const auto& region : regions) {
-        if (region.name == u"New")
+        if (region.name == u"New") {
             return region.id;
+        }
     }
     throw std::runtime_error("the new region is not there");
 }

@@ -41,7 +41,7 @@ Bytes replaceDeployment(std::uint16_t port) {
             const protocol::CountDeploymentConfigsRequest question{
                 .modelId = model.modelId, .osId = deployment.osId, .locale = deployment.locale};
             const auto count = askFor<protocol::CountDeploymentConfigsReply>(port, question);
-            if (count.value().queuesWithConfigs > 0)
+            if (count.value().queuesWithConfigs > 0) {
                 return requestOf(protocol::AddDriverDeploymentRequest{.driverId = drivers.value().front().driverId,
                                                                       .modelId = model.modelId,
                                                                       .comment = u"in its place",
@@ -51,6 +51,7 @@ Bytes replaceDeployment(std::uint16_t port) {
                                                                       .install = 1,
                                                                       .installMethod = 0,
                                                                       .keepConfig = 1});
+            }
         }
     }
     throw std::runtime_error("no deployment of the sample has configurations");
@@ -62,8 +63,9 @@ Bytes deleteUsedConfiguration(std::uint16_t port) {
         const auto configurations =
             listOf<protocol::ConfigurationRecord>(port, protocol::ListConfigurationsRequest{.modelId = model.modelId});
         for (const auto& configuration : configurations.value()) {
-            if (configuration.useCount > 0)
+            if (configuration.useCount > 0) {
                 return requestOf(protocol::DeleteConfigurationRequest{.force = 1, .configId = configuration.configId});
+            }
         }
     }
     throw std::runtime_error("no configuration of the sample is in use");
@@ -75,8 +77,9 @@ Bytes rewritePricePlan(std::uint16_t port) {
     for (const auto& plan : plans) {
         auto entries =
             listOf<protocol::PriceEntryRecord>(port, protocol::ListPriceEntriesRequest{.planId = plan.id}).value();
-        if (entries.size() < 2)
+        if (entries.size() < 2) {
             continue;
+        }
         for (auto& entry : entries) {
             entry.id = wire::toText(wire::randomUuid());
             entry.basePrice += 1;

@@ -17,9 +17,9 @@ public:
     // Ends it as an administrator does, and starts it again on its database.
     void restart();
 
-    std::uint16_t port() const { return port_; }
-    const server::test::TestFolder& folder() const { return folder_; }
-    std::string passwordFile() const { return folder_ / "password"; }
+    [[nodiscard]] std::uint16_t port() const { return port_; }
+    [[nodiscard]] const server::test::TestFolder& folder() const { return folder_; }
+    [[nodiscard]] std::string passwordFile() const { return folder_ / "password"; }
 
 private:
     void start(std::vector<std::string> arguments);

@@ -36,7 +36,7 @@ public:
     ActivityLog& operator=(const ActivityLog&) = delete;
     ~ActivityLog() override;
 
-    std::size_t size() const { return entries_.size(); }
+    [[nodiscard]] std::size_t size() const { return entries_.size(); }
     const Activity& operator[](std::size_t place) const { return entries_[place]; }
     void clear();
 

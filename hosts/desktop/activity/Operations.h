@@ -19,11 +19,11 @@ public:
     Operations& operator=(const Operations&) = delete;
     ~Operations();
 
-    const shell::Shell& shell() const { return shell_; }
-    bool busy() const { return shell_.busy(); }
+    [[nodiscard]] const shell::Shell& shell() const { return shell_; }
+    [[nodiscard]] bool busy() const { return shell_.busy(); }
 
     // How many have been started.
-    std::uint64_t count() const { return count_; }
+    [[nodiscard]] std::uint64_t count() const { return count_; }
 
     // Runs work(shell) now. False while another operation runs, and when the work returns false.
     template <class Work>

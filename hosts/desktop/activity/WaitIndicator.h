@@ -22,7 +22,7 @@ public:
     WaitIndicator& operator=(const WaitIndicator&) = delete;
     ~WaitIndicator() override;
 
-    bool isShown() const { return panel_ != nullptr; }
+    [[nodiscard]] bool isShown() const { return panel_ != nullptr; }
     // Cancels the running command, and those that the same operation would send after it.
     void cancel() { cancelled_ = true; }
 

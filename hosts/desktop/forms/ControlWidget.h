@@ -21,13 +21,13 @@ public:
     ~ControlWidget() override = default;
 
     // The box, list or button itself, which takes the keyboard.
-    QWidget* widget() const { return widget_; }
+    [[nodiscard]] QWidget* widget() const { return widget_; }
     // The widget that is placed in the dialog: the same one, or its container.
-    QWidget* field() const { return field_; }
+    [[nodiscard]] QWidget* field() const { return field_; }
     // The label beside or above it; null when the widget shows its label itself, or there is none.
-    QLabel* caption() const { return caption_; }
+    [[nodiscard]] QLabel* caption() const { return caption_; }
     // All widgets that take the keyboard focus, in Tab order.
-    virtual std::vector<QWidget*> tabStops() const { return {widget_}; }
+    [[nodiscard]] virtual std::vector<QWidget*> tabStops() const { return {widget_}; }
     // Its label, and those of its pages.
     virtual void showLabels(const forms::FormLabels& labels);
     // The form has changed this about the control.
@@ -43,22 +43,22 @@ protected:
     // Called once, by the constructor. Makes a caption if the control has a label that the widget does not show itself.
     void setUp(QWidget* widget, QWidget* field = nullptr);
     // The width of a box for reading and typing text: about thirty characters.
-    int comfortableWidth() const;
+    [[nodiscard]] int comfortableWidth() const;
     // The label, with its access key marked.
     virtual void showLabel(const QString& text);
     virtual void update(forms::Aspect aspect) = 0;
     // The name for screen readers: a box without a label goes by the label of the control that it is beside.
-    virtual wire::WideString spokenName() const;
+    [[nodiscard]] virtual wire::WideString spokenName() const;
     virtual void enable(bool enabled) { field_->setEnabled(enabled); }
 
     // True while the form's changes are being mirrored: the widget's signals are then only an echo.
-    bool mirroring() const { return mirroring_; }
+    [[nodiscard]] bool mirroring() const { return mirroring_; }
     void mirrored(const std::function<void()>& change);
 
     // For lists that a handler fills row by row: shows them once, when the handler has returned. Until then the
     // displayed rows may not be those of the form, and input on them is ignored.
     void refillSoon();
-    bool stale() const { return stale_; }
+    [[nodiscard]] bool stale() const { return stale_; }
     virtual void refill() {}
 
 private:

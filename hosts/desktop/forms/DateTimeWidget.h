@@ -16,7 +16,7 @@ class DateTimeWidget final : public ControlWidget {
 public:
     explicit DateTimeWidget(forms::DateTimePicker& picker);
 
-    std::vector<QWidget*> tabStops() const override;
+    [[nodiscard]] std::vector<QWidget*> tabStops() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

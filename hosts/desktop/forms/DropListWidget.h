@@ -15,7 +15,7 @@ class DropListWidget final : public ControlWidget {
 public:
     explicit DropListWidget(forms::DropList& list);
 
-    forms::DropList& list() const { return list_; }
+    [[nodiscard]] forms::DropList& list() const { return list_; }
 
 protected:
     void update(forms::Aspect aspect) override;

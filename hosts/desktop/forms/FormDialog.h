@@ -20,10 +20,10 @@ public:
     FormDialog& operator=(const FormDialog&) = delete;
     ~FormDialog() override;
 
-    forms::Form& form() const { return form_; }
+    [[nodiscard]] forms::Form& form() const { return form_; }
 
     // The widget of a control: the box, list or button itself, not its label.
-    QWidget* widgetOf(const forms::Control& control) const;
+    [[nodiscard]] QWidget* widgetOf(const forms::Control& control) const;
 
     // Escape and the closing cross: the form decides, as it does about its Cancel button.
     void reject() override;

@@ -35,7 +35,7 @@ private:
     void add(const forms::Block& plan, QBoxLayout& column);
     void addRow(const forms::Row& plan, QFormLayout& rows);
     QWidget* fieldOf(const forms::Row& plan);
-    QHBoxLayout* lineOf(const forms::Line& plan) const;
+    [[nodiscard]] QHBoxLayout* lineOf(const forms::Line& plan) const;
     QLayout* abreast(const std::vector<forms::BlockPart>& parts);
     // Lays out the controls on the control itself.
     void layInside(const forms::BlockPart& part);

@@ -10,15 +10,15 @@ class FormScroll final : public QScrollArea {
 public:
     explicit FormScroll(QWidget* parent);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     // Makes the dialog grow with its content.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QSize withinScreen(QSize size) const;
+    [[nodiscard]] QSize withinScreen(QSize size) const;
 };
 
 } // namespace desktop

@@ -24,10 +24,10 @@ public:
     FormWidgets& operator=(const FormWidgets&) = delete;
     ~FormWidgets();
 
-    ControlWidget* find(const forms::Control& control) const;
+    [[nodiscard]] ControlWidget* find(const forms::Control& control) const;
     void controlChanged(forms::Control& control, forms::Aspect aspect);
     // The widget with the initial focus: the one that the form has set, or else the first that takes it; null for none.
-    ControlWidget* first() const;
+    [[nodiscard]] ControlWidget* first() const;
 
 private:
     void showDefaultButton();

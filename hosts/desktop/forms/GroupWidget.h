@@ -15,7 +15,7 @@ class GroupWidget final : public ControlWidget {
 public:
     explicit GroupWidget(forms::Group& group);
 
-    QWidget& surface() const { return *box_; }
+    [[nodiscard]] QWidget& surface() const { return *box_; }
 
 protected:
     void showLabel(const QString& text) override { box_->setTitle(text); }

@@ -13,7 +13,7 @@ class LabelWidget final : public ControlWidget {
 public:
     explicit LabelWidget(forms::Label& label);
 
-    std::vector<QWidget*> tabStops() const override { return {}; }
+    [[nodiscard]] std::vector<QWidget*> tabStops() const override { return {}; }
 
 protected:
     void update(forms::Aspect aspect) override;

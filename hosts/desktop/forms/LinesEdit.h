@@ -7,8 +7,8 @@ namespace desktop {
 // A box for a few lines of text, which grows if there is room.
 class LinesEdit final : public QPlainTextEdit {
 public:
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
 } // namespace desktop

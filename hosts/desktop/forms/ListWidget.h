@@ -33,7 +33,7 @@ private:
     void selected();
     void open(const QModelIndex& shown);
     void showRowMenu(const QModelIndex& shown, const QPoint& place);
-    std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
+    [[nodiscard]] std::optional<std::size_t> rowAt(const QModelIndex& shown) const;
 
     forms::ListView& list_;
     QTreeView* view_;

@@ -10,7 +10,7 @@ public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
 protected:
-    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+    [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 };
 
 } // namespace desktop

@@ -9,11 +9,11 @@ class RoomyView final : public QTreeView {
 public:
     RoomyView();
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 private:
-    QSize roomFor(int rows, int width) const;
+    [[nodiscard]] QSize roomFor(int rows, int width) const;
 };
 
 } // namespace desktop

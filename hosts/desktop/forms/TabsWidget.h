@@ -15,10 +15,10 @@ class TabsWidget final : public ControlWidget {
 public:
     explicit TabsWidget(forms::Tabs& tabs);
 
-    QWidget& surface(std::size_t page) const { return *pages_->widget(static_cast<int>(page)); }
+    [[nodiscard]] QWidget& surface(std::size_t page) const { return *pages_->widget(static_cast<int>(page)); }
     void showLabels(const forms::FormLabels& labels) override;
     // The bar takes the keyboard.
-    std::vector<QWidget*> tabStops() const override;
+    [[nodiscard]] std::vector<QWidget*> tabStops() const override;
 
 protected:
     void update(forms::Aspect aspect) override;

@@ -21,7 +21,7 @@ protected:
 
 private:
     void typed();
-    wire::WideString typedText() const;
+    [[nodiscard]] wire::WideString typedText() const;
     void cutToLimit(std::size_t tooMany);
 
     forms::MultiLineEdit& box_;

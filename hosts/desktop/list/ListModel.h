@@ -16,35 +16,35 @@ public:
     ~ListModel() override;
 
     // 0 for an invalid index.
-    console::ResultId idOf(const QModelIndex& index) const;
-    QModelIndex indexOf(console::ResultId id) const;
+    [[nodiscard]] console::ResultId idOf(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex indexOf(console::ResultId id) const;
     // The target of a menu entry, a drag or a drop on the row.
-    shell::Target targetOf(const QModelIndex& index) const;
+    [[nodiscard]] shell::Target targetOf(const QModelIndex& index) const;
     // The scope item that the row represents; 0 when it represents none.
-    console::ScopeId scopeOf(const QModelIndex& index) const;
+    [[nodiscard]] console::ScopeId scopeOf(const QModelIndex& index) const;
 
     // Called before rows change, while views are still unchanged.
     std::function<void()> onAboutToChange;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     // Renames once the editor has closed.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    QStringList mimeTypes() const override;
-    QMimeData* mimeData(const QModelIndexList& indexes) const override;
-    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
     bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                          const QModelIndex& parent) const override;
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
 
 private:
-    const shell::ResultPane& pane() const { return operations_.shell().pane(); }
-    wire::WideStringView cell(const QModelIndex& index) const;
+    [[nodiscard]] const shell::ResultPane& pane() const { return operations_.shell().pane(); }
+    [[nodiscard]] wire::WideStringView cell(const QModelIndex& index) const;
     void announceChange() const;
 
     void columnsChanged() override;

@@ -20,19 +20,19 @@ class ViewSettings {
 public:
     explicit ViewSettings(QString file);
 
-    const QString& file() const { return file_; }
+    [[nodiscard]] const QString& file() const { return file_; }
 
     // In the order in which they are shown; empty when nothing is remembered for the list.
-    std::vector<ColumnChoice> columns(const QString& list) const;
+    [[nodiscard]] std::vector<ColumnChoice> columns(const QString& list) const;
     void setColumns(const QString& list, const std::vector<ColumnChoice>& columns);
     void forgetColumns(const QString& list);
 
     // The window's position and size; an invalid rectangle when that is unknown or no screen would show enough of it.
-    QRect geometry(const std::vector<QRect>& screens) const;
+    [[nodiscard]] QRect geometry(const std::vector<QRect>& screens) const;
     void setGeometry(const QRect& geometry);
 
     // By name: positions of splitters and docks, whether something is shown.
-    QByteArray state(const QString& name) const;
+    [[nodiscard]] QByteArray state(const QString& name) const;
     void setState(const QString& name, const QByteArray& state);
 
 private:

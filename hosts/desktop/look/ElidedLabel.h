@@ -11,8 +11,8 @@ public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
     void setLine(const QString& text);
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -17,7 +17,7 @@ public:
     explicit GlyphIcon(Glyph glyph) : glyph_(glyph) {}
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
-    QIconEngine* clone() const override { return new GlyphIcon(*this); }
+    [[nodiscard]] QIconEngine* clone() const override { return new GlyphIcon(*this); }
 
 private:
     Glyph glyph_;

@@ -21,7 +21,7 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     bool isNull() override { return false; }
-    QIconEngine* clone() const override { return new SvgIcon(*this); }
+    [[nodiscard]] QIconEngine* clone() const override { return new SvgIcon(*this); }
 
 private:
     explicit SvgIcon(std::shared_ptr<QSvgRenderer> drawing) : drawing_(std::move(drawing)) {}

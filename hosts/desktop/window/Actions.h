@@ -39,7 +39,7 @@ public:
     void addVerbs(QMenu& menu) const;
 
 private:
-    QAction* make(const QString& text, const QString& statusTip, const QKeySequence& key) const;
+    [[nodiscard]] QAction* make(const QString& text, const QString& statusTip, const QKeySequence& key) const;
 
     QWidget& window_;
 };

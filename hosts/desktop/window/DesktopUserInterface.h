@@ -26,7 +26,7 @@ public:
     // No user is present: a failed login is not repeated.
     void setUnattended() { unattended_ = true; }
     // Why the unattended login has failed; empty when it has not.
-    const QString& loginFailure() const { return loginFailure_; }
+    [[nodiscard]] const QString& loginFailure() const { return loginFailure_; }
 
     platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
                                 const wire::WideString& caption, std::uint32_t style) override;
@@ -36,7 +36,7 @@ public:
 
 private:
     bool logIn(snapin::AuthenticationDlg& dialog);
-    QWidget* owner() const;
+    [[nodiscard]] QWidget* owner() const;
 
     QPointer<QWidget> mainWindow_;
     std::optional<wire::WideString> password_;

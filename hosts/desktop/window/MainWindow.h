@@ -27,9 +27,9 @@ public:
 
     Panes& panes() { return *panes_; }
     ActivityDock& activity() { return *activity_; }
-    const Actions& actions() const { return actions_; }
-    const ContextMenus& menus() const { return menus_; }
-    const WaitIndicator& waitIndicator() const { return wait_; }
+    [[nodiscard]] const Actions& actions() const { return actions_; }
+    [[nodiscard]] const ContextMenus& menus() const { return menus_; }
+    [[nodiscard]] const WaitIndicator& waitIndicator() const { return wait_; }
     void showAbout();
 
     // Restores the remembered size and position, or centers the window at its natural size.

@@ -15,7 +15,7 @@ public:
 
     // Hides itself when there is nothing to say.
     void say(const QString& text);
-    QString said() const;
+    [[nodiscard]] QString said() const;
     std::function<void()> onRetry;
 
 private:

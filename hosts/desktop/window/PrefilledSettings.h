@@ -13,9 +13,9 @@ public:
     // The store outlives it and takes what is written.
     PrefilledSettings(platform::SettingsStore& store, std::map<std::string, wire::WideString, std::less<>> given);
 
-    bool exists() const override;
-    std::optional<wire::WideString> read(std::string_view name) const override;
-    std::optional<wire::WideString> readOf(std::string_view key, std::string_view name) const override;
+    [[nodiscard]] bool exists() const override;
+    [[nodiscard]] std::optional<wire::WideString> read(std::string_view name) const override;
+    [[nodiscard]] std::optional<wire::WideString> readOf(std::string_view key, std::string_view name) const override;
     bool write(std::string_view name, const wire::WideString& value) override;
 
 private:

@@ -55,8 +55,9 @@ bool AlarmCommands::writeAlarmProgram(std::string& id, const wire::WideString& n
     auto reply = askServer<protocol::WriteAlarmProgramReply>(
         client_, protocol::WriteAlarmProgramRequest{.id = id, .name = name, .comment = comment, .createdBy = createdBy},
         label(name, id));
-    if (!reply)
+    if (!reply) {
         return false;
+    }
     id = std::move(reply->id);
     return true;
 }

@@ -13,8 +13,9 @@ public:
     // records(), and the next call fetches again.
     template <class Request>
     bool next(CQVXAdminClass2& client, const Request& request, R& record) {
-        if (!fetched_)
+        if (!fetched_) {
             fetched_ = fetch(client, request);
+        }
         return fetched_ && cursor_.next(record);
     }
 

@@ -26,8 +26,9 @@ bool InventoryCommands::nextSchema(protocol::SchemaRecord& schema) {
 std::optional<protocol::SchemaRecord> InventoryCommands::getSchema(const std::string& schemaId) {
     std::vector<protocol::SchemaRecord> found;
     const protocol::ListSchemasRequest request{.id = schemaId, .listKind = protocol::schemaListKind::one};
-    if (!listRecords(client_, request, found, schemaId) || found.empty())
+    if (!listRecords(client_, request, found, schemaId) || found.empty()) {
         return std::nullopt;
+    }
     return std::move(found.front());
 }
 

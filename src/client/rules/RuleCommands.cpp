@@ -98,13 +98,15 @@ bool RuleCommands::listPageLimits(std::vector<std::string>& ids, std::vector<wir
 std::optional<protocol::PageLimitRecord> RuleCommands::getPageLimit(const std::string& id) {
     using Request = protocol::GetPageLimitRequest;
     Exchange exchange(client_, protocol::commandOf<Request>(), id);
-    if (!exchange.connect())
+    if (!exchange.connect()) {
         return std::nullopt;
+    }
     exchange.send(dataMessageOf(Request{.id = id}));
     const auto message = exchange.receive();
     return exchange.run([&] {
-        if (!message)
+        if (!message) {
             throw std::runtime_error("failed to get message");
+        }
         return std::optional(protocol::read<protocol::PageLimitRecord>(*message));
     });
 }
@@ -143,8 +145,9 @@ bool RuleCommands::updatePricePlan(const protocol::PricePlanRecord& plan,
 
 bool RuleCommands::writePricePlan(std::uint8_t writeAction, const protocol::PricePlanRecord& plan,
                                   const std::vector<protocol::PriceEntryRecord>& entries) {
-    if (entries.size() > 65535)
+    if (entries.size() > 65535) {
         throw std::length_error("a price plan has 65535 entries at most");
+    }
     return sendCommand(client_,
                        protocol::WritePricePlanRequest{.action = writeAction, .plan = plan, .entries = entries},
                        toUtf8(plan.name));

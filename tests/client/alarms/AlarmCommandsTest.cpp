@@ -59,8 +59,9 @@ TEST_F(Alarms, recipientsComeOutInTheReverseOfTheServersOrder) {
     client.listEmailRecipients();
 
     wire::WideString seen;
-    for (EmailRecipientRecord one; client.nextEmailRecipient(one);)
+    for (EmailRecipientRecord one; client.nextEmailRecipient(one);) {
         seen += one.name;
+    }
 
     EXPECT_EQ(seen, u"CBA");
 }
@@ -173,8 +174,9 @@ TEST_F(Alarms, eventsAreFetchedOnceAndHandedOutLastFirst) {
     AlarmEventRecord event;
 
     wire::WideString seen;
-    while (client.listAlarmEvents(event))
+    while (client.listAlarmEvents(event)) {
         seen += event.name;
+    }
     EXPECT_FALSE(client.listAlarmEvents(event));
 
     EXPECT_EQ(seen, u"BA");
@@ -326,8 +328,9 @@ TEST_F(Alarms, everythingIsFalseAndEmptyWithoutAServer) {
     EXPECT_TRUE(client.alarmPrograms().empty());
     EXPECT_TRUE(client.alarmEvents().empty());
     EXPECT_TRUE(client.programActions().empty());
-    for (const auto& report : observer.ended)
+    for (const auto& report : observer.ended) {
         EXPECT_EQ(report.text, "Failed to connect to server");
+    }
 }
 
 TEST_F(Alarms, eventsAreFetchedOnceAServerIsThere) {

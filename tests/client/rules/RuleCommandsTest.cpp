@@ -149,22 +149,25 @@ TEST_F(Rules, eachWriteSendsItsOwnRequestAndReadsNoAnswer) {
     answer(std::vector<Bytes>(writes().size()));
     CQVXAdminClass client(settings);
 
-    for (const Sent& sent : writes())
+    for (const Sent& sent : writes()) {
         EXPECT_TRUE(sent.operation(client)) << sent.opcode << ": " << sent.fields;
+    }
 
-    for (std::size_t index = 0; index < writes().size(); ++index)
+    for (std::size_t index = 0; index < writes().size(); ++index) {
         EXPECT_EQ(received(index), request(writes()[index].opcode, hex(writes()[index].fields))) << index;
+    }
 }
 
 TEST_F(Rules, aWriteWithoutAServerIsFalseButForPricePlansAndShortIdsWhichThrow) {
     CQVXAdminClass client(settings);
 
     for (const Sent& sent : writes()) {
-        if (sent.opcode == 70 || sent.opcode >= 82)
+        if (sent.opcode == 70 || sent.opcode >= 82) {
             EXPECT_EQ(thrownBy([&] { static_cast<void>(sent.operation(client)); }), "Failed to connect to server")
                 << sent.opcode;
-        else
+        } else {
             EXPECT_FALSE(sent.operation(client)) << sent.opcode;
+        }
     }
 }
 
@@ -260,8 +263,9 @@ TEST_F(Rules, pageLimitsThatDoNotComeOrBreakOffThrow) {
     std::vector<std::string> ids{"old"};
     std::vector<wire::WideString> names{u"old"};
 
-    for (int round = 0; round < 2; ++round)
+    for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(thrownBy([&] { client.listPageLimits(ids, names); }), "failed to get messages");
+    }
 
     EXPECT_TRUE(ids.empty());
     EXPECT_TRUE(names.empty());

@@ -32,7 +32,7 @@ protected:
         std::ifstream stream(where, std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), {}};
     }
-    std::size_t filesInFolder() const {
+    [[nodiscard]] std::size_t filesInFolder() const {
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(file.parent_path()), {}));
     }
 };

@@ -28,7 +28,7 @@ protected:
     }
     ~SystemLauncherTest() override { fs::remove_all(folder_); }
 
-    fs::path fifo() const { return folder_ / "fifo"; }
+    [[nodiscard]] fs::path fifo() const { return folder_ / "fifo"; }
 
     // The output of a command, which gets the arguments as "$1" and so on.
     std::string outputOf(const std::string& command, const std::vector<wire::WideString>& arguments = {}) {

@@ -96,8 +96,9 @@ void addArguments(const nlohmann::json& field, std::string kind, std::vector<std
         kind = field.at("of");
     }
     if (kind == "record") {
-        for (const auto& one : field.at("fields"))
+        for (const auto& one : field.at("fields")) {
             addArguments(one, one.at("kind"), arguments);
+        }
     } else {
         arguments.push_back(kind + ":" + values.at(kind));
     }
@@ -105,8 +106,9 @@ void addArguments(const nlohmann::json& field, std::string kind, std::vector<std
 
 void expectWhatTheArgumentsSay(const protocol::RecordLayout& layout, const nlohmann::json& fields) {
     std::vector<std::string> arguments;
-    for (const auto& field : fields)
+    for (const auto& field : fields) {
         addArguments(field, field.at("kind"), arguments);
+    }
     std::vector<protocol::FieldValue> values;
     std::transform(arguments.begin(), arguments.end(), std::back_inserter(values), ctl::parseField);
 
@@ -125,10 +127,12 @@ TEST(CatalogueTable, everyRequestCanBeWrittenByTheKindsThatJsonTells) {
     const auto commands = catalogueJson();
     for (const auto& command : protocol::catalogue()) {
         const auto& json = commands.at(static_cast<std::size_t>(&command - protocol::catalogue().data()));
-        if (command.forms.empty())
+        if (command.forms.empty()) {
             expectWhatTheArgumentsSay(*command.request, json.at("requestFields"));
-        for (std::size_t form = 0; form < command.forms.size(); ++form)
+        }
+        for (std::size_t form = 0; form < command.forms.size(); ++form) {
             expectWhatTheArgumentsSay(*command.forms[form].layout, json.at("forms").at(form).at("requestFields"));
+        }
     }
 }
 

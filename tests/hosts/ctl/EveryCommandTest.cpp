@@ -23,14 +23,17 @@ protected:
     // The replies to these calls, each written as on the command line after "call".
     std::vector<Json> replies(const Calls& calls) {
         std::string script;
-        for (const auto& call : calls)
+        for (const auto& call : calls) {
             script += "call " + call + "\n";
+        }
         std::istringstream output(VantrelctlFixture::output({"script", folder.write("script", script)}));
         std::vector<Json> all(calls.size());
-        for (auto& reply : all)
+        for (auto& reply : all) {
             output >> reply;
-        for (const auto& reply : all)
+        }
+        for (const auto& reply : all) {
             seen_.insert(reply.at("opcode").get<int>());
+        }
         return all;
     }
 
@@ -47,8 +50,9 @@ protected:
     // A field of the list's record with the name.
     std::string idOf(const std::string& list, const std::string& field, const std::string& name) {
         for (const auto& record : recordsOf(list)) {
-            if (record.dump().find('"' + name + '"') != std::string::npos)
+            if (record.dump().find('"' + name + '"') != std::string::npos) {
                 return record.at(field).get<std::string>();
+            }
         }
         ADD_FAILURE() << list << " has no " << name;
         return {};
@@ -71,8 +75,9 @@ protected:
     void expectKept() {
         kill();
         startServer();
-        for (const auto& [list, text] : lists_)
+        for (const auto& [list, text] : lists_) {
             EXPECT_THAT(shown(list), HasSubstr('"' + text + '"')) << list;
+        }
     }
 
     void expectCalled(const std::set<int>& opcodes) { EXPECT_EQ(seen_, opcodes); }
@@ -110,8 +115,9 @@ TEST_F(EveryCommand, regionsAndPrinters) {
     expectShown({"1 u8:0 i32:0" + str16("Walk")}, regions, "Walk");
     const auto findRegion = [&](const std::string& name) {
         for (const auto& one : recordsOf(regions)) {
-            if (one.at("name") == name)
+            if (one.at("name") == name) {
                 return one.at("id").get<int>();
+            }
         }
         return -1;
     };
@@ -193,8 +199,9 @@ TEST_F(EveryCommand, alarms) {
     for (const auto& action : actions) {
         const auto code = std::to_string(action.at("code").get<int>());
         const auto destination = first("31 u16:" + code, "id");
-        if (destination.empty())
+        if (destination.empty()) {
             continue;
+        }
         replies({"33" + str8(program) + str8(event) + " u16:" + code + str8(destination)});
         break;
     }
@@ -292,14 +299,16 @@ TEST_F(EveryCommand, configurations) {
             model = printer.at("modelId").get<std::string>();
             const auto asked = replies({"14" + str8(model) + str8(""), "50" + str8(model),
                                         "6" + str8(printer.at("id").get<std::string>()) + " i32:0 u16:1"});
-            if (asked[0].at("records").empty() || asked[1].at("records").empty() || asked[2].at("records").empty())
+            if (asked[0].at("records").empty() || asked[1].at("records").empty() || asked[2].at("records").empty()) {
                 continue;
+            }
             config = asked[1].at("records").front().at("configId").get<std::string>();
             queue = asked[2].at("records").front().at("id").get<std::string>();
             break;
         }
-        if (!queue.empty())
+        if (!queue.empty()) {
             break;
+        }
     }
     ASSERT_NE(queue, "");
     const std::string ofQueue = "17" + str8(queue) + str8("");
@@ -315,8 +324,9 @@ TEST_F(EveryCommand, configurations) {
     std::string driver;
     for (const auto& one : recordsOf("12 u8:3" + str8(model))) {
         const auto id = one.at("driverId").get<std::string>();
-        if (!recordsOf("14" + str8(model) + str8(id)).empty())
+        if (!recordsOf("14" + str8(model) + str8(id)).empty()) {
             driver = id;
+        }
     }
     replies({"79" + str8(config) + str8(model) + str8(driver)});
     expectGone({"52 u8:1" + str8(config)}, "50" + str8(model), config);

@@ -27,11 +27,11 @@ protected:
     }
     void run(const std::string& entry, Arguments steps) const {
         steps.insert(steps.begin(), {"run", node, entry});
-        output(steps);
+        carryOut(steps);
     }
 
     // The first cells of the list.
-    std::vector<std::string> names() const {
+    [[nodiscard]] std::vector<std::string> names() const {
         std::vector<std::string> all;
         const auto list = json({"show", node});
         for (const auto& row : list.at("rows")) {
@@ -41,7 +41,7 @@ protected:
     }
 
     // As the server has it.
-    Json limit(const std::string& name) const {
+    [[nodiscard]] Json limit(const std::string& name) const {
         const auto list = json({"call", "73"});
         for (const auto& each : list.at("records")) {
             if (each.at("name") == name) {

@@ -16,22 +16,22 @@ class RulesCtl : public VantrelctlFixture {
 protected:
     void SetUp() override { startServerWithSample(); }
 
-    Json call(Arguments arguments) const {
+    [[nodiscard]] Json call(Arguments arguments) const {
         arguments.insert(arguments.begin(), "call");
         return Json::parse(output(arguments));
     }
-    Json records(const Arguments& arguments) const { return call(arguments).at("records"); }
+    [[nodiscard]] Json records(const Arguments& arguments) const { return call(arguments).at("records"); }
     // The record of a list with that name; null without one.
     static Json called(const Json& records, const std::string& name) {
         const auto found =
             std::find_if(records.begin(), records.end(), [&](const auto& one) { return one.at("name") == name; });
         return found == records.end() ? Json() : *found;
     }
-    Json entriesOf(const std::string& group) const {
+    [[nodiscard]] Json entriesOf(const std::string& group) const {
         const auto id = called(records({"ListRuleGroups", "str8:"}), group).at("id").get<std::string>();
         return records({"ListRuleEntries", "str8:" + id, "u32:0"});
     }
-    std::vector<std::string> groups() const {
+    [[nodiscard]] std::vector<std::string> groups() const {
         const auto list = json({"show", "Rules/Rule Groups"});
         std::vector<std::string> names;
         for (const auto& row : list.at("rows")) {
@@ -52,27 +52,27 @@ TEST_F(RulesCtl, theBranchHoldsItsFourListsInTheirOrder) {
 }
 
 TEST_F(RulesCtl, aGroupIsMadeWithALimitAMessageAndSomebodyAffectedInOneGoOfNestedDialogs) {
-    output(newGroup({"--set",   "Group Name=First years",
-                     "--set",   "Group Comment=Until spring",
-                     "--press", "Add...", //
-                     "--set",   "Name=Quota of first years",
-                     "--set",   "Comment=Ten pages", //
-                     "--set",   "Affected=<New>",
-                     "--set",   "Name=first-years",
-                     "--set",   "Equals=IS",
-                     "--press", "OK", //
-                     "--set",   "Limits=<New>",
-                     "--set",   "Name=Ten pages a job",
-                     "--set",   "Max pages=10",  //
-                     "--set",   "Action=Delete", //
-                     "--set",   "Message=<New>",
-                     "--set",   "Message name=Too long",
-                     "--set",   "Caption=Stopped", //
-                     "--set",   "Text=More than ten pages",
-                     "--press", "OK", //
-                     "--press", "OK",
-                     "--press", "OK",
-                     "--press", "OK"}));
+    carryOut(newGroup({"--set",   "Group Name=First years",
+                       "--set",   "Group Comment=Until spring",
+                       "--press", "Add...", //
+                       "--set",   "Name=Quota of first years",
+                       "--set",   "Comment=Ten pages", //
+                       "--set",   "Affected=<New>",
+                       "--set",   "Name=first-years",
+                       "--set",   "Equals=IS",
+                       "--press", "OK", //
+                       "--set",   "Limits=<New>",
+                       "--set",   "Name=Ten pages a job",
+                       "--set",   "Max pages=10",  //
+                       "--set",   "Action=Delete", //
+                       "--set",   "Message=<New>",
+                       "--set",   "Message name=Too long",
+                       "--set",   "Caption=Stopped", //
+                       "--set",   "Text=More than ten pages",
+                       "--press", "OK", //
+                       "--press", "OK",
+                       "--press", "OK",
+                       "--press", "OK"}));
 
     EXPECT_THAT(groups(), Contains("First years"));
     const auto entries = entriesOf("First years");
@@ -99,8 +99,8 @@ TEST_F(RulesCtl, aGroupIsMadeWithALimitAMessageAndSomebodyAffectedInOneGoOfNeste
 TEST_F(RulesCtl, cancellingANewGroupLeavesNothingOfItOnTheServer) {
     const auto before = records({"ListRuleGroups", "str8:"});
 
-    output(newGroup({"--set", "Group Name=First years", "--press", "Add...", "--set", "Type=Handover", "--set",
-                     "Name=At the desk", "--press", "OK", "--press", "Cancel"}));
+    carryOut(newGroup({"--set", "Group Name=First years", "--press", "Add...", "--set", "Type=Handover", "--set",
+                       "Name=At the desk", "--press", "OK", "--press", "Cancel"}));
 
     EXPECT_EQ(records({"ListRuleGroups", "str8:"}), before);
 }
@@ -125,23 +125,23 @@ TEST_F(RulesCtl, aGroupWithoutANameIsRefusedWithTheReason) {
 }
 
 TEST_F(RulesCtl, anEntryWithAPlanAndOneWithAShortIdAreMade) {
-    output(newGroup({"--set",   "Group Name=Visitors",
-                     "--press", "Add...",
-                     "--set",   "Type=Price plan",
-                     "--set",   "Name=Prices",
-                     "--set",   "Plans=<New>",
-                     "--set",   "Name=For visitors",
-                     "--set",   "VAT (%)=7.5",
-                     "--press", "OK",
-                     "--press", "OK", //
-                     "--press", "Add...",
-                     "--set",   "Type=Short Id",
-                     "--set",   "Name=Times",
-                     "--set",   "Short Ids=<New>",
-                     "--set",   "Name=A visit",
-                     "--press", "OK",
-                     "--press", "OK",
-                     "--press", "OK"}));
+    carryOut(newGroup({"--set",   "Group Name=Visitors",
+                       "--press", "Add...",
+                       "--set",   "Type=Price plan",
+                       "--set",   "Name=Prices",
+                       "--set",   "Plans=<New>",
+                       "--set",   "Name=For visitors",
+                       "--set",   "VAT (%)=7.5",
+                       "--press", "OK",
+                       "--press", "OK", //
+                       "--press", "Add...",
+                       "--set",   "Type=Short Id",
+                       "--set",   "Name=Times",
+                       "--set",   "Short Ids=<New>",
+                       "--set",   "Name=A visit",
+                       "--press", "OK",
+                       "--press", "OK",
+                       "--press", "OK"}));
 
     const auto entries = entriesOf("Visitors");
     ASSERT_EQ(entries.size(), 2U);
@@ -153,15 +153,15 @@ TEST_F(RulesCtl, anEntryWithAPlanAndOneWithAShortIdAreMade) {
 }
 
 TEST_F(RulesCtl, anEntryIsEditedAndRemovedByItsRow) {
-    output(newGroup({"--set", "Group Name=Visitors", "--press", "Add...", "--set", "Type=Handover", "--set",
-                     "Name=At the desk", "--set", "Affected=<New>", "--set", "Name=visitors", "--press", "OK",
-                     "--press", "OK", "--press", "OK"}));
+    carryOut(newGroup({"--set", "Group Name=Visitors", "--press", "Add...", "--set", "Type=Handover", "--set",
+                       "Name=At the desk", "--set", "Affected=<New>", "--set", "Name=visitors", "--press", "OK",
+                       "--press", "OK", "--press", "OK"}));
     const Arguments edit{"run", "Rules/Rule Groups", "Edit rule group", "--row", "Visitors"};
 
     auto editEntry = edit;
     editEntry.insert(editEntry.end(), {"--set", "Rules=At the desk", "--press", "Edit...", "--set",
                                        "Comment=By the porter", "--press", "OK", "--press", "OK"});
-    output(editEntry);
+    carryOut(editEntry);
     const auto edited = entriesOf("Visitors");
     ASSERT_EQ(edited.size(), 1U);
     EXPECT_EQ(edited.at(0).at("comment"), "By the porter");
@@ -170,10 +170,10 @@ TEST_F(RulesCtl, anEntryIsEditedAndRemovedByItsRow) {
     auto removeEntry = edit;
     removeEntry.insert(removeEntry.end(),
                        {"--set", "Rules=At the desk", "--press", "Remove", "--answer", "ok", "--press", "Cancel"});
-    output(removeEntry);
+    carryOut(removeEntry);
     EXPECT_EQ(entriesOf("Visitors").size(), 0U);
 
-    output({"run", "Rules/Rule Groups", "Remove rule group", "--row", "Visitors", "--answer", "ok"});
+    carryOut({"run", "Rules/Rule Groups", "Remove rule group", "--row", "Visitors", "--answer", "ok"});
     EXPECT_THAT(groups(), Not(Contains("Visitors")));
 }
 

@@ -12,7 +12,7 @@ class VantrelctlCall : public VantrelctlFixture {
 protected:
     void SetUp() override { startServerWithSample(); }
 
-    Json call(Arguments arguments) const {
+    [[nodiscard]] Json call(Arguments arguments) const {
         arguments.insert(arguments.begin(), "call");
         return Json::parse(output(arguments));
     }
@@ -28,37 +28,38 @@ protected:
 constexpr auto planId = "3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e01";
 
 TEST_F(VantrelctlCall, aListOfRecordsIsACountAndTheFieldsOfEach) {
-    call({"WritePricePlan",
-          "u8:1",
-          std::string("str8:") + planId,
-          "u8:2",
-          "str16:Zürich",
-          "str16:",
-          "f32:0.5",
-          "f32:2",
-          "f32:1.5",
-          "f32:1",
-          "f32:1",
-          "u32:770",
-          "u16:2", //
-          "str8:3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e02",
-          "str8:A4",
-          "u8:0",
-          "u16:9",
-          "f32:0",
-          "f32:0.05",
-          "f32:0.04",
-          "f32:0.25",
-          "f32:0.2", //
-          "str8:3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e03",
-          "str8:A3",
-          "u8:0",
-          "u16:8",
-          "f32:0",
-          "f32:0.1",
-          "f32:0.08",
-          "f32:0.5",
-          "f32:0.4"});
+    carryOut({"call",
+              "WritePricePlan",
+              "u8:1",
+              std::string("str8:") + planId,
+              "u8:2",
+              "str16:Zürich",
+              "str16:",
+              "f32:0.5",
+              "f32:2",
+              "f32:1.5",
+              "f32:1",
+              "f32:1",
+              "u32:770",
+              "u16:2", //
+              "str8:3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e02",
+              "str8:A4",
+              "u8:0",
+              "u16:9",
+              "f32:0",
+              "f32:0.05",
+              "f32:0.04",
+              "f32:0.25",
+              "f32:0.2", //
+              "str8:3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e03",
+              "str8:A3",
+              "u8:0",
+              "u16:8",
+              "f32:0",
+              "f32:0.1",
+              "f32:0.08",
+              "f32:0.5",
+              "f32:0.4"});
 
     const auto plan = recordWith(call({"69", "str8:"}), "name", "Zürich");
     EXPECT_EQ(plan.at("id"), planId);
@@ -73,8 +74,8 @@ TEST_F(VantrelctlCall, aListOfRecordsIsACountAndTheFieldsOfEach) {
 TEST_F(VantrelctlCall, anOptionIsNoneOrATrueAndItsValue) {
     const std::string id = "3e1f9a70-52c4-4b68-9d0e-7a4b1c2d3e04";
 
-    call({"AddShortId", "uuid:" + id, "str16:Guests", "str16:for a day", "none", "bool:1", "u32:60", "none", "bool:1",
-          "i64:64800"});
+    carryOut({"call", "AddShortId", "uuid:" + id, "str16:Guests", "str16:for a day", "none", "bool:1", "u32:60", "none",
+              "bool:1", "i64:64800"});
 
     const auto added = recordWith(call({"ListShortIds"}), "id", id);
     EXPECT_EQ(added.at("name"), "Guests");
@@ -86,7 +87,7 @@ TEST_F(VantrelctlCall, anOptionIsNoneOrATrueAndItsValue) {
 
 TEST_F(VantrelctlCall, aSignedNumberMayBeNegative) {
     EXPECT_EQ(ctl({"call", "CreateRegion", "u8:0", "i32:-1", "str16:nowhere"}).status, 1); // the server refuses it
-    call({"CreateRegion", "u8:0", "i32:0", "str16:somewhere"});
+    carryOut({"call", "CreateRegion", "u8:0", "i32:0", "str16:somewhere"});
 
     const auto regions = call({"ListRegions", "u8:0", "i32:0", "u16:0"});
     EXPECT_TRUE(recordWith(regions, "name", "nowhere").is_null());

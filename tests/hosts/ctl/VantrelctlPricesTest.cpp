@@ -15,11 +15,11 @@ protected:
     VantrelctlPrices() { startServerWithSample(); }
 
     void createStandard(const std::string& basePrice) const {
-        output({"run", "Rules/Price Plans", "New Price Plan...", "--set", "Name=Standard", "--set", "VAT (%)=7.5",
-                "--set", "Paper=A4", "--set", "Base Price=" + basePrice, "--press", "Add", "--press", "OK"});
+        carryOut({"run", "Rules/Price Plans", "New Price Plan...", "--set", "Name=Standard", "--set", "VAT (%)=7.5",
+                  "--set", "Paper=A4", "--set", "Base Price=" + basePrice, "--press", "Add", "--press", "OK"});
     }
 
-    Json standardPlan() const {
+    [[nodiscard]] Json standardPlan() const {
         const auto reply = json({"call", "69", "str8:"});
         for (const auto& plan : reply.at("records")) {
             if (plan.at("name") == "Standard") {
@@ -30,12 +30,12 @@ protected:
         return {};
     }
 
-    Json pricesOfStandard() const {
+    [[nodiscard]] Json pricesOfStandard() const {
         return json({"call", "71", "str8:" + standardPlan().at("id").get<std::string>()}).at("records");
     }
 
     // Edits the plan: its row is found by the text of its price.
-    Outcome updateRowThatShows(const std::string& price) const {
+    [[nodiscard]] Outcome updateRowThatShows(const std::string& price) const {
         return ctl({"run", "Rules/Price Plans", "Edit price plan", "--row", "Standard", "--select", "Prices=" + price,
                     "--press", "Update", "--press", "OK"});
     }
@@ -87,7 +87,7 @@ TEST_F(VantrelctlPrices, absolutePricesAreAddressedByTheirGroups) {
     command.insert(command.end(),
                    {"--set", "Scan: B/W=0.3", "--set", "Scan: Color=0.4", "--press", "Add", "--press", "OK"});
 
-    output(command);
+    carryOut(command);
 
     ASSERT_EQ(pricesOfStandard().size(), 3U);
     EXPECT_FLOAT_EQ(pricesOfStandard()[2].at("bwSimplex").get<float>(), 0.3F);
@@ -95,29 +95,29 @@ TEST_F(VantrelctlPrices, absolutePricesAreAddressedByTheirGroups) {
 }
 
 TEST_F(VantrelctlPrices, aShortIdIsMadeWithAMessageOfItsOwn) {
-    output({"run",
-            "Rules/Short Id",
-            "New Short id Rule...",
-            "--set",
-            "Name=Lobby",
-            "--set",
-            "Message=<New>",
-            "--set",
-            "Message name=Welcome",
-            "--set",
-            "Text=Your prints are ready",
-            "--press",
-            "OK",
-            "--set",
-            "Valid for=yes",
-            "--set",
-            "Valid for=2",
-            "--set",
-            "Valid for=days",
-            "--set",
-            "Reserved until=12:30:15",
-            "--press",
-            "OK"});
+    carryOut({"run",
+              "Rules/Short Id",
+              "New Short id Rule...",
+              "--set",
+              "Name=Lobby",
+              "--set",
+              "Message=<New>",
+              "--set",
+              "Message name=Welcome",
+              "--set",
+              "Text=Your prints are ready",
+              "--press",
+              "OK",
+              "--set",
+              "Valid for=yes",
+              "--set",
+              "Valid for=2",
+              "--set",
+              "Valid for=days",
+              "--set",
+              "Reserved until=12:30:15",
+              "--press",
+              "OK"});
 
     const auto records = json({"call", "81"}).at("records");
     const auto lobby = std::ranges::find_if(records, [](const auto& each) { return each.at("name") == "Lobby"; });

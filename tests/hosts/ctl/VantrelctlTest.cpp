@@ -22,7 +22,7 @@ TEST_F(Vantrelctl, loginPrintsTheStatusText) {
 }
 
 TEST_F(Vantrelctl, aLoginIsRememberedButForThePassword) {
-    output({"login"});
+    carryOut({"login"});
 
     const auto outcome = runProgram({VANTRELCTL_PROGRAM, "--settings", folder / "settings.ini", "login"},
                                     {{"VANTREL_PASSWORD", "geheim"}});
@@ -104,26 +104,26 @@ TEST_F(Vantrelctl, aCreatedRegionStandsAfterARestart) {
 }
 
 TEST_F(Vantrelctl, anEntryCanBeChosenByItsId) {
-    output({"run", "Printers", "247", "--set", "Region Name=North", "--press", "OK"});
+    carryOut({"run", "Printers", "247", "--set", "Region Name=North", "--press", "OK"});
 
     EXPECT_THAT(below("Printers"), Contains("North"));
 }
 
 TEST_F(Vantrelctl, anEntryOfARowRunsOnItsNode) {
-    output({"run", "Printers", "Create region", "--row", "Berlin", "--set", "Region Name=North", "--press", "OK"});
+    carryOut({"run", "Printers", "Create region", "--row", "Berlin", "--set", "Region Name=North", "--press", "OK"});
 
     EXPECT_THAT(below("Printers/Berlin"), Contains("North"));
 }
 
 TEST_F(Vantrelctl, aFormThatIsCancelledChangesNothing) {
-    output({"run", "Printers", "Create region", "--set", "Region Name=North", "--press", "Cancel"});
+    carryOut({"run", "Printers", "Create region", "--set", "Region Name=North", "--press", "Cancel"});
 
     EXPECT_THAT(below("Printers"), Not(Contains("North")));
 }
 
 TEST_F(Vantrelctl, aRenamedRegionStandsAfterARestart) {
     createRegion("North");
-    output({"rename", "Printers/North", "Far North"});
+    carryOut({"rename", "Printers/North", "Far North"});
     restartServer();
 
     EXPECT_THAT(below("Printers"), Contains("Far North"));
@@ -133,7 +133,7 @@ TEST_F(Vantrelctl, aRenamedRegionStandsAfterARestart) {
 TEST_F(Vantrelctl, aMovedRegionStandsAfterARestart) {
     createRegion("North");
     createRegion("South");
-    output({"move", "Printers/North", "Printers/South"});
+    carryOut({"move", "Printers/North", "Printers/South"});
     restartServer();
 
     EXPECT_THAT(below("Printers/South"), ElementsAre("North"));
@@ -143,9 +143,9 @@ TEST_F(Vantrelctl, aMovedRegionStandsAfterARestart) {
 TEST_F(Vantrelctl, aRegionCanBeMovedToTheTop) {
     createRegion("North");
     createRegion("South");
-    output({"move", "Printers/North", "Printers/South"});
+    carryOut({"move", "Printers/North", "Printers/South"});
 
-    output({"move", "Printers/South/North", "Printers"});
+    carryOut({"move", "Printers/South/North", "Printers"});
 
     EXPECT_THAT(below("Printers"), Contains("North"));
 }
@@ -153,7 +153,7 @@ TEST_F(Vantrelctl, aRegionCanBeMovedToTheTop) {
 TEST_F(Vantrelctl, aMovedPrinterStandsAfterARestart) {
     const auto printer = below("Printers/München").back();
     createRegion("North");
-    output({"move", "Printers/München/" + printer, "Printers/North"});
+    carryOut({"move", "Printers/München/" + printer, "Printers/North"});
     restartServer();
 
     EXPECT_THAT(below("Printers/North"), ElementsAre(printer));
@@ -166,7 +166,7 @@ TEST_F(Vantrelctl, aDeletedPrinterStaysAway) {
     ASSERT_FALSE(printers.empty());
     const std::string name = printers.at(0).at("name");
 
-    output({"run", "Printers/München", "Delete Printer", "--row", name, "--answer", "ok"});
+    carryOut({"run", "Printers/München", "Delete Printer", "--row", name, "--answer", "ok"});
     restartServer();
 
     EXPECT_THAT(below("Printers/München"), Not(Contains(name)));
@@ -174,7 +174,7 @@ TEST_F(Vantrelctl, aDeletedPrinterStaysAway) {
 
 TEST_F(Vantrelctl, aDeletedRegionStaysAway) {
     createRegion("North");
-    output({"run", "Printers/North", "Delete region", "--answer", "ok"});
+    carryOut({"run", "Printers/North", "Delete region", "--answer", "ok"});
     restartServer();
 
     EXPECT_THAT(below("Printers"), Not(Contains("North")));
@@ -182,7 +182,7 @@ TEST_F(Vantrelctl, aDeletedRegionStaysAway) {
 
 TEST_F(Vantrelctl, aQuestionAnsweredWithCancelChangesNothing) {
     createRegion("North");
-    output({"run", "Printers/North", "Delete region", "--answer", "cancel"});
+    carryOut({"run", "Printers/North", "Delete region", "--answer", "cancel"});
 
     EXPECT_THAT(below("Printers"), Contains("North"));
 }
@@ -209,7 +209,7 @@ TEST_F(Vantrelctl, callOfACommandWithoutAReplyPrintsItsName) {
 }
 
 TEST_F(Vantrelctl, activityHasALineForEachCommandAndNoPassword) {
-    output({"--activity", folder / "activity", "show", "Printers"});
+    carryOut({"--activity", folder / "activity", "show", "Printers"});
 
     std::ifstream stream(folder / "activity");
     std::vector<std::string> names;
@@ -236,7 +236,7 @@ TEST_F(Vantrelctl, aNameOutsideTheBasicPlaneIsTaken) {
     const auto before = below("Printers").size();
 
     createRegion("\xF0\x9F\x96\xA8");
-    output({"rename", "Printers/Berlin", "\xF0\x9F\x96\xA8 Berlin"});
+    carryOut({"rename", "Printers/Berlin", "\xF0\x9F\x96\xA8 Berlin"});
 
     EXPECT_EQ(below("Printers").size(), before + 1);
     EXPECT_THAT(below("Printers"), Not(Contains("Berlin")));

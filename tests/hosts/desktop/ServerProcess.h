@@ -15,7 +15,7 @@ public:
     ~ServerProcess();
 
     // 0 when the server did not start.
-    quint16 port() const { return port_; }
+    [[nodiscard]] quint16 port() const { return port_; }
     static constexpr const char16_t* password = u"secret-pw";
 
 private:

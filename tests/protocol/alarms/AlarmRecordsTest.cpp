@@ -32,10 +32,11 @@ void expectBothWays(const R& record, const char* fields) {
 
 template <Record R>
 void expectThrowsWhenCut(const Bytes& fields) {
-    for (std::size_t size = 0; size < fields.size(); ++size)
+    for (std::size_t size = 0; size < fields.size(); ++size) {
         EXPECT_THROW((void)fromFields<R>(Bytes(fields.begin(), fields.begin() + static_cast<std::ptrdiff_t>(size))),
                      const char*)
             << size;
+    }
 }
 
 TEST(EmailRecipientRecord, isIdAddressNameAndActive) {

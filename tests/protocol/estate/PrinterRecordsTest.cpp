@@ -85,10 +85,12 @@ TEST(PrinterRecord, externalIsStoredAsThreeAndInternalAsZero) {
 }
 
 TEST(PrinterRecord, oneToThreeInAccountingAreExternalAndAllElseIsInternal) {
-    for (const int value : {1, 2, 3})
+    for (const int value : {1, 2, 3}) {
         EXPECT_TRUE(accounting::isExternal(static_cast<std::uint8_t>(value))) << value;
-    for (const int value : {0, 4, 0x30, 255})
+    }
+    for (const int value : {0, 4, 0x30, 255}) {
         EXPECT_EQ(accounting::nameOf(static_cast<std::uint8_t>(value)), u"Internal") << value;
+    }
 }
 
 TEST(StatusReply, isCaptionTextAndStyle) {

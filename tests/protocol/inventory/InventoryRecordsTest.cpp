@@ -190,9 +190,10 @@ TEST(ListSchemasRequest, isTheIdAndThenAWideKind) {
 }
 
 TEST(ChangeSchemaRequest, isTheOperationAndThenThePlan) {
-    for (const std::uint8_t operation : ChangeSchemaRequest::actions)
+    for (const std::uint8_t operation : ChangeSchemaRequest::actions) {
         expectBothWays(ChangeSchemaRequest{.operation = operation, .schema = ordinarySchema()},
                        support::Bytes{operation} + support::hex(ordinarySchemaFields));
+    }
 }
 
 TEST(ChangeSchemaRequest, aDeletedOneIsEmptyButForItsId) {
@@ -242,9 +243,10 @@ TEST(ListIpRangesRequest, isANarrowKindAndThenTheId) {
 }
 
 TEST(ChangeIpRangeRequest, isTheOperationAndThenTheRange) {
-    for (const std::uint8_t operation : ChangeIpRangeRequest::actions)
+    for (const std::uint8_t operation : ChangeIpRangeRequest::actions) {
         expectBothWays(ChangeIpRangeRequest{.operation = operation, .range = ordinaryRange()},
                        support::Bytes{operation} + support::hex(ordinaryRangeFields));
+    }
 }
 
 TEST(ChangeIpRangeRequest, oneThatSwitchesIsEmptyButForIdAndState) {

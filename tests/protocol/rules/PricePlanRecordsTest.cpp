@@ -92,11 +92,12 @@ TEST(ListPriceEntriesRequest, isTheIdOfThePlan) {
 TEST(PaperCode, papersAndAreasStandInTheirOrderAndShareNoCode) {
     std::vector<std::uint16_t> codes;
     std::u16string labels;
-    for (const auto& list : {std::span<const PaperCode>(paperSizes), std::span<const PaperCode>(areaUnits)})
+    for (const auto& list : {std::span<const PaperCode>(paperSizes), std::span<const PaperCode>(areaUnits)}) {
         for (const auto& [code, label] : list) {
             codes.push_back(code);
             labels.append(label).append(u",");
         }
+    }
 
     EXPECT_EQ(codes, (std::vector<std::uint16_t>{9, 262, 263, 66, 8, 11, 5, 1, 257, 258, 259, 260, 261}));
     EXPECT_EQ(labels, u"A4,A0,A1,A2,A3,A5,Legal,Letter,cm ²,dm ²,m ²,in ²,ft ²,");

@@ -25,8 +25,9 @@ public:
     template <class R>
     [[nodiscard]] static std::vector<R> recordsOf(Listing listing) {
         std::vector<R> records;
-        while (listing.rows.next())
+        while (listing.rows.next()) {
             records.push_back(readFields<R>(listing.rows));
+        }
         EXPECT_EQ(static_cast<std::size_t>(listing.count), records.size());
         return records;
     }
@@ -59,9 +60,11 @@ public:
     std::string addRecipient(const std::u16string& name, const std::u16string& email = u"a@b") {
         const auto before = recipients();
         (void)recipientService().write({.id = {}, .name = name, .email = email, .active = 1});
-        for (const auto& one : recipients())
-            if (std::ranges::find(before, one) == before.end())
+        for (const auto& one : recipients()) {
+            if (std::ranges::find(before, one) == before.end()) {
                 return one.id;
+            }
+        }
         return {};
     }
     // The same.

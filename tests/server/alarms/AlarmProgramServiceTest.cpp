@@ -28,8 +28,9 @@ TEST(ProgramActionTable, anEmptyDatabaseHasEventsAndActions) {
 
 TEST(ProgramActionTable, noActionComesBeforeIgnoreByName) {
     AlarmEstate place;
-    for (const auto& action : place.actions())
+    for (const auto& action : place.actions()) {
         EXPECT_GE(nameKey(action.name), nameKey(u"Ignore"));
+    }
 }
 
 TEST(ProgramActionTable, theActionsBeginWithTheOneThatHasDestinations) {
@@ -37,8 +38,9 @@ TEST(ProgramActionTable, theActionsBeginWithTheOneThatHasDestinations) {
     place.addRecipient(u"Jo");
     const auto actions = place.actions();
     EXPECT_EQ(place.destinations(actions[0].code).size(), 1U);
-    for (const auto& action : actions)
+    for (const auto& action : actions) {
         EXPECT_EQ(place.destinations(action.code).size(), action.flag ? 1U : 0U) << action.code;
+    }
     EXPECT_TRUE(place.destinations(9999).empty());
 }
 
@@ -63,8 +65,9 @@ TEST(ProgramActionTable, counterProgramsBelongToTheServer) {
     EXPECT_EQ(place.programs(2, counters[1].id).size(), 1U);
     EXPECT_TRUE(place.programs(0, counters[1].id).empty());
     EXPECT_TRUE(place.programs(0).empty());
-    for (const auto kind : std::initializer_list<std::uint8_t>{1, 3, 255})
+    for (const auto kind : std::initializer_list<std::uint8_t>{1, 3, 255}) {
         EXPECT_TRUE(place.programs(kind).empty());
+    }
 
     const auto id = counters[0].id;
     EXPECT_EQ(place.programService().write({.id = id, .name = u"Mine", .comment = {}, .createdBy = {}}).status.text,
@@ -162,11 +165,13 @@ TEST(AlarmProgramService, aProgramTooLongToBeListedIsRefusedAndOneThatJustFitsIs
 
 TEST(AlarmProgramService, programsAreListedByName) {
     AlarmEstate place;
-    for (const auto* const name : {u"b", u"C", u"A"})
+    for (const auto* const name : {u"b", u"C", u"A"}) {
         place.addProgram(name);
+    }
     std::u16string names;
-    for (const auto& one : place.programs())
+    for (const auto& one : place.programs()) {
         names += one.name;
+    }
     EXPECT_EQ(names, u"AbC");
 }
 

@@ -24,8 +24,9 @@ protected:
 TEST_F(AlarmSample, fillsEveryList) {
     EXPECT_GE(place.recipients().size(), 10U);
     EXPECT_GE(place.programs().size(), 5U);
-    for (const auto& program : place.programs())
+    for (const auto& program : place.programs()) {
         EXPECT_FALSE(place.actionsOf(program.id).empty());
+    }
     EXPECT_FALSE(place.destinations(1).empty());
 }
 
@@ -37,15 +38,18 @@ TEST_F(AlarmSample, hasActiveAndInactiveRecipients) {
 
 TEST_F(AlarmSample, printersPointAtProgramsThatExist) {
     std::set<std::string> known = {""};
-    for (const auto kind : std::initializer_list<std::uint8_t>{0, 2})
-        for (const auto& program : place.programs(kind))
+    for (const auto kind : std::initializer_list<std::uint8_t>{0, 2}) {
+        for (const auto& program : place.programs(kind)) {
             known.insert(program.id);
+        }
+    }
     std::set<std::string> alarms;
     std::set<std::string> counters;
     auto regions = place.regions().list(0, 0);
     std::vector<std::int32_t> ids;
-    while (regions.next())
+    while (regions.next()) {
         ids.push_back(static_cast<std::int32_t>(regions.number(1)));
+    }
     for (const auto id : ids) {
         auto rows = place.records().list({.printerId = {}, .regionId = id, .mode = 0});
         while (rows.next()) {

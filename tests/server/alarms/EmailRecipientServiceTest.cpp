@@ -30,11 +30,13 @@ TEST(EmailRecipientService, twoRecipientsOfTheSameNameAreAllowed) {
 
 TEST(EmailRecipientService, recipientsAreListedByNameWithoutRegardToCase) {
     AlarmEstate place;
-    for (const auto* const name : {u"b", u"C", u"A"})
+    for (const auto* const name : {u"b", u"C", u"A"}) {
         place.addRecipient(name);
+    }
     std::u16string names;
-    for (const auto& one : place.recipients())
+    for (const auto& one : place.recipients()) {
         names += one.name;
+    }
     EXPECT_EQ(names, u"AbC");
 }
 

@@ -29,14 +29,16 @@ TEST(CommandTable, everyCommandHasOneButThoseOfTheLogin) {
 
 TEST(CommandTable, anActionThatDoesNotExistIsRefused) {
     const std::uint8_t action[] = {77};
-    for (const std::uint16_t opcode : {std::uint16_t{58}, std::uint16_t{60}, std::uint16_t{64}, std::uint16_t{68}})
+    for (const std::uint16_t opcode : {std::uint16_t{58}, std::uint16_t{60}, std::uint16_t{64}, std::uint16_t{68}}) {
         EXPECT_THROW((void)commands().find(opcode, action), BadRequest) << opcode;
+    }
     EXPECT_THROW((void)commands().find(58, {}), BadRequest);
 }
 
 TEST(CommandTable, anOpcodeThatIsNotInUseHasNone) {
-    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{7, 8, 26, 35, 63, 72, 85, 65535})
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{7, 8, 26, 35, 63, 72, 85, 65535}) {
         EXPECT_EQ(commands().find(opcode, {}), nullptr) << opcode;
+    }
 }
 
 } // namespace

@@ -37,12 +37,14 @@ TEST(ListStream, aRecordGoesOutWithAllItsFields) {
 TEST(ListStream, piecesOfAnySizeGiveTheSameBytes) {
     TestEstate place;
     const auto region = place.addRegion(u"North");
-    for (int number = 0; number < 20; ++number)
+    for (int number = 0; number < 20; ++number) {
         place.addPrinter(std::u16string(1, static_cast<char16_t>(u'A' + number)), region);
+    }
     const auto whole = answerOf(place.connection(), 6, printersOf(region));
     EXPECT_EQ(messagesOf(whole).size(), 21U);
-    for (const std::size_t piece : {1U, 100U, 1000U})
+    for (const std::size_t piece : {1U, 100U, 1000U}) {
         EXPECT_EQ(answerOf(place.connection(), 6, printersOf(region), piece), whole) << piece;
+    }
 }
 
 TEST(ListStream, aListOfMoreThanAConsoleTakesIsCut) {

@@ -29,12 +29,15 @@ std::string sampleWith(int queues, const std::function<void(test::ConfiguredEsta
         addConfigurationSample(place.connection(), random, 40);
         return true;
     });
-    if (look)
+    if (look) {
         look(estate);
+    }
     std::string all;
-    for (const auto* const model : {"m1", "m2"})
-        for (const auto& record : estate.list(model))
+    for (const auto* const model : {"m1", "m2"}) {
+        for (const auto& record : estate.list(model)) {
             all += record.configId + wire::toUtf8(record.date + record.comment) + std::to_string(record.useCount);
+        }
+    }
     return all;
 }
 
@@ -42,8 +45,9 @@ TEST(ConfigurationSample, everyModelHasConfigurationsThatNoneOneAndManyQueuesUse
     sampleWith(20, [](auto& estate) {
         for (const auto* const model : {"m1", "m2"}) {
             std::multiset<int> counts;
-            for (const auto& record : estate.list(model))
+            for (const auto& record : estate.list(model)) {
                 counts.insert(record.useCount);
+            }
             EXPECT_GE(counts.count(0), 1U) << model;
             EXPECT_GE(counts.count(1), 1U) << model;
             EXPECT_GE(*counts.rbegin(), 2) << model;
@@ -68,20 +72,23 @@ TEST(ConfigurationSample, theSmallEstateHasThemForSeveralModelsInEveryUse) {
     EXPECT_GT(sql.number(uses + ">= 2"), 0);
     EXPECT_GT(sql.number("SELECT count(DISTINCT modelId) FROM configuration"), 3);
     EXPECT_GT(sql.number("SELECT count(DISTINCT uploadedBy) FROM configuration"), 3);
-    for (const auto* const type : {"1", "3", "6"})
+    for (const auto* const type : {"1", "3", "6"}) {
         EXPECT_GT(sql.number("SELECT count(*) FROM queueConfiguration JOIN record ON number = queueNumber "
                              "WHERE recordType = " +
                              std::string(type)),
                   0)
             << type;
+    }
 }
 
 TEST(ConfigurationSample, severalPeopleHaveUploadedThem) {
     sampleWith(20, [](auto& estate) {
         std::set<std::u16string> people;
-        for (const auto* const model : {"m1", "m2"})
-            for (const auto& record : estate.list(model))
+        for (const auto* const model : {"m1", "m2"}) {
+            for (const auto& record : estate.list(model)) {
                 people.insert(record.uploadedBy);
+            }
+        }
         EXPECT_GE(people.size(), 3U);
     });
 }

@@ -39,9 +39,10 @@ public:
     [[nodiscard]] int sorts() const {
         int sorts = 0;
         for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
-             one = sqlite3_next_stmt(connection_, one))
+             one = sqlite3_next_stmt(connection_, one)) {
             sorts += sqlite3_stmt_status(one, SQLITE_STMTSTATUS_SORT, 0) +
                      sqlite3_stmt_status(one, SQLITE_STMTSTATUS_AUTOINDEX, 0);
+        }
         return sorts;
     }
 
@@ -113,8 +114,9 @@ public:
     // The configurations of the entries of a queue.
     [[nodiscard]] std::vector<std::string> used(const std::string& queue) {
         std::vector<std::string> ids;
-        for (const auto& entry : entries(queue))
+        for (const auto& entry : entries(queue)) {
             ids.push_back(entry.configId);
+        }
         return ids;
     }
     [[nodiscard]] std::vector<protocol::QueueConfigChoice> choices(const std::string& map) {
@@ -126,8 +128,9 @@ public:
     // The names of the queues that use a configuration.
     [[nodiscard]] std::vector<std::u16string> users(const std::string& configuration) {
         std::vector<std::u16string> names;
-        for (auto& record : all<protocol::ConfigQueueRecord>(queues().listQueues(configuration)))
+        for (auto& record : all<protocol::ConfigQueueRecord>(queues().listQueues(configuration))) {
             names.push_back(std::move(record.queueName));
+        }
         return names;
     }
 
@@ -151,8 +154,9 @@ private:
     template <protocol::Record R>
     [[nodiscard]] static std::vector<R> all(Listing listing) {
         std::vector<R> records;
-        while (listing.rows.next())
+        while (listing.rows.next()) {
             records.push_back(readFields<R>(listing.rows));
+        }
         EXPECT_EQ(listing.count, static_cast<std::int64_t>(records.size()));
         return records;
     }

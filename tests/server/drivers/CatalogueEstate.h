@@ -68,8 +68,9 @@ public:
     // The id of the new deployment; empty when it was refused.
     std::string deploy(const protocol::AddDriverDeploymentRequest& wanted) {
         const auto reply = connection_.change([&] { return deploymentService().add(wanted); });
-        if (!isDone(reply))
+        if (!isDone(reply)) {
             return {};
+        }
         return deployments().idAt({wanted.modelId, wanted.osId, wanted.locale}).value_or("");
     }
     std::string deploy(const std::string& driverId, const std::string& modelId, const std::u16string& locale = u"de") {
@@ -79,15 +80,17 @@ public:
     template <protocol::Record R>
     [[nodiscard]] static std::vector<R> all(Listing listing) {
         std::vector<R> records;
-        while (listing.rows.next())
+        while (listing.rows.next()) {
             records.push_back(readFields<R>(listing.rows));
+        }
         EXPECT_EQ(listing.count, static_cast<std::int64_t>(records.size()));
         return records;
     }
     [[nodiscard]] Names modelNames(std::uint8_t listKind, const std::string& parentId) {
         Names names;
-        for (auto& model : all<protocol::DriverModelRecord>(models().list(listKind, parentId)))
+        for (auto& model : all<protocol::DriverModelRecord>(models().list(listKind, parentId))) {
             names.push_back(std::move(model.name));
+        }
         return names;
     }
     [[nodiscard]] std::vector<protocol::DriverDeploymentRecord> deployed(const std::string& modelId,

@@ -27,15 +27,17 @@ protected:
         auto database = estate.store().openDatabase();
         std::set<std::string> found;
         Query query(database.getHandle(), sql);
-        for (auto rows = query.run(); rows.next();)
+        for (auto rows = query.run(); rows.next();) {
             found.emplace(rows.text(0));
+        }
         return found;
     }
     // The different numbers of the first column.
     [[nodiscard]] std::set<std::int64_t> values(const std::string& sql) const {
         std::set<std::int64_t> found;
-        for (const auto& text : texts(place, sql))
+        for (const auto& text : texts(place, sql)) {
             found.insert(std::stoll(text));
+        }
         return found;
     }
 

@@ -77,8 +77,9 @@ protected:
     }
     Texts names(std::uint8_t listKind, const std::string& parent) {
         Texts names;
-        for (auto& model : models(listKind, parent))
+        for (auto& model : models(listKind, parent)) {
             names.push_back(std::move(model.name));
+        }
         return names;
     }
     std::size_t driverCount(const std::string& model) { return list(12, u8(3) + str8(model)).size(); }
@@ -99,8 +100,9 @@ protected:
             EXPECT_EQ(cursor.text8(), firstOs);
             EXPECT_EQ(cursor.text16(), u"Windows 10 ARM64");
             EXPECT_EQ(cursor.text16(), u"de");
-            for (int number = 0; number < 3; ++number)
+            for (int number = 0; number < 3; ++number) {
                 deployment.bytes += static_cast<char>('0' + cursor.number(1));
+            }
             EXPECT_TRUE(cursor.atEnd());
         }
         return deployments;
@@ -285,10 +287,12 @@ TEST_F(DriverServer, closesTheConnectionOfARequestThatIsTooShort) {
 }
 
 TEST(DriverHandlers, eachCommandEitherReadsOrChanges) {
-    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{4, 5, 11, 12, 14, 77, 80})
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{4, 5, 11, 12, 14, 77, 80}) {
         EXPECT_NE(commands().find(opcode, {})->answer, nullptr) << opcode;
-    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{13, 15, 16, 20, 46, 47, 48, 49, 75})
+    }
+    for (const std::uint16_t opcode : std::initializer_list<std::uint16_t>{13, 15, 16, 20, 46, 47, 48, 49, 75}) {
         EXPECT_NE(commands().find(opcode, {})->prepare, nullptr) << opcode;
+    }
 }
 
 } // namespace

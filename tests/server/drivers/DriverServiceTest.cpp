@@ -30,8 +30,9 @@ protected:
 TEST_F(DriverServiceTest, brandsAreListedByName) {
     catalogue.models().insertBrand("b0", u"ivory");
     Names names;
-    for (const auto& brand : catalogue.all<protocol::DriverBrandRecord>(catalogue.models().listBrands()))
+    for (const auto& brand : catalogue.all<protocol::DriverBrandRecord>(catalogue.models().listBrands())) {
         names.push_back(brand.name);
+    }
     EXPECT_EQ(names, (Names{u"Halvek", u"ivory", u"Mirado"}));
 }
 
@@ -143,8 +144,9 @@ TEST_F(DriverServiceTest, driversAreListedByVersionOfAModelAndOfAllModelsOfABran
     catalogue.addDriver("D0", "m2");
     const auto ids = [](const std::vector<DriverRecord>& drivers) {
         std::string all;
-        for (const auto& driver : drivers)
+        for (const auto& driver : drivers) {
             all += driver.driverId + " ";
+        }
         return all;
     };
     EXPECT_EQ(ids(driversOf("m2")), "D0 d2 ");

@@ -124,8 +124,9 @@ TEST(RecordService, typesThatOnlyTellHowToLoadAreStoredAsWhatTheyLoad) {
     const auto queue = place.add(4, u"Q", 0, printer);
     EXPECT_EQ(place.record(printer).recordType, 0);
     EXPECT_EQ(place.record(queue).recordType, 1);
-    for (const auto none : std::initializer_list<std::uint16_t>{2, 7, 8, 9, 10, 65535})
+    for (const auto none : std::initializer_list<std::uint16_t>{2, 7, 8, 9, 10, 65535}) {
         EXPECT_TRUE(place.add(none, u"X", north).empty()) << none;
+    }
 }
 
 TEST(RecordService, aRecordTooLongToBeReceivedIsRefusedAndOneThatJustFitsIsTaken) {
@@ -272,10 +273,12 @@ TEST(RecordTable, eachModeOfAListSelectsItsOwn) {
     EXPECT_EQ(place.names(5, 0, queue), Names{});
     EXPECT_EQ(place.names(6, home), Names{u"l"});
     EXPECT_EQ(place.names(6, 0, localPrinter), Names{u"l"});
-    for (const auto mode : std::initializer_list<std::uint16_t>{8, 9, 10})
+    for (const auto mode : std::initializer_list<std::uint16_t>{8, 9, 10}) {
         EXPECT_EQ(place.names(mode, 0, queue), Names{u"q2"}) << mode;
-    for (const auto mode : std::initializer_list<std::uint16_t>{2, 7, 11, 65535})
+    }
+    for (const auto mode : std::initializer_list<std::uint16_t>{2, 7, 11, 65535}) {
         EXPECT_EQ(place.names(mode, north, queue), Names{}) << mode;
+    }
 }
 
 TEST(RecordTable, theCountOfAListIsTheNumberOfItsRows) {

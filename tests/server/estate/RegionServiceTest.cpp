@@ -13,8 +13,9 @@ using test::TestEstate;
 std::vector<std::u16string> regionNames(TestEstate& place, std::uint8_t kind, std::int32_t parentId = 0) {
     std::vector<std::u16string> names;
     auto rows = place.regions().list(kind, parentId);
-    while (rows.next())
+    while (rows.next()) {
         names.push_back(rows.wide(0));
+    }
     return names;
 }
 

@@ -16,11 +16,13 @@ Address at(std::string_view text) {
 // What the scope covers of these addresses, or "?" when it cannot be understood.
 std::string covered(std::string_view scope) {
     const auto parsed = IpScope::parse(scope);
-    if (!parsed)
+    if (!parsed) {
         return "?";
+    }
     std::string text;
-    for (const auto* const one : {"10.1.0.0", "10.1.2.3", "10.1.2.255", "10.2.0.0", "fd00::7"})
+    for (const auto* const one : {"10.1.0.0", "10.1.2.3", "10.1.2.255", "10.2.0.0", "fd00::7"}) {
         text += parsed->covers(at(one)) ? std::string(text.empty() ? "" : " ") + one : std::string();
+    }
     return text;
 }
 
@@ -34,8 +36,10 @@ TEST(Address, bothVersionsAreReadAndBlanksAroundThemDoNotMatter) {
 }
 
 TEST(Address, otherTextsAreNone) {
-    for (const std::string_view text : {"", " ", "printer", "10.1.2", "10.1.2.256", "10.1.2.3/8", "10.1.2.3.4", ":::"})
+    for (const std::string_view text :
+         {"", " ", "printer", "10.1.2", "10.1.2.256", "10.1.2.3/8", "10.1.2.3.4", ":::"}) {
         EXPECT_EQ(parseAddress(text), std::nullopt) << text;
+    }
     EXPECT_EQ(parseAddress(std::string_view("10.1.2.3\0x", 10)), std::nullopt);
     EXPECT_EQ(parseAddress(u"10.1.2.\u0663"), std::nullopt);
 }
@@ -83,8 +87,9 @@ TEST(IpScope, whatCannotBeUnderstoodIsNoScope) {
     for (const std::string_view text :
          {"office", "10.1.2", "10.1.2.3-", "-", "- 10.1.2.3", "10.1.2.9-10.1.2.3", "10.1.2.3-fd00::1", "10.1.2.3/33",
           "10.1.2.3/", "10.1.2.3/-1", "10.1.2.3/8x", "fd00::/129", "10.*.2.3", "10.1*", "10.1.2.3.*", "fd00::*",
-          "10.1.2.3 office", "10.1.2.3-10.1.2.5-10.1.2.9"})
+          "10.1.2.3 office", "10.1.2.3-10.1.2.5-10.1.2.9"}) {
         EXPECT_EQ(covered(text), "?") << text;
+    }
 }
 
 TEST(RangeMap, noRangesDecideNothing) {

@@ -40,8 +40,9 @@ TEST(FoundPrinterList, eachKindHasItsPrintersInItsOrder) {
     EXPECT_EQ(place.foundNames(report, 2), (Names{u"A", u"b", u"c"}));
     EXPECT_EQ(place.foundNames(report, 3), (Names{u"z", u"y", u"x"}));
     EXPECT_EQ(place.foundNames(report, 4), (Names{u"x", u"y", u"z"}));
-    for (const std::uint16_t kind : {std::uint16_t{5}, std::uint16_t{65535}})
+    for (const std::uint16_t kind : {std::uint16_t{5}, std::uint16_t{65535}}) {
         EXPECT_EQ(place.foundNames(report, kind), Names{});
+    }
     EXPECT_EQ(place.foundNames("nobody", 0), Names{});
 }
 
@@ -187,8 +188,9 @@ TEST(FoundModelList, modelsAreCountedAndKnownByTheirNames) {
                                        "uploadDate, uploadedBy) VALUES ('d', ?, 'b', x'', x'', x'', '', x'')");
     brand.execute(std::string("b"), std::u16string(u"B"), nameKey(u"B"));
     for (const auto& [id, name] :
-         std::vector<std::pair<std::string, std::u16string>>{{"m1", u"With"}, {"m2", u"Without"}})
+         std::vector<std::pair<std::string, std::u16string>>{{"m1", u"With"}, {"m2", u"Without"}}) {
         model.execute(id, name, nameKey(name));
+    }
     driver.execute(std::string("m1"));
     const auto one = place.addShared(u"1", "10.1.0.1", u"WITH");
     const auto two = place.addShared(u"2", "10.1.0.2", u"With");

@@ -24,11 +24,13 @@ namespace server::test {
 template <protocol::Record R>
 std::vector<R> recordsOf(Listing listing) {
     std::vector<R> records;
-    while (listing.rows.next())
+    while (listing.rows.next()) {
         records.push_back(readFields<R>(listing.rows));
-    if (static_cast<std::int64_t>(records.size()) != listing.count)
+    }
+    if (static_cast<std::int64_t>(records.size()) != listing.count) {
         throw std::runtime_error("a list of " + std::to_string(records.size()) + " records announced " +
                                  std::to_string(listing.count));
+    }
     return records;
 }
 
@@ -36,8 +38,9 @@ std::vector<R> recordsOf(Listing listing) {
 template <class R, class Value>
 std::vector<Value> each(const std::vector<R>& records, Value R::*member) {
     std::vector<Value> values;
-    for (const auto& record : records)
+    for (const auto& record : records) {
         values.push_back(record.*member);
+    }
     return values;
 }
 
@@ -49,8 +52,9 @@ public:
     // A shared printer of the one print server.
     std::int64_t addShared(const std::u16string& name, const std::string& ip, const std::u16string& model = u"X5",
                            const std::string& lastSeen = "2025-06-01 12:00:00") {
-        if (server_ == 0)
+        if (server_ == 0) {
             server_ = old().addServer(u"PRN-1", "10.9.0.1", "2025-06-01 12:00:00");
+        }
         OldPrinter printer;
         printer.server = server_;
         printer.windowsName = name;
@@ -80,8 +84,9 @@ public:
 
     // A printer of the system.
     std::string addOwn(const std::u16string& name, const std::string& ip, const std::u16string& model = u"X5") {
-        if (region_ == 0)
+        if (region_ == 0) {
             region_ = addRegion(u"North");
+        }
         protocol::PrinterRecord record;
         record.name = name;
         record.ip = ip;
@@ -103,8 +108,9 @@ public:
                                 .dateFrom = dateFrom,
                                 .dateTo = dateTo,
                                 .ipScope = scope,
-                                .reportType = reportType})))
+                                .reportType = reportType}))) {
             return {};
+        }
         return reports().back().reportId;
     }
 

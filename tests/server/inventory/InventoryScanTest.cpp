@@ -108,8 +108,9 @@ TEST(InventoryScan, onlyWhatWasSeenInThePeriodIsFound) {
 TEST(InventoryScan, whatAnActiveRangeTellsToIgnoreIsLeftOut) {
     namespace range = protocol::rangeType;
     InventoryPlace place;
-    for (const auto* const ip : {"10.1.0.1", "10.1.0.2", "10.1.0.3", "10.2.0.1"})
+    for (const auto* const ip : {"10.1.0.1", "10.1.0.2", "10.1.0.3", "10.2.0.1"}) {
         place.addShared(wire::toWide(ip), ip);
+    }
     place.addRange(u"10.1.0.0", u"10.1.0.255", range::migrate);
     place.addRange(u"10.1.0.2", u"10.1.0.2", range::ignore);
     place.addRange(u"10.2.0.1", u"", range::ignore);
@@ -140,8 +141,9 @@ TEST(InventoryScan, aReportOfNothingHasFourEmptyViews) {
     place.addShared(u"one", "10.1.0.1");
     const auto report = place.report(type::all, "192.0.2.1");
     ASSERT_NE(report, "");
-    for (std::uint16_t kind = 0; kind < 5; ++kind)
+    for (std::uint16_t kind = 0; kind < 5; ++kind) {
         EXPECT_TRUE(place.found(report, kind).empty()) << kind;
+    }
     EXPECT_TRUE(place.models(report).empty());
     EXPECT_TRUE(place.planNames(report).empty());
 }

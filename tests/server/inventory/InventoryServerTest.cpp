@@ -61,10 +61,12 @@ protected:
         static_cast<void>(cursor.text16());
         static_cast<void>(cursor.number(4));
         static_cast<void>(cursor.text16());
-        for (int text = 0; text < 3; ++text)
+        for (int text = 0; text < 3; ++text) {
             static_cast<void>(cursor.text8());
-        for (int text = 0; text < 2; ++text)
+        }
+        for (int text = 0; text < 2; ++text) {
             static_cast<void>(cursor.text16());
+        }
         return cursor.text8();
     }
     std::int64_t addOldPrinter(const std::u16string& name, const std::string& ip) {
@@ -158,8 +160,9 @@ TEST_F(InventoryServer, aReportIsMadeViewedAndDeleted) {
     EXPECT_TRUE(list(43, u16(3) + str8(id)).empty());
     EXPECT_TRUE(list(43, u16(0) + str8("nobody")).empty());
 
-    for (std::uint16_t kind = 0; kind < 6; ++kind)
+    for (std::uint16_t kind = 0; kind < 6; ++kind) {
         EXPECT_EQ(list(44, u16(kind) + str8(id)).size(), kind < 3 ? 1U : 0U) << kind;
+    }
     const auto found = list(44, u16(0) + str8(id));
     const auto entry = FieldCursor(found.at(0)).text8();
     EXPECT_EQ(found.at(0),
@@ -220,10 +223,12 @@ TEST_F(InventoryServer, aRangeIsAddedListedFetchedSwitchedSavedAndDeleted) {
 
 TEST_F(InventoryServer, anOperationThatDoesNotExistDoesNothing) {
     server.start();
-    for (const std::uint8_t operation : std::initializer_list<std::uint8_t>{0, 3, 5, 255})
+    for (const std::uint8_t operation : std::initializer_list<std::uint8_t>{0, 3, 5, 255}) {
         change(38, planFields(operation, "", u"P", "", 2));
-    for (const std::uint8_t operation : std::initializer_list<std::uint8_t>{0, 5, 255})
+    }
+    for (const std::uint8_t operation : std::initializer_list<std::uint8_t>{0, 5, 255}) {
         change(56, rangeFields(operation, "", 1, u"R", u"", u""));
+    }
     EXPECT_TRUE(list(37, str8("") + u32(0)).empty());
     EXPECT_TRUE(list(55, u8(0) + str8("")).empty());
 }
@@ -233,10 +238,11 @@ TEST(InventorySample, everyListHoldsSomething) {
         InventoryPlace place;
         place.connection().change([&] {
             SampleEstate sample(place.connection());
-            if (printers == 0)
+            if (printers == 0) {
                 sample.fillSmall();
-            else
+            } else {
                 sample.fill(printers);
+            }
             return true;
         });
         const auto reports = place.reports();

@@ -185,8 +185,9 @@ TEST(IpRangeService, aRangeThatIsNotThereIsNeitherSavedNorDeletedNorSwitched) {
     InventoryPlace place;
     auto range = fullRange();
     range.rangeId = "nobody";
-    for (const std::uint8_t operation : {std::uint8_t{2}, std::uint8_t{3}, std::uint8_t{4}})
+    for (const std::uint8_t operation : {std::uint8_t{2}, std::uint8_t{3}, std::uint8_t{4}}) {
         EXPECT_EQ(place.changeRange(operation, range).text, u"The IP range was deleted in the meantime.");
+    }
     EXPECT_TRUE(place.ranges().empty());
 }
 
@@ -220,8 +221,9 @@ TEST(IpRangeService, aRangeThatCouldNotBeSentBackIsRefused) {
 
 TEST(IpRangeTable, rangesAreInTheOrderOfTheirFirstAddresses) {
     InventoryPlace place;
-    for (const auto* const first : {u"10.1.0.10", u"fd00::1", u"10.1.0.9", u""})
+    for (const auto* const first : {u"10.1.0.10", u"fd00::1", u"10.1.0.9", u""}) {
         place.addRange(first, u"", 1);
+    }
     EXPECT_EQ(test::each(place.ranges(), &IpRangeRecord::startIp),
               (std::vector<std::u16string>{u"", u"10.1.0.9", u"10.1.0.10", u"fd00::1"}));
 }

@@ -71,8 +71,9 @@ TEST_F(AccountsTest, theDatabaseHoldsNoPassword) {
     std::ifstream stream(store_.file(), std::ios::binary);
     const std::string content((std::istreambuf_iterator<char>(stream)), {});
     std::string wide;
-    for (const char character : std::string("correct horse"))
+    for (const char character : std::string("correct horse")) {
         wide += {character, '\0'};
+    }
     EXPECT_EQ(content.find("correct horse"), std::string::npos);
     EXPECT_EQ(content.find(wide), std::string::npos);
     EXPECT_NE(content.find(std::string("a\0d\0m\0i\0n\0", 10)), std::string::npos);

@@ -53,8 +53,9 @@ TEST(LoginLedger, failuresMakeAnAddressWaitLongerAndLonger) {
 TEST(LoginLedger, triesAtOnceWaitInTurnAndTooManyAreTurnedAway) {
     LoginLedger ledger(60min);
     const auto now = Clock::now();
-    for (int failure = 0; failure < 10; ++failure)
+    for (int failure = 0; failure < 10; ++failure) {
         ledger.endTry(here, now, false);
+    }
     EXPECT_EQ(ledger.beginTry(here, now), 8s);
     EXPECT_EQ(ledger.beginTry(here, now), std::nullopt);
 }
@@ -62,8 +63,9 @@ TEST(LoginLedger, triesAtOnceWaitInTurnAndTooManyAreTurnedAway) {
 TEST(LoginLedger, soManyTriesOfOneAddressMayBeUnderWay) {
     LoginLedger ledger(60min);
     const auto now = Clock::now();
-    for (int count = 0; count < 32; ++count)
+    for (int count = 0; count < 32; ++count) {
         EXPECT_TRUE(ledger.beginTry(here, now)) << count;
+    }
     EXPECT_FALSE(ledger.beginTry(here, now));
     EXPECT_TRUE(ledger.beginTry(there, now));
     ledger.endTry(here, now, true);
@@ -74,8 +76,9 @@ TEST(LoginLedger, soManyTriesOfOneAddressMayBeUnderWay) {
 TEST(LoginLedger, aLoginEndsTheWaiting) {
     LoginLedger ledger(60min);
     const auto now = Clock::now();
-    for (int failure = 0; failure < 10; ++failure)
+    for (int failure = 0; failure < 10; ++failure) {
         ledger.endTry(here, now, false);
+    }
     ledger.endTry(here, now, true);
     EXPECT_EQ(ledger.beginTry(here, now), Clock::duration::zero());
 }
@@ -83,8 +86,9 @@ TEST(LoginLedger, aLoginEndsTheWaiting) {
 TEST(LoginLedger, failuresAreForgivenAfterSomeMinutes) {
     LoginLedger ledger(60min);
     const auto now = Clock::now();
-    for (int failure = 0; failure < 10; ++failure)
+    for (int failure = 0; failure < 10; ++failure) {
         ledger.endTry(here, now, false);
+    }
     ledger.endTry(there, now + 11min, false);
     EXPECT_EQ(ledger.beginTry(here, now + 11min), Clock::duration::zero());
 }

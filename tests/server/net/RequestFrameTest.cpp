@@ -57,8 +57,9 @@ TEST(RequestFrame, whatDoesNotAddUpIsDropped) {
         {3, std::string("01 05 00 00 00 01 05 00 00 00 ") + command},
         {255, command},
     };
-    for (const auto& [count, text] : frames)
+    for (const auto& [count, text] : frames) {
         EXPECT_THROW((void)parse(count, hex(text)), Dropped) << int{count} << ": " << text;
+    }
 }
 
 } // namespace

@@ -47,8 +47,9 @@ TEST(RuleEntryService, theServerTellsTheTextOfEachType) {
         EXPECT_EQ(entry.typeText, u"");
         EXPECT_TRUE(isDone(place.place(entry, "", 0)));
     }
-    for (const auto& entry : place.entries(""))
+    for (const auto& entry : place.entries("")) {
         texts.append(entry.typeText).append(u",");
+    }
     EXPECT_EQ(texts, u"Rule group,Page limit,Price plan,Handover,Parse print job,SNMP query printer,Client billing,"
                      u"Short Id,");
 }
@@ -123,8 +124,9 @@ TEST(RuleEntryService, groupsDoNotNest) {
 TEST(RuleEntryService, entriesKeepTheOrderInWhichTheyWereMade) {
     RuleEstate place;
     place.addGroup("g1");
-    for (const auto* id : {"z", "a", "m"})
+    for (const auto* id : {"z", "a", "m"}) {
         EXPECT_TRUE(isDone(place.place(RuleEstate::namedEntry(id), "g1")));
+    }
     EXPECT_TRUE(isDone(place.service<RuleEntryService>().update({.entry = RuleEstate::namedEntry("z")})));
     EXPECT_EQ(place.entryIds("g1"), (Ids{"z", "a", "m"}));
 }
@@ -146,8 +148,9 @@ TEST(RuleEntryService, whatCannotBePlacedIsRefused) {
     EXPECT_FALSE(isDone(place.place(RuleEstate::namedEntry("e1"), "nobody")));
     EXPECT_FALSE(isDone(place.place(RuleEstate::namedEntry("e1"), "", 4711)));
     EXPECT_FALSE(isDone(place.place(RuleEstate::namedEntry("e1"), "", -1)));
-    for (const auto type : std::initializer_list<std::uint8_t>{0, 8, 9, 11, 255})
+    for (const auto type : std::initializer_list<std::uint8_t>{0, 8, 9, 11, 255}) {
         EXPECT_FALSE(isDone(place.place(RuleEstate::namedEntry("e1", type), ""))) << int{type};
+    }
     auto entry = RuleEstate::namedEntry("e1");
     entry.name.clear();
     EXPECT_FALSE(isDone(place.place(entry, "")));
@@ -187,8 +190,9 @@ TEST(RuleEntryService, entriesGoWithThePrinterTheQueueAndTheRegionThatTheyStandO
     EXPECT_TRUE(isDone(place.regionService().remove({.regionId = region, .kind = 0})));
     EXPECT_EQ(place.entryIds("", region), Ids{});
     EXPECT_EQ(place.entryIds(""), Ids{"e4"});
-    for (const auto* id : {"e1", "e2", "e3"})
+    for (const auto* id : {"e1", "e2", "e3"}) {
         EXPECT_TRUE(isDone(place.place(RuleEstate::namedEntry(id), ""))) << id;
+    }
 }
 
 TEST(RuleEntryService, entriesWhoseTargetIsGoneStayAndAreListed) {

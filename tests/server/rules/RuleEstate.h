@@ -36,8 +36,9 @@ public:
     template <protocol::Record R>
     [[nodiscard]] static std::vector<R> all(Listing listing) {
         std::vector<R> records;
-        while (listing.rows.next())
+        while (listing.rows.next()) {
             records.push_back(readFields<R>(listing.rows));
+        }
         EXPECT_EQ(static_cast<std::size_t>(listing.count), records.size());
         return records;
     }
@@ -59,8 +60,9 @@ public:
     // The ids of the entries of an owner, in their order.
     [[nodiscard]] std::vector<std::string> entryIds(const std::string& ownerId, std::int32_t ownerNumber = 0) {
         std::vector<std::string> ids;
-        for (const auto& entry : entries(ownerId, ownerNumber))
+        for (const auto& entry : entries(ownerId, ownerNumber)) {
             ids.push_back(entry.id);
+        }
         return ids;
     }
 

@@ -93,8 +93,9 @@ TEST(RuleGroupService, groupsAreListedByNameAndOneByItsId) {
     place.addGroup("g2", u"A");
     place.addGroup("g3", u"b");
     std::string order;
-    for (const auto& group : place.all<RuleGroupRecord>())
+    for (const auto& group : place.all<RuleGroupRecord>()) {
         order += group.id;
+    }
     EXPECT_EQ(order, "g2g1g3");
     EXPECT_EQ(place.all<RuleGroupRecord>("g3").size(), 1U);
     EXPECT_TRUE(place.all<RuleGroupRecord>("g4").empty());

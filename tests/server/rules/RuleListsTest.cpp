@@ -12,8 +12,9 @@ std::string planOf(sqlite3* connection, const std::string& sql) {
     Query query(connection, "EXPLAIN QUERY PLAN " + sql);
     auto rows = query.run();
     std::string plan;
-    while (rows.next())
+    while (rows.next()) {
         plan.append(rows.text(3)).append("\n");
+    }
     return plan;
 }
 
@@ -35,9 +36,10 @@ TEST(RuleSchema, aDeletedOwnerFindsItsEntriesByAnIndex) {
     RuleEstate place;
     const auto database = place.store().openDatabase();
     for (const auto& [column, index] : std::initializer_list<std::pair<std::string, std::string>>{
-             {"groupId", "ruleEntryByGroup"}, {"recordId", "ruleEntryByRecord"}, {"regionId", "ruleEntryByRegion"}})
+             {"groupId", "ruleEntryByGroup"}, {"recordId", "ruleEntryByRecord"}, {"regionId", "ruleEntryByRegion"}}) {
         EXPECT_EQ(planOf(database.getHandle(), "DELETE FROM ruleEntry WHERE " + column + " = ?"),
                   "SEARCH ruleEntry USING COVERING INDEX " + index + " (" + column + "=?)\n");
+    }
 }
 
 } // namespace

@@ -28,8 +28,9 @@ protected:
         Query query(database.getHandle(), sql);
         auto rows = query.run();
         std::set<Value> found;
-        while (rows.next())
+        while (rows.next()) {
             found.insert(static_cast<Value>(rows.number(0)));
+        }
         return found;
     }
 
@@ -56,14 +57,18 @@ TEST_F(RuleSample, hasEveryTypeOfEntryAndEveryKindOfOwner) {
 
 TEST_F(RuleSample, whatAnEntryPointsAtIsThere) {
     std::set<std::string> targets;
-    for (const auto& group : place.all<protocol::RuleGroupRecord>())
+    for (const auto& group : place.all<protocol::RuleGroupRecord>()) {
         targets.insert(group.id);
-    for (const auto& limit : place.all<protocol::PageLimitRecord>())
+    }
+    for (const auto& limit : place.all<protocol::PageLimitRecord>()) {
         targets.insert(limit.id);
-    for (const auto& plan : place.all<protocol::PricePlanRecord>())
+    }
+    for (const auto& plan : place.all<protocol::PricePlanRecord>()) {
         targets.insert(plan.id);
-    for (const auto& shortId : place.all<protocol::ShortIdRecord>())
+    }
+    for (const auto& shortId : place.all<protocol::ShortIdRecord>()) {
         targets.insert(wire::toText(shortId.id));
+    }
     for (const auto& entry : place.entries("", 1)) {
         const bool points = entry.type <= entryType::pricePlan || entry.type == entryType::shortId;
         EXPECT_EQ(targets.contains(entry.targetId), points) << int{entry.type};
@@ -80,12 +85,16 @@ TEST_F(RuleSample, hasPricesOfPapersAndOfAreas) {
 TEST_F(RuleSample, pricesAreLabelledAsTheirPaperOrArea) {
     std::map<std::uint16_t, std::string> labels;
     for (const auto& list : {std::span<const protocol::PaperCode>(protocol::paperSizes),
-                             std::span<const protocol::PaperCode>(protocol::areaUnits)})
-        for (const auto& [code, label] : list)
+                             std::span<const protocol::PaperCode>(protocol::areaUnits)}) {
+        for (const auto& [code, label] : list) {
             labels[code] = wire::toUtf8(label);
-    for (const auto& plan : place.all<protocol::PricePlanRecord>())
-        for (const auto& price : place.prices(plan.id))
+        }
+    }
+    for (const auto& plan : place.all<protocol::PricePlanRecord>()) {
+        for (const auto& price : place.prices(plan.id)) {
             EXPECT_EQ(price.paperName, labels[price.paperCode]);
+        }
+    }
 }
 
 TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
@@ -93,14 +102,18 @@ TEST_F(RuleSample, passesTheChecksThatConsolesHaveToPass) {
         const auto entries = place.prices(plan.id);
         EXPECT_TRUE(isDone(place.service<PricePlanService>().write({.action = 2, .plan = plan, .entries = entries})));
     }
-    for (const auto& limit : place.all<protocol::PageLimitRecord>())
+    for (const auto& limit : place.all<protocol::PageLimitRecord>()) {
         EXPECT_TRUE(isDone(place.service<PageLimitService>().write({.action = 2, .limit = limit})));
-    for (const auto& shortId : place.all<protocol::ShortIdRecord>())
+    }
+    for (const auto& shortId : place.all<protocol::ShortIdRecord>()) {
         EXPECT_TRUE(isDone(place.service<ShortIdService>().update({.shortId = shortId})));
-    for (const auto& message : place.all<protocol::UserMessageRecord>())
+    }
+    for (const auto& message : place.all<protocol::UserMessageRecord>()) {
         EXPECT_TRUE(isDone(place.service<UserMessageService>().write({.action = 2, .message = message})));
-    for (const auto& entry : place.entries("", 0))
+    }
+    for (const auto& entry : place.entries("", 0)) {
         EXPECT_TRUE(isDone(place.service<RuleEntryService>().update({.entry = entry})));
+    }
 }
 
 } // namespace

@@ -56,12 +56,14 @@ protected:
     std::vector<Bytes> list(std::uint16_t opcode, const std::optional<Bytes>& fields) {
         auto messages = messagesOf(ask(server.port(), request(opcode, fields)));
         EXPECT_FALSE(messages.empty()) << opcode;
-        if (messages.empty())
+        if (messages.empty()) {
             return {};
+        }
         EXPECT_EQ(FieldCursor(messages.front()).number(2), messages.size() - 1);
         messages.erase(messages.begin());
-        for (auto& message : messages)
+        for (auto& message : messages) {
             message.erase(message.begin(), message.begin() + 5);
+        }
         return messages;
     }
 
@@ -192,17 +194,20 @@ TEST_F(RuleServer, aShortIdIsAddedChangedListedAndDeleted) {
 
 TEST_F(RuleServer, aFormThatDoesNotExistIsABadRequestAndDoesNothing) {
     for (const auto& [opcode, action] : std::initializer_list<std::pair<std::uint16_t, std::uint8_t>>{
-             {58, 0}, {58, 4}, {60, 5}, {62, 1}, {64, 3}, {64, 87}, {68, 88}, {70, 255}})
+             {58, 0}, {58, 4}, {60, 5}, {62, 1}, {64, 3}, {64, 87}, {68, 88}, {70, 255}}) {
         change(opcode, u8(action) + group("g1", u"N"));
-    for (const auto opcode : std::initializer_list<std::uint16_t>{58, 60, 62, 64, 68, 70})
+    }
+    for (const auto opcode : std::initializer_list<std::uint16_t>{58, 60, 62, 64, 68, 70}) {
         change(opcode, {});
+    }
     EXPECT_EQ(list(57, str8("")), Records{});
 }
 
 TEST_F(RuleServer, everyTruncationOfAWriteDoesNothing) {
     const auto whole = u8(1) + pricePlan("p1", 0) + u16(1) + price("r1");
-    for (std::size_t size = 0; size < whole.size(); ++size)
+    for (std::size_t size = 0; size < whole.size(); ++size) {
         change(70, Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
+    }
     EXPECT_EQ(list(69, str8("")), Records{});
 }
 

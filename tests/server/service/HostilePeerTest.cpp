@@ -59,8 +59,9 @@ TEST(HostilePeer, aFrameOfExactlyTheLimitIsTaken) {
 TEST(HostilePeer, unknownCommandsAndVersionsEndTheConnection) {
     RunningServer server;
     server.start();
-    for (const int opcode : {7, 8, 26, 35, 63, 72, 85, 999, 65535})
+    for (const int opcode : {7, 8, 26, 35, 63, 72, 85, 999, 65535}) {
         EXPECT_EQ(toHex(ask(server.port(), request(static_cast<std::uint16_t>(opcode), u32(0)))), "") << opcode;
+    }
     EXPECT_EQ(toHex(ask(server.port(), request(0, u8(0) + u32(0) + u16(0), 2))), "");
     EXPECT_EQ(toHex(ask(server.port(), request(57, std::nullopt))), "");
     EXPECT_TRUE(answers(server));
@@ -83,9 +84,10 @@ TEST(HostilePeer, everyTruncatedCommandIsDroppedWhole) {
     RunningServer server;
     server.start();
     const auto whole = request(1, u8(0) + u32(0) + str16(u"North"));
-    for (std::size_t size = 0; size < whole.size(); ++size)
+    for (std::size_t size = 0; size < whole.size(); ++size) {
         EXPECT_EQ(toHex(answerTo(server, {whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)})), "")
             << size;
+    }
     EXPECT_TRUE(answers(server));
 }
 
@@ -107,11 +109,13 @@ TEST(HostilePeer, garbageLeavesTheServerAnswering) {
     std::mt19937 random(4711);
     for (int round = 0; round < 300; ++round) {
         Bytes bytes(random() % 600);
-        for (auto& byte : bytes)
+        for (auto& byte : bytes) {
             byte = static_cast<std::uint8_t>(random());
+        }
         // Half of it is sent in a valid frame, with an existing command.
-        if (round % 2 == 0)
+        if (round % 2 == 0) {
             bytes = request(static_cast<std::uint16_t>(random() % 90), bytes, round % 3 == 0 ? 2 : 1);
+        }
         (void)answerTo(server, bytes);
     }
     const auto answer = ask(server.port(), requestForRegions());
@@ -170,8 +174,9 @@ TEST(HostilePeer, connectionsWithoutACommandMakeRoomForThoseWithOne) {
     RunningServer server(Limits{.idleTime = 50ms, .connections = 8});
     server.start();
     std::vector<TestClient> silent;
-    for (int count = 0; count < 50; ++count)
+    for (int count = 0; count < 50; ++count) {
         silent.emplace_back(server.port());
+    }
     EXPECT_TRUE(answers(server));
     EXPECT_TRUE(silent.front().isClosedSilently());
 }
@@ -180,8 +185,9 @@ TEST(HostilePeer, oneAddressHoldsOnlySoManyConnectionsWithoutACommand) {
     RunningServer server(Limits{.idleTime = 0ms, .arrivingFromOneAddress = 4});
     server.start();
     std::vector<TestClient> silent;
-    for (int count = 0; count < 6; ++count)
+    for (int count = 0; count < 6; ++count) {
         silent.emplace_back(server.port());
+    }
     EXPECT_TRUE(silent[0].isClosedSilently());
     EXPECT_TRUE(silent[1].isClosedSilently());
     EXPECT_EQ(toHex(silent[5].send(requestForRegions()).receiveAll()), emptyList);
@@ -191,8 +197,9 @@ TEST(HostilePeer, oneAddressHoldsOnlySoManyConnectionsWithoutACommand) {
 TEST(HostilePeer, changesBeyondTheNumberOfConnectionsWaitOutsideAndAreAllDone) {
     RunningServer server(Limits{.connections = 3});
     server.start();
-    for (std::size_t count = 1; count <= 60; ++count)
+    for (std::size_t count = 1; count <= 60; ++count) {
         tell(server.port(), request(1, u8(0) + u32(0) + str16(std::u16string(count, u'x'))));
+    }
     const auto answer = messagesOf(ask(server.port(), requestForRegions()));
     EXPECT_EQ(FieldCursor(answer.at(0)).number(2), 60U);
 }

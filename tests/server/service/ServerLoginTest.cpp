@@ -46,8 +46,9 @@ protected:
         const auto key = fetchKey();
         TestClient client(server_.port());
         client.send(request(22, numbers));
-        for (const auto& credential : {user, std::u16string(u"OFFICE"), password})
+        for (const auto& credential : {user, std::u16string(u"OFFICE"), password}) {
             sendBlock(client, seal(key, credential));
+        }
         return client.receiveAll();
     }
 

@@ -170,8 +170,9 @@ TEST(Server, aCommandMayComeByteByByte) {
     RunningServer server;
     server.start();
     TestClient client(server.port());
-    for (const auto byte : createRegion(u"North"))
+    for (const auto byte : createRegion(u"North")) {
         client.send({byte});
+    }
     EXPECT_TRUE(client.isClosedSilently());
     EXPECT_EQ(regionNames(server.port()).size(), 1U);
 }
@@ -210,16 +211,19 @@ TEST(Server, manyConsolesOfOneAddressEachSeeTheirChangesInTheirOrder) {
     RunningServer server;
     server.start();
     constexpr std::uint32_t consoles = 6;
-    for (std::uint32_t console = 0; console < consoles; ++console)
+    for (std::uint32_t console = 0; console < consoles; ++console) {
         tell(server.port(), createRegion(std::u16string(1, static_cast<char16_t>(u'A' + console))));
-    for (std::uint32_t console = 0; console < consoles; ++console)
+    }
+    for (std::uint32_t console = 0; console < consoles; ++console) {
         tell(server.port(), createRegion(u"inner", console + 1));
+    }
     ASSERT_EQ(regionNames(server.port()).size(), std::size_t{2} * consoles);
     const auto administer = [&](std::uint32_t outer) {
         for (char16_t round = 0; round < 80; ++round) {
             const std::u16string name = {u'x', static_cast<char16_t>(u'a' + round)};
-            for (const auto& next : {std::u16string(u"first"), std::u16string(u"second"), name})
+            for (const auto& next : {std::u16string(u"first"), std::u16string(u"second"), name}) {
                 tell(server.port(), request(2, u8(0) + u32(outer + consoles) + str16(next)));
+            }
             const auto message = messagesOf(ask(server.port(), listRegions(outer))).at(0);
             FieldCursor cursor(message);
             EXPECT_EQ(cursor.number(2), 1U);
@@ -227,8 +231,9 @@ TEST(Server, manyConsolesOfOneAddressEachSeeTheirChangesInTheirOrder) {
         }
     };
     std::vector<std::jthread> threads;
-    for (std::uint32_t console = 0; console < consoles; ++console)
+    for (std::uint32_t console = 0; console < consoles; ++console) {
         threads.emplace_back(administer, console + 1);
+    }
 }
 
 TEST(Server, aChangeOverAConnectionThatWasMadeLongBeforeIsNotOvertaken) {
@@ -247,8 +252,9 @@ TEST(Server, peersThatSayNothingDoNotHoldUpOthers) {
     RunningServer server;
     server.start();
     std::vector<TestClient> silent;
-    for (int count = 0; count < 40; ++count)
+    for (int count = 0; count < 40; ++count) {
         silent.emplace_back(server.port());
+    }
     silent.front().send({2, 0});
     tell(server.port(), createRegion(u"North"));
     EXPECT_EQ(regionNames(server.port()).size(), 1U);
@@ -259,10 +265,12 @@ TEST(Server, twoConsolesThatTakeTheSameNameGetOneRecordAndOneRefusal) {
     server.start();
     tell(server.port(), createRegion(u"North"));
     std::vector<TestClient> clients;
-    for (int count = 0; count < 8; ++count)
+    for (int count = 0; count < 8; ++count) {
         clients.emplace_back(server.port());
-    for (auto& client : clients)
+    }
+    for (auto& client : clients) {
         client.send(request(9, str8("") + recordFields(u"P", 1, 0)));
+    }
     int made = 0;
     for (auto& client : clients) {
         const auto message = client.receiveFrame();
@@ -284,8 +292,9 @@ TEST(Server, aSlowReaderOfALongListDoesNotHoldUpOthersAndGetsItsMoment) {
     EXPECT_EQ(toHex(slow.receiveFrame()), "01 07 00 00 00 D0 07");
     tell(server.port(), request(36, u8(1) + str8("1999")));
     EXPECT_EQ(printersIn(server.port(), 1), 1999U);
-    for (int count = 0; count < 2000; ++count)
+    for (int count = 0; count < 2000; ++count) {
         (void)slow.receiveFrame();
+    }
     EXPECT_TRUE(slow.isClosedSilently());
 }
 
@@ -293,14 +302,16 @@ TEST(Server, whatWasSentBeforeTheEndIsStillCarriedOut) {
     RunningServer server;
     const auto& store = server.store();
     server.start();
-    for (int round = 0; round < 50; ++round)
+    for (int round = 0; round < 50; ++round) {
         tell(server.port(), createRegion(u"Region " + std::u16string(static_cast<std::size_t>(round), u'x')));
+    }
     server.stop();
     const auto connection = store.openConnection();
     auto rows = connection->table<RegionTable>().list(0, 0);
     int count = 0;
-    while (rows.next())
+    while (rows.next()) {
         ++count;
+    }
     EXPECT_EQ(count, 50);
 }
 

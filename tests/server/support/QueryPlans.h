@@ -20,8 +20,9 @@ public:
         Query query(connection_, "EXPLAIN QUERY PLAN " + sql);
         auto rows = query.run();
         std::string plan;
-        while (rows.next())
+        while (rows.next()) {
             plan.append(rows.text(3)).append("\n");
+        }
         return plan;
     }
 
@@ -29,18 +30,22 @@ public:
     [[nodiscard]] std::vector<std::string> readingStatements() const {
         std::vector<std::string> statements;
         for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
-             one = sqlite3_next_stmt(connection_, one))
-            if (std::string sql = sqlite3_sql(one); sql.starts_with("SELECT") || sql.starts_with("WITH"))
+             one = sqlite3_next_stmt(connection_, one)) {
+            if (std::string sql = sqlite3_sql(one); sql.starts_with("SELECT") || sql.starts_with("WITH")) {
                 statements.push_back(std::move(sql));
+            }
+        }
         return statements;
     }
 
     // Those that collect and sort all rows before returning the first one, with their plans.
     [[nodiscard]] std::string sortingStatements() const {
         std::string found;
-        for (const auto& sql : readingStatements())
-            if (const auto plan = of(sql); plan.find("TEMP B-TREE") != std::string::npos)
+        for (const auto& sql : readingStatements()) {
+            if (const auto plan = of(sql); plan.find("TEMP B-TREE") != std::string::npos) {
                 found.append(sql).append("\n").append(plan).append("\n");
+            }
+        }
         return found;
     }
 

@@ -42,8 +42,9 @@ Bytes str8(std::string_view text) {
 
 Bytes str16(std::u16string_view text) {
     Bytes bytes = u16(static_cast<std::uint16_t>(text.size() * 2));
-    for (const char16_t unit : text)
+    for (const char16_t unit : text) {
         bytes = std::move(bytes) + u16(unit);
+    }
     return bytes;
 }
 
@@ -54,23 +55,26 @@ Bytes request(std::uint16_t opcode, const std::optional<Bytes>& fields, std::uin
 
 std::uint32_t FieldCursor::number(std::size_t width) {
     std::uint32_t value = 0;
-    for (std::size_t index = 0; index < width; ++index)
+    for (std::size_t index = 0; index < width; ++index) {
         value |= std::uint32_t{message_.at(offset_ + index)} << (8 * index);
+    }
     offset_ += width;
     return value;
 }
 
 std::string FieldCursor::text8() {
     std::string text(number(2), '\0');
-    for (auto& character : text)
+    for (auto& character : text) {
         character = static_cast<char>(number(1));
+    }
     return text;
 }
 
 std::u16string FieldCursor::text16() {
     std::u16string text(number(2) / 2, u'\0');
-    for (auto& unit : text)
+    for (auto& unit : text) {
         unit = static_cast<char16_t>(number(2));
+    }
     return text;
 }
 
@@ -97,8 +101,9 @@ TestClient& TestClient::send(const Bytes& bytes) {
     std::size_t sent = 0;
     while (sent < bytes.size()) {
         const auto count = ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-        if (count < 0)
+        if (count < 0) {
             throw std::runtime_error("the server does not take what is sent");
+        }
         sent += static_cast<std::size_t>(count);
     }
     return *this;
@@ -113,8 +118,9 @@ void TestClient::closeSending() {
 }
 
 void TestClient::close() {
-    if (socket_ >= 0)
+    if (socket_ >= 0) {
         ::close(std::exchange(socket_, -1));
+    }
 }
 
 void TestClient::reset() {
@@ -132,11 +138,13 @@ Bytes TestClient::receive(std::size_t count) {
     Bytes bytes(count);
     std::size_t got = 0;
     while (got < count) {
-        if (!waitReadable())
+        if (!waitReadable()) {
             throw std::runtime_error("the server says nothing");
+        }
         const auto now = ::recv(socket_, bytes.data() + got, count - got, 0);
-        if (now <= 0)
+        if (now <= 0) {
             throw std::runtime_error("the server has closed");
+        }
         got += static_cast<std::size_t>(now);
     }
     return bytes;
@@ -147,10 +155,12 @@ Bytes TestClient::receiveFrame() {
     const Bytes data = receive(FieldCursor(header, 1).number(4));
     const std::uint32_t checksum = FieldCursor(header, 5).number(4);
     std::uint32_t sum = 0;
-    for (const auto byte : data)
+    for (const auto byte : data) {
         sum += byte;
-    if (header[0] != 1 || sum != checksum)
+    }
+    if (header[0] != 1 || sum != checksum) {
         throw std::runtime_error("the server sent a frame with a wrong header");
+    }
     return data;
 }
 
@@ -158,11 +168,13 @@ Bytes TestClient::receiveAll() {
     Bytes all;
     Bytes piece(65536);
     for (;;) {
-        if (!waitReadable())
+        if (!waitReadable()) {
             throw std::runtime_error("the server does not close");
+        }
         const auto count = ::recv(socket_, piece.data(), piece.size(), 0);
-        if (count <= 0)
+        if (count <= 0) {
             return all;
+        }
         all.insert(all.end(), piece.begin(), piece.begin() + count);
     }
 }

@@ -50,8 +50,9 @@ public:
         std::vector<std::u16string> names;
         const protocol::ListPrinterRecordsRequest request{.printerId = id, .regionId = regionId, .mode = mode};
         auto rows = connection_->table<RecordTable>().list(request);
-        while (rows.next())
+        while (rows.next()) {
             names.push_back(rows.wide(3));
+        }
         return names;
     }
 

@@ -13,8 +13,9 @@ class TestFolder {
 public:
     TestFolder() {
         std::string name = (std::filesystem::temp_directory_path() / "vantreld-test-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
+        if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no folder for the test");
+        }
         path_ = name;
     }
     ~TestFolder() {

@@ -21,12 +21,14 @@ constexpr auto listening = "listening on 127.0.0.1 port ";
 VantreldProcess::VantreldProcess(std::vector<std::string> arguments, std::optional<std::uint64_t> largestFile) {
     arguments.insert(arguments.begin(), VANTRELD_PROGRAM);
     std::vector<char*> pointers;
-    for (auto& argument : arguments)
+    for (auto& argument : arguments) {
         pointers.push_back(argument.data());
+    }
     pointers.push_back(nullptr);
     std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0)
+    if (::pipe(ends.data()) != 0) {
         throw std::runtime_error("no pipe");
+    }
     process_ = ::fork();
     if (process_ == 0) {
         if (largestFile) {
@@ -55,10 +57,12 @@ VantreldProcess::~VantreldProcess() {
 std::uint16_t VantreldProcess::waitForPort() {
     for (;;) {
         const auto at = output_.find(listening);
-        if (at != std::string::npos && output_.find('\n', at) != std::string::npos)
+        if (at != std::string::npos && output_.find('\n', at) != std::string::npos) {
             return static_cast<std::uint16_t>(std::stoi(output_.substr(at + std::string(listening).size())));
-        if (!readMore())
+        }
+        if (!readMore()) {
             throw std::runtime_error("vantreld has ended: " + output_);
+        }
     }
 }
 
@@ -77,12 +81,14 @@ int VantreldProcess::wait() {
 
 bool VantreldProcess::readMore() {
     pollfd entry{.fd = pipe_, .events = POLLIN, .revents = 0};
-    if (::poll(&entry, 1, outputMilliseconds) != 1)
+    if (::poll(&entry, 1, outputMilliseconds) != 1) {
         throw std::runtime_error("vantreld says nothing: " + output_);
+    }
     std::array<char, 4096> piece{};
     const auto count = ::read(pipe_, piece.data(), piece.size());
-    if (count > 0)
+    if (count > 0) {
         output_.append(piece.data(), static_cast<std::size_t>(count));
+    }
     return count > 0;
 }
 

@@ -27,7 +27,7 @@ public:
     void whenMenuOpens(std::function<void(QMenu&)> act) { onMenu_ = std::move(act); }
 
     // The statements of boxes, one on a line.
-    const std::string& said() const { return said_; }
+    [[nodiscard]] const std::string& said() const { return said_; }
     // Throws what has failed, also that steps were left over.
     void finish();
 

@@ -32,7 +32,7 @@ protected:
         command.outcome = command.outcome == CommandOutcome::running ? CommandOutcome::done : command.outcome;
         observers.tell([&](shell::ShellObserver& observer) { observer.commandEnded(command); });
     }
-    QString cell(int row, int column) const { return model.index(row, column).data().toString(); }
+    [[nodiscard]] QString cell(int row, int column) const { return model.index(row, column).data().toString(); }
 
     shell::Observers observers;
     desktop::ActivityLog log{observers};
