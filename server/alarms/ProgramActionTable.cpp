@@ -1,7 +1,5 @@
 #include "server/alarms/ProgramActionTable.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 namespace {
@@ -30,8 +28,7 @@ ProgramActionTable::ProgramActionTable(sqlite3* connection)
       listActions_(connection, "SELECT code, name, flag FROM alarmAction ORDER BY code"),
       listDestinations_(connection, "SELECT id, name FROM emailRecipient WHERE active = 1 AND "
                                     "EXISTS (SELECT 1 FROM alarmAction WHERE code = ? AND flag = 1) "
-                                    "ORDER BY nameKey, number"),
-      connection_(connection) {}
+                                    "ORDER BY nameKey, number") {}
 
 bool ProgramActionTable::eventExists(const std::string& id) {
     return eventExists_.run(id).next();
@@ -51,8 +48,7 @@ void ProgramActionTable::insert(const std::string& id, const protocol::AddProgra
 }
 
 bool ProgramActionTable::remove(const std::string& id) {
-    remove_.execute(id);
-    return sqlite3_changes(connection_) > 0;
+    return remove_.affects(id);
 }
 
 Listing ProgramActionTable::list(const protocol::ListProgramActionsRequest& request) {

@@ -40,7 +40,6 @@ private:
     ListQuery listEvents_;
     ListQuery listActions_;
     ListQuery listDestinations_;
-    sqlite3* connection_;
 };
 
 } // namespace server

@@ -1,7 +1,5 @@
 #include "server/configurations/QueueConfigurationTable.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 namespace {
@@ -28,8 +26,7 @@ const std::string entries =
 } // namespace
 
 QueueConfigurationTable::QueueConfigurationTable(sqlite3* connection)
-    : connection_(connection),
-      moveAll_(connection, "UPDATE OR REPLACE queueConfiguration SET deploymentId = ?2 WHERE deploymentId = ?1"),
+    : moveAll_(connection, "UPDATE OR REPLACE queueConfiguration SET deploymentId = ?2 WHERE deploymentId = ?1"),
       removeAll_(connection, "DELETE FROM queueConfiguration WHERE deploymentId = ?"),
       countUsing_(connection, "SELECT count(*) FROM queueConfiguration WHERE deploymentId = ?"),
       countOfModel_(connection, "SELECT count(*) FROM queueModel WHERE modelId = ?"),
@@ -103,8 +100,7 @@ bool QueueConfigurationTable::putForDriver(const std::string& modelId, const std
 }
 
 bool QueueConfigurationTable::removeFromQueue(const std::string& queueId, const std::string& configurationId) {
-    removeFromQueue_.execute(queueId, configurationId);
-    return sqlite3_changes(connection_) > 0;
+    return removeFromQueue_.affects(queueId, configurationId);
 }
 
 Listing QueueConfigurationTable::list(const std::string& queueId, const std::string& deploymentId) {

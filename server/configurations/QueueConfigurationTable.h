@@ -46,7 +46,6 @@ public:
     [[nodiscard]] Listing listQueues(const std::string& configurationId);
 
 private:
-    sqlite3* connection_;
     Query moveAll_;
     Query removeAll_;
     Query countUsing_;

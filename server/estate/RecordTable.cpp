@@ -3,8 +3,6 @@
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 namespace {
@@ -63,8 +61,7 @@ RecordTable::RecordTable(sqlite3* connection)
       inRegion_(connection, "regionId = ? AND recordType = ?"),
       ofPrinter_(connection, "printerId = ?"),
       byId_(connection, "id = ?"),
-      byTypeAndId_(connection, "id = ? AND recordType IN (?, ?)"),
-      connection_(connection) {}
+      byTypeAndId_(connection, "id = ? AND recordType IN (?, ?)") {}
 
 std::optional<StoredRecord> RecordTable::find(const std::string& id) {
     auto rows = find_.run(id);
@@ -120,8 +117,7 @@ std::optional<std::uint32_t> RecordTable::octetOrder(const std::string& id) {
 }
 
 bool RecordTable::setOctetOrder(const std::string& id, std::uint32_t order) {
-    setOctetOrder_.execute(order, id);
-    return sqlite3_changes(connection_) > 0;
+    return setOctetOrder_.affects(order, id);
 }
 
 bool RecordTable::isEmpty() {

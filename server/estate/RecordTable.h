@@ -72,7 +72,6 @@ private:
     Selection ofPrinter_;
     Selection byId_;
     Selection byTypeAndId_;
-    sqlite3* connection_;
 };
 
 } // namespace server

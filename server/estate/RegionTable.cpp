@@ -2,8 +2,6 @@
 
 #include "server/store/NameKey.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 namespace {
@@ -29,8 +27,7 @@ RegionTable::RegionTable(sqlite3* connection)
       remove_(connection, "DELETE FROM region WHERE id = ?"),
       any_(connection, "SELECT 1 FROM region LIMIT 1"),
       listAll_(connection, std::string(columns) + "WHERE kind = ? ORDER BY nameKey, id"),
-      listBelow_(connection, std::string(columns) + "WHERE kind = ? AND parentId = ? ORDER BY nameKey, id"),
-      connection_(connection) {}
+      listBelow_(connection, std::string(columns) + "WHERE kind = ? AND parentId = ? ORDER BY nameKey, id") {}
 
 std::optional<protocol::RegionRecord> RegionTable::find(std::uint8_t kind, std::int32_t id) {
     auto rows = find_.run(id, kind);
@@ -67,8 +64,7 @@ bool RegionTable::hasRecords(std::uint8_t kind, std::int32_t id) {
 }
 
 std::int32_t RegionTable::insert(std::uint8_t kind, std::int32_t parentId, const wire::WideString& name) {
-    insert_.execute(kind, parentColumn(parentId), name, nameKey(name));
-    return static_cast<std::int32_t>(sqlite3_last_insert_rowid(connection_));
+    return static_cast<std::int32_t>(insert_.insert(kind, parentColumn(parentId), name, nameKey(name)));
 }
 
 void RegionTable::rename(std::int32_t id, const wire::WideString& name) {

@@ -51,7 +51,6 @@ private:
     Query any_;
     Query listAll_;
     Query listBelow_;
-    sqlite3* connection_;
 };
 
 } // namespace server

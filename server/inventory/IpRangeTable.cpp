@@ -3,8 +3,6 @@
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
 
 namespace server {
@@ -35,8 +33,7 @@ std::optional<AddressBlock> blockOf(const IpRangeRecord& range) {
 }
 
 IpRangeTable::IpRangeTable(sqlite3* connection)
-    : connection_(connection),
-      insert_(connection, "INSERT INTO ipRange (" + columnNames<IpRangeRecord>() +
+    : insert_(connection, "INSERT INTO ipRange (" + columnNames<IpRangeRecord>() +
                               ", nameKey, startKey, endKey) VALUES (" + columnPlaces<IpRangeRecord>() + ", ?, ?, ?)"),
       update_(connection, "UPDATE ipRange SET " + columnAssignments<IpRangeRecord>() +
                               ", nameKey = ?, startKey = ?, endKey = ? WHERE rangeId = ?"),
@@ -63,18 +60,15 @@ void IpRangeTable::insert(const IpRangeRecord& range) {
 
 bool IpRangeTable::update(const IpRangeRecord& range) {
     update_.bind(bindAll(update_, range), range.rangeId);
-    update_.execute();
-    return sqlite3_changes(connection_) > 0;
+    return update_.affects();
 }
 
 bool IpRangeTable::remove(const std::string& rangeId) {
-    remove_.execute(rangeId);
-    return sqlite3_changes(connection_) > 0;
+    return remove_.affects(rangeId);
 }
 
 bool IpRangeTable::setActive(const std::string& rangeId, bool active) {
-    setActive_.execute(active, rangeId);
-    return sqlite3_changes(connection_) > 0;
+    return setActive_.affects(active, rangeId);
 }
 
 std::vector<ActiveRange> IpRangeTable::active() {

@@ -5,8 +5,6 @@
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 using protocol::SchemaRecord;
@@ -26,8 +24,7 @@ constexpr const char* bySchema = " ORDER BY plan.schemaKey, plan.number";
 } // namespace
 
 MigrationPlanTable::MigrationPlanTable(sqlite3* connection)
-    : connection_(connection),
-      insert_(connection, "INSERT INTO migrationPlan (" + columnNames<SchemaRecord>() +
+    : insert_(connection, "INSERT INTO migrationPlan (" + columnNames<SchemaRecord>() +
                               ", schemaKey, addressKey, nameKey, modelKey, detail) VALUES (" +
                               columnPlaces<SchemaRecord>() + ", ?, ?, ?, ?, ?)"),
       update_(connection, "UPDATE migrationPlan SET " + columnAssignments<SchemaRecord>() +
@@ -63,13 +60,11 @@ void MigrationPlanTable::insert(const SchemaRecord& plan) {
 
 bool MigrationPlanTable::update(const SchemaRecord& plan) {
     update_.bind(bindAll(update_, plan), plan.schemaId);
-    update_.execute();
-    return sqlite3_changes(connection_) > 0;
+    return update_.affects();
 }
 
 bool MigrationPlanTable::remove(const std::string& schemaId) {
-    remove_.execute(schemaId);
-    return sqlite3_changes(connection_) > 0;
+    return remove_.affects(schemaId);
 }
 
 bool MigrationPlanTable::isQueue(const std::string& id) {

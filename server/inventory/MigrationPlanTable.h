@@ -30,7 +30,6 @@ public:
 private:
     int bindAll(Query& query, const protocol::SchemaRecord& plan);
 
-    sqlite3* connection_;
     Query insert_;
     Query update_;
     Query remove_;

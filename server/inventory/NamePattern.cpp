@@ -1,9 +1,7 @@
 #include "server/inventory/NamePattern.h"
 
 #include "server/store/NameKey.h"
-#include "server/store/StoreError.h"
-
-#include <sqlite3.h>
+#include "server/store/SqlFunction.h"
 
 namespace server {
 
@@ -59,22 +57,12 @@ bool fits(const Units& name, const Units& pattern) {
     return inPattern == pattern.size();
 }
 
-std::span<const std::uint8_t> bytesOf(sqlite3_value* value) {
-    const auto* bytes = static_cast<const std::uint8_t*>(sqlite3_value_blob(value));
-    return {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))};
-}
-
-void matchNames(sqlite3_context* context, int, sqlite3_value** values) noexcept {
-    const bool isText = sqlite3_value_type(values[0]) == SQLITE_TEXT;
-    const auto name = bytesOf(values[0]);
-    const auto pattern = bytesOf(values[1]);
-    try {
-        const auto widened = isText ? nameKey(std::u16string(name.begin(), name.end())) : Bytes();
-        const bool matches = pattern.empty() || fits(isText ? Units(widened) : Units(name), Units(pattern));
-        sqlite3_result_int(context, matches ? 1 : 0);
-    } catch (const std::bad_alloc&) {
-        sqlite3_result_error_nomem(context);
+bool nameMatches(const SqlValue& name, const SqlValue& pattern) {
+    if (pattern.bytes.empty()) {
+        return true;
     }
+    const auto widened = name.isText ? nameKey(std::u16string(name.bytes.begin(), name.bytes.end())) : Bytes();
+    return fits(name.isText ? Units(widened) : Units(name.bytes), Units(pattern.bytes));
 }
 
 } // namespace
@@ -93,12 +81,7 @@ bool NamePattern::matches(std::span<const std::uint8_t> nameKey) const {
 }
 
 NameMatching::NameMatching(sqlite3* connection) {
-    const int code =
-        sqlite3_create_function_v2(connection, "nameMatches", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS,
-                                   nullptr, &matchNames, nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) {
-        throw StoreError::fromCode(code, sqlite3_errmsg(connection));
-    }
+    addPredicate(connection, "nameMatches", &nameMatches);
 }
 
 } // namespace server

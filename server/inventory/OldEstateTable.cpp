@@ -1,7 +1,5 @@
 #include "server/inventory/OldEstateTable.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 namespace {
@@ -13,8 +11,7 @@ std::optional<std::int64_t> unlessZero(std::int64_t number) {
 } // namespace
 
 OldEstateTable::OldEstateTable(sqlite3* connection)
-    : connection_(connection),
-      addWorkstation_(connection, "INSERT INTO oldWorkstation (name, ip, lastSeen) VALUES (?, ?, ?)"),
+    : addWorkstation_(connection, "INSERT INTO oldWorkstation (name, ip, lastSeen) VALUES (?, ?, ?)"),
       addServer_(connection, "INSERT INTO oldServer (name, ip, lastSeen) VALUES (?, ?, ?)"),
       addPrinter_(connection, "INSERT INTO oldPrinter (workstation, server, windowsName, ip, port, model, location, "
                               "comment, local, shared, lastSeen) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
@@ -30,20 +27,17 @@ OldEstateTable::OldEstateTable(sqlite3* connection)
 
 std::int64_t OldEstateTable::addWorkstation(const std::u16string& name, const std::string& ip,
                                             const std::string& lastSeen) {
-    addWorkstation_.execute(name, ip, lastSeen);
-    return sqlite3_last_insert_rowid(connection_);
+    return addWorkstation_.insert(name, ip, lastSeen);
 }
 
 std::int64_t OldEstateTable::addServer(const std::u16string& name, const std::string& ip, const std::string& lastSeen) {
-    addServer_.execute(name, ip, lastSeen);
-    return sqlite3_last_insert_rowid(connection_);
+    return addServer_.insert(name, ip, lastSeen);
 }
 
 std::int64_t OldEstateTable::addPrinter(const OldPrinter& printer) {
-    addPrinter_.execute(unlessZero(printer.workstation), unlessZero(printer.server), printer.windowsName, printer.ip,
-                        printer.port, printer.model, printer.location, printer.comment, printer.local, printer.shared,
-                        printer.lastSeen);
-    return sqlite3_last_insert_rowid(connection_);
+    return addPrinter_.insert(unlessZero(printer.workstation), unlessZero(printer.server), printer.windowsName,
+                              printer.ip, printer.port, printer.model, printer.location, printer.comment, printer.local,
+                              printer.shared, printer.lastSeen);
 }
 
 void OldEstateTable::addUse(std::int64_t printer, std::int64_t workstation) {

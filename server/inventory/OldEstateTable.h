@@ -41,7 +41,6 @@ public:
     [[nodiscard]] std::vector<std::int64_t> clientsOf(std::int64_t printer);
 
 private:
-    sqlite3* connection_;
     Query addWorkstation_;
     Query addServer_;
     Query addPrinter_;

@@ -4,8 +4,6 @@
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
 
-#include <sqlite3.h>
-
 namespace server {
 
 using protocol::InventoryReportRecord;
@@ -19,8 +17,7 @@ std::optional<std::int64_t> firstNumber(Rows rows) {
 } // namespace
 
 ReportTable::ReportTable(sqlite3* connection)
-    : connection_(connection),
-      insert_(connection, "INSERT INTO inventoryReport (" + columnNames<InventoryReportRecord>() +
+    : insert_(connection, "INSERT INTO inventoryReport (" + columnNames<InventoryReportRecord>() +
                               ", dateFrom, dateTo) VALUES (" + columnPlaces<InventoryReportRecord>() + ", ?, ?)"),
       addPrinter_(connection, "INSERT INTO inventoryEntry (report, entryId, local, windowsName, nameKey, printerIp, "
                               "addressKey, printerPort, location, comment, clientCount, model, modelKey, workstation, "
@@ -36,8 +33,7 @@ std::int64_t ReportTable::insert(const InventoryReportRecord& report, const Repo
     int index = bindFields(insert_, report);
     insert_.bind(index++, period.from);
     insert_.bind(index, period.to);
-    insert_.execute();
-    return sqlite3_last_insert_rowid(connection_);
+    return insert_.insert();
 }
 
 void ReportTable::addPrinter(std::int64_t report, const FoundPrinter& found) {
@@ -53,8 +49,7 @@ void ReportTable::addModel(std::int64_t report, const Bytes& modelKey, const std
 }
 
 bool ReportTable::remove(const std::string& reportId) {
-    remove_.execute(reportId);
-    return sqlite3_changes(connection_) > 0;
+    return remove_.affects(reportId);
 }
 
 std::optional<std::int64_t> ReportTable::find(const std::string& reportId) {

@@ -44,7 +44,6 @@ public:
     [[nodiscard]] Listing list() { return all_.run(); }
 
 private:
-    sqlite3* connection_;
     Query insert_;
     Query addPrinter_;
     Query addModel_;

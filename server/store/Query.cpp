@@ -94,6 +94,14 @@ sqlite3_stmt* Query::statement() {
     return statement_;
 }
 
+bool Query::hasChanged() const {
+    return sqlite3_changes(connection_) > 0;
+}
+
+std::int64_t Query::insertedNumber() const {
+    return sqlite3_last_insert_rowid(connection_);
+}
+
 Query::~Query() {
     sqlite3_finalize(statement_);
 }

@@ -68,6 +68,20 @@ public:
         }
     }
 
+    // Whether any row was inserted, updated or deleted.
+    template <class... Values>
+    [[nodiscard]] bool affects(const Values&... values) {
+        execute(values...);
+        return hasChanged();
+    }
+
+    // The number that the new row got.
+    template <class... Values>
+    std::int64_t insert(const Values&... values) {
+        execute(values...);
+        return insertedNumber();
+    }
+
     void bind(int index, std::int64_t value);
     void bind(int index, double value);
     void bind(int index, const wire::Uuid& value); // as its text
@@ -96,6 +110,8 @@ public:
 
 private:
     [[nodiscard]] sqlite3_stmt* statement();
+    [[nodiscard]] bool hasChanged() const;
+    [[nodiscard]] std::int64_t insertedNumber() const;
 
     sqlite3* connection_;
     std::string sql_;

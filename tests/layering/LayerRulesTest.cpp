@@ -106,12 +106,21 @@ TEST(LayerRules, ourOwnWindowsHeaderCountsAsOneOfThem) {
                 ElementsAre("src/console/A.cpp: diagnostics/DbgHelp.h belongs to other folders"));
 }
 
-TEST(LayerRules, sqliteBelongsToTheServer) {
-    EXPECT_THAT(platformHeadersOutside({{"server/Store.cpp", "#include <sqlite3.h>\n"},
-                                        {"src/client/A.cpp", "#include <SQLiteCpp/Database.h>\n"},
-                                        {"src/shell/A.cpp", "#include <sqlite3.h>\n"}}),
-                ElementsAre("src/client/A.cpp: SQLiteCpp/Database.h belongs to other folders",
-                            "src/shell/A.cpp: sqlite3.h belongs to other folders"));
+TEST(LayerRules, sqliteBelongsToTheStore) {
+    EXPECT_THAT(platformHeadersOutside({{"server/store/Store.cpp", "#include <sqlite3.h>\n"},
+                                        {"tests/server/store/StoreTest.cpp", "#include <SQLiteCpp/SQLiteCpp.h>\n"},
+                                        {"server/estate/A.cpp", "#include <sqlite3.h>\n"},
+                                        {"tests/server/rules/A.cpp", "#include <sqlite3.h>\n"},
+                                        {"src/client/A.cpp", "#include <SQLiteCpp/Database.h>\n"}}),
+                ElementsAre("server/estate/A.cpp: sqlite3.h belongs to other folders",
+                            "tests/server/rules/A.cpp: sqlite3.h belongs to other folders",
+                            "src/client/A.cpp: SQLiteCpp/Database.h belongs to other folders"));
+}
+
+TEST(LayerRules, theWritingOfLogsBelongsToTheLog) {
+    EXPECT_THAT(platformHeadersOutside({{"server/log/Log.cpp", "#include <spdlog/spdlog.h>\n"},
+                                        {"server/net/A.cpp", "#include <spdlog/spdlog.h>\n"}}),
+                ElementsAre("server/net/A.cpp: spdlog/spdlog.h belongs to other folders"));
 }
 
 TEST(LayerRules, anIncludeIsToldFromTheRoot) {

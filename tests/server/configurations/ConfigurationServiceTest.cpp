@@ -325,7 +325,7 @@ TEST_F(ConfigurationServiceTest, noListSortsItsRows) {
     ASSERT_EQ(estate.list("m1").size(), 2U);
     ASSERT_EQ(estate.users("c1").size(), 1U);
 
-    EXPECT_EQ(estate.sql().sorts(), 0);
+    EXPECT_EQ(estate.sorts(), 0);
 }
 
 } // namespace

@@ -8,9 +8,9 @@
 #include "server/estate/RegionTable.h"
 #include "server/store/NameKey.h"
 #include "server/store/RecordColumns.h"
+#include "tests/server/support/QueryPlans.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <string>
 #include <vector>
@@ -33,17 +33,6 @@ public:
         Query query(connection_, sql);
         auto rows = query.run(values...);
         return rows.next() ? rows.number(0) : -1;
-    }
-
-    // How often a statement of the connection has sorted its rows or built a temporary index.
-    [[nodiscard]] int sorts() const {
-        int sorts = 0;
-        for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
-             one = sqlite3_next_stmt(connection_, one)) {
-            sorts += sqlite3_stmt_status(one, SQLITE_STMTSTATUS_SORT, 0) +
-                     sqlite3_stmt_status(one, SQLITE_STMTSTATUS_AUTOINDEX, 0);
-        }
-        return sorts;
     }
 
 private:
@@ -138,6 +127,7 @@ public:
     [[nodiscard]] ConfigurationTable& configurations() { return connection_.table<ConfigurationTable>(); }
     [[nodiscard]] QueueConfigurationTable& queues() { return connection_.table<QueueConfigurationTable>(); }
     [[nodiscard]] Statements& sql() { return connection_.table<Statements>(); }
+    [[nodiscard]] int sorts() { return connection_.table<QueryPlans>().sorts(); }
 
 private:
     std::string add(std::uint16_t recordType, const std::u16string& name, const std::string& model,

@@ -2,6 +2,7 @@
 
 #include "server/Schema.h"
 #include "server/estate/RegionTable.h"
+#include "server/store/SqlFunction.h"
 #include "server/store/StoreError.h"
 #include "tests/server/support/TestEstate.h"
 
@@ -84,6 +85,59 @@ TEST(Store, connectionsWriteThroughToTheDisk) {
     EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
     EXPECT_EQ(database.execAndGet("PRAGMA synchronous").getInt(), 2);
     EXPECT_EQ(database.execAndGet("PRAGMA foreign_keys").getInt(), 1);
+}
+
+// Rows of a number and a text, in memory.
+struct Notes {
+    Notes() { database.exec("CREATE TABLE note (number INTEGER PRIMARY KEY, text TEXT)"); }
+    Query query(std::string sql) { return {database.getHandle(), std::move(sql)}; }
+
+    SQLite::Database database{":memory:", SQLite::OPEN_READWRITE};
+};
+
+TEST(Query, tellsTheNumberOfANewRow) {
+    Notes notes;
+    auto insert = notes.query("INSERT INTO note (text) VALUES (?)");
+
+    EXPECT_EQ(insert.insert(std::string("one")), 1);
+    EXPECT_EQ(insert.insert(std::string("two")), 2);
+}
+
+TEST(Query, tellsWhetherItAffectedAnyRow) {
+    Notes notes;
+    notes.query("INSERT INTO note (text) VALUES ('one')").execute();
+
+    EXPECT_TRUE(notes.query("UPDATE note SET text = 'two' WHERE number = ?").affects(1));
+    EXPECT_FALSE(notes.query("UPDATE note SET text = 'two' WHERE number = ?").affects(2));
+    EXPECT_TRUE(notes.query("DELETE FROM note").affects());
+    EXPECT_FALSE(notes.query("DELETE FROM note").affects());
+}
+
+TEST(SqlPredicate, isCalledWithTextsAndBytes) {
+    Notes notes;
+    addPredicate(notes.database.getHandle(), "sameLength", [](const SqlValue& first, const SqlValue& second) {
+        return first.isText && !second.isText && first.bytes.size() == second.bytes.size();
+    });
+    const auto sameLength = [&](const std::string& values) {
+        auto query = notes.query("SELECT sameLength(" + values + ")");
+        auto rows = query.run();
+        return rows.next() && rows.number(0) == 1;
+    };
+
+    EXPECT_TRUE(sameLength("'ab', x'0001'"));
+    EXPECT_TRUE(sameLength("'', x''"));
+    EXPECT_FALSE(sameLength("'ab', x'00'"));
+    EXPECT_FALSE(sameLength("x'0001', 'ab'"));
+}
+
+TEST(SqlPredicate, thatIsOutOfMemoryFailsTheQuery) {
+    Notes notes;
+    addPredicate(notes.database.getHandle(), "never",
+                 [](const SqlValue&, const SqlValue&) -> bool { throw std::bad_alloc(); });
+    auto query = notes.query("SELECT never(1, 2)");
+    auto rows = query.run();
+
+    EXPECT_THROW(rows.next(), StoreError);
 }
 
 TEST(StoreConnection, aChangeThatThrowsHasNotHappened) {

@@ -49,6 +49,17 @@ public:
         return found;
     }
 
+    // How often a statement of the connection has sorted its rows or built a temporary index.
+    [[nodiscard]] int sorts() const {
+        int sorts = 0;
+        for (auto* one = sqlite3_next_stmt(connection_, nullptr); one != nullptr;
+             one = sqlite3_next_stmt(connection_, one)) {
+            sorts += sqlite3_stmt_status(one, SQLITE_STMTSTATUS_SORT, 0) +
+                     sqlite3_stmt_status(one, SQLITE_STMTSTATUS_AUTOINDEX, 0);
+        }
+        return sorts;
+    }
+
 private:
     sqlite3* connection_;
 };
