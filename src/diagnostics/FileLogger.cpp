@@ -1,13 +1,10 @@
 #include "diagnostics/FileLogger.h"
 
 #include "diagnostics/LogLine.h"
-#include "diagnostics/Loggers.h"
-#include "diagnostics/Platform.h"
 
 #include <boost/filesystem/fstream.hpp>
 
 #include <cstdlib>
-#include <memory>
 #include <utility>
 
 namespace QvxDiagnostics {
@@ -27,10 +24,6 @@ void FileLogger::log(std::uint32_t flags, std::string_view file, std::uint32_t l
     if (aborts) {
         std::abort();
     }
-}
-
-void installFileLogger() {
-    addLogger(std::make_unique<FileLogger>(logFilePath()));
 }
 
 } // namespace QvxDiagnostics

@@ -22,7 +22,4 @@ private:
     std::string path_;
 };
 
-// Adds a file logger for the console's own log file.
-void installFileLogger();
-
 } // namespace QvxDiagnostics

@@ -14,8 +14,4 @@ std::tm localTime(std::time_t time) {
     return local;
 }
 
-std::string logFilePath() {
-    return "C:\\tmp\\mmc_log.txt";
-}
-
 } // namespace QvxDiagnostics

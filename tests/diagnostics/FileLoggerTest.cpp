@@ -1,6 +1,4 @@
 #include "diagnostics/FileLogger.h"
-#include "diagnostics/Platform.h"
-#include "tests/support/Environment.h"
 
 #include <gtest/gtest.h>
 
@@ -58,9 +56,4 @@ TEST_F(FileLoggerTest, theAbortFlagEndsTheProcessAfterTheLineIsClosed) {
     FileLogger logger(file().string());
     EXPECT_EXIT(logger.log(0x01, "", 0, "", "fatal", "the end", {}), testing::KilledBySignal(SIGABRT), "");
     EXPECT_EQ(content(), "fatal|the end\nAborting...\n");
-}
-
-TEST_F(FileLoggerTest, theConsolesOwnFileIsInTheFolderForTemporaryFiles) {
-    const support::EnvironmentVariable folder("TMPDIR", folder_.string());
-    EXPECT_EQ(QvxDiagnostics::logFilePath(), file().string());
 }

@@ -1,11 +1,6 @@
 #include "diagnostics/Loggers.h"
-#include "diagnostics/FileLogger.h"
-#include "tests/support/Environment.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <stdlib.h>
 
 using namespace QvxDiagnostics;
 
@@ -39,16 +34,4 @@ TEST(Loggers, aSecondLoggerKeepsTheFirst) {
     log(0x20, "b.cpp", 2, "g", "error", "two", {"tag"});
     EXPECT_EQ(first, (Lines{"0 a.cpp 1 f info one 0", "32 b.cpp 2 g error two 1"}));
     EXPECT_EQ(second, (Lines{"32 b.cpp 2 g error two 1"}));
-}
-
-TEST(Loggers, theConsolesOwnFileLoggerIsOneOfThem) {
-    std::string pattern = (std::filesystem::temp_directory_path() / "vantrel-XXXXXX").string();
-    const std::filesystem::path folder = ::mkdtemp(pattern.data());
-    {
-        const support::EnvironmentVariable variable("TMPDIR", folder.string());
-        installFileLogger();
-    }
-    log(0, "", 0, "", "info", "installed");
-    EXPECT_TRUE(std::filesystem::exists(folder / "mmc_log.txt"));
-    std::filesystem::remove_all(folder);
 }
