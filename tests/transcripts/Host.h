@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace transcripts {
 
@@ -11,14 +10,14 @@ struct Outcome {
     std::string text;
 };
 
-// A program that shows the console. Carries out a command line as vantrelctl does, in its own way, and says in the same
-// words what came of it.
+// A program that shows the console. Carries out a line of a shell as vantrelctl does, in its own way, and says in the
+// same words what came of it.
 class Host {
 public:
     virtual ~Host() = default;
 
-    // The words behind "vantrelctl". Each line begins anew, as in a shell.
-    virtual Outcome run(const std::vector<std::string>& words) = 0;
+    // In front of "vantrelctl" may stand variables of the environment. Each line begins anew.
+    virtual Outcome run(const std::string& line) = 0;
 };
 
 } // namespace transcripts

@@ -1,14 +1,18 @@
 #include "tests/transcripts/Run.h"
 
-#include "hosts/ctl/ShellWords.h"
+#include "tests/support/Environment.h"
+#include "tests/support/MadeLocales.h"
 #include "tests/transcripts/CtlHost.h"
 #include "tests/transcripts/LinePattern.h"
+#include "tests/transcripts/Renewal.h"
 #include "tests/transcripts/Transcript.h"
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 
@@ -45,20 +49,19 @@ void print(std::ostream& out, const char* mark, const std::vector<std::string>& 
 // A transcript on its way through a host.
 class Player {
 public:
-    explicit Player(const MakeHost& makeHost) : host_(makeHost(server_)) {}
+    explicit Player(const MakeHost& makeHost) : host_(makeHost(server_)) {
+        std::filesystem::current_path(server_.folder() / ".");
+        namePort();
+    }
 
     Outcome play(const Exchange& exchange) {
-        auto words = ctl::shellWords(withNames(joined(exchange.command), names_));
-        if (words == std::vector<std::string>{"vantreld", "restart"}) {
+        const auto line = withNames(joined(exchange.command), names_);
+        if (line == "vantreld restart") {
             server_.restart();
+            namePort();
             return {};
         }
-        if (words.empty() || words.front() != "vantrelctl") {
-            throw std::runtime_error("line " + std::to_string(exchange.number) +
-                                     ": there is only vantrelctl, and \"vantreld restart\"");
-        }
-        words.erase(words.begin());
-        return exchange.byVantrelctl ? vantrelctl_.run(words) : host_->run(words);
+        return exchange.byVantrelctl ? vantrelctl_.run(line) : host_->run(line);
     }
 
     bool isAsExpected(const Exchange& exchange, const Outcome& outcome) {
@@ -71,30 +74,39 @@ public:
 
     // What came, in the patterns that stand there where they match.
     Exchange updated(Exchange exchange, const Outcome& outcome) {
-        std::vector<std::string> lines;
-        for (const auto& line : linesOf(outcome.text)) {
-            const auto kept = std::ranges::find_if(
-                exchange.expected, [&](const std::string& pattern) { return matches(line, pattern, names_); });
-            lines.push_back(kept != exchange.expected.end() ? *kept : patternOf(line));
-        }
-        exchange.expected = std::move(lines);
+        exchange.expected = renewed(exchange.expected, linesOf(outcome.text), names_);
         exchange.status = outcome.status;
         return exchange;
     }
 
 private:
+    void namePort() { names_["port"] = std::to_string(server_.port()); }
+
+    const support::EnvironmentVariable locale_{"LC_ALL", "C.UTF-8"};
     SampleServer server_;
     CtlHost vantrelctl_{server_};
     std::unique_ptr<Host> host_;
     Names names_;
 };
 
+// Which it takes time to make.
+bool asksForLocales(const Transcript& transcript) {
+    return std::ranges::any_of(transcript.exchanges, [](const Exchange& exchange) {
+        return joined(exchange.command).find("LC_ALL=") != std::string::npos;
+    });
+}
+
 int play(const std::string& file, bool update, const MakeHost& makeHost) {
-    std::ifstream stream(file);
+    const auto path = std::filesystem::absolute(file);
+    std::ifstream stream(path);
     if (!stream) {
         throw std::runtime_error("there is no " + file);
     }
     auto transcript = Transcript::read(stream);
+    std::optional<support::MadeLocales> locales;
+    if (asksForLocales(transcript)) {
+        locales.emplace(std::initializer_list<std::string>{"de_DE.UTF-8", "en_US.UTF-8"});
+    }
     Player player(makeHost);
     int differences = 0;
     for (auto& exchange : transcript.exchanges) {
@@ -109,7 +121,7 @@ int play(const std::string& file, bool update, const MakeHost& makeHost) {
         }
     }
     if (update) {
-        std::ofstream out(file);
+        std::ofstream out(path);
         transcript.write(out);
     }
     return differences == 0 ? 0 : 1;

@@ -27,8 +27,14 @@ struct Exchange {
 //     vantrelctl: There is no "Nowhere" below "Printers"; there is "Berlin", "North"
 //     ? 1
 //
-// A line that ends with a blank and a backslash goes on in the next one. A comment "# host: vantrelctl" right above a
-// command has that one carried out by vantrelctl on every host; in the first line of the file, all of them.
+// A line that ends with a blank and a backslash goes on in the next one. "$ vantreld restart" ends the server and
+// starts it again on its database. The locale is C.UTF-8; "LC_ALL=de_DE.UTF-8" or "LC_ALL=en_US.UTF-8" may stand in
+// front of a command. What changes from run to run stands there as a pattern (see LinePattern.h); {port} is the port of
+// the server.
+//
+// A comment "# host: vantrelctl" right above a command has that one carried out by vantrelctl on every host. In the
+// first line of the file it means all of them, and the transcript runs on vantrelctl alone. There a line is one of a
+// real shell, in a folder of the transcript's own.
 struct Transcript {
     std::vector<Exchange> exchanges;
     std::vector<std::string> below; // what follows the last one

@@ -1,5 +1,6 @@
 #include "tests/transcripts/Transcript.h"
 #include "tests/transcripts/LinePattern.h"
+#include "tests/transcripts/Renewal.h"
 
 #include <gmock/gmock.h>
 
@@ -90,6 +91,20 @@ TEST(LinePattern, remembersWhatHasAName) {
     EXPECT_TRUE(matches("8 then 7", "{second} then {first}", names));
     EXPECT_FALSE(matches("7 then 8", "{second} then {first}", names));
     EXPECT_EQ(withNames("call {second} {third} {", names), "call 8 {third} {");
+}
+
+TEST(Renewal, keepsThePatternsThatStillMatchInTheirOrder) {
+    Names names;
+    const std::vector<std::string> patterns{"{", "  id {first:uuid}", "  North", "}",
+                                            "{", "  id {uuid}",       "  South", "}"};
+    const std::string id = "  id 0f8e2a64-5b1d-4f0e-9c37-6a2d51b7e480";
+
+    EXPECT_THAT(renewed(patterns, {"{", id, "  West", "}", "{", id, "  North", "}", "{", id, "  South", "}"}, names),
+                ElementsAre("{", "  id {uuid}", "  West", "}", "{", "  id {first:uuid}", "  North", "}", "{",
+                            "  id {uuid}", "  South", "}"));
+    EXPECT_THAT(renewed(patterns, {"{", id, "  South", "}"}, names), ElementsAre("{", "  id {uuid}", "  South", "}"));
+    EXPECT_THAT(renewed({}, {"2026-11-21"}, names), ElementsAre("{date}"));
+    EXPECT_THAT(renewed(patterns, {}, names), IsEmpty());
 }
 
 TEST(LinePattern, isMadeOfALineWithoutWhatChanges) {

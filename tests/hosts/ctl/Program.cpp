@@ -80,20 +80,17 @@ bool readAll(int output, int errors, Outcome& outcome) {
     return true;
 }
 
-Outcome run(std::vector<std::string> arguments, const std::map<std::string, std::string>& environment,
-            const char* outputFile) {
+} // namespace
+
+Outcome runProgram(std::vector<std::string> arguments, const std::map<std::string, std::string>& environment) {
     Pipe output;
     Pipe errors;
-    const int file = outputFile != nullptr ? open(outputFile, O_WRONLY | O_CLOEXEC) : -1;
     const pid_t process = fork();
     if (process == 0) {
-        become(arguments, environment, file >= 0 ? file : output.ends[1], errors.ends[1]);
+        become(arguments, environment, output.ends[1], errors.ends[1]);
     }
     output.closeWriting();
     errors.closeWriting();
-    if (file >= 0) {
-        close(file);
-    }
     Outcome outcome;
     const bool ended = readAll(output.ends[0], errors.ends[0], outcome);
     if (!ended) {
@@ -106,16 +103,6 @@ Outcome run(std::vector<std::string> arguments, const std::map<std::string, std:
     }
     outcome.status = WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
     return outcome;
-}
-
-} // namespace
-
-Outcome runProgram(std::vector<std::string> arguments, const std::map<std::string, std::string>& environment) {
-    return run(std::move(arguments), environment, nullptr);
-}
-
-Outcome runProgramInto(const std::string& outputFile, std::vector<std::string> arguments) {
-    return run(std::move(arguments), {}, outputFile.c_str());
 }
 
 } // namespace hosttest

@@ -17,7 +17,4 @@ struct Outcome {
 // Environment variables with an empty value are unset.
 Outcome runProgram(std::vector<std::string> arguments, const std::map<std::string, std::string>& environment = {});
 
-// The same with its standard output written to a file.
-Outcome runProgramInto(const std::string& outputFile, std::vector<std::string> arguments);
-
 } // namespace hosttest

@@ -31,14 +31,6 @@ protected:
                       "--password-file", folder.write("password", "geheim\n")});
         port = std::to_string(server_->waitForPort());
     }
-    void restartServer() {
-        stopServer();
-        startServer();
-    }
-    void stopServer() {
-        server_->signal(SIGTERM);
-        ASSERT_EQ(server_->wait(), 0);
-    }
 
     void kill() {
         server_->signal(SIGKILL);
@@ -59,26 +51,6 @@ protected:
         EXPECT_EQ(outcome.status, 0) << outcome.errors;
         return outcome.output;
     }
-    // A command that has to succeed, whatever it prints.
-    void carryOut(const Arguments& command) const { static_cast<void>(output(command)); }
-    [[nodiscard]] Json json(Arguments command) const {
-        command.insert(command.end(), {"--format", "json"});
-        return Json::parse(output(command));
-    }
-    // The names directly below a path.
-    [[nodiscard]] std::vector<std::string> below(const std::string& path) const {
-        std::vector<std::string> names;
-        const auto tree = json({"tree", path, "--depth", "1"});
-        for (const auto& child : tree.at("children")) {
-            names.push_back(child.at("name"));
-        }
-        return names;
-    }
-    void createRegion(const std::string& name) const {
-        carryOut({"run", "Printers", "Create region", "--set", "Region Name=" + name, "--press", "OK"});
-    }
-
-    void keep(const std::string& name, const std::string& text) const { ASSERT_TRUE(exists(folder.write(name, text))); }
 
     server::test::TestFolder folder;
     std::string port;

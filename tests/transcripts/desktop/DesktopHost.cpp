@@ -4,8 +4,10 @@
 #include "hosts/ctl/MenuEntry.h"
 #include "hosts/ctl/MenuWriter.h"
 #include "hosts/ctl/PrintableText.h"
+#include "hosts/ctl/ShellWords.h"
 #include "hosts/desktop/look/Text.h"
 #include "shell/ListExport.h"
+#include "tests/support/Environment.h"
 #include "tests/transcripts/desktop/Desk.h"
 #include "tests/transcripts/desktop/Hands.h"
 
@@ -13,6 +15,7 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <list>
 #include <sstream>
 
 namespace transcripts {
@@ -176,8 +179,24 @@ void carryOut(Desk& desk, const ctl::Options& options, std::ostream& out) {
     }
 }
 
+// Takes those in front of the command and sets them for as long as it runs.
+std::list<support::EnvironmentVariable> variablesOf(std::vector<std::string>& words) {
+    std::list<support::EnvironmentVariable> variables;
+    const auto isVariable = [](const std::string& word) { return word.find('=') != std::string::npos; };
+    const auto command = std::ranges::find_if_not(words, isVariable);
+    for (auto word = words.begin(); word != command; ++word) {
+        const auto end = word->find('=');
+        variables.emplace_back(word->substr(0, end), word->substr(end + 1));
+    }
+    words.erase(words.begin(), command);
+    return variables;
+}
+
 ctl::Options optionsOf(const std::vector<std::string>& words) {
-    std::vector<const char*> arguments{"vantrelctl"};
+    if (words.empty() || words.front() != "vantrelctl") {
+        throw Failure(ExitStatus::usage, "The desktop knows vantrelctl only");
+    }
+    std::vector<const char*> arguments;
     std::ranges::transform(words, std::back_inserter(arguments), [](const std::string& word) { return word.c_str(); });
     auto parsed = ctl::parseCommandLine(static_cast<int>(arguments.size()), arguments.data());
     auto* const options = std::get_if<ctl::Options>(&parsed);
@@ -189,7 +208,9 @@ ctl::Options optionsOf(const std::vector<std::string>& words) {
 
 } // namespace
 
-Outcome DesktopHost::run(const std::vector<std::string>& words) {
+Outcome DesktopHost::run(const std::string& line) {
+    auto words = ctl::shellWords(line);
+    const auto variables = variablesOf(words);
     std::ostringstream out;
     std::string said;
     try {

@@ -13,7 +13,7 @@ public:
     // Outlives it.
     explicit DesktopHost(const SampleServer& server) : server_(server) {}
 
-    Outcome run(const std::vector<std::string>& words) override;
+    Outcome run(const std::string& line) override;
 
 private:
     const SampleServer& server_;

@@ -62,7 +62,8 @@ void selectInList(QWidget& widget, std::size_t place) {
     hands::click(view, shown.mapFromSource(shown.sourceModel()->index(static_cast<int>(place), 0)));
 }
 
-// Day and time are typed over those that stand there, once the box beside says that there are any.
+// Day and time are pasted in place of those that stand there, once the box beside says that there are any: while one
+// types, such a box goes on to its next part by itself.
 void pick(const forms::DateTimePicker& picker, QWidget& widget, const wire::WideString& value) {
     const auto picked = ctl::parseDateTime(wire::toUtf8(value));
     if (!picked) {
@@ -77,7 +78,7 @@ void pick(const forms::DateTimePicker& picker, QWidget& widget, const wire::Wide
         auto& edit = dynamic_cast<QDateTimeEdit&>(widget);
         const QDateTime moment(QDate((*picked)->year, (*picked)->month, (*picked)->day),
                                QTime((*picked)->hour, (*picked)->minute, (*picked)->second), Qt::UTC);
-        hands::type(edit, moment.toString(edit.displayFormat()));
+        hands::paste(edit, moment.toString(edit.displayFormat()));
     }
 }
 

@@ -1,12 +1,24 @@
 #include "tests/transcripts/desktop/Hands.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTest>
 
 namespace transcripts::hands {
+namespace {
+
+// Keys that no keyboard of this program has: the text goes along with them.
+void typeKeys(QWidget& box, const QString& text) {
+    for (const char32_t character : text.toStdU32String()) {
+        const auto key = character == U'\n' ? Qt::Key_Return : Qt::Key_unknown;
+        QTest::sendKeyEvent(QTest::Click, &box, key, QString::fromUcs4(&character, 1), Qt::NoModifier);
+    }
+}
+
+} // namespace
 
 void click(QWidget& widget) {
     QTest::mouseClick(&widget, Qt::LeftButton);
@@ -22,15 +34,18 @@ void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(&widget, key, modifiers);
 }
 
-// Keys that no keyboard of this program has: the text goes along with them.
 void type(QWidget& box, const QString& text) {
     box.setFocus(Qt::TabFocusReason);
     press(box, Qt::Key_A, Qt::ControlModifier);
     press(box, Qt::Key_Delete);
-    for (const QChar unit : text) {
-        const auto key = unit == QLatin1Char('\n') ? Qt::Key_Return : Qt::Key_unknown;
-        QTest::sendKeyEvent(QTest::Click, &box, key, QString(unit), Qt::NoModifier);
-    }
+    typeKeys(box, text);
+}
+
+void paste(QWidget& box, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    box.setFocus(Qt::TabFocusReason);
+    press(box, Qt::Key_A, Qt::ControlModifier);
+    press(box, Qt::Key_V, Qt::ControlModifier);
 }
 
 void askForMenu(QAbstractItemView& view) {
