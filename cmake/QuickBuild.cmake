@@ -1,7 +1,7 @@
-# A source alone is compiled in a second or two, and spends most of that on headers that the next one reads again. Here
-# sources are compiled in batches, and those that use Qt or GoogleTest with precompiled headers.
+# A single source takes a second or two to compile, mostly for headers that the next one reads again. So sources are
+# compiled in batches here, and those that use Qt or GoogleTest with precompiled headers.
 
-# Headers of other people only, so that a change of one of ours does not make all of them anew.
+# Only third-party headers, so that a change of one of ours does not recompile all of them.
 set(VANTREL_STANDARD_HEADERS
     <algorithm> <array> <chrono> <cstdint> <filesystem> <functional> <map> <memory> <optional> <set> <span> <sstream>
     <stdexcept> <string> <string_view> <utility> <vector>)
@@ -11,16 +11,16 @@ set(VANTREL_QT_HEADERS
     <QPushButton> <QScrollBar> <QSortFilterProxyModel> <QString> <QStyle> <QTimer> <QTreeView> <QVBoxLayout> <QWidget>)
 set(VANTREL_TEST_HEADERS <gmock/gmock.h> <gtest/gtest.h>)
 
-# How many sources a batch has: so few that one changed source costs little, and that two processors share a folder.
+# The number of sources per batch: small, so that a changed source costs little and two processors can share a folder.
 set(VANTREL_BATCH 10)
 
-# Sources of which the fuzzers bring their own: the linker leaves them out only as objects of their own.
+# Sources that the fuzzers override: the linker can leave these out only as separate objects.
 set(VANTREL_COMPILED_ALONE
     "src/wire/(SocketPosix|SteadyClock).cpp"
     "server/login/PasswordHash.cpp")
 list(JOIN VANTREL_COMPILED_ALONE | VANTREL_COMPILED_ALONE)
 
-# Adds the targets that the one named links to, however far below.
+# Adds the targets that the given one links to, directly or indirectly.
 function(vantrel_collect_used target found_variable)
     set(found ${${found_variable}})
     get_target_property(direct ${target} LINK_LIBRARIES)
@@ -74,7 +74,7 @@ function(vantrel_precompile)
     endif()
 endfunction()
 
-# Gives a target the precompiled headers that go with the libraries that it uses.
+# Gives a target the precompiled headers for the libraries that it uses.
 function(vantrel_reuse_precompiled target)
     set(kind "")
     if(Qt6::Gui IN_LIST ARGN OR Qt6::Widgets IN_LIST ARGN)
@@ -86,7 +86,7 @@ function(vantrel_reuse_precompiled target)
     if(kind)
         list(JOIN kind _ kind)
         target_precompile_headers(${target} REUSE_FROM precompiled_${kind})
-        # g++ 12 finds fault with the standard library's own std::string when that was precompiled.
+        # g++ 12 warns about the standard library's own std::string if that is precompiled.
         target_compile_options(${target} PRIVATE
             $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds;-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread>)
     endif()
@@ -108,8 +108,8 @@ function(vantrel_can_batch target source result)
     set(${result} ${can} PARENT_SCOPE)
 endfunction()
 
-# Writes the sources that include those named, and adds them to the list. The paths in them are the same in every checkout,
-# so that what one has compiled serves the others.
+# Writes the sources that include the given ones, and adds them to the list. Their paths are the same in every checkout,
+# so that objects can be reused between checkouts.
 function(vantrel_write_batches name sources_variable)
     list(LENGTH ARGN total)
     math(EXPR batches "(${total} + ${VANTREL_BATCH} - 1) / ${VANTREL_BATCH}")
@@ -158,7 +158,7 @@ function(vantrel_batch target)
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
 
-# To be called when all targets are there.
+# Call this after all targets have been defined.
 function(vantrel_build_quickly)
     set(targets "")
     vantrel_collect_targets(${PROJECT_SOURCE_DIR} targets)

@@ -29,7 +29,7 @@ function(vantrel_library name)
     target_compile_features(${name} PUBLIC cxx_std_20) # also where a header is verified alone
 endfunction()
 
-# All programs that people run.
+# All programs that users run.
 add_custom_target(programs)
 
 # vantrel_program(<name> SOURCES ... USES ...): a program in build/bin.

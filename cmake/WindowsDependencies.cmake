@@ -1,7 +1,7 @@
 # The libraries that the cross build uses, under the names that the folders link to.
 
-# Boost's headers serve every platform, but the folder that they stand in holds the headers of Linux too: a folder with
-# nothing but a link to them keeps those out.
+# Boost's headers work on every platform, but their folder also contains the headers of Linux: a folder with nothing but
+# a link to Boost keeps those out.
 set(VANTREL_WINDOWS_HEADERS ${PROJECT_BINARY_DIR}/headers)
 if(NOT EXISTS /usr/include/boost/version.hpp)
     message(FATAL_ERROR "Boost's headers are missing: install libboost-dev")

@@ -1,15 +1,15 @@
 # shellcheck shell=bash
-# For sourcing by the commands at the root: say, configurePreset and buildPreset.
+# Sourced by the commands at the root: say, configurePreset and buildPreset.
 
 say() { echo "==> $*"; }
 
-# What one checkout has compiled serves all others: paths below the checkout count as relative ones, the date of a header
-# does not count, and precompiled headers are let in.
+# Objects compiled in one checkout are reused in all others: paths below the checkout count as relative, the dates of
+# headers do not count, and precompiled headers are allowed.
 CCACHE_BASEDIR="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 export CCACHE_BASEDIR CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS
 
-# configurePreset <preset>: shows nothing, or on a failure all.
+# configurePreset <preset>: shows nothing, or everything on a failure.
 configurePreset() {
     local output status=0
     output="$(mktemp)"
@@ -19,16 +19,16 @@ configurePreset() {
     return "$status"
 }
 
-# Says every half minute how far the build is that writes to the file named.
+# Reports every half minute the progress of the build that writes to the given file.
 sayProgress() {
     local begin=$SECONDS last
-    while sleep 30 >/dev/null 2>&1; do # it may outlive us, and must not hold our output open
+    while sleep 30 >/dev/null 2>&1; do # it may outlive this script, and must not keep its output open
         last="$(grep -E '^\[[0-9]+/[0-9]+\] ' "$1" | tail -n 1)"
         [[ -z "$last" ]] || echo "    ${last%%]*}] after $((SECONDS - begin)) s"
     done
 }
 
-# buildPreset <preset> [<target>...]: configures and builds; shows nothing but the progress, and on a failure the errors.
+# buildPreset <preset> [<target>...]: configures and builds; shows only the progress, and the errors on a failure.
 buildPreset() {
     local preset="$1"
     shift

@@ -48,16 +48,15 @@ Options::Outcome Options::parse(int count, const char* const* arguments) {
     CLI::App app("The Vantrel print management server: answers the administration console from one database file.",
                  "vantreld");
     app.set_help_flag("--help", "Print this help and exit");
-    app.add_option("--database", database, "The database file; made when there is none")->required();
+    app.add_option("--database", database, "The database file; created if it does not exist")->required();
     app.add_option("--listen", options.listen, "The address to listen on")->capture_default_str();
-    app.add_option("--port", options.port, "The port to listen on; 0 for any that is free")
+    app.add_option("--port", options.port, "The port to listen on; 0 for any free port")
         ->capture_default_str()
         ->check(CLI::Range(0, 65535));
     app.add_option("--port-file", portFile, "Write the port to this file once the server listens");
     app.add_option("--sample", sample, "Fill an empty database: small, or a number of printers");
-    auto* userOption = app.add_option("--user", user, "Add this account, or give it another password");
-    auto* passwordOption =
-        app.add_option("--password-file", passwordFile, "The file that holds the account's password");
+    auto* userOption = app.add_option("--user", user, "Add this account, or change its password");
+    auto* passwordOption = app.add_option("--password-file", passwordFile, "The file with the account's password");
     userOption->needs(passwordOption);
     passwordOption->needs(userOption);
     app.add_option("--login-required", minutes,
@@ -107,7 +106,7 @@ std::u16string readPassword(const std::filesystem::path& file) {
         line.pop_back();
     }
     if (line.empty()) {
-        throw std::runtime_error(file.string() + ": the password file holds no password");
+        throw std::runtime_error(file.string() + ": the password file contains no password");
     }
     return wire::toWide(line);
 }

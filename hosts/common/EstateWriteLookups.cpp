@@ -13,7 +13,7 @@ using namespace protocol;
 std::vector<RegionRecord> regions(std::uint8_t kind) {
     client::CQVXAdminClass client;
     if (!client.listRegions(static_cast<RegionKind>(kind))) {
-        throw std::runtime_error("the regions can't be had");
+        throw std::runtime_error("the regions can't be listed");
     }
     return client.regions();
 }

@@ -33,7 +33,7 @@ std::vector<Record> listed(const Request& request) {
     std::vector<Record> records;
     const auto announced = client::readList(client, request, records);
     if (!announced || std::cmp_not_equal(records.size(), *announced)) {
-        throw std::runtime_error("the list is not whole");
+        throw std::runtime_error("the list is incomplete");
     }
     return records;
 }

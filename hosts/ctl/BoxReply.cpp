@@ -69,7 +69,7 @@ Failure notAsked(const Step& step) {
 }
 
 Failure leftOver(const Step& step) {
-    return {ExitStatus::refused, "Nothing was there to take the step " + step.written};
+    return {ExitStatus::refused, "There was no form or message box for the step " + step.written};
 }
 
 } // namespace ctl

@@ -77,7 +77,8 @@ private:
             {"table", Format::table}, {"json", Format::json}, {"csv", Format::csv}};
         app_.add_option("--format", options_.format, "table, json or csv")
             ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case).description(""));
-        app_.add_option("--activity", options_.activity, "File to which each command to the server is added as JSON");
+        app_.add_option("--activity", options_.activity,
+                        "File to which each command sent to the server is appended as JSON");
     }
 
     CLI::App& add(CommandKind kind, const std::string& name, const std::string& does, const std::string& example) {
@@ -88,7 +89,7 @@ private:
     }
 
     void addPath(CLI::App& command, bool required) {
-        command.add_option("PATH", options_.path, "Names from \"Printers\" and its like down")->required(required);
+        command.add_option("PATH", options_.path, "Names from a branch such as \"Printers\" down")->required(required);
     }
 
     void addRow(CLI::App& command) {
@@ -96,12 +97,12 @@ private:
     }
 
     void addTreeCommands() {
-        add(CommandKind::login, "login", "Tries the login and prints how it went",
+        add(CommandKind::login, "login", "Tries the login and prints the result",
             "--server print.example.org --port 5005 --user admin login");
         auto& tree =
-            add(CommandKind::tree, "tree", "Prints the tree, or what stands below a path", "tree Printers --depth 2");
+            add(CommandKind::tree, "tree", "Prints the tree, or the part below a path", "tree Printers --depth 2");
         addPath(tree, false);
-        tree.add_option("--depth", options_.depth, "How many levels; all without it");
+        tree.add_option("--depth", options_.depth, "Number of levels; all by default");
         auto& show = add(CommandKind::show, "show", "Prints the list of a node", "show Printers/Berlin --format csv");
         addPath(show, true);
         auto& menu = add(CommandKind::menu, "menu", "Prints the menu of a node, or of a row of its list",
@@ -118,19 +119,19 @@ private:
         run.add_option("ENTRY", options_.entry, "Text or id of the entry")->required();
         addRow(run);
         addStep(run, Step::Kind::set, "--set",
-                "LABEL=VALUE: fills a box, checks one with yes or no, or picks\na row of a list; LABEL is \"Group: "
+                "LABEL=VALUE: fills a box, ticks one with yes or no, or selects\na row of a list; LABEL is \"Group: "
                 "Label\" where several have it");
         addStep(run, Step::Kind::select, "--select", "LABEL=ROW: selects a row of a list");
         addStep(run, Step::Kind::press, "--press",
                 "Presses a button, or \"List: Entry\" of the menu on the selected row");
         addStep(run, Step::Kind::answer, "--answer", "Answers a message box: ok, cancel, yes or no");
-        auto& rename = add(CommandKind::rename, "rename", "Gives a node another name", "rename Printers/North South");
+        auto& rename = add(CommandKind::rename, "rename", "Renames a node", "rename Printers/North South");
         addPath(rename, true);
         rename.add_option("NEW", options_.newName, "The new name")->required();
         auto& move = add(CommandKind::move, "move", "Moves a node below another one",
                          "move \"Printers/North/Hall 1\" Printers/South");
         addPath(move, true);
-        move.add_option("TARGET", options_.target, "The path of the node that takes it")->required();
+        move.add_option("TARGET", options_.target, "The path of the node to move it to")->required();
     }
 
     void addRaw() {
@@ -140,23 +141,22 @@ private:
             ->required();
         call.add_option("KIND:VALUE", options_.fields,
                         "The fields, in order; kinds are u8 u16 u32 i32 i64 f32 bool str8 str16 uuid and none.\n"
-                        "A record within a record is its fields. An optional field is none when it is left out,\n"
-                        "else bool:1 and then its value. A list is u16:COUNT and then its elements.");
+                        "A nested record is its fields. An optional field is none if it is left out,\n"
+                        "otherwise bool:1 and then its value. A list is u16:COUNT and then its elements.");
         auto& commands =
             add(CommandKind::commands, "commands", "Prints the commands of the protocol", "commands --format json");
         commands.add_flag("--markdown", options_.asDocument, "With all fields, as chapters of a document");
     }
 
     void addScript() {
-        auto& script =
-            add(CommandKind::script, "script", "Carries out many commands over one login",
-                "script new-branch.txt --keep-going\n\n"
-                "One command a line, written as behind \"vantrelctl\", with the quotes of a shell and \"#\"\n"
-                "before comments:\n"
-                "  run Printers \"Create region\" --set \"Region Name=North\" --press OK   # a new region\n"
-                "  show Printers");
+        auto& script = add(CommandKind::script, "script", "Runs many commands with a single login",
+                           "script new-branch.txt --keep-going\n\n"
+                           "One command per line, written as after \"vantrelctl\", with shell quoting, and \"#\"\n"
+                           "for comments:\n"
+                           "  run Printers \"Create region\" --set \"Region Name=North\" --press OK   # a new region\n"
+                           "  show Printers");
         script.add_option("FILE", options_.script, "The commands; - for standard input")->required();
-        script.add_flag("--keep-going", options_.keepGoing, "Goes on after a command that fails, and sums up");
+        script.add_flag("--keep-going", options_.keepGoing, "Continues after a failed command, and prints a summary");
     }
 
     void addStep(CLI::App& command, Step::Kind kind, const std::string& name, const std::string& does) {

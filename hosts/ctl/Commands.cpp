@@ -107,7 +107,7 @@ void call(const Options& options, Session& session, std::ostream& out) {
         const auto reply = client.rawCall(command.opcode, fields);
         if (!reply.complete) {
             throw Failure(ExitStatus::refused,
-                          "The reply to " + std::string(command.name) + " did not come or broke off");
+                          "The reply to " + std::string(command.name) + " did not arrive or was cut short");
         }
         session.check();
         out << dump(replyJson(reply), 2) << '\n';

@@ -114,7 +114,7 @@ protocol::FieldValue parseField(const std::string& text) {
     if (kind == "uuid") {
         return {uuid(text, value)};
     }
-    refuse(text, std::string("has no kind that is known; ") + kinds);
+    refuse(text, std::string("has an unknown kind; ") + kinds);
 }
 
 } // namespace ctl

@@ -18,7 +18,7 @@ NodePath parsePath(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] == '\\') {
             if (++i == text.size() || (text[i] != '/' && text[i] != '\\')) {
-                throw badPath(text, "has a backslash that stands before neither \"/\" nor \"\\\"");
+                throw badPath(text, "has a backslash that is not followed by \"/\" or \"\\\"");
             }
             names.back() += text[i];
         } else if (text[i] == '/') {

@@ -26,10 +26,11 @@ Options parseLine(const std::vector<std::string>& words, Format format) {
     auto parsed = parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), format);
     auto* const options = std::get_if<Options>(&parsed);
     if (options == nullptr || options->command == CommandKind::script) {
-        throw Failure(ExitStatus::usage, "This has no place in a script");
+        throw Failure(ExitStatus::usage, "This can't be used in a script");
     }
     if (namesAConnection(*options)) {
-        throw Failure(ExitStatus::usage, "Connection, settings and activity file are those of the whole script");
+        throw Failure(ExitStatus::usage,
+                      "Give connection, settings and activity file for the whole script, not for a line of it");
     }
     return std::move(*options);
 }

@@ -44,7 +44,7 @@ wire::WideString Session::value(const std::optional<std::string>& given, std::st
     const auto value = given ? std::optional(wire::toWide(*given)) : settings_.read(name);
     if (!value || value->empty()) {
         throw Failure(ExitStatus::noConnection,
-                      "Nothing is known of the server to log in to: give " + std::string(option));
+                      "The server or account to log in to is not known: give " + std::string(option));
     }
     return *value;
 }

@@ -50,7 +50,7 @@ Written AlarmProgramService::write(const protocol::WriteAlarmProgramRequest& req
             return refused(u"The alarm program does not exist any more.");
         }
         if (found->kind != kind::alarm) {
-            return refused(u"Counter programs belong to the server and stay as they are.");
+            return refused(u"Counter programs belong to the server and cannot be changed.");
         }
         record = found->record;
         if (request.name.empty() && request.comment.empty() && request.createdBy.empty()) {

@@ -16,7 +16,7 @@ const Handler* CommandTable::find(std::uint16_t opcode, Fields fields) const {
         }
     }
     if (known) {
-        throw BadRequest("command " + std::to_string(opcode) + " of a form that does not exist");
+        throw BadRequest("command " + std::to_string(opcode) + " in an unknown form");
     }
     return nullptr;
 }

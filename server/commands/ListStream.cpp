@@ -9,7 +9,7 @@ namespace server {
 std::int64_t announcedCount(std::int64_t count) {
     if (count > longestList) {
         log::warn("a list of " + std::to_string(count) + " records was cut to " + std::to_string(longestList) +
-                  ": consoles take no more");
+                  ": consoles accept no more");
     }
     return std::min(count, longestList);
 }

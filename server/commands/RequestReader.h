@@ -37,7 +37,7 @@ public:
         std::memcpy(&value, take(sizeof value).data(), sizeof value);
         if constexpr (std::floating_point<Number>) {
             if (!std::isfinite(value)) {
-                throw BadRequest("a fraction that is no number");
+                throw BadRequest("a fraction that is not a number");
             }
         }
         return value;
@@ -57,7 +57,7 @@ public:
         } catch (const BadRequest&) {
             throw;
         } catch (const std::exception&) {
-            throw BadRequest("an id that is no uuid");
+            throw BadRequest("an id that is not a uuid");
         }
     }
     [[nodiscard]] std::size_t remaining() const { return rest_.size(); }

@@ -28,7 +28,7 @@ StatusReply ConfigurationService::setComment(const protocol::SetConfigurationCom
     }
     // To a console a text ends at its first zero, so a comment that begins with one is empty there.
     if (request.comment.empty() || request.comment.front() == u'\0') {
-        return notSaved(u"A configuration needs a comment, by which it shows.");
+        return notSaved(u"A configuration needs a comment, which is its name.");
     }
     if (request.comment.size() > longestComment) {
         return notSaved(u"The comment is longer than " + wire::toWide(std::to_string(longestComment)) +

@@ -33,7 +33,7 @@ std::optional<DeploymentState> stateOf(const Request& request) {
 }
 
 StatusReply stateIsUnknown() {
-    return refused(u"A driver cannot be used and installed in this way.");
+    return refused(u"These settings for using and installing a driver are not valid.");
 }
 
 } // namespace

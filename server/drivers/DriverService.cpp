@@ -50,7 +50,7 @@ StatusReply DriverService::addModel(const protocol::AddDriverModelRequest& reque
 StatusReply DriverService::setVisible(const protocol::SetDriverModelVisibleRequest& request) {
     const auto visible = yesOrNo(request.visible);
     if (!visible) {
-        return refuse(u"A model is visible or not.");
+        return refuse(u"A model must be either visible or hidden.");
     }
     if (!models_.find(request.modelId)) {
         return modelIsGone();
@@ -77,7 +77,7 @@ StatusReply DriverService::addAlternate(const protocol::AddAlternateDriverReques
         return modelIsGone();
     }
     if (request.modelId == request.alternateModelId) {
-        return refuse(u"A model is no alternate of itself.");
+        return refuse(u"A model cannot be an alternate of itself.");
     }
     if (models_.isAlternate(request.modelId, request.alternateModelId)) {
         return refuse(quoted(alternate->record.name) + u" is an alternate of " + quoted(model->record.name) +

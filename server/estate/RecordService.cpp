@@ -97,7 +97,7 @@ protocol::CreateRecordReply RecordService::create(const protocol::CreateRecordRe
     auto& record = stored.record;
     const auto kind = storedType(record.recordType);
     if (!kind) {
-        return {.status = notSaved(u"This server keeps no records of this type."), .id = {}};
+        return {.status = notSaved(u"This server does not store records of this type."), .id = {}};
     }
     record.recordType = *kind;
     if (record.recordType == type::queue) {
@@ -152,7 +152,7 @@ StatusReply RecordService::move(const protocol::MovePrinterRequest& request) {
     }
     auto& record = found->record;
     if (record.recordType == type::queue) {
-        return notSaved(u"A queue stands in the region of its printer.");
+        return notSaved(u"A queue is always in the region of its printer.");
     }
     if (record.regionId == request.regionId) {
         return done();

@@ -97,10 +97,10 @@ StatusReply RegionService::remove(const protocol::DeleteRegionRequest& request) 
         return refuse(u"The region does not exist any more.");
     }
     if (regions.hasRegions(request.kind, region->id)) {
-        return refuse(u"The region " + quoted(region->name) + u" still holds regions.");
+        return refuse(u"The region " + quoted(region->name) + u" still contains regions.");
     }
     if (regions.hasRecords(request.kind, region->id)) {
-        return refuse(u"The region " + quoted(region->name) + u" still holds printers or queues.");
+        return refuse(u"The region " + quoted(region->name) + u" still contains printers or queues.");
     }
     regions.remove(region->id);
     return done();

@@ -27,7 +27,7 @@ void initCrypto() {
 Bytes randomBytes(std::size_t count) {
     Bytes bytes(count);
     if (rng_get_bytes(bytes.data(), static_cast<unsigned long>(count), nullptr) != count) {
-        throw std::runtime_error("the system gives no random numbers");
+        throw std::runtime_error("the system provides no random numbers");
     }
     return bytes;
 }
@@ -44,7 +44,7 @@ Bytes authenticationCode(const Bytes& key, const Bytes& bytes, const std::u16str
     auto size = static_cast<unsigned long>(code.size());
     require(hmac_memory(find_hash("sha256"), key.data(), static_cast<unsigned long>(key.size()), message.data(),
                         static_cast<unsigned long>(message.size()), code.data(), &size),
-            "proving a password");
+            "verifying a password");
     zeromem(message.data(), message.size());
     return code;
 }

@@ -14,7 +14,7 @@ void PeerLog::write(const asio::ip::address& address, std::string_view text) {
     const auto now = std::chrono::steady_clock::now();
     if (now - second_ > std::chrono::seconds(1)) {
         if (heldBack_ > 0) {
-            log::warn("lines about peers that were left out", std::to_string(heldBack_));
+            log::warn("lines about peers left out", std::to_string(heldBack_));
         }
         second_ = now;
         written_ = 0;

@@ -33,8 +33,7 @@ asio::awaitable<std::span<const std::uint8_t>> PeerStream::take(std::size_t coun
         const std::size_t got = co_await socket_.async_read_some(
             asio::buffer(input_.data() + end_, input_.size() - end_), asio::redirect_error(asio::use_awaitable, error));
         if (error) {
-            throw Dropped(dropReason_ != nullptr ? dropReason_
-                                                 : "it went away before its request was there as a whole");
+            throw Dropped(dropReason_ != nullptr ? dropReason_ : "it disconnected before its request was complete");
         }
         end_ += got;
     }
@@ -52,7 +51,7 @@ asio::awaitable<void> PeerStream::send(std::span<const std::uint8_t> bytes, std:
                                asio::redirect_error(asio::use_awaitable, error));
     sendingSince_ = Clock::time_point::max();
     if (error) {
-        throw Dropped(dropReason_ != nullptr ? dropReason_ : "it went away before it had its answer");
+        throw Dropped(dropReason_ != nullptr ? dropReason_ : "it disconnected before it received its answer");
     }
     deadline_ = Clock::time_point::max();
 }

@@ -43,11 +43,11 @@ RequestFrame parseRequestFrame(std::uint8_t count, std::span<const std::uint8_t>
             hasData = true;
             request.fields = message.subspan(wire::Message::headerSize);
         } else {
-            throw Dropped("a message of the frame does not belong there");
+            throw Dropped("the frame contains an unexpected message");
         }
     }
     if (!hasCommand) {
-        throw Dropped("the frame holds no command");
+        throw Dropped("the frame contains no command");
     }
     if (!data.empty()) {
         throw Dropped("the frame is longer than its messages");

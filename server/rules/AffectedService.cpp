@@ -25,7 +25,7 @@ protocol::StatusReply AffectedService::write(const protocol::WriteAffectedReques
         return ruleRefused(u"Only users and groups can be affected.");
     }
     if (record.equals > protocol::affectedSense::is) {
-        return ruleRefused(u"A user or group is affected or is not.");
+        return ruleRefused(u"A user or group must be either affected or not.");
     }
     return store(table, request.action, record);
 }

@@ -22,10 +22,10 @@ protocol::StatusReply PageLimitService::write(const protocol::WritePageLimitRequ
     }
     if (limit.color > protocol::limitedColor::last || limit.duplex > protocol::limitedDuplex::last ||
         limit.enforce > 1) {
-        return ruleRefused(u"There is no such color, duplex or enforce of a page limit.");
+        return ruleRefused(u"The color, duplex or enforce value of the page limit is not valid.");
     }
     if (limit.action > protocol::limitAction::last) {
-        return ruleRefused(u"There is no such action of a page limit.");
+        return ruleRefused(u"The action of the page limit is not valid.");
     }
     return store(limits, request.action, limit);
 }

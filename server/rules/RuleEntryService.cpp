@@ -75,15 +75,15 @@ StatusReply RuleEntryService::add(const protocol::AddRuleEntryRequest& request) 
     }
     const auto ownerId = ownerIdOf(request);
     if (request.ownerNumber == 0 && ownerId.empty() && !request.ownerId.empty()) {
-        return ruleRefused(u"The rule entry does not tell where its rule group is to be applied.");
+        return ruleRefused(u"The rule entry does not say where to apply its rule group.");
     }
     const auto owner =
         request.ownerNumber == 0 && !ownerId.empty() ? findOwner(ownerId) : findOwner(request.ownerNumber);
     if (!owner) {
-        return ruleRefused(u"What the rule entry is to be placed on does not exist any more.");
+        return ruleRefused(u"The owner of the rule entry does not exist any more.");
     }
     if (entry.type == appliesGroup && owner->groupId) {
-        return ruleRefused(u"A rule group cannot be applied inside of a rule group.");
+        return ruleRefused(u"A rule group cannot be applied inside another rule group.");
     }
     entries.insert(entry, *owner);
     return done();
@@ -98,7 +98,7 @@ StatusReply RuleEntryService::update(const protocol::UpdateRuleEntryRequest& req
         return isGone(ruleEntryWord);
     }
     if (request.entry.type == appliesGroup && entries.isInGroup(request.entry.id)) {
-        return ruleRefused(u"A rule group cannot be applied inside of a rule group.");
+        return ruleRefused(u"A rule group cannot be applied inside another rule group.");
     }
     entries.update(request.entry);
     return done();

@@ -30,7 +30,7 @@ protocol::StatusReply ShortIdService::write(std::uint8_t action, const protocol:
         return *refused;
     }
     if (shortId.reservedUntil && (*shortId.reservedUntil < 0 || *shortId.reservedUntil >= secondsOfDay)) {
-        return ruleRefused(u"A short id is reserved until a time of the day.");
+        return ruleRefused(u"A short id must be reserved until a time of day.");
     }
     return store(shortIds, action, shortId);
 }

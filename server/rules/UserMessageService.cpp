@@ -22,7 +22,7 @@ protocol::StatusReply UserMessageService::write(const protocol::WriteUserMessage
     }
     if (message.type < protocol::messageType::first || message.type > protocol::messageType::last ||
         message.icon > protocol::messageIcon::last) {
-        return ruleRefused(u"There is no such type or icon of a user message.");
+        return ruleRefused(u"The type or icon of the user message is not valid.");
     }
     const auto before = messages.find(message.id);
     message.builtIn = before && before->builtIn;

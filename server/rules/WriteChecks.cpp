@@ -17,7 +17,7 @@ StatusReply ruleRefused(const WideString& text) {
 
 Refused refuseId(const WideString& word, const std::string& id) {
     if (id.empty()) {
-        return ruleRefused(u"The " + word + u" comes without an id.");
+        return ruleRefused(u"The " + word + u" has no id.");
     }
     if (id.size() > longestId) {
         return ruleRefused(u"The id of the " + word + u" is too long.");
@@ -26,7 +26,7 @@ Refused refuseId(const WideString& word, const std::string& id) {
 }
 
 Refused refuseId(const WideString& word, const wire::Uuid& id) {
-    return id.is_nil() ? std::optional(ruleRefused(u"The " + word + u" comes without an id.")) : std::nullopt;
+    return id.is_nil() ? std::optional(ruleRefused(u"The " + word + u" has no id.")) : std::nullopt;
 }
 
 Refused refuseName(const WideString& word, const WideString& name) {

@@ -26,7 +26,7 @@ void checkVersion(const RequestFrame& request) {
         throw BadRequest(nameOf(request.opcode) + " does not exist");
     }
     if (command->version != request.version) {
-        throw BadRequest(nameOf(request.opcode) + " came in version " + std::to_string(request.version));
+        throw BadRequest(nameOf(request.opcode) + " was sent in version " + std::to_string(request.version));
     }
 }
 

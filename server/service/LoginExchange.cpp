@@ -45,7 +45,7 @@ asio::awaitable<void> LoginExchange::logIn(std::span<const std::uint8_t> fields)
         const bool known = co_await verify(sealed);
         status = known ? protocol::loginStatus::loggedIn : protocol::loginStatus::wrongCredentials;
     } else {
-        services_.log.write(address_, "a login of a console that does not match this server");
+        services_.log.write(address_, "a login from a console that does not match this server");
     }
     ReplyBuffer reply;
     reply.putFrame(protocol::LoginReply{.status = status});
@@ -56,7 +56,7 @@ asio::awaitable<bool> LoginExchange::verify(const SealedCredentials& sealed) {
     using Clock = LoginLedger::Clock;
     const auto wait = services_.ledger.beginTry(address_, Clock::now());
     if (!wait) {
-        services_.log.write(address_, "too many logins at a time, one was turned away");
+        services_.log.write(address_, "too many logins at once, one was rejected");
         co_return false;
     }
     if (*wait > Clock::duration::zero()) {

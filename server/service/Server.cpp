@@ -201,7 +201,7 @@ void Server::beginStopping() {
     for (const auto& connection : connections_) {
         connection->peer().endBy(endBy_);
         if (isSilent(*connection)) {
-            connection->peer().drop("the server ends");
+            connection->peer().drop("the server is stopping");
         }
     }
     watch_.cancel();

@@ -289,7 +289,7 @@ Complaints includesAcrossLayers(const SourceTree& tree) {
         }
         const auto folder = folderOf(file.path);
         if (!house().contains(folder)) {
-            complaints.push_back(file.path + ": the folder " + folder + " has no place in the house");
+            complaints.push_back(file.path + ": the folder " + folder + " is not listed in the layering");
             continue;
         }
         std::set<std::string> allowed;

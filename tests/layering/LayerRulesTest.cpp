@@ -70,8 +70,8 @@ TEST(LayerRules, nothingIncludesAHostOrATest) {
 
 TEST(LayerRules, aFolderThatTheHouseDoesNotKnowIsNamed) {
     EXPECT_THAT(includesAcrossLayers({{"src/misc/A.cpp", "\n"}, {"server/misc/A.h", "#pragma once\n"}}),
-                ElementsAre("src/misc/A.cpp: the folder src/misc has no place in the house",
-                            "server/misc/A.h: the folder server/misc has no place in the house"));
+                ElementsAre("src/misc/A.cpp: the folder src/misc is not listed in the layering",
+                            "server/misc/A.h: the folder server/misc is not listed in the layering"));
 }
 
 TEST(LayerRules, anIncludeOfAnUnknownFolderIsNamed) {

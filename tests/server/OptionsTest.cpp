@@ -106,8 +106,8 @@ TEST(PasswordFile, thatIsMissingOrEmptyOrAFolderIsTold) {
     EXPECT_EQ(messageOf(missing), missing.string() + ": the password file cannot be read");
     std::filesystem::create_directory(folder / "sub");
     EXPECT_NE(messageOf(folder / "sub").find("cannot be read"), std::string::npos);
-    EXPECT_NE(messageOf(folder.write("empty", "")).find("holds no password"), std::string::npos);
-    EXPECT_NE(messageOf(folder.write("line", "\n")).find("holds no password"), std::string::npos);
+    EXPECT_NE(messageOf(folder.write("empty", "")).find("contains no password"), std::string::npos);
+    EXPECT_NE(messageOf(folder.write("line", "\n")).find("contains no password"), std::string::npos);
 }
 
 TEST(PortFile, holdsThePortAndLeavesNothingBeside) {

@@ -24,7 +24,7 @@ WaitPanel::WaitPanel(QWidget& window)
     progress->setFixedWidth(90);
     progress->setAccessibleName(QStringLiteral("Working"));
     cancel_->setFocusPolicy(Qt::NoFocus); // the focus stays where it was; Escape does the same
-    cancel_->setToolTip(QStringLiteral("Gives up on this command (Esc)"));
+    cancel_->setToolTip(QStringLiteral("Cancel this command (Esc)"));
     connect(cancel_, &QPushButton::clicked, this, [this] {
         cancel_->setEnabled(false);
         if (onCancel) {

@@ -13,7 +13,7 @@ FilterBar::FilterBar(Operations& operations, shell::Observers& observers, QWidge
     : QLineEdit(parent), operations_(operations), observers_(observers) {
     setAccessibleName(QStringLiteral("Filter the list"));
     setPlaceholderText(QStringLiteral("Filter this list (Ctrl+F)"));
-    setToolTip(QStringLiteral("Shows only the rows that hold this text, in any column"));
+    setToolTip(QStringLiteral("Shows only the rows that contain this text, in any column"));
     setClearButtonEnabled(true);
     setMaxLength(1'000);
     connect(this, &QLineEdit::textChanged, this, [this] {

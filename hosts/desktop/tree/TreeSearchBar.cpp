@@ -9,7 +9,7 @@ namespace desktop {
 TreeSearchBar::TreeSearchBar(Operations& operations, QWidget* parent) : QLineEdit(parent), operations_(operations) {
     setAccessibleName(QStringLiteral("Find in the tree"));
     setPlaceholderText(QStringLiteral("Find in the tree (Ctrl+Shift+F)"));
-    setToolTip(QStringLiteral("Enter goes to the next item that holds this text"));
+    setToolTip(QStringLiteral("Enter goes to the next item that contains this text"));
     setClearButtonEnabled(true);
     setMaxLength(1'000);
     connect(this, &QLineEdit::textChanged, this, [this] {
@@ -39,8 +39,8 @@ void TreeSearchBar::findNext() {
     }
     if (found == 0) {
         say(lookEverywhere_
-                ? QStringLiteral("Nothing in the tree holds this text.")
-                : QStringLiteral("Nothing that was opened holds this text. Enter again looks into the rest as well."));
+                ? QStringLiteral("No item of the tree contains this text.")
+                : QStringLiteral("No item read so far contains this text. Press Enter again to search the rest, too."));
         lookEverywhere_ = !lookEverywhere_;
         return;
     }

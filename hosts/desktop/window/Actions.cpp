@@ -13,39 +13,40 @@ namespace desktop {
 using Glyph = GlyphIcon::Glyph;
 
 Actions::Actions(QWidget& window) : window_(window) {
-    back =
-        make(QStringLiteral("&Back"), QStringLiteral("To what was shown before"), QKeySequence(Qt::ALT | Qt::Key_Left));
+    back = make(QStringLiteral("&Back"), QStringLiteral("To go back to what was shown before"),
+                QKeySequence(Qt::ALT | Qt::Key_Left));
     back->setIcon(GlyphIcon::make(Glyph::back));
-    forward = make(QStringLiteral("&Forward"), QStringLiteral("To what was shown next"),
+    forward = make(QStringLiteral("&Forward"), QStringLiteral("To go forward to what was shown next"),
                    QKeySequence(Qt::ALT | Qt::Key_Right));
     forward->setIcon(GlyphIcon::make(Glyph::forward));
-    up = make(QStringLiteral("&Up"), QStringLiteral("To what this is a part of"), QKeySequence(Qt::ALT | Qt::Key_Up));
+    up = make(QStringLiteral("&Up"), QStringLiteral("To go to the item above this one"),
+              QKeySequence(Qt::ALT | Qt::Key_Up));
     up->setIcon(GlyphIcon::make(Glyph::up));
     refresh = make(QStringLiteral("&Refresh"), QStringLiteral("To read this from the server again"),
                    QKeySequence(Qt::Key_F5));
     refresh->setIcon(GlyphIcon::make(Glyph::refresh));
     cut =
         make(QStringLiteral("Cu&t"), QStringLiteral("To move this somewhere else"), QKeySequence(Qt::CTRL | Qt::Key_X));
-    paste =
-        make(QStringLiteral("&Paste"), QStringLiteral("To move here what was cut"), QKeySequence(Qt::CTRL | Qt::Key_V));
+    paste = make(QStringLiteral("&Paste"), QStringLiteral("To move what was cut to this place"),
+                 QKeySequence(Qt::CTRL | Qt::Key_V));
     rename = make(QStringLiteral("Re&name"), QStringLiteral("To give this another name"), QKeySequence(Qt::Key_F2));
     remove = make(QStringLiteral("&Delete"), QStringLiteral("To delete this"), QKeySequence(Qt::Key_Delete));
     copyText = make(QStringLiteral("&Copy Text"), QStringLiteral("To copy the selected row as text"),
                     QKeySequence(Qt::CTRL | Qt::Key_C));
-    exportList = make(QStringLiteral("&Export List..."), QStringLiteral("To write this list to a file, as it is shown"),
+    exportList = make(QStringLiteral("&Export List..."), QStringLiteral("To save this list to a file, as it is shown"),
                       QKeySequence(Qt::CTRL | Qt::Key_E));
     exportList->setIcon(GlyphIcon::make(Glyph::exportList));
-    filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only rows that hold a text"),
+    filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only rows that contain a text"),
                   QKeySequence(Qt::CTRL | Qt::Key_F));
     filter->setIcon(GlyphIcon::make(Glyph::filter));
     find = make(QStringLiteral("F&ind in Tree"), QStringLiteral("To go to an item of the tree by its name"),
                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
     find->setIcon(GlyphIcon::make(Glyph::find));
-    nextPane = make(QStringLiteral("&Next Pane"), QStringLiteral("To go on between tree, list and log"),
+    nextPane = make(QStringLiteral("&Next Pane"), QStringLiteral("To switch between tree, list and log"),
                     QKeySequence(Qt::Key_F6));
     resetColumns =
-        make(QStringLiteral("Reset &Columns"), QStringLiteral("To show the columns as they were at first"), {});
-    about = make(QStringLiteral("&About Vantrel Manager"), QStringLiteral("To see what this program is"), {});
+        make(QStringLiteral("Reset &Columns"), QStringLiteral("To show the columns as they were originally"), {});
+    about = make(QStringLiteral("&About Vantrel Manager"), QStringLiteral("To see information about this program"), {});
     quit = make(QStringLiteral("&Quit"), QStringLiteral("To close the program"), QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 

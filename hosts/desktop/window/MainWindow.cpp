@@ -120,7 +120,7 @@ void MainWindow::makeMenus() {
     view->addSeparator();
     QAction* const log = activity_->toggleViewAction();
     log->setText(QStringLiteral("Activity &Log"));
-    log->setStatusTip(QStringLiteral("To see what the console does with the server"));
+    log->setStatusTip(QStringLiteral("To see the commands that are sent to the server"));
     log->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
     log->setIcon(GlyphIcon::make(GlyphIcon::Glyph::log));
     view->addAction(log);
@@ -268,7 +268,7 @@ void MainWindow::sayAge() {
     }
     const auto time = session_.age().readAt();
     const QString rest =
-        time ? QStringLiteral(" The rows are those of %1.").arg(time->toString(QStringLiteral("hh:mm:ss"))) : QString();
+        time ? QStringLiteral(" The rows are from %1.").arg(time->toString(QStringLiteral("hh:mm:ss"))) : QString();
     panes_->notice().say(QStringLiteral("This list could not be read: %1.").arg(failure) + rest);
 }
 

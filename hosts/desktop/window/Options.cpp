@@ -22,8 +22,8 @@ void describe(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         QStringLiteral("The administration console of a Vantrel print server.\n\n"
                        "It asks for the login; with a password file or the environment variable VANTREL_PASSWORD the\n"
-                       "login goes without its dialog. A login that is cancelled ends the program with status 0; one\n"
-                       "that fails where nobody can answer (--screenshot) ends it with status 3."));
+                       "login needs no dialog. A cancelled login ends the program with status 0; one\n"
+                       "that fails when nobody can answer (--screenshot) ends it with status 3."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
@@ -32,9 +32,9 @@ void describe(QCommandLineParser& parser) {
         {"user", "User name.", "name"},
         {"domain", "Domain of the user.", "name"},
         {"password-file", "File whose first line is the password.", "file"},
-        {"settings", "File of the saved login, in place of the usual one.", "file"},
-        {"look", "light, dark or system (as the desktop has it).", "look", "system"},
-        {"screenshot", "Writes a picture of the window to the file (PNG) and ends.", "file"},
+        {"settings", "File of the saved login, instead of the usual one.", "file"},
+        {"look", "light, dark or system (like the desktop).", "look", "system"},
+        {"screenshot", "Saves a picture of the window to the file (PNG) and exits.", "file"},
         {"size", "Size of the window, for instance 1200x800.", "WxH"},
         {"scale", "Scale of everything, for instance 1.5.", "factor"},
         {"activity", "Shows the activity log."},

@@ -102,7 +102,7 @@ QString Panes::emptyText() const {
         return {};
     }
     if (pane.unfilteredCount() > 0) {
-        return QStringLiteral("The filter hides all of %1.\nEmpty it (Ctrl+F, Esc) to see them.")
+        return QStringLiteral("The filter hides all of %1.\nClear it (Ctrl+F, Esc) to see them.")
             .arg(StatusLine::countText(pane.unfilteredCount(), pane.unfilteredCount()));
     }
     return operations_.shell().header().columns().empty() ? QStringLiteral("There is nothing to list here.")

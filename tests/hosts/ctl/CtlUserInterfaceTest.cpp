@@ -112,7 +112,7 @@ TEST_F(CtlUserInterface, anAnswerWithoutAQuestionFails) {
 TEST_F(CtlUserInterface, stepsThatAreLeftOverFail) {
     give({press("OK")});
 
-    EXPECT_EQ(failure(), "Nothing was there to take the step --press \"OK\"");
+    EXPECT_EQ(failure(), "There was no form or message box for the step --press \"OK\"");
 }
 
 TEST_F(CtlUserInterface, noStepIsTakenAfterACommandHasFailed) {

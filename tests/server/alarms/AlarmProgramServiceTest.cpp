@@ -71,7 +71,7 @@ TEST(ProgramActionTable, counterProgramsBelongToTheServer) {
 
     const auto id = counters[0].id;
     EXPECT_EQ(place.programService().write({.id = id, .name = u"Mine", .comment = {}, .createdBy = {}}).status.text,
-              u"Counter programs belong to the server and stay as they are.");
+              u"Counter programs belong to the server and cannot be changed.");
     EXPECT_FALSE(isDone(place.programService().write({.id = id, .name = {}, .comment = {}, .createdBy = {}}).status));
     EXPECT_FALSE(isDone(place.addAction(id, "paper-jam", writeToLog)));
     EXPECT_EQ(place.programs(2), counters);

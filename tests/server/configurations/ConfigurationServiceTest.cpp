@@ -170,9 +170,9 @@ TEST_F(ConfigurationServiceTest, aCommentIsWrittenAndIsANameOfTheModelFromThenOn
 }
 
 TEST_F(ConfigurationServiceTest, aCommentThatCannotBeShownIsRefused) {
-    EXPECT_EQ(comment("c1", u"").text, u"A configuration needs a comment, by which it shows.");
+    EXPECT_EQ(comment("c1", u"").text, u"A configuration needs a comment, which is its name.");
     EXPECT_EQ(comment("c1", std::u16string(1, u'\0') + u"x").text,
-              u"A configuration needs a comment, by which it shows.");
+              u"A configuration needs a comment, which is its name.");
     EXPECT_EQ(comment("c1", std::u16string(10001, u'x')).text, u"The comment is longer than 10000 characters.");
     EXPECT_TRUE(isDone(comment("c1", std::u16string(10000, u'x'))));
     EXPECT_EQ(comment("c9", u"x").text, u"The configuration does not exist any more.");

@@ -111,11 +111,11 @@ TEST_F(DeploymentServiceTest, withBytesThatMeanNothingAreRefused) {
           &protocol::AddDriverDeploymentRequest::keepConfig}) {
         auto request = catalogue.request("d1", "m1");
         request.*member = 2;
-        EXPECT_EQ(refusedAdd(request), u"A driver cannot be used and installed in this way.");
+        EXPECT_EQ(refusedAdd(request), u"These settings for using and installing a driver are not valid.");
     }
     auto request = catalogue.request("d1", "m1");
     request.installMethod = 3;
-    EXPECT_EQ(refusedAdd(request), u"A driver cannot be used and installed in this way.");
+    EXPECT_EQ(refusedAdd(request), u"These settings for using and installing a driver are not valid.");
     EXPECT_TRUE(catalogue.deployed("m1").empty());
 }
 
@@ -194,7 +194,7 @@ TEST_F(DeploymentServiceTest, aChangeOfWhatIsGoneOrToWhatIsNothingIsRefused) {
     EXPECT_EQ(textOf(catalogue.deploymentService().update({.deploymentId = "gone"})),
               u"The deployment was removed in the meantime.");
     EXPECT_EQ(textOf(catalogue.deploymentService().update({.deploymentId = id, .installMethod = 3})),
-              u"A driver cannot be used and installed in this way.");
+              u"These settings for using and installing a driver are not valid.");
     EXPECT_FALSE(isDone(catalogue.deploymentService().update({.deploymentId = id, .use = 7})));
     EXPECT_EQ(catalogue.deployed("m1"), before);
 }

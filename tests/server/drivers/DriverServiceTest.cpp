@@ -91,7 +91,8 @@ TEST_F(DriverServiceTest, aHiddenModelThatAPrinterHasIsOfferedToDialogsSoThatThe
 }
 
 TEST_F(DriverServiceTest, aVisibilityThatIsNoneAndAnUnknownModelAreRefused) {
-    EXPECT_EQ(textOf(catalogue.service().setVisible({.visible = 2, .modelId = "m1"})), u"A model is visible or not.");
+    EXPECT_EQ(textOf(catalogue.service().setVisible({.visible = 2, .modelId = "m1"})),
+              u"A model must be either visible or hidden.");
     EXPECT_EQ(textOf(catalogue.service().setVisible({.visible = 0, .modelId = "m9"})),
               u"The model does not exist any more.");
 }
@@ -121,7 +122,7 @@ TEST_F(DriverServiceTest, alternatesAreListedByNameWhateverTheirBrandAndThoughTh
 
 TEST_F(DriverServiceTest, anAlternateIsLinkedOnceAndNeverToItself) {
     EXPECT_EQ(textOf(catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m1"})),
-              u"A model is no alternate of itself.");
+              u"A model cannot be an alternate of itself.");
     catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"});
     EXPECT_EQ(textOf(catalogue.service().addAlternate({.modelId = "m1", .alternateModelId = "m2"})),
               u"\"Two\" is an alternate of \"One\" already.");

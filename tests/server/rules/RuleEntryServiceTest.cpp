@@ -103,7 +103,7 @@ TEST(RuleEntryService, anEntryThatAppliesAGroupOnAPrinterIsFoundByItsParent) {
     const auto printer = place.addPrinter(u"P", place.addRegion(u"North"));
     place.addGroup("g1");
     const auto entry = RuleEstate::namedEntry("e1", entryType::ruleGroup, "g1");
-    EXPECT_EQ(place.place(entry, "g1").text, u"The rule entry does not tell where its rule group is to be applied.");
+    EXPECT_EQ(place.place(entry, "g1").text, u"The rule entry does not say where to apply its rule group.");
     EXPECT_TRUE(isDone(place.place(entry, "g1", 0, printer)));
     EXPECT_EQ(place.entryIds(printer), Ids{"e1"});
     EXPECT_EQ(place.entryIds("g1"), Ids{});

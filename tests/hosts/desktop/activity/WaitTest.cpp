@@ -72,7 +72,7 @@ TEST_F(Wait, aSlowCommandIsShownAndCanBeCancelled) {
     EXPECT_EQ(before, rows());
     EXPECT_TRUE(panes().notice().isVisible());
     EXPECT_TRUE(panes().notice().said().startsWith(
-        QStringLiteral("This list could not be read: Reading was cancelled. The rows are those of ")))
+        QStringLiteral("This list could not be read: Reading was cancelled. The rows are from ")))
         << panes().notice().said().toStdString();
     const auto& log = session().activity();
     EXPECT_EQ(client::CommandOutcome::cancelled, log[log.size() - 1].outcome);
@@ -152,7 +152,7 @@ TEST_F(Wait, aServerThatIsGoneLeavesTheOldRowsWithANote) {
     settle();
     EXPECT_EQ(before, rows());
     EXPECT_TRUE(panes().notice().isVisible());
-    EXPECT_TRUE(panes().notice().said().contains(QStringLiteral("The rows are those of ")));
+    EXPECT_TRUE(panes().notice().said().contains(QStringLiteral("The rows are from ")));
 }
 
 } // namespace

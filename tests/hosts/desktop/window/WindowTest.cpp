@@ -235,7 +235,7 @@ TEST_F(Window, searchingTheTreeGoesToWhatItFinds) {
     panes().search().onMessage = [&](const QString& message) { said += message; };
     QTest::keyClick(&panes().search(), Qt::Key_Return);
     settle();
-    EXPECT_TRUE(said.join(QString()).contains(QStringLiteral("Nothing that was opened")));
+    EXPECT_TRUE(said.join(QString()).contains(QStringLiteral("No item read so far")));
     QTest::keyClick(&panes().search(), Qt::Key_Return);
     settle();
     EXPECT_EQ(item("Printers/Berlin/Warehouse"), shell().selection().scope);
