@@ -87,7 +87,7 @@ Shows deploymentRemoved(const RemoveDriverDeploymentRequest& request, const Seen
                                                   &DriverDeploymentRecord::deploymentId, request.deploymentId);
 }
 
-// Ten zero bytes behind the id.
+// Whether ten zero bytes follow the id.
 bool removesDeployment(wire::Message& message) {
     static_cast<void>(message.getString());
     const auto rest = message.bytes().last(message.remaining());

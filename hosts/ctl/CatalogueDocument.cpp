@@ -13,8 +13,8 @@ using protocol::RecordLayout;
 
 constexpr auto commandsHead = R"(## All commands
 
-The fields in their order, and how they travel; the forms of a request that has several stand below each other. This
-chapter and the next are what `vantrelctl commands --markdown` prints.
+The fields in order, with their encoding; if a request has several forms, they are listed one below the other. This
+chapter and the next are the output of `vantrelctl commands --markdown`.
 
 | Op | Ver | Command | Does | Request | Reply |
 |---|---|---|---|---|---|
@@ -23,7 +23,7 @@ chapter and the next are what `vantrelctl commands --markdown` prints.
 constexpr auto recordsHead = R"(
 ## All records
 
-What lists hold, and what other records and requests hold as a part.
+The records of lists, and those contained in other records and requests.
 
 | Record | Fields |
 |---|---|

@@ -78,7 +78,7 @@ struct AddDriverDeploymentRequest {
 // Changes whether and how a deployed driver is used and installed.
 struct UpdateDriverDeploymentRequest {
     static constexpr std::uint16_t opcode = 16;
-    static constexpr std::string_view form = "all but ten zero bytes behind the id changes";
+    static constexpr std::string_view form = "anything but ten zero bytes after the id changes";
 
     std::string deploymentId;
     std::uint8_t use = 1;
@@ -95,11 +95,11 @@ struct UpdateDriverDeploymentRequest {
     bool operator==(const UpdateDriverDeploymentRequest&) const = default;
 };
 
-// Removes a deployment: the command that changes one, with ten zero bytes behind the id. It has to be exactly these,
+// Removes a deployment: the command that changes one, with ten zero bytes after the id. It has to be exactly these,
 // because nothing else distinguishes the two commands.
 struct RemoveDriverDeploymentRequest {
     static constexpr std::uint16_t opcode = 16;
-    static constexpr std::string_view form = "ten zero bytes behind the id remove";
+    static constexpr std::string_view form = "ten zero bytes after the id remove";
 
     std::string deploymentId;
     std::uint32_t zero1 = 0;
