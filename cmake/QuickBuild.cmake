@@ -108,9 +108,13 @@ function(vantrel_can_batch target source result)
     set(${result} ${can} PARENT_SCOPE)
 endfunction()
 
-# Writes the sources that include the given ones, and adds them to the list. Their paths are the same in every checkout,
-# so that objects can be reused between checkouts.
+# Writes the sources that include those named, and adds them to the list. The paths in them are the same in every checkout,
+# so that what one has compiled serves the others. Those of tests have a folder of their own, as clang-tidy's checks do.
 function(vantrel_write_batches name sources_variable)
+    set(folder ${PROJECT_BINARY_DIR}/batches)
+    if(name MATCHES "_tests_")
+        string(APPEND folder /tests)
+    endif()
     list(LENGTH ARGN total)
     math(EXPR batches "(${total} + ${VANTREL_BATCH} - 1) / ${VANTREL_BATCH}")
     set(sources ${${sources_variable}})
@@ -118,10 +122,10 @@ function(vantrel_write_batches name sources_variable)
         math(EXPR from "${total} * (${batch} - 1) / ${batches}")
         math(EXPR count "${total} * ${batch} / ${batches} - ${from}")
         list(SUBLIST ARGN ${from} ${count} members)
-        set(source ${PROJECT_BINARY_DIR}/batches/${name}_${batch}.cpp)
+        set(source ${folder}/${name}_${batch}.cpp)
         set(text "")
         foreach(member IN LISTS members)
-            cmake_path(RELATIVE_PATH member BASE_DIRECTORY ${PROJECT_BINARY_DIR}/batches)
+            cmake_path(RELATIVE_PATH member BASE_DIRECTORY ${folder})
             string(APPEND text "#include \"${member}\"\n")
         endforeach()
         file(CONFIGURE OUTPUT ${source} CONTENT "${text}" @ONLY)
@@ -160,6 +164,7 @@ endfunction()
 
 # Call this after all targets have been defined.
 function(vantrel_build_quickly)
+    configure_file(${PROJECT_SOURCE_DIR}/tests/.clang-tidy ${PROJECT_BINARY_DIR}/batches/tests/.clang-tidy COPYONLY)
     set(targets "")
     vantrel_collect_targets(${PROJECT_SOURCE_DIR} targets)
     if(VANTREL_PRECOMPILE)

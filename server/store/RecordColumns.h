@@ -36,7 +36,7 @@ template <protocol::Record R>
 }
 
 template <protocol::Record R>
-inline constexpr int columnCount = static_cast<int>(R::fields.count);
+inline constexpr int columnCount = static_cast<int>(decltype(R::fields)::count);
 
 // Binds each field from the index on; returns the next index.
 template <protocol::Record R>
