@@ -18,10 +18,15 @@ void Control::setLabel(wire::WideString label) {
 }
 
 void Control::setEnabled(bool enabled) {
-    if (enabled_ != enabled) {
+    if (enabled_ != enabled && !(enabled && disabledForGood_)) {
         enabled_ = enabled;
         changed(Aspect::enabled);
     }
+}
+
+void Control::disableForGood() {
+    disabledForGood_ = true;
+    setEnabled(false);
 }
 
 void Control::setVisible(bool visible) {

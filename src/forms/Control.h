@@ -66,11 +66,16 @@ protected:
     [[nodiscard]] bool takesInput() const;
 
 private:
+    friend class Form;
+    // From now on setEnabled enables it no more.
+    void disableForGood();
+
     Container& container_;
     wire::WideString label_;
     const Control* beside_ = nullptr;
     std::optional<int> resourceId_;
     bool enabled_ = true;
+    bool disabledForGood_ = false;
     bool visible_ = true;
 };
 

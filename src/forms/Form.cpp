@@ -40,7 +40,7 @@ void Form::open() {
     if (!std::exchange(opened_, true)) {
         const bool filled = guarded([this] { onInitDialog(); });
         if (!filled) {
-            ok_->setEnabled(false);
+            ok_->disableForGood();
         }
     }
 }

@@ -22,8 +22,8 @@ struct FormOptions {
 
 // A dialog without a screen: controls as members, handlers as functions. A dialog class derives from it; a host shows
 // it with UserInterface::runModal and never needs to know the class. Handlers run inside a guard: what they throw is
-// reported and dropped, and the form stays as it is. A form that failed to open cannot be confirmed: it would write
-// values that it could not read.
+// reported and dropped, and the form stays as it is. A form that failed to open cannot be confirmed, whatever its
+// handlers enable: it would write values that it could not read.
 class Form : public Container {
 public:
     [[nodiscard]] const wire::WideString& title() const { return title_; }

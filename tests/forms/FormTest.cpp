@@ -100,6 +100,28 @@ TEST_F(FormTest, whatCouldNotBeFilledCannotBeConfirmed) {
     EXPECT_TRUE(form.cancelButton().userPressed());
 }
 
+TEST_F(FormTest, whatCouldNotBeFilledCannotBeConfirmedWhateverItsHandlersEnable) {
+    form.opening = [] { throw wire::Cancelled(); };
+    form.name.onChange = [this] { form.okButton().setEnabled(true); };
+    form.open();
+
+    form.name.userTyped(u"Printer");
+
+    EXPECT_FALSE(form.okButton().enabled());
+    EXPECT_FALSE(form.okButton().userPressed());
+    EXPECT_THAT(host.changes, ElementsAre(Pair(&form.okButton(), Aspect::enabled)));
+}
+
+TEST_F(FormTest, whatWasFilledCanBeConfirmedOnceItsHandlersEnableThat) {
+    form.opening = [this] { form.okButton().setEnabled(false); };
+    form.name.onChange = [this] { form.okButton().setEnabled(true); };
+    form.open();
+
+    form.name.userTyped(u"Printer");
+
+    EXPECT_TRUE(form.okButton().userPressed());
+}
+
 TEST_F(FormTest, itsStandardButtonsAreKnownByTheirIdsAndOthersByNone) {
     EXPECT_EQ(form.okButton().resourceId(), idOk);
     EXPECT_EQ(form.cancelButton().resourceId(), idCancel);
