@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/CQVXAdminClass.h"
 #include "console/CBaseNodeItem.h"
 
 #include <array>
@@ -9,8 +10,8 @@
 namespace console {
 
 // The base of a class T whose node lists the records of one kind, a Row each, whenever it is shown. T declares as
-// constants its `titles` and `newEntry`, the menu entry that makes a record, and implements how the records are listed
-// and which dialog makes one.
+// constants its `titles` and `newEntry`, the menu entry that makes a record, and implements how the records are listed.
+// The Row's Dialog makes one, as a Dialog(platform).
 template <class T, class Row>
 class RecordList : public CBaseNodeItem<T> {
 public:
@@ -23,8 +24,14 @@ public:
 
 protected:
     // False when the server did not answer: then there are no rows.
-    virtual bool listRecords(std::vector<Record>& records) = 0;
-    virtual void openEditor() = 0;
+    virtual bool listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) = 0;
+    // Does nothing if the Row has no Dialog.
+    virtual void openEditor() {
+        if constexpr (requires { typename Row::Dialog; }) {
+            typename Row::Dialog dialog(this->platform());
+            this->runModal(dialog);
+        }
+    }
 
     const NodeArray<Row>& recordRows() const { return rows_; }
     void addRow(Record record) {
@@ -37,8 +44,9 @@ protected:
     [[nodiscard]] RowReading rowReading() const override { return RowReading::whenShown; }
     void readRows() override {
         auto before = std::exchange(rows_, {});
+        client::CQVXAdminClass client;
         std::vector<Record> records;
-        if (listRecords(records)) {
+        if (listRecords(client, records)) {
             rows_ = this->template rowsFor<Row>(std::move(records), std::move(before));
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/CQVXAdminClass.h"
 #include "console/CBaseNodeItem.h"
 #include "console/RecordCell.h"
 #include "wire/WireUuid.h"
@@ -22,8 +23,9 @@ struct RowCommands {
 };
 
 // The base of a class T whose nodes stand for a record of the server each, as rows of a list. T declares as constants
-// the `cells` after the name and its `rowCommands`, and implements which dialog edits the record and how the server
-// deletes it. If the record's name or key is not in `name` or `id`, T has its own nameOf or keyOf.
+// the `cells` after the name and its `rowCommands`, as `Dialog` the form that edits the record, made as a
+// Dialog(platform, record), and implements how the server deletes it. If the record's name or key is not in `name` or
+// `id`, T has its own nameOf or keyOf.
 template <class T, class RecordType>
 class RecordRow : public CBaseNodeItem<T> {
 public:
@@ -50,8 +52,14 @@ public:
 
 protected:
     const Record& record() const { return record_; }
-    virtual void openEditor() = 0;
-    virtual void deleteRecord() = 0;
+    // Does nothing if T has no Dialog.
+    virtual void openEditor() {
+        if constexpr (requires { typename T::Dialog; }) {
+            typename T::Dialog dialog(this->platform(), record_);
+            this->runModal(dialog);
+        }
+    }
+    virtual void deleteRecord(client::CQVXAdminClass& client) = 0;
 
     std::span<const NodeCommand<T>> commands() const override {
         static constexpr std::array table{NodeCommand<T>{.entry = T::rowCommands.edit, .run = &RecordRow::edit},
@@ -67,7 +75,8 @@ protected:
         if (!this->confirm(T::rowCommands.question)) {
             return Result::notDone;
         }
-        deleteRecord();
+        client::CQVXAdminClass client;
+        deleteRecord(client);
         this->press(T::rowCommands.keysAfterRemove);
         return Result::ok;
     }

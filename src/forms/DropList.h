@@ -23,7 +23,7 @@ struct DropListOptions {
 };
 
 // A drop-down list of which at most one row is selected. No text can be typed into it.
-class DropList final : public Control {
+class DropList : public Control {
 public:
     DropList(Container& container, std::u16string_view label, DropListOptions options = {});
     void accept(ControlVisitor& visitor) override;

@@ -1,55 +1,39 @@
 #include "rules/AddRuleEntryDlg.h"
 
-#include "client/CQVXAdminClass.h"
-#include "client/rules/NewRecord.h"
 #include "protocol/rules/RuleEntry.h"
 
 #include <utility>
 
 namespace rules {
 
-using protocol::RuleEntryRecord;
-
-AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place)
-    : AddRuleEntryDlg(platform, mode, std::move(place), false, client::newRecord<RuleEntryRecord>()) {
-    fields.entry.parentId = place_.parentId;
-}
-
-AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, RuleEntryRecord entry)
-    : AddRuleEntryDlg(platform, mode, std::move(place), true, std::move(entry)) {}
-
-AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place, bool editing,
-                                 RuleEntryRecord entry)
-    : Form(platform, u"Add Rule"),
-      fields(*this, std::move(entry),
-             mode == Mode::group ? RuleEntryFields::Types::withinGroup : RuleEntryFields::Types::all),
+AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place,
+                                 std::optional<Record> edited)
+    : RecordForm(platform, {u"Add Rule", u"Add Rule"}, std::move(edited), newEntryAt(place)),
+      fields(*this, record_, mode == Mode::group ? RuleEntryFields::Types::withinGroup : RuleEntryFields::Types::all),
       mode_(mode),
-      place_(std::move(place)),
-      editing_(editing) {}
-
-void AddRuleEntryDlg::onOk() {
-    // "shoud" must stay.
-    if (!fields.take(u"Name field shoud not be blank!")) {
-        return;
-    }
-    // A rule group on a region is sent with the group as its owner and the number of the region; this must stay.
-    auto place = place_;
-    if (fields.entry.type == protocol::ruleEntryType::ruleGroup) {
-        place.ownerId = fields.entry.targetId;
-    }
-    write(place);
-    listAgain(place);
-    EndDialog(forms::idOk);
+      place_(std::move(place)) {
+    onWritten = [this](const Record& /*written*/) { listAgain(placeToWrite()); };
 }
 
-void AddRuleEntryDlg::write(const RuleEntryPlace& place) const {
-    client::CQVXAdminClass client;
-    if (editing_) {
-        client.updateRuleEntry(fields.entry);
-    } else if (mode_ == Mode::group) {
-        client.addRuleEntry(0, place.parentId, place.ownerId, fields.entry);
+bool AddRuleEntryDlg::take() {
+    return fields.take(u"Name field shoud not be blank!"); // "shoud" must stay
+}
+
+// A rule group on a region is sent with the group as its owner and the number of the region; this must stay.
+RuleEntryPlace AddRuleEntryDlg::placeToWrite() const {
+    auto place = place_;
+    if (record_.type == protocol::ruleEntryType::ruleGroup) {
+        place.ownerId = record_.targetId;
+    }
+    return place;
+}
+
+void AddRuleEntryDlg::addRecord(client::CQVXAdminClass& client) {
+    const auto place = placeToWrite();
+    if (mode_ == Mode::group) {
+        client.addRuleEntry(0, place.parentId, place.ownerId, record_);
     } else {
-        client.addRuleEntry(place.ownerNumber, {}, place.ownerId, fields.entry);
+        client.addRuleEntry(place.ownerNumber, {}, place.ownerId, record_);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "rules/AffectedDlg.h"
 
-#include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 
@@ -9,54 +8,32 @@
 namespace rules {
 namespace {
 
-using protocol::AffectedRecord;
-
-namespace sense = protocol::affectedSense;
-using protocol::affectedType::group;
-using protocol::affectedType::user;
-constexpr std::size_t userRow = 1;
-constexpr std::size_t isRow = 1;
+protocol::AffectedRecord newAffected() {
+    auto affected = client::newRecord<protocol::AffectedRecord>();
+    affected.type = protocol::affectedType::group;
+    return affected;
+}
 
 } // namespace
 
-AffectedDlg::AffectedDlg(platform::Platform& platform, Opener opener)
-    : Form(platform, u"Affected"), editing_(false), opener_(opener), affected_(client::newRecord<AffectedRecord>()) {}
-
-AffectedDlg::AffectedDlg(platform::Platform& platform, Opener opener, AffectedRecord affected)
-    : Form(platform, u"Affected"), editing_(true), opener_(opener), affected_(std::move(affected)) {}
+AffectedDlg::AffectedDlg(platform::Platform& platform, std::optional<Record> edited)
+    : RecordForm(platform, {u"Affected", u"Affected"}, std::move(edited), newAffected()) {}
 
 void AffectedDlg::onInitDialog() {
-    type.addItem(u"Group");
-    type.addItem(u"User");
-    equals.addItem(u"IS NOT");
-    equals.addItem(u"IS");
-    name.setText(affected_.name);
-    type.select(editing_ && affected_.type == user ? userRow : 0);
-    equals.select(!editing_ || affected_.equals == sense::is ? isRow : 0);
+    name.setText(record_.name);
+    type.selectValue(record_.type);
+    equals.selectValue(record_.equals);
 }
 
-void AffectedDlg::onOk() {
+bool AffectedDlg::take() {
     if (name.text().empty()) {
         forms::refuseBlank(name, u"Name field should not be blank!");
-        return;
+        return false;
     }
-    affected_.name = name.text();
-    affected_.type = type.selection() == userRow ? user : group;
-    affected_.equals = equals.selection() == isRow ? sense::is : sense::isNot;
-    client::CQVXAdminClass client;
-    if (editing_) {
-        client.updateAffected(affected_);
-    } else {
-        client.addAffected(affected_);
-    }
-    tellOpener();
-    EndDialog(forms::idOk);
-}
-
-void AffectedDlg::tellOpener() {
-    client::CQVXAdminClass client;
-    client.listAffected(opener_.list);
-    opener_.saved.become(affected_.name, opener_.list, affected_.id, &AffectedRecord::id);
+    record_.name = name.text();
+    record_.type = type.value().value_or(protocol::affectedType::group);
+    record_.equals = equals.value().value_or(protocol::affectedSense::isNot);
+    return true;
 }
 
 } // namespace rules

@@ -1,41 +1,28 @@
 #pragma once
 
-#include "forms/DropList.h"
+#include "forms/ChoiceList.h"
 #include "forms/EditBox.h"
-#include "forms/Form.h"
+#include "forms/RecordForm.h"
 #include "protocol/rules/Affected.h"
-#include "rules/SavedChoice.h"
-
-#include <vector>
 
 namespace rules {
 
 // Creates or edits whom a rule affects: a user, a group, or all except one of these.
-class AffectedDlg final : public forms::Form {
+class AffectedDlg final : public forms::RecordForm<protocol::AffectedRecord> {
 public:
-    // The dialog of a rule that opened this one and is updated with the result. All of it outlives the form.
-    struct Opener {
-        std::vector<protocol::AffectedRecord>& list; // read again once the record is written
-        SavedChoice& saved;                          // set to the record
-    };
-
-    AffectedDlg(platform::Platform& platform, Opener opener);
-    AffectedDlg(platform::Platform& platform, Opener opener, protocol::AffectedRecord affected);
+    explicit AffectedDlg(platform::Platform& platform, std::optional<Record> edited = {});
 
     forms::EditBox name{*this, u"Name"};
-    forms::DropList type{*this, u"Type"};
-    forms::DropList equals{*this, u"Equals"};
+    forms::ChoiceList<std::uint8_t> type{
+        *this, u"Type", {{protocol::affectedType::group, u"Group"}, {protocol::affectedType::user, u"User"}}};
+    forms::ChoiceList<std::uint8_t> equals{
+        *this, u"Equals", {{protocol::affectedSense::isNot, u"IS NOT"}, {protocol::affectedSense::is, u"IS"}}};
 
 protected:
     void onInitDialog() override;
-    void onOk() override;
-
-private:
-    void tellOpener();
-
-    bool editing_;
-    Opener opener_;
-    protocol::AffectedRecord affected_;
+    bool take() override;
+    void addRecord(client::CQVXAdminClass& client) override { client.addAffected(record_); }
+    void updateRecord(client::CQVXAdminClass& client) override { client.updateAffected(record_); }
 };
 
 } // namespace rules

@@ -54,14 +54,21 @@ std::u16string_view AffectedList::deleteQuestion() const {
 }
 
 void AffectedList::make() {
-    AffectedDlg dialog(list.form().platform(), {.list = records_, .saved = saved_});
-    list.form().runModal(dialog);
-    fill();
+    AffectedDlg dialog(list.form().platform());
+    run(dialog);
 }
 
 void AffectedList::edit(std::size_t record) {
     saved_ = {.index = record, .name = records_[record].name};
-    AffectedDlg dialog(list.form().platform(), {.list = records_, .saved = saved_}, records_[record]);
+    AffectedDlg dialog(list.form().platform(), records_[record]);
+    run(dialog);
+}
+
+void AffectedList::run(AffectedDlg& dialog) {
+    dialog.onWritten = [this](const AffectedRecord& written) {
+        read();
+        saved_.become(written, records_);
+    };
     list.form().runModal(dialog);
     fill();
 }

@@ -9,6 +9,8 @@
 
 namespace rules {
 
+class AffectedDlg;
+
 // The list of users and groups that a rule can affect, in a dialog of a rule.
 class AffectedList final : public forms::EditableList {
 public:
@@ -39,6 +41,7 @@ private:
     void make() override;
     void edit(std::size_t record) override;
     void remove(std::size_t record) override;
+    void run(AffectedDlg& dialog);
 
     std::vector<protocol::AffectedRecord> records_;
     SavedChoice saved_;

@@ -47,14 +47,14 @@ std::optional<wire::Uuid> MessageControl::selectedId() const {
 void MessageControl::make() {
     NewMessageDlg dialog(list.form().platform());
     if (list.form().runModal(dialog) == forms::idOk) {
-        fill(dialog.message().id);
+        fill(dialog.record().id);
     }
 }
 
 void MessageControl::edit(std::size_t record) {
     NewMessageDlg dialog(list.form().platform(), messages_[record]);
     if (list.form().runModal(dialog) == forms::idOk) {
-        fill(dialog.message().id);
+        fill(dialog.record().id);
     }
 }
 

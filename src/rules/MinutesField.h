@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/DropList.h"
+#include "forms/ChoiceList.h"
 #include "forms/EditBox.h"
 #include "forms/Label.h"
 
@@ -14,8 +14,6 @@ class MinutesField {
 public:
     MinutesField(forms::Container& container, const forms::Control& owner, std::u16string_view remark);
 
-    // Fills the list of units, which is empty before.
-    void open();
     // Shows the minutes in the largest unit that needs no fraction; none leaves the number empty.
     void show(std::optional<std::uint32_t> minutes);
     // Sets three hours if there is no number.
@@ -25,7 +23,7 @@ public:
     void setEnabled(bool enabled);
 
     forms::EditBox number;
-    forms::DropList unit;
+    forms::ChoiceList<std::uint32_t> unit; // in minutes
     forms::Label remark;
 };
 

@@ -1,6 +1,5 @@
 #include "rules/NewMessageDlg.h"
 
-#include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 
@@ -9,38 +8,17 @@
 namespace rules {
 namespace {
 
-using protocol::messageType::webPage;
-
-constexpr std::size_t webPageRow = 2;
 constexpr std::u16string_view emptyField = u"A required field is empty!";
 
 } // namespace
 
-NewMessageDlg::NewMessageDlg(platform::Platform& platform)
-    : Form(platform, u"New message"), editing_(false), message_(client::newRecord<protocol::UserMessageRecord>()) {}
-
-NewMessageDlg::NewMessageDlg(platform::Platform& platform, protocol::UserMessageRecord message)
-    : Form(platform, u"New message"), editing_(true), message_(std::move(message)) {}
+NewMessageDlg::NewMessageDlg(platform::Platform& platform, std::optional<Record> edited)
+    : RecordForm(platform, {u"New message", u"Edit Message"}, std::move(edited), client::newRecord<Record>()) {}
 
 void NewMessageDlg::onInitDialog() {
-    for (const auto* const label : {u"OK", u"Warning", u"Stop", u"Info"}) {
-        icon.addItem(label);
-    }
-    for (const auto* const label : {u"Message box", u"Balloon", u"Web page"}) {
-        type.addItem(label);
-    }
-    icon.select(0);
-    type.select(0);
     type.onSelect = [this] { typeChanged(); };
-    if (editing_) {
-        setTitle(u"Edit Message");
-        showMessage();
-    }
+    showMessage();
     enableFields();
-}
-
-bool NewMessageDlg::isWebPage() const {
-    return type.selection() == webPageRow;
 }
 
 void NewMessageDlg::enableFields() {
@@ -59,35 +37,25 @@ void NewMessageDlg::typeChanged() {
 }
 
 void NewMessageDlg::showMessage() {
-    if (message_.type >= 1 && message_.type <= webPage) {
-        type.select(message_.type - 1);
-    }
-    name.setText(message_.name);
+    type.selectValue(record_.type);
+    name.setText(record_.name);
     if (isWebPage()) {
-        url.setText(message_.text);
+        url.setText(record_.text);
     } else {
-        caption.setText(message_.caption);
-        text.setText(message_.text);
+        caption.setText(record_.caption);
+        text.setText(record_.text);
     }
-    if (message_.icon <= protocol::messageIcon::last) {
-        icon.select(message_.icon);
-    }
+    icon.selectValue(record_.icon);
 }
 
-void NewMessageDlg::onOk() {
+bool NewMessageDlg::take() {
     if (!takeNames()) {
-        return;
+        return false;
     }
-    message_.type = static_cast<std::uint32_t>(type.selection().value_or(0) + 1);
-    message_.text = isWebPage() ? url.text() : text.text();
-    message_.icon = static_cast<std::uint32_t>(icon.selection().value_or(0));
-    client::CQVXAdminClass client;
-    if (editing_) {
-        client.updateUserMessage(message_);
-    } else {
-        client.addUserMessage(message_);
-    }
-    EndDialog(forms::idOk);
+    record_.type = type.value().value_or(protocol::messageType::box);
+    record_.text = isWebPage() ? url.text() : text.text();
+    record_.icon = icon.value().value_or(protocol::messageIcon::ok);
+    return true;
 }
 
 // A web page keeps the caption that it had as another type. A message with only a caption gets that as its name.
@@ -97,15 +65,15 @@ bool NewMessageDlg::takeNames() {
             forms::refuseBlank(name, u"Name cannot be blank!", emptyField);
             return false;
         }
-        message_.name = name.text();
+        record_.name = name.text();
         return true;
     }
     if (name.text().empty() && caption.text().empty()) {
         forms::refuseBlank(name, u"Please enter either name or caption!", emptyField);
         return false;
     }
-    message_.name = name.text().empty() ? caption.text() : name.text();
-    message_.caption = caption.text();
+    record_.name = name.text().empty() ? caption.text() : name.text();
+    record_.caption = caption.text();
     return true;
 }
 

@@ -1,38 +1,28 @@
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ChoiceList.h"
+#include "forms/RecordForm.h"
 #include "protocol/rules/PricePlan.h"
 #include "protocol/rules/RuleEntry.h"
 #include "rules/PapersGroup.h"
-#include "rules/SavedChoice.h"
-
-#include <optional>
-#include <vector>
 
 namespace rules {
 
 // Creates or edits a price plan: its general figures, and the prices of papers and areas.
-class NewPricePlanDlg final : public forms::Form {
+class NewPricePlanDlg final : public forms::RecordForm<protocol::PricePlanRecord> {
 public:
-    // The dialog of a rule that opened this one and is updated with the result. All of it outlives the form.
-    struct Opener {
-        std::vector<protocol::PricePlanRecord>& plans; // read again once the plan is written
-        SavedChoice& saved;                            // set to the plan
-        protocol::RuleEntryRecord entry;               // its target becomes the plan
-    };
-
-    explicit NewPricePlanDlg(platform::Platform& platform);
-    NewPricePlanDlg(platform::Platform& platform, protocol::PricePlanRecord plan);
-    NewPricePlanDlg(platform::Platform& platform, Opener opener);
-    NewPricePlanDlg(platform::Platform& platform, Opener opener, protocol::PricePlanRecord plan);
-
-    // As it was sent to the server, once the form has ended with OK.
-    [[nodiscard]] const protocol::PricePlanRecord& plan() const { return plan_; }
+    explicit NewPricePlanDlg(platform::Platform& platform, std::optional<Record> edited = {});
 
     forms::Group general{*this, u"Plan"};
     forms::EditBox name{general, u"Name", {.limit = 64}};
     forms::EditBox comment{general, u"Comment", {.limit = 128}};
-    forms::DropList payMethod{general, u"Pay method"};
+    forms::ChoiceList<std::uint8_t> payMethod{
+        general,
+        u"Pay method",
+        {{protocol::payMethod::log, u"Log"},
+         {protocol::payMethod::wallet, u"Wallet"},
+         {protocol::payMethod::externalDebit, u"External Debit"},
+         {protocol::payMethod::walletAndExternalDebit, u"Wallet and external debit"}}};
     PriceBox defaultPrice{general, platform().locale, u"Default price"};
     forms::EditBox vat{general, u"VAT (%)"};
     forms::Group multipliers{*this, u"Multipliers"};
@@ -44,21 +34,19 @@ public:
 
 protected:
     void onInitDialog() override;
-    void onOk() override;
+    bool take() override;
+    void addRecord(client::CQVXAdminClass& client) override { client.addPricePlan(record_, papers.rows()); }
+    void updateRecord(client::CQVXAdminClass& client) override { client.updatePricePlan(record_, papers.rows()); }
 
 private:
-    NewPricePlanDlg(platform::Platform& platform, bool isNew, protocol::PricePlanRecord plan,
-                    std::optional<Opener> opener);
-
     void showPlan();
-    void takePlan();
-    void tellOpener();
 
-    bool isNew_;
-    protocol::PricePlanRecord plan_;
-    std::optional<Opener> opener_;
     bool knowsPrices_; // whether the server's prices are loaded: without them the plan would lose them
     wire::WideString shownVat_;
 };
+
+// Makes a plan the target of the rule entry that it was written for. The entry is updated on the server, although it
+// may not exist there yet if the rule is new; this must stay.
+void pointAt(const protocol::PricePlanRecord& plan, protocol::RuleEntryRecord entry);
 
 } // namespace rules

@@ -1,6 +1,5 @@
 #include "rules/NewRuleGroupDlg.h"
 
-#include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
@@ -16,11 +15,8 @@ namespace rules {
 
 using protocol::RuleEntryRecord;
 
-NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform)
-    : Form(platform, u"New Rule Group"), isNew_(true), group_(client::newRecord<protocol::RuleGroupRecord>()) {}
-
-NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform, protocol::RuleGroupRecord group)
-    : Form(platform, u"New Rule Group"), isNew_(false), group_(std::move(group)) {}
+NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform, std::optional<Record> edited)
+    : RecordForm(platform, {u"New Rule Group", u"Edit Rule Group"}, std::move(edited), client::newRecord<Record>()) {}
 
 void NewRuleGroupDlg::onInitDialog() {
     entries.setColumns({{u"Rule Type", 100}, {u"Rule Name", 150}, {u"Rule Affected", 200}});
@@ -29,35 +25,31 @@ void NewRuleGroupDlg::onInitDialog() {
     removeButton.onPress = [this] { remove(); };
     editButton.onPress = [this] { edit(); };
     enableButtons();
-    if (isNew_) {
+    if (isNew()) {
         client::CQVXAdminClass client;
-        client.addRuleGroup(group_);
-    } else {
-        setTitle(u"Edit Rule Group");
-        name.setText(group_.name);
-        comment.setText(group_.comment);
+        client.addRuleGroup(record_);
     }
+    name.setText(record_.name);
+    comment.setText(record_.comment);
     listEntries();
 }
 
-void NewRuleGroupDlg::onOk() {
+bool NewRuleGroupDlg::take() {
     if (name.text().empty()) {
         forms::refuseBlank(name, u"Group name can not be empty, please provide a group name",
                            u"Required field is empty");
-        return;
+        return false;
     }
-    group_.name = name.text();
-    group_.comment = comment.text();
-    client::CQVXAdminClass client;
-    client.updateRuleGroup(group_);
-    EndDialog(forms::idOk);
+    record_.name = name.text();
+    record_.comment = comment.text();
+    return true;
 }
 
 // The server removes the entries with their group. The result is the same as for OK, which must stay.
 void NewRuleGroupDlg::onCancel() {
-    if (isNew_ && !group_.id.empty()) {
+    if (isNew() && !record_.id.empty()) {
         client::CQVXAdminClass client;
-        client.deleteRuleGroup(group_.id);
+        client.deleteRuleGroup(record_.id);
     }
     EndDialog(forms::idOk);
 }
@@ -69,7 +61,7 @@ const RuleEntryRecord* NewRuleGroupDlg::selectedEntry() const {
 
 void NewRuleGroupDlg::listEntries() {
     client::CQVXAdminClass client;
-    client.listRuleEntries(group_.id, 0, entries_);
+    client.listRuleEntries(record_.id, 0, entries_);
     showEntries();
 }
 
@@ -144,9 +136,11 @@ void NewRuleGroupDlg::editPricePlan(const RuleEntryRecord& entry) {
     client::CQVXAdminClass client;
     client.listPricePlans(plans, entry.targetId);
     if (plans.size() == 1) {
-        SavedChoice saved;
-        const auto plan = plans.front();
-        NewPricePlanDlg dialog(platform(), {.plans = plans, .saved = saved, .entry = entry}, plan);
+        NewPricePlanDlg dialog(platform(), plans.front());
+        dialog.onWritten = [&](const auto& plan) {
+            pointAt(plan, entry);
+            client.listPricePlans(plans); // although nobody shows them here; this must stay
+        };
         runModal(dialog);
     }
 }

@@ -2,8 +2,8 @@
 
 #include "forms/Button.h"
 #include "forms/EditBox.h"
-#include "forms/Form.h"
 #include "forms/ListView.h"
+#include "forms/RecordForm.h"
 #include "protocol/rules/RuleEntry.h"
 #include "protocol/rules/RuleGroup.h"
 #include "rules/RuleEntryPlace.h"
@@ -14,10 +14,9 @@ namespace rules {
 
 // Creates or edits a rule group with its entries. A new group is on the server as soon as the form opens, because its
 // entries need an owner; until the form ends it is there without a name, visible to everybody.
-class NewRuleGroupDlg final : public forms::Form {
+class NewRuleGroupDlg final : public forms::RecordForm<protocol::RuleGroupRecord> {
 public:
-    explicit NewRuleGroupDlg(platform::Platform& platform);
-    NewRuleGroupDlg(platform::Platform& platform, protocol::RuleGroupRecord group);
+    explicit NewRuleGroupDlg(platform::Platform& platform, std::optional<Record> edited = {});
 
     forms::EditBox name{*this, u"Group Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Group Comment", {.limit = 255}};
@@ -28,11 +27,13 @@ public:
 
 protected:
     void onInitDialog() override;
-    void onOk() override;
+    bool take() override;
+    void addRecord(client::CQVXAdminClass& client) override { updateRecord(client); }
+    void updateRecord(client::CQVXAdminClass& client) override { client.updateRuleGroup(record_); }
     void onCancel() override;
 
 private:
-    RuleEntryPlace place() { return {.entries = entries_, .ownerId = group_.id, .ownerNumber = 0, .parentId = {}}; }
+    RuleEntryPlace place() { return {.entries = entries_, .ownerId = record_.id, .ownerNumber = 0, .parentId = {}}; }
     // Null without a selection, and for an entry without an id.
     [[nodiscard]] const protocol::RuleEntryRecord* selectedEntry() const;
     void listEntries();
@@ -44,8 +45,6 @@ private:
     void editPageLimit(const protocol::RuleEntryRecord& entry);
     void editPricePlan(const protocol::RuleEntryRecord& entry);
 
-    bool isNew_;
-    protocol::RuleGroupRecord group_;
     std::vector<protocol::RuleEntryRecord> entries_;
 };
 

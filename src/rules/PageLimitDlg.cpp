@@ -1,14 +1,11 @@
 #include "rules/PageLimitDlg.h"
 
-#include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 #include "protocol/rules/PaperCode.h"
 #include "rules/SearchDestinationDlg.h"
 
 #include <algorithm>
-#include <array>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,42 +17,12 @@ using protocol::PageLimitRecord;
 
 namespace limitAction = protocol::limitAction;
 
-struct Action {
-    std::u16string_view label;
-    std::uint8_t value;
-};
-
-// In the order of the list, where the last two are in the reverse order of their numbers; this must stay.
-constexpr std::array<Action, 7> actions = {{{u"Do nothing", limitAction::nothing},
-                                            {u"Allow", limitAction::allow},
-                                            {u"Delete", limitAction::remove},
-                                            {u"Move", limitAction::move},
-                                            {u"Pause", limitAction::pause},
-                                            {u"Require PIN-Code", limitAction::requirePin},
-                                            {u"Printjob divert", limitAction::divert}}};
-
 constexpr std::u16string_view missingField = u"Required field is empty";
 
 PageLimitRecord newLimit() {
     auto limit = client::newRecord<PageLimitRecord>();
     limit.priority = 1;
     return limit;
-}
-
-void fill(forms::DropList& list, std::initializer_list<std::u16string_view> items, std::size_t selected = 0) {
-    for (const auto item : items) {
-        list.addItem(wire::WideString(item));
-    }
-    list.select(selected);
-}
-
-// For a list that begins with "Any" and has two more items, whose values are their row numbers.
-void selectOneOfThree(forms::DropList& list, std::uint8_t value) {
-    list.select(value <= 2 ? value : 0);
-}
-
-std::uint8_t oneOfThree(const forms::DropList& list) {
-    return static_cast<std::uint8_t>(std::min<std::size_t>(list.selection().value_or(2), 2));
 }
 
 wire::WideString decimal(std::uint16_t number) {
@@ -76,39 +43,24 @@ std::uint16_t numberAtStart(wire::WideStringView text) {
 
 } // namespace
 
-PageLimitDlg::PageLimitDlg(platform::Platform& platform) : PageLimitDlg(platform, true, newLimit(), std::nullopt) {}
-
-PageLimitDlg::PageLimitDlg(platform::Platform& platform, PageLimitRecord limit)
-    : PageLimitDlg(platform, false, std::move(limit), std::nullopt) {}
-
-PageLimitDlg::PageLimitDlg(platform::Platform& platform, Opener opener)
-    : PageLimitDlg(platform, true, newLimit(), std::move(opener)) {}
-
-PageLimitDlg::PageLimitDlg(platform::Platform& platform, Opener opener, PageLimitRecord limit)
-    : PageLimitDlg(platform, false, std::move(limit), std::move(opener)) {}
-
-PageLimitDlg::PageLimitDlg(platform::Platform& platform, bool isNew, PageLimitRecord limit,
-                           std::optional<Opener> opener)
-    : Form(platform, u"New Page Limit Rule"),
-      isNew_(isNew),
-      limit_(std::move(limit)),
-      opener_(std::move(opener)),
-      knowsDestination_(limit_.destinationId.empty()) {
+PageLimitDlg::PageLimitDlg(platform::Platform& platform, std::optional<Record> edited)
+    : RecordForm(platform, {u"New Page Limit Rule", u"Edit Page Limit Rule"}, std::move(edited), newLimit()),
+      knowsDestination_(record_.destinationId.empty()) {
     maximum.setBeside(jobs);
     searchButton.setBeside(destination);
+    format.offer(protocol::paperSizes);
+    enforce.selectValue(1);
     message.onKnown = [this] { allowOk(); };
     action.onSelect = [this] { actionSelected(); };
     searchButton.onPress = [this] { searchDestination(); };
 }
 
 void PageLimitDlg::onInitDialog() {
-    fillLists();
-    if (isNew_) {
-        priority.setText(decimal(limit_.priority));
+    if (isNew()) {
+        priority.setText(decimal(record_.priority));
         message.fill(std::nullopt);
         return;
     }
-    setTitle(u"Edit Page Limit Rule");
     showLimit();
     showMessage();
     showDestination();
@@ -119,44 +71,25 @@ void PageLimitDlg::allowOk() {
     okButton().setEnabled(message.known() && knowsDestination_);
 }
 
-void PageLimitDlg::fillLists() {
-    fill(format, {u"Any"});
-    for (const auto& size : protocol::paperSizes) {
-        format.addItem(wire::WideString(size.label));
-    }
-    fill(color, {u"Any", u"B/W", u"Color"});
-    fill(duplex, {u"Any", u"No", u"Yes"});
-    fill(enforce, {u"No", u"Yes"}, 1);
-    for (const auto& each : actions) {
-        action.addItem(wire::WideString(each.label));
-    }
-    action.select(0);
-}
-
 void PageLimitDlg::showLimit() {
-    name.setText(limit_.name);
-    comment.setText(limit_.comment);
-    document.setText(limit_.document);
-    for (std::size_t row = 0; row < protocol::paperSizes.size(); ++row) {
-        if (protocol::paperSizes[row].code == limit_.format) {
-            format.select(row + 1);
-        }
-    }
-    selectOneOfThree(color, limit_.color);
-    selectOneOfThree(duplex, limit_.duplex);
-    maxPages.setText(decimal(limit_.maxPages));
-    maxCost.showAmount(limit_.maxCost);
-    enforce.select(limit_.enforce == 1 ? 1 : 0);
-    priority.setText(decimal(limit_.priority));
-    const auto shown = std::ranges::find(actions, limit_.action, &Action::value);
-    action.select(shown != actions.end() ? static_cast<std::size_t>(shown - actions.begin()) : 0);
+    name.setText(record_.name);
+    comment.setText(record_.comment);
+    document.setText(record_.document);
+    format.selectValue(record_.format);
+    color.selectValue(record_.color);
+    duplex.selectValue(record_.duplex);
+    maxPages.setText(decimal(record_.maxPages));
+    maxCost.showAmount(record_.maxCost);
+    enforce.select(record_.enforce == 1 ? 1 : 0);
+    priority.setText(decimal(record_.priority));
+    action.selectValue(record_.action);
 }
 
 // A limit without a message, or whose message no longer exists, is shown with the first one; this must stay.
 void PageLimitDlg::showMessage() {
-    message.fill(limit_.messageId);
+    message.fill(record_.messageId);
     const auto& known = message.messages();
-    const auto match = std::ranges::find_if(known, [&](const auto& each) { return each.id == limit_.messageId; });
+    const auto match = std::ranges::find_if(known, [&](const auto& each) { return each.id == record_.messageId; });
     if (!known.empty() && match == known.end()) {
         message.list.select(0);
         message.updateButtons(0);
@@ -169,7 +102,7 @@ void PageLimitDlg::showDestination() {
         return;
     }
     const auto& queues = client.foundQueues();
-    const auto found = std::ranges::find(queues, limit_.destinationId, &protocol::FoundQueueRecord::queueId);
+    const auto found = std::ranges::find(queues, record_.destinationId, &protocol::FoundQueueRecord::queueId);
     if (found != queues.end()) {
         pickedId_ = found->queueId;
         pickedName_ = found->queueName;
@@ -194,74 +127,48 @@ void PageLimitDlg::searchDestination() {
     }
 }
 
-void PageLimitDlg::onOk() {
+bool PageLimitDlg::take() {
     if (name.text().empty()) {
         forms::refuseBlank(name, u"Name field shoud not be blank!", missingField);
-        return;
+        return false;
     }
     takeJobs();
-    limit_.messageId = message.selectedId();
-    takeMaximum();
-    limit_.action = actions.at(action.selection().value_or(0)).value;
-    if (!takeDestination()) {
-        return;
-    }
-    limit_.enforce = enforce.selection() == 0 ? 0 : 1;
-    if (!takePriority()) {
-        return;
-    }
-    client::CQVXAdminClass client;
-    if (isNew_) {
-        client.addPageLimit(limit_);
-    } else {
-        client.updatePageLimit(limit_);
-    }
-    if (opener_) {
-        tellOpener();
-    }
-    EndDialog(forms::idOk);
+    record_.messageId = message.selectedId();
+    record_.maxPages = numberAtStart(maxPages.text());
+    record_.maxCost = maxCost.priceOr(0);
+    record_.action = action.value().value_or(limitAction::nothing);
+    record_.enforce = enforce.value().value_or(1);
+    return takeDestination() && takePriority();
 }
 
 void PageLimitDlg::takeJobs() {
-    limit_.name = name.text();
-    limit_.comment = comment.text();
-    limit_.document = document.text();
-    const auto paper = format.selection().value_or(0);
-    limit_.format = paper == 0 ? std::uint16_t{0} : protocol::paperSizes.at(paper - 1).code;
-    limit_.color = oneOfThree(color);
-    limit_.duplex = oneOfThree(duplex);
-}
-
-void PageLimitDlg::takeMaximum() {
-    limit_.maxPages = numberAtStart(maxPages.text());
-    limit_.maxCost = maxCost.priceOr(0);
+    record_.name = name.text();
+    record_.comment = comment.text();
+    record_.document = document.text();
+    record_.format = format.value().value_or(anyFormat);
+    record_.color = color.value().value_or(protocol::limitedColor::any);
+    record_.duplex = duplex.value().value_or(protocol::limitedDuplex::any);
 }
 
 // A diverted print job has no destination, even where one has been found; this must stay.
 bool PageLimitDlg::takeDestination() {
     const bool none = destination.text().empty();
-    if (none && limit_.action == limitAction::move) {
+    if (none && record_.action == limitAction::move) {
         forms::refuseBlank(destination, u"Destination field should not be blank, when Move action is selected!",
                            missingField, platform::boxStyle::ok);
         return false;
     }
-    limit_.destinationId = none || limit_.action == limitAction::divert ? std::string() : pickedId_;
+    record_.destinationId = none || record_.action == limitAction::divert ? std::string() : pickedId_;
     return true;
 }
 
 bool PageLimitDlg::takePriority() {
-    limit_.priority = numberAtStart(priority.text());
+    record_.priority = numberAtStart(priority.text());
     if (priority.text().empty()) {
         messageBox(u"Prio field should not be blank!", wire::WideString(missingField), platform::boxStyle::ok);
         return false;
     }
     return true;
-}
-
-void PageLimitDlg::tellOpener() {
-    client::CQVXAdminClass client;
-    client.listPageLimits(opener_->ids, opener_->names);
-    opener_->saved.become(limit_.name, opener_->ids, limit_.id);
 }
 
 } // namespace rules

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "console/RecordRow.h"
-#include "protocol/rules/PageLimit.h"
+#include "rules/PageLimitDlg.h"
 
 namespace rules {
 
 // A page limit as a row of the list of all.
 class PageLimitResultNode final : public console::RecordRow<PageLimitResultNode, protocol::PageLimitRecord> {
 public:
+    using Dialog = PageLimitDlg;
     static constexpr console::NodeIdentity identity{
         .displayName = u"Page Limit", .image = 10, .strip = console::driverAndShortIdStrip};
     static constexpr std::array cells{console::RecordCell(&protocol::PageLimitRecord::comment)};
@@ -18,8 +19,7 @@ public:
     using RecordRow::RecordRow;
 
 protected:
-    void openEditor() override;
-    void deleteRecord() override;
+    void deleteRecord(client::CQVXAdminClass& client) override { client.deletePageLimit(record().id); }
 };
 
 } // namespace rules

@@ -1,13 +1,9 @@
 #include "rules/PageLimitersNode.h"
 
-#include "client/CQVXAdminClass.h"
-#include "rules/PageLimitDlg.h"
-
 namespace rules {
 
 // The list of all has only names: each limit is read with a separate command.
-bool PageLimitersNode::listRecords(std::vector<Record>& records) {
-    client::CQVXAdminClass client;
+bool PageLimitersNode::listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) {
     std::vector<std::string> ids;
     if (!client.listPageLimits(ids, names_)) {
         return false;
@@ -20,11 +16,6 @@ bool PageLimitersNode::listRecords(std::vector<Record>& records) {
         records.push_back(std::move(*limit));
     }
     return true;
-}
-
-void PageLimitersNode::openEditor() {
-    PageLimitDlg dialog(platform());
-    runModal(dialog);
 }
 
 void PageLimitersNode::readRows() {

@@ -16,8 +16,7 @@ public:
     using RecordList::RecordList;
 
 protected:
-    bool listRecords(std::vector<Record>& records) override;
-    void openEditor() override;
+    bool listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) override;
     void readRows() override;
 
 private:

@@ -1,9 +1,9 @@
 #include "rules/PapersGroup.h"
 
 #include "client/rules/NewRecord.h"
+#include "protocol/rules/PaperCode.h"
 #include "protocol/rules/PricePlan.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace rules {
@@ -14,10 +14,9 @@ namespace priceKind = protocol::priceKind;
 using protocol::PriceEntryRecord;
 
 // A code that is not in the list selects nothing.
-template <class Codes>
-void selectCode(forms::DropList& list, const Codes& codes, std::uint16_t code) {
-    const auto found = std::ranges::find(codes, code, &protocol::PaperCode::code);
-    list.select(static_cast<std::size_t>(found - codes.begin()));
+void selectCode(forms::ChoiceList<std::uint16_t>& list, std::uint16_t code) {
+    list.select(std::nullopt);
+    list.selectValue(code);
 }
 
 bool canBeEdited(std::uint8_t kind) {
@@ -35,22 +34,12 @@ PapersGroup::PapersGroup(forms::Container& container, const platform::Locale& lo
     unselectButton.onPress = [this] { unselect(); };
     addButton.onPress = [this] { updating() ? update() : add(); };
     removeButton.onPress = [this] { remove(); };
-    paper.onChoose = area.onChoose = multiplierType.onSelect = [this] { follow(); };
-}
-
-void PapersGroup::open() {
     prices.setColumns(PriceTable::columns());
-    for (const auto& size : protocol::paperSizes) {
-        paperList.addItem(wire::WideString(size.label));
-    }
-    for (const auto& unit : protocol::areaUnits) {
-        areaList.addItem(wire::WideString(unit.label));
-    }
-    multiplierType.addItem(u"Multiplier");
-    multiplierType.addItem(u"Absolute Price");
-    multiplierType.select(0);
+    paperList.offer(protocol::paperSizes);
+    areaList.offer(protocol::areaUnits);
     paper.choose();
     follow();
+    paper.onChoose = area.onChoose = multiplierType.onSelect = [this] { follow(); };
 }
 
 void PapersGroup::setRows(std::vector<PriceEntryRecord> rows) {
@@ -58,19 +47,17 @@ void PapersGroup::setRows(std::vector<PriceEntryRecord> rows) {
     finish();
 }
 
-const protocol::PaperCode* PapersGroup::chosenPaper() const {
-    const auto row = area.chosen() ? areaList.selection() : paperList.selection();
-    if (!row) {
-        return nullptr;
+void PapersGroup::takeCode(PriceEntryRecord& row) const {
+    if (const auto code = codes().value()) {
+        row.paperCode = *code;
+        row.paperName = wire::toCodePage(codes().selectedText());
     }
-    return area.chosen() ? &protocol::areaUnits.at(*row) : &protocol::paperSizes.at(*row);
 }
 
 PriceEntryRecord PapersGroup::newRow(std::uint8_t kind) const {
     auto row = client::newRecord<PriceEntryRecord>();
     row.kind = kind;
-    row.paperCode = chosenPaper()->code;
-    row.paperName = wire::toCodePage(chosenPaper()->label);
+    takeCode(row);
     fields.read(row);
     return row;
 }
@@ -94,10 +81,10 @@ void PapersGroup::showRow(const PriceEntryRecord& row) {
     multiplierType.select(priceKind::isMultiplier(row.kind) ? 0 : 1);
     if (priceKind::isArea(row.kind)) {
         area.choose();
-        selectCode(areaList, protocol::areaUnits, row.paperCode);
+        selectCode(areaList, row.paperCode);
     } else {
         paper.choose();
-        selectCode(paperList, protocol::paperSizes, row.paperCode);
+        selectCode(paperList, row.paperCode);
     }
     fields.show(row);
 }
@@ -123,7 +110,7 @@ void PapersGroup::add() {
 }
 
 void PapersGroup::addMultiplier() {
-    if (!fields.basePrice.empty() && chosenPaper() != nullptr) {
+    if (!fields.basePrice.empty() && codes().value()) {
         table_.add(newRow(area.chosen() ? priceKind::areaMultiplier : priceKind::multiplier));
     }
 }
@@ -131,7 +118,7 @@ void PapersGroup::addMultiplier() {
 // All ten prices are required, even for an area, which uses only two of them. A new row of an area takes over the
 // prices for duplex, which are not shown. Both must stay.
 void PapersGroup::addAbsolute() {
-    if (chosenPaper() == nullptr) {
+    if (!codes().value()) {
         return;
     }
     if (area.chosen()) {
@@ -147,10 +134,7 @@ void PapersGroup::addAbsolute() {
 
 void PapersGroup::update() {
     auto row = rows().at(*updated_);
-    if (const auto* const chosen = chosenPaper(); chosen != nullptr) {
-        row.paperCode = chosen->code;
-        row.paperName = wire::toCodePage(chosen->label);
-    }
+    takeCode(row);
     fields.read(row);
     table_.replace(*updated_, std::move(row));
     finish();

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "forms/Button.h"
-#include "forms/DropList.h"
+#include "forms/ChoiceList.h"
 #include "forms/Group.h"
 #include "forms/ListView.h"
 #include "forms/RadioButton.h"
 #include "forms/RadioGroup.h"
-#include "protocol/rules/PaperCode.h"
 #include "rules/PriceFields.h"
 #include "rules/PriceTable.h"
 
@@ -20,8 +19,6 @@ class PapersGroup {
 public:
     PapersGroup(forms::Container& container, const platform::Locale& locale);
 
-    // Fills the lists, which are empty before.
-    void open();
     [[nodiscard]] const std::vector<protocol::PriceEntryRecord>& rows() const { return table_.rows(); }
     void setRows(std::vector<protocol::PriceEntryRecord> rows);
     // A row of the list is selected and waits for its update or removal.
@@ -38,16 +35,19 @@ public:
     forms::Group type{group, u"Type"};
     forms::RadioGroup paperOrArea;
     forms::RadioButton paper{type, paperOrArea, u"Paper "}; // the blank at the end is part of the label
-    forms::DropList paperList{type, u"", {.sorted = false, .belongsTo = &paper}};
+    forms::ChoiceList<std::uint16_t> paperList{type, u"", {.sorted = false, .belongsTo = &paper}};
     forms::RadioButton area{type, paperOrArea, u"Area"};
-    forms::DropList areaList{type, u"", {.sorted = false, .belongsTo = &area}};
-    forms::DropList multiplierType{group, u"Multiplier type"};
+    forms::ChoiceList<std::uint16_t> areaList{type, u"", {.sorted = false, .belongsTo = &area}};
+    forms::ChoiceList<bool> multiplierType{
+        group, u"Multiplier type", {{false, u"Multiplier"}, {true, u"Absolute Price"}}};
     PriceFields fields;
 
 private:
-    [[nodiscard]] bool isAbsolute() const { return multiplierType.selection() == 1; }
-    // None when nothing is selected in the list.
-    [[nodiscard]] const protocol::PaperCode* chosenPaper() const;
+    [[nodiscard]] bool isAbsolute() const { return multiplierType.value() == true; }
+    // The list to choose from now.
+    [[nodiscard]] const forms::ChoiceList<std::uint16_t>& codes() const { return area.chosen() ? areaList : paperList; }
+    // Puts the paper or area into a row, where one is selected.
+    void takeCode(protocol::PriceEntryRecord& row) const;
     [[nodiscard]] protocol::PriceEntryRecord newRow(std::uint8_t kind) const;
 
     void rowSelected();

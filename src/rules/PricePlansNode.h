@@ -17,8 +17,9 @@ public:
     using RecordList::RecordList;
 
 protected:
-    bool listRecords(std::vector<Record>& records) override;
-    void openEditor() override;
+    bool listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) override {
+        return client.listPricePlans(records);
+    }
 };
 
 } // namespace rules

@@ -4,9 +4,6 @@
 #include "forms/Questions.h"
 #include "protocol/rules/RuleEntry.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace rules {
 namespace {
 
@@ -14,43 +11,35 @@ namespace ruleEntryType = protocol::ruleEntryType;
 
 } // namespace
 
-RuleEntryFields::RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord entryToShow, Types types)
-    : entry(std::move(entryToShow)),
-      type(container, u"Type"),
+RuleEntryFields::RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Types types)
+    : type(container, u"Type"),
       name(container, u"Name", {.limit = 64}),
       comment(container, u"Comment", {.limit = 255}),
       affected(container, AffectedList::EmptyRow::first),
       object(container, entry),
-      types_(types) {
+      entry_(entry) {
+    for (const auto& [value, label] : ruleEntryType::labels) {
+        if (value != ruleEntryType::ruleGroup || types == Types::all) {
+            type.add(value, label);
+        }
+    }
+    type.select(0);
     type.onSelect = [this] { typeChanged(); };
     affected.onKnown = [this] { allowOk(); };
 }
 
 void RuleEntryFields::open() {
-    for (const auto& [value, label] : ruleEntryType::labels) {
-        if (value != ruleEntryType::ruleGroup || types_ == Types::all) {
-            type.addItem(wire::WideString(label));
-            if (value == entry.type) {
-                type.select(type.items().size() - 1);
-            }
-        }
-    }
-    if (!type.selection()) {
-        type.select(0);
-    }
-    name.setText(entry.name);
-    comment.setText(entry.comment);
+    type.selectValue(entry_.type);
+    name.setText(entry_.name);
+    comment.setText(entry_.comment);
     affected.fill();
-    affected.select(entry.affectedId);
+    affected.select(entry_.affectedId);
     typeChanged();
-    object.select(entry.targetId);
+    object.select(entry_.targetId);
 }
 
-// A label that is none of the others means "Client billing"; this must stay.
 std::uint8_t RuleEntryFields::chosenType() const {
-    const auto label = type.selectedText();
-    const auto match = std::ranges::find(ruleEntryType::labels, label, &ruleEntryType::Labelled::label);
-    return match != ruleEntryType::labels.end() ? match->type : ruleEntryType::clientBilling;
+    return type.value().value_or(ruleEntryType::clientBilling);
 }
 
 void RuleEntryFields::typeChanged() {
@@ -69,16 +58,16 @@ bool RuleEntryFields::take(std::u16string_view blankNameText) {
         forms::refuseBlank(name, blankNameText);
         return false;
     }
-    entry.name = name.text();
+    entry_.name = name.text();
     // From here on the lists go back to the row with the entry's name, which must stay.
-    affected.saveName(entry.name);
-    object.saveName(entry.name);
-    entry.comment = comment.text();
-    entry.type = chosenType();
-    if (entry.type != ruleEntryType::ruleGroup) {
-        affected.take(entry);
+    affected.saveName(entry_.name);
+    object.saveName(entry_.name);
+    entry_.comment = comment.text();
+    entry_.type = chosenType();
+    if (entry_.type != ruleEntryType::ruleGroup) {
+        affected.take(entry_);
     }
-    return object.take(entry);
+    return object.take(entry_);
 }
 
 } // namespace rules

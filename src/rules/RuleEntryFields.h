@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/ChoiceList.h"
 #include "forms/EditBox.h"
 #include "rules/AffectedList.h"
 #include "rules/RuleObjectList.h"
@@ -16,7 +17,8 @@ public:
     // Where an entry is placed: groups do not nest, so within one there is no type "Rule group".
     enum class Types : std::uint8_t { all, withinGroup };
 
-    RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord entryToShow, Types types);
+    // The entry outlives the fields.
+    RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Types types);
 
     // Fills the lists and shows the entry; one without a type gets the first.
     void open();
@@ -24,8 +26,7 @@ public:
     // contains everything before it.
     [[nodiscard]] bool take(std::u16string_view blankNameText);
 
-    protocol::RuleEntryRecord entry;
-    forms::DropList type;
+    forms::ChoiceList<std::uint8_t> type;
     forms::EditBox name;
     forms::EditBox comment;
     AffectedList affected;
@@ -36,7 +37,7 @@ private:
     void typeChanged();
     void allowOk();
 
-    Types types_;
+    protocol::RuleEntryRecord& entry_;
 };
 
 } // namespace rules

@@ -1,8 +1,15 @@
 #include "rules/RuleEntryPlace.h"
 
 #include "client/CQVXAdminClass.h"
+#include "client/rules/NewRecord.h"
 
 namespace rules {
+
+protocol::RuleEntryRecord newEntryAt(const RuleEntryPlace& place) {
+    auto entry = client::newRecord<protocol::RuleEntryRecord>();
+    entry.parentId = place.parentId;
+    return entry;
+}
 
 void listAgain(const RuleEntryPlace& place, std::int32_t ownerNumber) {
     client::CQVXAdminClass client;

@@ -16,6 +16,9 @@ struct RuleEntryPlace {
     std::string parentId;
 };
 
+// An entry as an administrator begins it there.
+[[nodiscard]] protocol::RuleEntryRecord newEntryAt(const RuleEntryPlace& place);
+
 // Lists the entries of the owner and then those of the parent, each if it has an id, and with the number. The second
 // list replaces the first, which must stay.
 void listAgain(const RuleEntryPlace& place, std::int32_t ownerNumber = 0);

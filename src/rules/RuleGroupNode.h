@@ -1,13 +1,14 @@
 #pragma once
 
 #include "console/RecordRow.h"
-#include "protocol/rules/RuleGroup.h"
+#include "rules/NewRuleGroupDlg.h"
 
 namespace rules {
 
 // A rule group as a row of the list of all.
 class RuleGroupNode final : public console::RecordRow<RuleGroupNode, protocol::RuleGroupRecord> {
 public:
+    using Dialog = NewRuleGroupDlg;
     static constexpr console::NodeIdentity identity{.displayName = u"Rule Group", .image = 19};
     static constexpr std::array cells{console::RecordCell(&protocol::RuleGroupRecord::comment)};
     // The blank at the end of the question must stay.
@@ -18,8 +19,7 @@ public:
     using RecordRow::RecordRow;
 
 protected:
-    void openEditor() override;
-    void deleteRecord() override;
+    void deleteRecord(client::CQVXAdminClass& client) override { client.deleteRuleGroup(record().id); }
 };
 
 } // namespace rules

@@ -16,8 +16,10 @@ public:
     using RecordList::RecordList;
 
 protected:
-    bool listRecords(std::vector<Record>& records) override;
-    void openEditor() override;
+    bool listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) override {
+        client.listRuleGroups(records);
+        return true; // what came of a list that broke off is shown
+    }
 };
 
 } // namespace rules

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -15,12 +14,12 @@ struct SavedChoice {
     std::optional<std::size_t> index;
     wire::WideString name;
 
-    // Saves the record with the id, wherever it is in the list now.
-    template <class Element, class Id, class IdOf = std::identity>
-    void become(const wire::WideString& newName, const std::vector<Element>& list, const Id& id, IdOf idOf = {}) {
-        const auto place = std::ranges::find(list, id, idOf);
+    // Saves the record, wherever it is in the list now.
+    template <class Record, class Listed>
+    void become(const Record& record, const std::vector<Listed>& list) {
+        const auto place = std::ranges::find(list, record.id, &Listed::id);
         index = place != list.end() ? std::optional(static_cast<std::size_t>(place - list.begin())) : std::nullopt;
-        name = newName;
+        name = record.name;
     }
 };
 

@@ -1,6 +1,5 @@
 #include "rules/ShortIdDlg.h"
 
-#include "client/CQVXAdminClass.h"
 #include "client/rules/NewRecord.h"
 #include "forms/Questions.h"
 
@@ -8,13 +7,8 @@
 
 namespace rules {
 
-ShortIdDlg::ShortIdDlg(platform::Platform& platform) : ShortIdDlg(platform, false, {}) {}
-
-ShortIdDlg::ShortIdDlg(platform::Platform& platform, protocol::ShortIdRecord shortId)
-    : ShortIdDlg(platform, true, std::move(shortId)) {}
-
-ShortIdDlg::ShortIdDlg(platform::Platform& platform, bool editing, protocol::ShortIdRecord shortId)
-    : Form(platform, u"New Short Id Rule"), editing_(editing), shortId_(std::move(shortId)) {
+ShortIdDlg::ShortIdDlg(platform::Platform& platform, std::optional<Record> edited)
+    : RecordForm(platform, {u"New Short Id Rule", u"Edit Short Id Rule"}, std::move(edited), {}) {
     timeOfDay.setBeside(reservedUntil);
     eachDay.setBeside(timeOfDay);
 }
@@ -23,34 +17,29 @@ void ShortIdDlg::onInitDialog() {
     validFor.onChange = reservedFor.onChoose = reservedUntil.onChoose = [this] { timesClicked(); };
     message.onSelect = [this] { enableTimes(); };
     message.onKnown = [this] { okButton().setEnabled(message.known()); }; // otherwise the rule would lose its message
-    validTime.open();
-    reservedTime.open();
     showTimes();
-    if (editing_) {
-        setTitle(u"Edit Short Id Rule");
-        name.setText(shortId_.name);
-        comment.setText(shortId_.comment);
-    }
+    name.setText(record_.name);
+    comment.setText(record_.comment);
     enableTimes();
-    message.fill(shortId_.messageId);
-    if (!shortId_.messageId || message.selectedId() != shortId_.messageId) {
+    message.fill(record_.messageId);
+    if (!record_.messageId || message.selectedId() != record_.messageId) {
         message.list.select(message.messages().size()); // "<Default>"
     }
     enableTimes();
 }
 
 void ShortIdDlg::showTimes() {
-    validFor.setChecked(shortId_.validMinutes || shortId_.reservedMinutes || shortId_.reservedUntil);
-    validTime.show(shortId_.validMinutes);
-    reservedTime.show(shortId_.reservedMinutes);
+    validFor.setChecked(record_.validMinutes || record_.reservedMinutes || record_.reservedUntil);
+    validTime.show(record_.validMinutes);
+    reservedTime.show(record_.reservedMinutes);
     forms::DateTime time{.year = 2000, .month = 1, .day = 1};
-    if (shortId_.reservedUntil) {
-        const auto seconds = static_cast<std::uint32_t>(*shortId_.reservedUntil);
+    if (record_.reservedUntil) {
+        const auto seconds = static_cast<std::uint32_t>(*record_.reservedUntil);
         time.hour = static_cast<std::int8_t>(seconds / 3600 % 24);
         time.minute = static_cast<std::int8_t>(seconds / 60 % 60); // the seconds are not shown again, which must stay
     }
     timeOfDay.setValue(time);
-    if (validFor.checked() && !shortId_.reservedUntil) {
+    if (validFor.checked() && !record_.reservedUntil) {
         reservedFor.choose();
     } else {
         reservedUntil.choose();
@@ -84,37 +73,35 @@ void ShortIdDlg::timesClicked() {
     }
 }
 
-void ShortIdDlg::onOk() {
+bool ShortIdDlg::take() {
     if (name.text().empty()) {
         forms::refuseBlank(name, u"Name field shoud not be blank!", u"Required field is empty");
-        return;
+        return false;
     }
-    shortId_.name = name.text();
-    shortId_.comment = comment.text();
+    record_.name = name.text();
+    record_.comment = comment.text();
     takeTimes();
-    shortId_.messageId = message.selectedId();
-    client::CQVXAdminClass client;
-    if (editing_) {
-        client.updateShortId(shortId_);
-    } else {
-        client::giveNewId(shortId_.id);
-        client.addShortId(shortId_);
-    }
-    EndDialog(forms::idOk);
+    record_.messageId = message.selectedId();
+    return true;
+}
+
+void ShortIdDlg::addRecord(client::CQVXAdminClass& client) {
+    client::giveNewId(record_.id);
+    client.addShortId(record_);
 }
 
 // A short id that has no valid time has no other times either.
 void ShortIdDlg::takeTimes() {
-    shortId_.validMinutes = validFor.checked() ? validTime.minutes() : std::nullopt;
-    shortId_.reservedMinutes.reset();
-    shortId_.reservedUntil.reset();
-    if (!shortId_.validMinutes) {
+    record_.validMinutes = validFor.checked() ? validTime.minutes() : std::nullopt;
+    record_.reservedMinutes.reset();
+    record_.reservedUntil.reset();
+    if (!record_.validMinutes) {
         return;
     }
     if (reservedUntil.chosen()) {
-        shortId_.reservedUntil = secondsOfDay();
+        record_.reservedUntil = secondsOfDay();
     } else {
-        shortId_.reservedMinutes = reservedTime.minutes();
+        record_.reservedMinutes = reservedTime.minutes();
     }
 }
 

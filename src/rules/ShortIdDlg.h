@@ -3,11 +3,11 @@
 #include "forms/CheckBox.h"
 #include "forms/DateTimePicker.h"
 #include "forms/EditBox.h"
-#include "forms/Form.h"
 #include "forms/Group.h"
 #include "forms/Label.h"
 #include "forms/RadioButton.h"
 #include "forms/RadioGroup.h"
+#include "forms/RecordForm.h"
 #include "protocol/rules/ShortId.h"
 #include "rules/MessageControl.h"
 #include "rules/MinutesField.h"
@@ -15,13 +15,9 @@
 namespace rules {
 
 // Creates or edits a rule about short ids: how long one is valid, and how long it is reserved after that.
-class ShortIdDlg final : public forms::Form {
+class ShortIdDlg final : public forms::RecordForm<protocol::ShortIdRecord> {
 public:
-    explicit ShortIdDlg(platform::Platform& platform);
-    ShortIdDlg(platform::Platform& platform, protocol::ShortIdRecord shortId);
-
-    // As it was sent to the server, once the form has ended with OK.
-    [[nodiscard]] const protocol::ShortIdRecord& shortId() const { return shortId_; }
+    explicit ShortIdDlg(platform::Platform& platform, std::optional<Record> edited = {});
 
     forms::EditBox name{*this, u"Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Comment", {.limit = 255}};
@@ -38,19 +34,16 @@ public:
 
 protected:
     void onInitDialog() override;
-    void onOk() override;
+    bool take() override;
+    void addRecord(client::CQVXAdminClass& client) override;
+    void updateRecord(client::CQVXAdminClass& client) override { client.updateShortId(record_); }
 
 private:
-    ShortIdDlg(platform::Platform& platform, bool editing, protocol::ShortIdRecord shortId);
-
     void showTimes();
     void enableTimes();
     void timesClicked();
     void takeTimes();
     [[nodiscard]] std::optional<std::int64_t> secondsOfDay() const;
-
-    bool editing_;
-    protocol::ShortIdRecord shortId_;
 };
 
 } // namespace rules

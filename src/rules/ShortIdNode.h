@@ -16,8 +16,15 @@ public:
     using RecordList::RecordList;
 
 protected:
-    bool listRecords(std::vector<Record>& records) override;
-    void openEditor() override;
+    bool listRecords(client::CQVXAdminClass& client, std::vector<Record>& records) override {
+        return client.listShortIds(records);
+    }
+    void openEditor() override {
+        ShortIdDlg dialog(platform());
+        if (runModal(dialog) == forms::idOk) {
+            addRow(dialog.record());
+        }
+    }
 };
 
 } // namespace rules

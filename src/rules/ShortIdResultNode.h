@@ -1,13 +1,14 @@
 #pragma once
 
 #include "console/RecordRow.h"
-#include "protocol/rules/ShortId.h"
+#include "rules/ShortIdDlg.h"
 
 namespace rules {
 
 // A rule about short ids as a row of the list of all.
 class ShortIdResultNode final : public console::RecordRow<ShortIdResultNode, protocol::ShortIdRecord> {
 public:
+    using Dialog = ShortIdDlg;
     static constexpr console::NodeIdentity identity{
         .displayName = u"Short Id", .image = 14, .strip = console::driverAndShortIdStrip};
     static constexpr std::array cells{console::RecordCell(&protocol::ShortIdRecord::comment)};
@@ -20,8 +21,7 @@ public:
     using RecordRow::RecordRow;
 
 protected:
-    void openEditor() override;
-    void deleteRecord() override;
+    void deleteRecord(client::CQVXAdminClass& client) override { client.deleteShortId(record().id); }
 };
 
 } // namespace rules

@@ -1,6 +1,7 @@
 #include "console/RecordList.h"
 
 #include "console/RecordRow.h"
+#include "forms/Form.h"
 #include "tests/support/NodeDriver.h"
 #include "tests/support/TestPlatform.h"
 
@@ -42,7 +43,7 @@ public:
 
 protected:
     void openEditor() override { library->done.push_back("edit " + record().id); }
-    void deleteRecord() override { library->done.push_back("delete " + record().id); }
+    void deleteRecord(client::CQVXAdminClass& /*client*/) override { library->done.push_back("delete " + record().id); }
 };
 
 class BooksNode final : public RecordList<BooksNode, BookNode> {
@@ -53,13 +54,46 @@ public:
     using RecordList::RecordList;
 
 protected:
-    bool listRecords(std::vector<Record>& records) override {
+    bool listRecords(client::CQVXAdminClass& /*client*/, std::vector<Record>& records) override {
         records = library->books;
         return library->answers;
     }
     void openEditor() override {
         library->done.emplace_back("new");
         addRow({"n", u"Nana", u"Zola", 1880});
+    }
+};
+
+// What a row or a list opens that names its dialog.
+class BookDlg final : public forms::Form {
+public:
+    explicit BookDlg(platform::Platform& platform) : Form(platform, u"New book") {}
+    BookDlg(platform::Platform& platform, const BookRecord& book) : Form(platform, book.name) {}
+};
+
+class PamphletNode final : public RecordRow<PamphletNode, BookRecord> {
+public:
+    using Dialog = BookDlg;
+    static constexpr NodeIdentity identity{.displayName = u"Pamphlet"};
+    static constexpr std::array cells{RecordCell(&BookRecord::author)};
+    static constexpr RowCommands rowCommands = BookNode::rowCommands;
+    using RecordRow::RecordRow;
+
+protected:
+    void deleteRecord(client::CQVXAdminClass& /*client*/) override {}
+};
+
+class PamphletsNode final : public RecordList<PamphletsNode, PamphletNode> {
+public:
+    static constexpr NodeIdentity identity{.displayName = u"Pamphlets"};
+    static constexpr std::array titles{Column{u"Title"}, Column{u"Author"}};
+    static constexpr MenuEntry newEntry = BooksNode::newEntry;
+    using RecordList::RecordList;
+
+protected:
+    bool listRecords(client::CQVXAdminClass& /*client*/, std::vector<Record>& records) override {
+        records = library->books;
+        return true;
     }
 };
 
@@ -169,6 +203,23 @@ TEST_F(RecordLists, removeARecordAfterAQuestion) {
 
     EXPECT_THAT(shelves.done, ElementsAre("delete e"));
     EXPECT_THAT(platform.ui.presses(), ElementsAre(ElementsAre(Key::tab, Key::up, Key::down, Key::f5)));
+}
+
+TEST_F(RecordLists, openTheDialogThatTheRowNamesForANewRecordAndForItsOwn) {
+    const auto pamphlets = std::make_shared<PamphletsNode>(platform);
+    const auto emma = std::make_shared<PamphletNode>(platform, shelves.books[1]);
+    std::vector<wire::WideString> titles;
+    const auto note = [&titles](BookDlg& dialog) {
+        titles.push_back(dialog.title());
+        dialog.cancelButton().userPressed();
+    };
+    platform.ui.expect<BookDlg>(note);
+    platform.ui.expect<BookDlg>(note);
+
+    pamphlets->Command(4, DataObjectType::scope);
+    emma->Command(5, DataObjectType::result);
+
+    EXPECT_THAT(titles, ElementsAre(u"New book", u"Emma"));
 }
 
 TEST_F(RecordLists, leaveARowThatStandsInNoConsoleAlone) {

@@ -196,6 +196,20 @@ TEST_F(AddRuleDialog, aNewPartyIsSelectedOnceItIsMade) {
     EXPECT_EQ(samples::textsOf(dialog->fields.affected.list), (Names{u"", u"Guests", u"Staff", u"Pupils", u"<New>"}));
 }
 
+TEST_F(AddRuleDialog, readsThoseAffectedWhenAPartyIsWrittenAndOnceItsEditorHasGone) {
+    const auto dialog = inGroup();
+    platform_.ui.expect<AffectedDlg>([](AffectedDlg& editor) {
+        editor.name.userTyped(u"Pupils");
+        editor.okButton().userPressed();
+    });
+
+    samples::choose(dialog->fields.affected.list, u"<New>");
+
+    EXPECT_EQ(platform_.commands(),
+              (Strings{"ListAffected", "ListPageLimits", "WriteAffected", "ListAffected", "ListAffected"}));
+    EXPECT_EQ(dialog->fields.affected.list.selection(), 0U); // the server has not listed it
+}
+
 TEST_F(AddRuleDialog, aCancelledNewPartyLeavesNobodySelected) {
     const auto dialog = inGroup();
     dialog->fields.affected.list.userSelected(1);
@@ -305,7 +319,22 @@ TEST_F(AddRuleDialog, doesNotLoseWhomARuleAffectsWhenThatCouldNotBeRead) {
     EXPECT_FALSE(dialog.okButton().enabled());
     dialog.okButton().userPressed();
     EXPECT_FALSE(dialog.ended());
-    EXPECT_EQ(dialog.fields.entry.affectedId, "a2");
+    EXPECT_EQ(dialog.record().affectedId, "a2");
+}
+
+TEST_F(AddRuleDialog, cannotBeConfirmedWithAnotherTypeWhenWhatItPointsAtCouldNotBeRead) {
+    protocol::RuleEntryRecord entry;
+    entry.type = 3;
+    entry.name = u"Prices";
+    entry.targetId = "plan1";
+    AddRuleEntryDlg dialog(platform_, AddRuleEntryDlg::Mode::place, place(), entry);
+    estate_.goOffline();
+    dialog.open();
+    EXPECT_EQ(platform_.failures().size(), 1U);
+
+    samples::choose(dialog.fields.type, u"Rule group");
+
+    EXPECT_FALSE(dialog.okButton().enabled());
 }
 
 TEST_F(AddRuleDialog, canBeConfirmedOnceThoseAffectedAreRead) {

@@ -13,17 +13,14 @@ using rules::AffectedDlg;
 
 class AffectedDialog : public ::testing::Test {
 protected:
-    AffectedDlg::Opener opener() { return {.list = list_, .saved = saved_}; }
     WriteAffectedRequest sent() { return estate_.change<WriteAffectedRequest>(1); }
 
     support::TestPlatform platform_;
     support::RuleEstate estate_{platform_.platform().hooks};
-    std::vector<AffectedRecord> list_;
-    rules::SavedChoice saved_;
 };
 
 TEST_F(AffectedDialog, startsWithAGroupThatIsMeant) {
-    AffectedDlg dialog(platform_, opener());
+    AffectedDlg dialog(platform_);
 
     dialog.open();
 
@@ -36,7 +33,7 @@ TEST_F(AffectedDialog, startsWithAGroupThatIsMeant) {
 }
 
 TEST_F(AffectedDialog, showsTheRecordToEdit) {
-    AffectedDlg dialog(platform_, opener(), {.id = "a1", .type = 1, .equals = 0, .name = u"amir"});
+    AffectedDlg dialog(platform_, AffectedRecord{.id = "a1", .type = 1, .equals = 0, .name = u"amir"});
 
     dialog.open();
 
@@ -46,7 +43,7 @@ TEST_F(AffectedDialog, showsTheRecordToEdit) {
 }
 
 TEST_F(AffectedDialog, showsATypeAndASenseThatDoNotExistAsGroupAndIsNot) {
-    AffectedDlg dialog(platform_, opener(), {.id = "a1", .type = 7, .equals = 7, .name = u"amir"});
+    AffectedDlg dialog(platform_, AffectedRecord{.id = "a1", .type = 7, .equals = 7, .name = u"amir"});
 
     dialog.open();
 
@@ -55,7 +52,7 @@ TEST_F(AffectedDialog, showsATypeAndASenseThatDoNotExistAsGroupAndIsNot) {
 }
 
 TEST_F(AffectedDialog, addsAGroupWithAFreshId) {
-    AffectedDlg dialog(platform_, opener());
+    AffectedDlg dialog(platform_);
     dialog.open();
     dialog.name.userTyped(u"Staff");
 
@@ -70,7 +67,7 @@ TEST_F(AffectedDialog, addsAGroupWithAFreshId) {
 }
 
 TEST_F(AffectedDialog, writesTheSenseBeforeTheId) {
-    AffectedDlg dialog(platform_, opener(), {.id = "a1", .type = 1, .equals = 0, .name = u"am"});
+    AffectedDlg dialog(platform_, AffectedRecord{.id = "a1", .type = 1, .equals = 0, .name = u"am"});
     dialog.open();
 
     dialog.okButton().userPressed();
@@ -80,7 +77,7 @@ TEST_F(AffectedDialog, writesTheSenseBeforeTheId) {
 
 TEST_F(AffectedDialog, putsNoLimitOnTheName) {
     const wire::WideString name(3'000, u'x');
-    AffectedDlg dialog(platform_, opener());
+    AffectedDlg dialog(platform_);
     dialog.open();
 
     EXPECT_TRUE(dialog.name.userTyped(name));
@@ -90,7 +87,7 @@ TEST_F(AffectedDialog, putsNoLimitOnTheName) {
 }
 
 TEST_F(AffectedDialog, wantsAName) {
-    AffectedDlg dialog(platform_, opener());
+    AffectedDlg dialog(platform_);
     dialog.open();
     platform_.ui.expectBox(platform::Answer::ok, u"Name field should not be blank!");
 
@@ -102,41 +99,14 @@ TEST_F(AffectedDialog, wantsAName) {
     EXPECT_TRUE(platform_.commands().empty());
 }
 
-TEST_F(AffectedDialog, tellsItsOpenerWhereTheRecordStands) {
-    estate_.affected = {samples::affected("a1", u"Guests"), samples::affected("a2", u"Staff")};
-    AffectedDlg dialog(platform_, opener(), estate_.affected[1]);
-    dialog.open();
-
-    dialog.okButton().userPressed();
-
-    EXPECT_EQ(list_, estate_.affected);
-    EXPECT_EQ(saved_.index, 1U);
-    EXPECT_EQ(saved_.name, u"Staff");
-    EXPECT_EQ(platform_.commands(), (std::vector<std::string>{"WriteAffected", "ListAffected"}));
-}
-
-TEST_F(AffectedDialog, tellsItsOpenerTheNameOfARecordThatTheServerDoesNotList) {
-    saved_.index = 4;
-    estate_.affected = {samples::affected("a1", u"Guests")};
-    AffectedDlg dialog(platform_, opener());
-    dialog.open();
-    dialog.name.userTyped(u"Staff");
-
-    dialog.okButton().userPressed();
-
-    EXPECT_EQ(saved_.index, std::nullopt);
-    EXPECT_EQ(saved_.name, u"Staff");
-}
-
 TEST_F(AffectedDialog, sendsNothingOnCancel) {
-    AffectedDlg dialog(platform_, opener(), samples::affected("a1", u"Guests"));
+    AffectedDlg dialog(platform_, samples::affected("a1", u"Guests"));
     dialog.open();
 
     dialog.cancelButton().userPressed();
 
     EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(platform_.commands().empty());
-    EXPECT_EQ(saved_.name, u"");
 }
 
 } // namespace

@@ -138,7 +138,7 @@ TEST_F(Messages, newMakesOneAndSelectsIt) {
         dialog.name.userTyped(u"Fresh");
         dialog.okButton().userPressed();
         estate_.changes(1);
-        estate_.messages.insert(estate_.messages.begin(), dialog.message());
+        estate_.messages.insert(estate_.messages.begin(), dialog.record());
     });
 
     control_.list.userSelected(3);

@@ -108,7 +108,7 @@ TEST_F(NewMessageDialog, addsANewMessageWithAFreshId) {
     EXPECT_EQ(sent().message.type, 1U);
     EXPECT_FALSE(sent().message.builtIn);
     EXPECT_EQ(sent().message.id.version(), wire::Uuid::version_random_number_based);
-    EXPECT_EQ(dialog.message(), sent().message);
+    EXPECT_EQ(dialog.record(), sent().message);
 }
 
 TEST_F(NewMessageDialog, aBlankNameWithACaptionStoresTheCaptionAsNameToo) {

@@ -42,7 +42,7 @@ protected:
         dialog.name.userTyped(u"Plan");
         dialog.vat.userTyped(text);
         dialog.okButton().userPressed();
-        return dialog.plan().vat;
+        return dialog.record().vat;
     }
 
     support::TestPlatform platform_{support::germanLocale()};
@@ -123,7 +123,7 @@ TEST_F(NewPricePlanDialog, addsANewPlanWithItsPrices) {
     EXPECT_EQ(request.entries[0].paperCode, 9);
     EXPECT_EQ(request.entries[0].paperName, "A4");
     EXPECT_EQ(request.entries[0].basePrice, 0.2F);
-    EXPECT_EQ(dialog.plan(), request.plan);
+    EXPECT_EQ(dialog.record(), request.plan);
 }
 
 TEST_F(NewPricePlanDialog, aPlanWithoutRowsCanBeSaved) {
@@ -285,45 +285,6 @@ TEST_F(NewPricePlanDialog, sendsNothingOnCancel) {
 
     EXPECT_EQ(dialog.result(), forms::idCancel);
     EXPECT_TRUE(platform_.commands().empty());
-}
-
-TEST_F(NewPricePlanDialog, makesTheEntryOfTheOpenerPointAtThePlanAndReadsThePlansAnew) {
-    std::vector<PricePlanRecord> plans;
-    rules::SavedChoice saved{.index = 5, .name = u"Old"};
-    protocol::RuleEntryRecord entry;
-    entry.id = "entry-1";
-    entry.type = 3;
-    PricePlanRecord other;
-    other.id = "other";
-    estate_.plans = {other, standardPlan()};
-    NewPricePlanDlg dialog(platform_, {plans, saved, entry}, standardPlan());
-    dialog.open();
-    dialog.name.userTyped(u"Renamed");
-
-    dialog.okButton().userPressed();
-
-    entry.targetId = "plan-1";
-    EXPECT_EQ(estate_.change<protocol::UpdateRuleEntryRequest>(2).action, 88);
-    EXPECT_EQ(estate_.change<protocol::UpdateRuleEntryRequest>(2).entry, entry);
-    EXPECT_EQ(platform_.commands(),
-              (Strings{"ListPriceEntries", "WritePricePlan", "WriteRuleObject", "ListPricePlans"}));
-    EXPECT_EQ(plans, estate_.plans);
-    EXPECT_EQ(saved.name, u"Renamed");
-    EXPECT_EQ(saved.index, 1U);
-}
-
-TEST_F(NewPricePlanDialog, updatesTheEntryOfTheOpenerForANewPlanToo) {
-    std::vector<PricePlanRecord> plans;
-    rules::SavedChoice saved{.index = 5, .name = u"Old"};
-    NewPricePlanDlg dialog(platform_, NewPricePlanDlg::Opener{plans, saved, {}});
-    dialog.open();
-    dialog.name.userTyped(u"Fresh");
-
-    dialog.okButton().userPressed();
-
-    EXPECT_EQ(estate_.change<protocol::UpdateRuleEntryRequest>(2).entry.targetId, dialog.plan().id);
-    EXPECT_EQ(saved.name, u"Fresh");
-    EXPECT_EQ(saved.index, std::nullopt); // the server has not listed it
 }
 
 } // namespace

@@ -27,7 +27,7 @@ protected:
         dialog.action.userSelected(row);
         dialog.okButton().userPressed();
         EXPECT_TRUE(dialog.ended());
-        return dialog.limit().action;
+        return dialog.record().action;
     }
 };
 
@@ -102,7 +102,7 @@ TEST_F(PageLimitAction, divertNeverHasADestination) {
 
     dialog.okButton().userPressed();
 
-    EXPECT_EQ(dialog.limit().destinationId, "");
+    EXPECT_EQ(dialog.record().destinationId, "");
 }
 
 TEST_F(PageLimitAction, divertEmptiesAndDisablesTheDestinationButNotItsButton) {

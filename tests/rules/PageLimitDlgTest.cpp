@@ -23,7 +23,7 @@ protected:
         dialog.name.userTyped(u"Limit");
         dialog.maxPages.userTyped(text);
         dialog.okButton().userPressed();
-        return dialog.limit().maxPages;
+        return dialog.record().maxPages;
     }
 
     float costTakenFrom(const wire::WideString& text) {
@@ -31,7 +31,7 @@ protected:
         dialog.open();
         dialog.maxCost.box.userTyped(text);
         dialog.okButton().userPressed();
-        return dialog.limit().maxCost;
+        return dialog.record().maxCost;
     }
 };
 
@@ -110,7 +110,7 @@ TEST_F(PageLimitDialog, addsANewLimitWithAFreshId) {
     EXPECT_EQ(limit.messageId, quotaId);
     EXPECT_EQ(limit.destinationId, "");
     EXPECT_EQ(limit.enforce, 0);
-    EXPECT_EQ(dialog.limit(), limit);
+    EXPECT_EQ(dialog.record(), limit);
 }
 
 TEST_F(PageLimitDialog, showsALimitAsItStands) {
@@ -266,7 +266,7 @@ TEST_F(PageLimitDialog, anEmptyPrioIsRefusedAfterAllEarlierFieldsAreTaken) {
     expected.maxPages = 200;
     expected.enforce = 0;
     expected.priority = 0;
-    EXPECT_EQ(dialog.limit(), expected);
+    EXPECT_EQ(dialog.record(), expected);
 }
 
 TEST_F(PageLimitDialog, cancelSendsNothingButMessagesMadeMeanwhileStay) {
@@ -290,54 +290,6 @@ TEST_F(PageLimitDialog, cancelSendsNothingButMessagesMadeMeanwhileStay) {
                           "30 30 30 30 30 30 30 30 30 31");
 }
 
-TEST_F(PageLimitDialog, tellsTheDialogOfARuleAboutTheNewLimit) {
-    Strings ids{"old"};
-    Names names{u"Old"};
-    rules::SavedChoice saved{.index = 7, .name = u"Old"};
-    PageLimitDlg dialog(platform_, PageLimitDlg::Opener{ids, names, saved, {}});
-    dialog.open();
-    dialog.name.userTyped(u"Posters");
-    auto added = longJobs();
-    added.id = dialog.limit().id;
-    added.name = u"Posters";
-    estate_.limits.push_back(added); // as the server has it by now
-
-    dialog.okButton().userPressed();
-
-    EXPECT_EQ(ids, (Strings{"limit-1", added.id}));
-    EXPECT_EQ(names, (Names{u"Long jobs", u"Posters"}));
-    EXPECT_EQ(saved.index, 1U);
-    EXPECT_EQ(saved.name, u"Posters");
-    EXPECT_EQ(platform_.commands(), (Strings{"ListUserMessages", "WriteRuleObject", "ListPageLimits"}));
-}
-
-TEST_F(PageLimitDialog, tellsTheDialogOfARuleAboutALimitThatTheServerDidNotTake) {
-    Strings ids;
-    Names names;
-    rules::SavedChoice saved{.index = 7, .name = u"Old"};
-    estate_.limits.clear();
-    PageLimitDlg dialog(platform_, PageLimitDlg::Opener{ids, names, saved, {}}, longJobs());
-    dialog.open();
-
-    dialog.okButton().userPressed();
-
-    EXPECT_EQ(saved.index, std::nullopt);
-    EXPECT_EQ(saved.name, u"Long jobs");
-}
-
-TEST_F(PageLimitDialog, tellsNobodyWhenItIsCancelled) {
-    Strings ids{"old"};
-    Names names{u"Old"};
-    rules::SavedChoice saved{.index = 0, .name = u"Old"};
-    PageLimitDlg dialog(platform_, PageLimitDlg::Opener{ids, names, saved, {}}, longJobs());
-    dialog.open();
-
-    dialog.cancelButton().userPressed();
-
-    EXPECT_EQ(ids, Strings{"old"});
-    EXPECT_EQ(saved.name, u"Old");
-}
-
 TEST_F(PageLimitDialog, aLimitWithoutADestinationCannotBeConfirmedWhenItsMessageCouldNotBeRead) {
     auto record = longJobs();
     record.destinationId.clear();
@@ -349,7 +301,7 @@ TEST_F(PageLimitDialog, aLimitWithoutADestinationCannotBeConfirmedWhenItsMessage
     EXPECT_EQ(dialog.name.text(), u"Long jobs");
     EXPECT_FALSE(dialog.okButton().enabled());
     dialog.userPressedDefault();
-    EXPECT_EQ(dialog.limit().messageId, costId);
+    EXPECT_EQ(dialog.record().messageId, costId);
     EXPECT_FALSE(dialog.ended());
 }
 

@@ -68,7 +68,7 @@ protected:
         dialog.open();
         dialog.okButton().userPressed();
         EXPECT_TRUE(dialog.ended());
-        return dialog.limit();
+        return dialog.record();
     }
 
     support::TestPlatform platform_{support::germanLocale()};

@@ -1,6 +1,7 @@
 #include "rules/PapersGroup.h"
 
 #include "forms/Form.h"
+#include "protocol/rules/PaperCode.h"
 #include "rules/PriceText.h"
 #include "tests/support/FixedLocale.h"
 #include "tests/support/TestPlatform.h"
@@ -18,9 +19,6 @@ public:
     explicit FormWithPapers(platform::Platform& platform) : Form(platform, u"Owner"), papers(*this, platform.locale) {}
 
     PapersGroup papers;
-
-protected:
-    void onInitDialog() override { papers.open(); }
 };
 
 class Papers : public ::testing::Test {

@@ -136,7 +136,7 @@ TEST_F(ObjectsOfARule, aNewLimitIsSelectedOnceItIsMade) {
     auto& object = listFor(u"Page limit");
     platform_.ui.expect<PageLimitDlg>([this](PageLimitDlg& editor) {
         editor.name.userTyped(u"Five pages");
-        estate_.limits.insert(estate_.limits.begin(), samples::limit(editor.limit().id, u"Five pages"));
+        estate_.limits.insert(estate_.limits.begin(), samples::limit(editor.record().id, u"Five pages"));
         editor.okButton().userPressed();
     });
 
@@ -150,13 +150,66 @@ TEST_F(ObjectsOfARule, aNewPlanIsSelectedOnceItIsMade) {
     auto& object = listFor(u"Price plan");
     platform_.ui.expect<NewPricePlanDlg>([this](NewPricePlanDlg& editor) {
         editor.name.userTyped(u"Free");
-        estate_.plans.insert(estate_.plans.begin(), samples::plan(editor.plan().id, u"Free"));
+        estate_.plans.insert(estate_.plans.begin(), samples::plan(editor.record().id, u"Free"));
         editor.okButton().userPressed();
     });
 
     samples::choose(object.list, u"<New>");
 
     EXPECT_EQ(object.list.selectedText(), u"Free");
+}
+
+TEST_F(ObjectsOfARule, theEntryPointsAtAPlanFromTheMomentWhenItIsWritten) {
+    auto& object = listFor(u"Price plan");
+    std::string made;
+    platform_.ui.expect<NewPricePlanDlg>([&](NewPricePlanDlg& editor) {
+        editor.name.userTyped(u"Free");
+        editor.okButton().userPressed();
+        made = editor.record().id;
+    });
+    platform_.ui.expect<NewPricePlanDlg>([](NewPricePlanDlg& editor) { editor.okButton().userPressed(); });
+
+    samples::choose(object.list, u"<New>");
+    const auto added = estate_.change<protocol::UpdateRuleEntryRequest>(2);
+    object.editButton.userPressed();
+    const auto edited = estate_.change<protocol::UpdateRuleEntryRequest>(4);
+
+    EXPECT_EQ(added.action, 88);
+    EXPECT_EQ(added.entry.targetId, made);
+    EXPECT_EQ(added.entry.id, dialog_->record().id);
+    EXPECT_EQ(edited.entry.targetId, "plan2");
+    const Strings commands = platform_.commands();
+    EXPECT_EQ(Strings(commands.end() - 5, commands.end()),
+              (Strings{"ListPriceEntries", "WritePricePlan", "WriteRuleObject", "ListPricePlans", "ListPricePlans"}));
+}
+
+TEST_F(ObjectsOfARule, theEntryIsNotMadeToPointAtALimitThatIsWritten) {
+    auto& object = listFor(u"Page limit");
+    platform_.ui.expect<PageLimitDlg>([](PageLimitDlg& editor) {
+        editor.name.userTyped(u"Five pages");
+        editor.okButton().userPressed();
+    });
+
+    samples::choose(object.list, u"<New>");
+
+    const Strings commands = platform_.commands();
+    EXPECT_EQ(Strings(commands.end() - 3, commands.end()),
+              (Strings{"WriteRuleObject", "ListPageLimits", "ListPageLimits"}));
+    EXPECT_EQ(estate_.changes(1).size(), 1U);
+    EXPECT_EQ(object.list.selectedText(), u"Hundred pages"); // the server has not listed it
+}
+
+TEST_F(ObjectsOfARule, anEditedLimitStaysSelectedWhereverItThenStands) {
+    auto& object = listFor(u"Page limit");
+    platform_.ui.expect<PageLimitDlg>([this](PageLimitDlg& editor) {
+        estate_.limits = {samples::limit("limit2", u"Hundred pages"), samples::limit("limit1", u"Ten pages")};
+        editor.okButton().userPressed();
+    });
+
+    object.editButton.userPressed();
+
+    EXPECT_EQ(object.list.selection(), 0U);
+    EXPECT_EQ(object.list.selectedText(), u"Hundred pages");
 }
 
 TEST_F(ObjectsOfARule, aNewShortIdIsSelectedOnceItIsMadeWhereverItStands) {

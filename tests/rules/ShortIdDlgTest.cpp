@@ -54,7 +54,7 @@ protected:
         dialog.validTime.number.userTyped(number);
         dialog.validTime.unit.userSelected(unit);
         dialog.okButton().userPressed();
-        return dialog.shortId().validMinutes;
+        return dialog.record().validMinutes;
     }
 
     ShortIdRecord added() { return estate_.change<AddShortIdRequest>(1).shortId; }
@@ -224,7 +224,7 @@ TEST_F(ShortIdDialog, addsANewRuleWithAFreshId) {
     EXPECT_EQ(added().validMinutes, 180U);
     EXPECT_EQ(added().reservedMinutes, 30U);
     EXPECT_EQ(added().reservedUntil, std::nullopt);
-    EXPECT_EQ(dialog.shortId(), added());
+    EXPECT_EQ(dialog.record(), added());
 }
 
 TEST_F(ShortIdDialog, aRuleWithoutTimesHasNone) {
@@ -278,7 +278,7 @@ TEST_F(ShortIdDialog, aTimeOfDayIsStoredInSecondsAndLosesThemWhenItIsReopened) {
     dialog.okButton().userPressed();
 
     EXPECT_EQ(added().reservedUntil, 45015);
-    ShortIdDlg again(platform_, dialog.shortId());
+    ShortIdDlg again(platform_, dialog.record());
     again.open();
     EXPECT_EQ(again.timeOfDay.value(), (DateTime{.year = 2000, .month = 1, .day = 1, .hour = 12, .minute = 30}));
 }
@@ -308,7 +308,7 @@ TEST_F(ShortIdDialog, validForCheckedWithAnEmptyFieldStoresNoTimesAtAll) {
     EXPECT_EQ(updated().validMinutes, std::nullopt);
     EXPECT_EQ(updated().reservedMinutes, std::nullopt);
     EXPECT_EQ(updated().reservedUntil, std::nullopt);
-    ShortIdDlg again(platform_, dialog.shortId());
+    ShortIdDlg again(platform_, dialog.record());
     again.open();
     EXPECT_FALSE(again.validFor.checked());
 }
@@ -437,7 +437,7 @@ TEST_F(ShortIdDialog, cannotBeConfirmedWhenItsMessageCouldNotBeRead) {
     EXPECT_FALSE(dialog.okButton().enabled());
     dialog.okButton().userPressed();
     EXPECT_FALSE(dialog.ended());
-    EXPECT_EQ(dialog.shortId().messageId, quotaId);
+    EXPECT_EQ(dialog.record().messageId, quotaId);
 }
 
 TEST_F(ShortIdDialog, canBeConfirmedOnceItsMessagesAreRead) {

@@ -31,7 +31,7 @@ protected:
         add<regions::CreateRegionDlg>(0, regions::CreateRegionDlg::Mode::printerTree);
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::group, place_);
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::place, place_);
-        add<rules::AffectedDlg>(rules::AffectedDlg::Opener{.list = affected_, .saved = saved_});
+        add<rules::AffectedDlg>();
         add<rules::CNewRuleDialog>(place_);
         add<rules::NewMessageDlg>();
         add<rules::NewPricePlanDlg>();
@@ -58,8 +58,6 @@ private:
     support::TestPlatform platform_;
     std::vector<protocol::RuleEntryRecord> entries_;
     const rules::RuleEntryPlace place_{.entries = entries_, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
-    std::vector<protocol::AffectedRecord> affected_;
-    rules::SavedChoice saved_;
     std::string destinationId_;
     wire::WideString destinationName_;
     std::vector<std::unique_ptr<forms::Form>> forms_;

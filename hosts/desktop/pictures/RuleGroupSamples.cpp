@@ -75,12 +75,10 @@ std::unique_ptr<forms::Form> entryToEdit(platform::Platform& platform) {
 }
 
 std::unique_ptr<forms::Form> partyToEdit(platform::Platform& platform) {
-    static std::vector<protocol::AffectedRecord> affected;
-    static rules::SavedChoice saved;
+    std::vector<protocol::AffectedRecord> affected;
     client::CQVXAdminClass client;
     client.listAffected(affected);
-    return std::make_unique<rules::AffectedDlg>(platform, rules::AffectedDlg::Opener{.list = affected, .saved = saved},
-                                                affected.at(0));
+    return std::make_unique<rules::AffectedDlg>(platform, affected.at(0));
 }
 
 void leave(forms::Form& /*form*/) {}

@@ -45,12 +45,6 @@ std::unique_ptr<forms::Form> newEntry(platform::Platform& platform) {
     return std::make_unique<rules::AddRuleEntryDlg>(platform, mode, inAGroup());
 }
 
-std::unique_ptr<forms::Form> newAffected(platform::Platform& platform) {
-    static std::vector<protocol::AffectedRecord> list;
-    static rules::SavedChoice saved;
-    return std::make_unique<rules::AffectedDlg>(platform, rules::AffectedDlg::Opener{.list = list, .saved = saved});
-}
-
 std::vector<Case> allCases() {
     const std::vector<Case> forms{
         {"login", 100, [](auto& platform) { return std::make_unique<snapin::AuthenticationDlg>(platform); }},
@@ -63,7 +57,7 @@ std::vector<Case> allCases() {
         {"ruleEntryInGroup", 100, newEntry<rules::AddRuleEntryDlg::Mode::group>},
         {"ruleEntryOnRegion", 100, newEntry<rules::AddRuleEntryDlg::Mode::place>},
         {"newRule", 100, [](auto& platform) { return std::make_unique<rules::CNewRuleDialog>(platform, inAGroup()); }},
-        {"affected", 100, newAffected},
+        {"affected", 100, [](auto& platform) { return std::make_unique<rules::AffectedDlg>(platform); }},
         {"message", 100, [](auto& platform) { return std::make_unique<rules::NewMessageDlg>(platform); }},
         {"shortId", 100, [](auto& platform) { return std::make_unique<rules::ShortIdDlg>(platform); }},
         {"pageLimit", 100, [](auto& platform) { return std::make_unique<rules::PageLimitDlg>(platform); }},
