@@ -66,7 +66,7 @@ Shows printerMoved(const MovePrinterRequest& request) {
 }
 
 Shows recordDeleted(const DeleteRecordRequest& request) {
-    const auto mode = request.type == recordDeletion::queue ? printerListMode::queueById : printerListMode::printerById;
+    const auto mode = request.type == RecordDeletion::queue ? printerListMode::queueById : printerListMode::printerById;
     return showsGone<PrinterRecord>(byId(request.id, mode), &PrinterRecord::id, request.id);
 }
 

@@ -23,9 +23,9 @@ Shows planChanged(const ChangeSchemaRequest& request) {
     const auto& plan = request.schema;
     const auto same = [plan](const SchemaRecord& shown) { return samePlan(shown, plan); };
     switch (request.operation) {
-    case schemaOperation::create:
+    case SchemaOperation::create:
         return showsNew<SchemaRecord>(list, &SchemaRecord::schemaId, same);
-    case schemaOperation::remove:
+    case SchemaOperation::remove:
         return showsGone<SchemaRecord>(list, &SchemaRecord::schemaId, plan.schemaId);
     default:
         return showsChanged<SchemaRecord>(list, &SchemaRecord::schemaId, plan.schemaId, same);
@@ -53,11 +53,11 @@ Shows rangeChanged(const ChangeIpRangeRequest& request) {
     const auto& range = request.range;
     const auto same = [range](const IpRangeRecord& shown) { return sameRange(shown, range); };
     switch (request.operation) {
-    case rangeOperation::add:
+    case RangeOperation::add:
         return showsNew<IpRangeRecord>(list, &IpRangeRecord::rangeId, same);
-    case rangeOperation::remove:
+    case RangeOperation::remove:
         return showsGone<IpRangeRecord>(list, &IpRangeRecord::rangeId, range.rangeId);
-    case rangeOperation::setActive:
+    case RangeOperation::setActive:
         return showsChanged<IpRangeRecord>(
             list, &IpRangeRecord::rangeId, range.rangeId,
             [active = range.active](const IpRangeRecord& shown) { return shown.active == active; });

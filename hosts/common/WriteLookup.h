@@ -115,7 +115,8 @@ Shows showsGoneAmong(const std::vector<Request>& lists, Id Record::*id, const st
 template <class Request>
 bool isOf(wire::Message& message) {
     if constexpr (requires { Request::actions; }) {
-        const auto action = message.getByte();
+        using Action = typename decltype(Request::actions)::value_type;
+        const auto action = static_cast<Action>(message.getByte());
         return std::ranges::find(Request::actions, action) != Request::actions.end();
     }
     return true;

@@ -28,7 +28,9 @@ namespace detail {
 // Whether the first byte of the request is one of the actions of this form.
 template <class Request>
 bool isActionOf(Fields fields) {
-    return !fields.empty() && std::ranges::find(Request::actions, fields.front()) != std::end(Request::actions);
+    using Action = typename decltype(Request::actions)::value_type;
+    return !fields.empty() &&
+           std::ranges::find(Request::actions, static_cast<Action>(fields.front())) != std::end(Request::actions);
 }
 
 template <class Request>

@@ -17,7 +17,7 @@ namespace {
 
 namespace type = protocol::recordType;
 
-namespace deletion = protocol::recordDeletion;
+using protocol::RecordDeletion;
 
 // The word for such a record at the start of a sentence.
 WideString wordFor(std::uint16_t recordType) {
@@ -58,11 +58,11 @@ std::optional<std::uint16_t> storedType(std::uint16_t recordType) {
     }
 }
 
-bool mayDelete(std::uint8_t requested, std::uint16_t recordType) {
+bool mayDelete(RecordDeletion requested, std::uint16_t recordType) {
     if (recordType == type::localPrinter) {
-        return requested == deletion::printer || requested == deletion::queue;
+        return requested == RecordDeletion::printer || requested == RecordDeletion::queue;
     }
-    return requested == (recordType == type::printer ? deletion::printer : deletion::queue);
+    return requested == (recordType == type::printer ? RecordDeletion::printer : RecordDeletion::queue);
 }
 
 } // namespace
@@ -171,7 +171,8 @@ StatusReply RecordService::move(const protocol::MovePrinterRequest& request) {
 StatusReply RecordService::remove(const protocol::DeleteRecordRequest& request) {
     const auto found = connection_.table<RecordTable>().find(request.id);
     if (!found || !mayDelete(request.type, found->record.recordType)) {
-        return notSaved(u"There is no such " + WideString(request.type == deletion::printer ? u"printer." : u"queue."));
+        return notSaved(u"There is no such " +
+                        WideString(request.type == RecordDeletion::printer ? u"printer." : u"queue."));
     }
     connection_.table<RecordTable>().removeWithQueues(request.id);
     return done();

@@ -12,7 +12,7 @@ using protocol::StatusReply;
 
 namespace {
 
-namespace rangeOperation = protocol::rangeOperation;
+using protocol::RangeOperation;
 
 StatusReply notSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
@@ -48,21 +48,21 @@ std::optional<StatusReply> refuse(const IpRangeRecord& range) {
 StatusReply IpRangeService::change(const protocol::ChangeIpRangeRequest& request) {
     auto& ranges = connection_.table<IpRangeTable>();
     auto range = request.range;
-    if (request.operation == rangeOperation::add) {
+    if (request.operation == RangeOperation::add) {
         range.rangeId = wire::toText(wire::randomUuid());
     }
-    if (request.operation == rangeOperation::add || request.operation == rangeOperation::save) {
+    if (request.operation == RangeOperation::add || request.operation == RangeOperation::save) {
         if (const auto refused = refuse(range)) {
             return *refused;
         }
     }
     switch (request.operation) {
-    case rangeOperation::add:
+    case RangeOperation::add:
         ranges.insert(range);
         return done();
-    case rangeOperation::save:
+    case RangeOperation::save:
         return doneIf(ranges.update(range));
-    case rangeOperation::remove:
+    case RangeOperation::remove:
         return doneIf(ranges.remove(range.rangeId));
     default:
         return doneIf(ranges.setActive(range.rangeId, range.active));

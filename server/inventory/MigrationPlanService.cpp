@@ -11,7 +11,7 @@ using protocol::StatusReply;
 
 namespace {
 
-namespace planOperation = protocol::schemaOperation;
+using PlanOperation = protocol::SchemaOperation;
 
 StatusReply planNotSaved(const wire::WideString& text) {
     return refusal(u"Not saved", text);
@@ -26,10 +26,10 @@ StatusReply doneIfThere(bool isThere) {
 StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& request) {
     auto& plans = connection_.table<MigrationPlanTable>();
     auto plan = request.schema;
-    if (request.operation == planOperation::remove) {
+    if (request.operation == PlanOperation::remove) {
         return doneIfThere(plans.remove(plan.schemaId));
     }
-    if (request.operation == planOperation::create) {
+    if (request.operation == PlanOperation::create) {
         plan.schemaId = wire::toText(wire::randomUuid());
     }
     // A plan outlives its queue and then goes by the queue's name.
@@ -39,7 +39,7 @@ StatusReply MigrationPlanService::change(const protocol::ChangeSchemaRequest& re
     if (frameDataSize(plan) > largestReceivableFrame) {
         return planNotSaved(u"The texts of this migration plan are too long to be sent back in one piece.");
     }
-    if (request.operation != planOperation::create) {
+    if (request.operation != PlanOperation::create) {
         return doneIfThere(plans.update(plan));
     }
     plans.insert(plan);

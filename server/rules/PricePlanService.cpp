@@ -15,7 +15,7 @@ Refused refuseEntry(const protocol::PriceEntryRecord& entry) {
     if (auto refused = refuseId(entryWord, entry.id)) {
         return refused;
     }
-    if (entry.kind > protocol::priceKind::last) {
+    if (!isKnown(entry.kind)) {
         return ruleRefused(u"There is no such kind of price.");
     }
     return refuseFrameSize(entryWord, frameDataSize(entry));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocol/rules/PricePlan.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -80,9 +82,11 @@ constexpr std::array<Plan, 5> plans = {{
     {u"Free of charge", u"For the works council", 0, 0.0F, 1.0F, 1.0F, 0.0F, 0, 0.0F, 0},
 }};
 
+using protocol::PriceKind;
+
 struct Price {
     std::string_view paper; // in 8-bit text, which is UTF-8 for consoles on this platform
-    std::uint8_t kind;
+    PriceKind kind;
     std::uint16_t code;
     float base;
     float bwSimplex;
@@ -93,18 +97,18 @@ struct Price {
 
 // For each paper either a multiplier or a price for each kind of work, as a console would write them.
 constexpr std::array<Price, 12> prices = {{
-    {"A4", 1, 9, 0.0F, 0.04F, 0.07F, 0.2F, 0.36F},
-    {"A4", 2, 9, 0.0F, 0.05F, 0.09F, 0.24F, 0.44F},
-    {"A4", 3, 9, 0.0F, 0.01F, 0.0F, 0.02F, 0.0F},
-    {"A3", 0, 8, 2.0F, 0.0F, 0.0F, 0.0F, 0.0F},
-    {"A5", 0, 11, 0.6F, 0.0F, 0.0F, 0.0F, 0.0F},
-    {"Legal", 0, 5, 1.2F, 0.0F, 0.0F, 0.0F, 0.0F},
-    {"Letter", 0, 1, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F},
-    {"A2", 0, 66, 4.0F, 0.0F, 0.0F, 0.0F, 0.0F},
-    {"A1", 1, 263, 0.0F, 1.5F, 0.0F, 4.5F, 0.0F},
-    {"A0", 1, 262, 0.0F, 3.0F, 0.0F, 9.0F, 0.0F},
-    {"m ²", 6, 259, 0.0F, 2.8F, 0.0F, 8.5F, 0.0F},
-    {"dm ²", 5, 258, 0.03F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"A4", PriceKind::print, 9, 0.0F, 0.04F, 0.07F, 0.2F, 0.36F},
+    {"A4", PriceKind::copy, 9, 0.0F, 0.05F, 0.09F, 0.24F, 0.44F},
+    {"A4", PriceKind::scan, 9, 0.0F, 0.01F, 0.0F, 0.02F, 0.0F},
+    {"A3", PriceKind::multiplier, 8, 2.0F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"A5", PriceKind::multiplier, 11, 0.6F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"Legal", PriceKind::multiplier, 5, 1.2F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"Letter", PriceKind::multiplier, 1, 1.0F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"A2", PriceKind::multiplier, 66, 4.0F, 0.0F, 0.0F, 0.0F, 0.0F},
+    {"A1", PriceKind::print, 263, 0.0F, 1.5F, 0.0F, 4.5F, 0.0F},
+    {"A0", PriceKind::print, 262, 0.0F, 3.0F, 0.0F, 9.0F, 0.0F},
+    {"m ²", PriceKind::areaPrint, 259, 0.0F, 2.8F, 0.0F, 8.5F, 0.0F},
+    {"dm ²", PriceKind::areaMultiplier, 258, 0.03F, 0.0F, 0.0F, 0.0F, 0.0F},
 }};
 
 struct ShortIds {

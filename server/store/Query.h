@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -98,6 +99,10 @@ public:
     void bind(int index, Number value) {
         bind(index, static_cast<std::int64_t>(value));
     }
+
+    template <class Enumeration>
+    requires std::is_enum_v<Enumeration>
+    void bind(int index, Enumeration value) { bind(index, static_cast<std::underlying_type_t<Enumeration>>(value)); }
 
     template <class Value>
     void bind(int index, const std::optional<Value>& value) {

@@ -62,7 +62,7 @@ void readColumn(const Rows& rows, int column, Value& value) {
     } else if constexpr (std::same_as<Value, float>) {
         value = static_cast<float>(rows.real(column));
     } else {
-        static_assert(std::integral<Value>, "a column holds one value");
+        static_assert(std::integral<Value> || std::is_enum_v<Value>, "a column holds one value");
         value = static_cast<Value>(rows.number(column));
     }
 }

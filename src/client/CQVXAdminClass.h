@@ -107,7 +107,7 @@ public:
 private:
     bool listPrinterRecords(const protocol::ListPrinterRecordsRequest& request, std::string summary,
                             std::int16_t& count);
-    bool deleteRecord(std::uint8_t type, const std::string& id);
+    bool deleteRecord(protocol::RecordDeletion type, const std::string& id);
 
     RecordCursor<protocol::RegionRecord> regions_;
     RecordCursor<protocol::PrinterRecord> printers_;

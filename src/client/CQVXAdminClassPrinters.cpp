@@ -76,14 +76,14 @@ bool CQVXAdminClass::movePrinter(const std::string& printerId, std::int32_t regi
 }
 
 bool CQVXAdminClass::deletePrinter(const std::string& id) {
-    return deleteRecord(protocol::recordDeletion::printer, id);
+    return deleteRecord(protocol::RecordDeletion::printer, id);
 }
 
 bool CQVXAdminClass::deleteQueue(const std::string& id) {
-    return deleteRecord(protocol::recordDeletion::queue, id);
+    return deleteRecord(protocol::RecordDeletion::queue, id);
 }
 
-bool CQVXAdminClass::deleteRecord(std::uint8_t type, const std::string& id) {
+bool CQVXAdminClass::deleteRecord(protocol::RecordDeletion type, const std::string& id) {
     return sendCommand(*this, protocol::DeleteRecordRequest{.type = type, .id = id}, id);
 }
 

@@ -9,9 +9,8 @@
 namespace rules {
 namespace {
 
-namespace priceKind = protocol::priceKind;
-
 using protocol::PriceEntryRecord;
+using protocol::PriceKind;
 
 // A code that is not in the list selects nothing.
 void selectCode(forms::ChoiceList<std::uint16_t>& list, std::uint16_t code) {
@@ -19,8 +18,8 @@ void selectCode(forms::ChoiceList<std::uint16_t>& list, std::uint16_t code) {
     list.selectValue(code);
 }
 
-bool canBeEdited(std::uint8_t kind) {
-    return kind <= priceKind::areaPrint && kind != priceKind::other;
+bool canBeEdited(PriceKind kind) {
+    return isKnown(kind) && kind != PriceKind::other;
 }
 
 } // namespace
@@ -54,7 +53,7 @@ void PapersGroup::takeCode(PriceEntryRecord& row) const {
     }
 }
 
-PriceEntryRecord PapersGroup::newRow(std::uint8_t kind) const {
+PriceEntryRecord PapersGroup::newRow(PriceKind kind) const {
     auto row = client::newRecord<PriceEntryRecord>();
     row.kind = kind;
     takeCode(row);
@@ -78,8 +77,8 @@ void PapersGroup::showRow(const PriceEntryRecord& row) {
     if (!canBeEdited(row.kind)) {
         return;
     }
-    multiplierType.select(priceKind::isMultiplier(row.kind) ? 0 : 1);
-    if (priceKind::isArea(row.kind)) {
+    multiplierType.select(isMultiplier(row.kind) ? 0 : 1);
+    if (isArea(row.kind)) {
         area.choose();
         selectCode(areaList, row.paperCode);
     } else {
@@ -111,7 +110,7 @@ void PapersGroup::add() {
 
 void PapersGroup::addMultiplier() {
     if (!fields.basePrice.empty() && codes().value()) {
-        table_.add(newRow(area.chosen() ? priceKind::areaMultiplier : priceKind::multiplier));
+        table_.add(newRow(area.chosen() ? PriceKind::areaMultiplier : PriceKind::multiplier));
     }
 }
 
@@ -122,12 +121,12 @@ void PapersGroup::addAbsolute() {
         return;
     }
     if (area.chosen()) {
-        auto row = newRow(priceKind::areaPrint);
+        auto row = newRow(PriceKind::areaPrint);
         fields.print.read(row);
         table_.add(std::move(row));
         return;
     }
-    for (const auto kind : {priceKind::print, priceKind::copy, priceKind::scan}) {
+    for (const auto kind : {PriceKind::print, PriceKind::copy, PriceKind::scan}) {
         table_.add(newRow(kind));
     }
 }

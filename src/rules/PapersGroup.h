@@ -48,7 +48,7 @@ private:
     [[nodiscard]] const forms::ChoiceList<std::uint16_t>& codes() const { return area.chosen() ? areaList : paperList; }
     // Puts the paper or area into a row, where one is selected.
     void takeCode(protocol::PriceEntryRecord& row) const;
-    [[nodiscard]] protocol::PriceEntryRecord newRow(std::uint8_t kind) const;
+    [[nodiscard]] protocol::PriceEntryRecord newRow(protocol::PriceKind kind) const;
 
     void rowSelected();
     void showRow(const protocol::PriceEntryRecord& row);

@@ -6,7 +6,7 @@
 
 namespace rules {
 
-namespace priceKind = protocol::priceKind;
+using protocol::PriceKind;
 
 PriceFields::PriceFields(forms::Container& container, const platform::Locale& locale)
     : basePrice(container, locale, u"Base Price"),
@@ -31,27 +31,27 @@ void PriceFields::enableForAdding(bool area) {
     scan.group.setEnabled(!area);
 }
 
-void PriceFields::enableForUpdate(std::uint8_t kind) {
-    print.group.setEnabled(kind == priceKind::print || kind == priceKind::areaPrint);
-    print.enableDuplex(kind == priceKind::print);
-    copy.group.setEnabled(kind == priceKind::copy);
-    scan.group.setEnabled(kind == priceKind::scan);
+void PriceFields::enableForUpdate(PriceKind kind) {
+    print.group.setEnabled(kind == PriceKind::print || kind == PriceKind::areaPrint);
+    print.enableDuplex(kind == PriceKind::print);
+    copy.group.setEnabled(kind == PriceKind::copy);
+    scan.group.setEnabled(kind == PriceKind::scan);
 }
 
 void PriceFields::show(const protocol::PriceEntryRecord& row) {
     switch (row.kind) {
-    case priceKind::multiplier:
-    case priceKind::areaMultiplier:
+    case PriceKind::multiplier:
+    case PriceKind::areaMultiplier:
         basePrice.show(row.basePrice);
         break;
-    case priceKind::print:
-    case priceKind::areaPrint:
+    case PriceKind::print:
+    case PriceKind::areaPrint:
         print.show(row);
         break;
-    case priceKind::copy:
+    case PriceKind::copy:
         copy.show(row);
         break;
-    case priceKind::scan:
+    case PriceKind::scan:
         scan.show(row);
         break;
     default:
@@ -62,20 +62,20 @@ void PriceFields::show(const protocol::PriceEntryRecord& row) {
 void PriceFields::read(protocol::PriceEntryRecord& row) const {
     row.basePrice = row.bwSimplex = row.bwDuplex = row.colorSimplex = row.colorDuplex = 0;
     switch (row.kind) {
-    case priceKind::multiplier:
-    case priceKind::areaMultiplier:
+    case PriceKind::multiplier:
+    case PriceKind::areaMultiplier:
         row.basePrice = basePrice.price();
         break;
-    case priceKind::print:
+    case PriceKind::print:
         print.read(row);
         break;
-    case priceKind::copy:
+    case PriceKind::copy:
         copy.read(row);
         break;
-    case priceKind::scan:
+    case PriceKind::scan:
         scan.read(row);
         break;
-    case priceKind::areaPrint:
+    case PriceKind::areaPrint:
         row.bwSimplex = print.bwSimplex.price();
         row.colorSimplex = print.colorSimplex.price();
         break;

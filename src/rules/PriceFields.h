@@ -18,7 +18,7 @@ public:
     // Areas have no prices for duplex, copy and scan.
     void enableForAdding(bool area);
     // Enables only what belongs to the kind of the row.
-    void enableForUpdate(std::uint8_t kind);
+    void enableForUpdate(protocol::PriceKind kind);
 
     void show(const protocol::PriceEntryRecord& row);
     // Stores the prices of the row's kind, and 0 in the others.

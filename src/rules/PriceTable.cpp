@@ -10,9 +10,8 @@
 namespace rules {
 namespace {
 
-namespace priceKind = protocol::priceKind;
-
 using protocol::PriceEntryRecord;
+using protocol::PriceKind;
 
 // The prices of a row in the order of the columns, and which of them matter for its kind.
 struct Shown {
@@ -21,16 +20,16 @@ struct Shown {
 };
 
 Shown shownOf(const PriceEntryRecord& row) {
-    const bool base = priceKind::isMultiplier(row.kind);
-    const bool simplex = priceKind::isAbsoluteOfPaper(row.kind) || row.kind == priceKind::areaPrint;
-    const bool duplex = priceKind::isAbsoluteOfPaper(row.kind) && row.kind != priceKind::scan;
+    const bool base = isMultiplier(row.kind);
+    const bool simplex = isAbsoluteOfPaper(row.kind) || row.kind == PriceKind::areaPrint;
+    const bool duplex = isAbsoluteOfPaper(row.kind) && row.kind != PriceKind::scan;
     return {{row.basePrice, row.bwSimplex, row.bwDuplex, row.colorSimplex, row.colorDuplex},
             {base, simplex, duplex, simplex, duplex}};
 }
 
 bool excludes(const PriceEntryRecord& row, const PriceEntryRecord& added) {
     const bool ofDifferentKinds =
-        priceKind::isAbsoluteOfPaper(row.kind) && priceKind::isAbsoluteOfPaper(added.kind) && row.kind != added.kind;
+        isAbsoluteOfPaper(row.kind) && isAbsoluteOfPaper(added.kind) && row.kind != added.kind;
     return row.paperCode == added.paperCode && !ofDifferentKinds;
 }
 

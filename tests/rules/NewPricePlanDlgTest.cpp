@@ -119,7 +119,7 @@ TEST_F(NewPricePlanDialog, addsANewPlanWithItsPrices) {
     EXPECT_EQ(request.plan.scanMultiplier, 0);
     EXPECT_EQ(request.plan.vat, 750U);
     ASSERT_EQ(request.entries.size(), 1U);
-    EXPECT_EQ(request.entries[0].kind, 0);
+    EXPECT_EQ(request.entries[0].kind, protocol::PriceKind::multiplier);
     EXPECT_EQ(request.entries[0].paperCode, 9);
     EXPECT_EQ(request.entries[0].paperName, "A4");
     EXPECT_EQ(request.entries[0].basePrice, 0.2F);
@@ -181,7 +181,8 @@ TEST_F(NewPricePlanDialog, aNegativeVatWrapsAround) {
 }
 
 TEST_F(NewPricePlanDialog, showsThePlanToEdit) {
-    estate_.prices["plan-1"] = {{.id = "r1", .paperName = "A4", .kind = 0, .paperCode = 9, .basePrice = 0.2F}};
+    estate_.prices["plan-1"] = {
+        {.id = "r1", .paperName = "A4", .kind = protocol::PriceKind::multiplier, .paperCode = 9, .basePrice = 0.2F}};
     NewPricePlanDlg dialog(platform_, standardPlan());
 
     dialog.open();
@@ -203,8 +204,13 @@ TEST_F(NewPricePlanDialog, showsThePlanToEdit) {
 
 TEST_F(NewPricePlanDialog, updatesAnEditedPlanWithAllOfItsRows) {
     estate_.prices["plan-1"] = {
-        {.id = "r1", .paperName = "A4", .kind = 0, .paperCode = 9, .basePrice = 0.2F},
-        {.id = "r2", .paperName = "Odd", .kind = 4, .paperCode = 77, .bwSimplex = 1, .colorDuplex = 2}};
+        {.id = "r1", .paperName = "A4", .kind = protocol::PriceKind::multiplier, .paperCode = 9, .basePrice = 0.2F},
+        {.id = "r2",
+         .paperName = "Odd",
+         .kind = protocol::PriceKind::other,
+         .paperCode = 77,
+         .bwSimplex = 1,
+         .colorDuplex = 2}};
     NewPricePlanDlg dialog(platform_, standardPlan());
     dialog.open();
     dialog.comment.userTyped(u"");
@@ -239,7 +245,8 @@ TEST_F(NewPricePlanDialog, numbersThatAreLeftAloneStayWhateverIsShownOfThem) {
     plan.defaultPrice = 1234567.5F;
     plan.colorMultiplier = 0.123456F;
     plan.vat = 2999;
-    estate_.prices["plan-1"] = {{.id = "r1", .paperName = "A4", .kind = 0, .paperCode = 9, .basePrice = 4321.5F}};
+    estate_.prices["plan-1"] = {
+        {.id = "r1", .paperName = "A4", .kind = protocol::PriceKind::multiplier, .paperCode = 9, .basePrice = 4321.5F}};
     NewPricePlanDlg dialog(platform_, plan);
     dialog.open();
     EXPECT_EQ(dialog.defaultPrice.box.text(), u"1.234.567,5000");

@@ -65,7 +65,7 @@ protected:
     [[nodiscard]] std::vector<int> kinds() const {
         std::vector<int> all;
         for (const auto& row : papers_.rows()) {
-            all.push_back(row.kind);
+            all.push_back(static_cast<int>(row.kind));
         }
         return all;
     }

@@ -73,7 +73,7 @@ TEST_F(Papers, addAMultiplierOnAPaper) {
     ASSERT_EQ(papers_.rows().size(), 1U);
     const auto& row = papers_.rows()[0];
     EXPECT_EQ(row.id.size(), 36U);
-    EXPECT_EQ(row.kind, 0);
+    EXPECT_EQ(row.kind, protocol::PriceKind::multiplier);
     EXPECT_EQ(row.paperCode, 9);
     EXPECT_EQ(row.paperName, "A4");
     EXPECT_EQ(row.basePrice, 0.25F);
@@ -90,7 +90,7 @@ TEST_F(Papers, addAMultiplierOnAnArea) {
     papers_.addButton.userPressed();
 
     ASSERT_EQ(papers_.rows().size(), 1U);
-    EXPECT_EQ(papers_.rows()[0].kind, 5);
+    EXPECT_EQ(papers_.rows()[0].kind, protocol::PriceKind::areaMultiplier);
     EXPECT_EQ(papers_.rows()[0].paperCode, 259);
     EXPECT_EQ(papers_.rows()[0].paperName, "m \xC2\xB2");
 }

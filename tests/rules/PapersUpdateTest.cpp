@@ -93,7 +93,7 @@ TEST_F(PricedPapers, anUpdateOfAScanRowTakesTwoPrices) {
 
     papers_.addButton.userPressed();
 
-    EXPECT_EQ(papers_.rows()[2].kind, 3);
+    EXPECT_EQ(papers_.rows()[2].kind, protocol::PriceKind::scan);
     EXPECT_EQ(papers_.rows()[2].bwSimplex, 90);
     EXPECT_EQ(papers_.rows()[2].colorSimplex, 10);
     EXPECT_EQ(papers_.rows()[2].bwDuplex, 0);
@@ -102,7 +102,7 @@ TEST_F(PricedPapers, anUpdateOfAScanRowTakesTwoPrices) {
 TEST_F(PricedPapers, anUpdateOfAnAreaRowSetsItsPricesForDuplexToNought) {
     papers_.setRows({{.id = "r",
                       .paperName = "ft",
-                      .kind = 6,
+                      .kind = protocol::PriceKind::areaPrint,
                       .paperCode = 261,
                       .basePrice = 9,
                       .bwSimplex = 1,
@@ -117,7 +117,7 @@ TEST_F(PricedPapers, anUpdateOfAnAreaRowSetsItsPricesForDuplexToNought) {
 
     papers_.addButton.userPressed();
 
-    EXPECT_EQ(papers_.rows()[0].kind, 6);
+    EXPECT_EQ(papers_.rows()[0].kind, protocol::PriceKind::areaPrint);
     EXPECT_EQ(papers_.rows()[0].basePrice, 0);
     EXPECT_EQ(papers_.rows()[0].bwSimplex, 1);
     EXPECT_EQ(papers_.rows()[0].bwDuplex, 0);
@@ -126,7 +126,8 @@ TEST_F(PricedPapers, anUpdateOfAnAreaRowSetsItsPricesForDuplexToNought) {
 }
 
 TEST_F(PricedPapers, anUpdateOfAPaperThatIsNotOfferedKeepsThePaper) {
-    papers_.setRows({{.id = "r", .paperName = "A6", .kind = 0, .paperCode = 70, .basePrice = 1}});
+    papers_.setRows(
+        {{.id = "r", .paperName = "A6", .kind = protocol::PriceKind::multiplier, .paperCode = 70, .basePrice = 1}});
     papers_.paperList.userSelected(0);
     papers_.prices.userSelected(0);
     EXPECT_EQ(papers_.paperList.selection(), std::nullopt);
@@ -140,7 +141,8 @@ TEST_F(PricedPapers, anUpdateOfAPaperThatIsNotOfferedKeepsThePaper) {
 }
 
 TEST_F(PricedPapers, aRowOfKind4CanBeRemovedButNotEdited) {
-    papers_.setRows({{.id = "r", .paperName = "A4", .kind = 4, .paperCode = 9, .bwSimplex = 1}});
+    papers_.setRows(
+        {{.id = "r", .paperName = "A4", .kind = protocol::PriceKind::other, .paperCode = 9, .bwSimplex = 1}});
 
     papers_.prices.userSelected(0);
 
@@ -166,7 +168,8 @@ TEST_F(PricedPapers, removeOnTheCopyRowOfA4RemovesThePrintAndScanRowsOfA4Too) {
 }
 
 TEST_F(PricedPapers, unselectGoesBackToAdding) {
-    papers_.setRows({{.id = "r", .paperName = "ft", .kind = 6, .paperCode = 261, .bwSimplex = 1}});
+    papers_.setRows(
+        {{.id = "r", .paperName = "ft", .kind = protocol::PriceKind::areaPrint, .paperCode = 261, .bwSimplex = 1}});
     papers_.prices.userSelected(0);
 
     papers_.unselectButton.userPressed();
@@ -190,7 +193,8 @@ TEST_F(PricedPapers, aClickBesideTheRowsDoesTheSameAsUnselect) {
 }
 
 TEST_F(PricedPapers, aRowWithoutANameCannotBeUpdated) {
-    papers_.setRows({{.id = "r", .paperName = "", .kind = 0, .paperCode = 9, .basePrice = 1}});
+    papers_.setRows(
+        {{.id = "r", .paperName = "", .kind = protocol::PriceKind::multiplier, .paperCode = 9, .basePrice = 1}});
 
     papers_.prices.userSelected(0);
 
@@ -198,7 +202,7 @@ TEST_F(PricedPapers, aRowWithoutANameCannotBeUpdated) {
 }
 
 // A row whose exact price is rounded in the boxes.
-protocol::PriceEntryRecord exactRow(std::uint8_t kind, std::uint16_t paperCode) {
+protocol::PriceEntryRecord exactRow(protocol::PriceKind kind, std::uint16_t paperCode) {
     return {.id = "row",
             .paperName = "A4",
             .kind = kind,
@@ -211,7 +215,7 @@ protocol::PriceEntryRecord exactRow(std::uint8_t kind, std::uint16_t paperCode) 
 }
 
 TEST_F(PricedPapers, thePriceOfARowThatIsUnselectedMeansNoMoreThanItsText) {
-    papers_.setRows({exactRow(0, protocol::paperSizes[0].code)});
+    papers_.setRows({exactRow(protocol::PriceKind::multiplier, protocol::paperSizes[0].code)});
     papers_.prices.userSelected(0);
     const auto shown = papers_.fields.basePrice.box.text();
     EXPECT_EQ(papers_.fields.basePrice.price(), 0.12345F);
@@ -226,7 +230,8 @@ TEST_F(PricedPapers, thePriceOfARowThatIsUnselectedMeansNoMoreThanItsText) {
 }
 
 TEST_F(PricedPapers, thePricesOfARowMeanNoMoreThanTheirTextsOnceAnotherRowIsChosen) {
-    papers_.setRows({exactRow(1, protocol::paperSizes[0].code), exactRow(0, protocol::paperSizes[1].code)});
+    papers_.setRows({exactRow(protocol::PriceKind::print, protocol::paperSizes[0].code),
+                     exactRow(protocol::PriceKind::multiplier, protocol::paperSizes[1].code)});
     papers_.prices.userSelected(0);
     EXPECT_EQ(papers_.fields.print.bwSimplex.price(), 0.12345F);
 
@@ -237,7 +242,7 @@ TEST_F(PricedPapers, thePricesOfARowMeanNoMoreThanTheirTextsOnceAnotherRowIsChos
 }
 
 TEST_F(PricedPapers, thePriceOfAnUpdatedRowMeansNoMoreThanItsTextAfterThat) {
-    papers_.setRows({exactRow(0, protocol::paperSizes[0].code)});
+    papers_.setRows({exactRow(protocol::PriceKind::multiplier, protocol::paperSizes[0].code)});
     papers_.prices.userSelected(0);
 
     papers_.addButton.userPressed();

@@ -20,7 +20,7 @@ constexpr std::uint16_t squareMetre = 259;
 PriceEntryRecord row(int kind, std::uint16_t paperCode, float price = 1) {
     return {.id = "r",
             .paperName = "A4",
-            .kind = static_cast<std::uint8_t>(kind),
+            .kind = static_cast<protocol::PriceKind>(kind),
             .paperCode = paperCode,
             .basePrice = price,
             .bwSimplex = price + 1,
@@ -38,7 +38,7 @@ Cells cellsOf(int kind) {
 std::vector<int> kindsOf(const PriceTable& table) {
     std::vector<int> kinds;
     for (const auto& each : table.rows()) {
-        kinds.push_back(each.kind);
+        kinds.push_back(static_cast<int>(each.kind));
     }
     return kinds;
 }

@@ -81,7 +81,8 @@ private:
 
     void deleteQueue(int round) {
         const auto queue = queues_.extract(numbered(name_, round));
-        server::test::tell(port_, requestOf(protocol::DeleteRecordRequest{.type = 2, .id = queue.mapped()}));
+        server::test::tell(port_, requestOf(protocol::DeleteRecordRequest{.type = protocol::RecordDeletion::queue,
+                                                                          .id = queue.mapped()}));
         expectOwnQueues();
     }
 

@@ -47,7 +47,8 @@ std::int32_t newRegion(std::uint16_t port) {
 }
 
 Bytes deletePrinterWithQueues(std::uint16_t port) {
-    return requestOf(protocol::DeleteRecordRequest{.type = 1, .id = busiestPrinter(port).id});
+    return requestOf(
+        protocol::DeleteRecordRequest{.type = protocol::RecordDeletion::printer, .id = busiestPrinter(port).id});
 }
 
 Bytes movePrinterWithQueues(std::uint16_t port) {

@@ -10,9 +10,6 @@
 
 namespace client {
 
-namespace schemaOperation = protocol::schemaOperation;
-namespace rangeOperation = protocol::rangeOperation;
-
 bool InventoryCommands::listSchemas(const std::string& reportId) {
     return fillCursor(client_, schemas_,
                       protocol::ListSchemasRequest{.id = reportId, .listKind = protocol::schemaListKind::all},
@@ -33,20 +30,20 @@ std::optional<protocol::SchemaRecord> InventoryCommands::getSchema(const std::st
 }
 
 bool InventoryCommands::createSchema(const protocol::SchemaRecord& schema) {
-    return changeSchema(schemaOperation::create, schema, wire::toUtf8(schema.schemaName));
+    return changeSchema(protocol::SchemaOperation::create, schema, wire::toUtf8(schema.schemaName));
 }
 
 bool InventoryCommands::updateSchema(const protocol::SchemaRecord& schema) {
-    return changeSchema(schemaOperation::save, schema, wire::toUtf8(schema.schemaName));
+    return changeSchema(protocol::SchemaOperation::save, schema, wire::toUtf8(schema.schemaName));
 }
 
 bool InventoryCommands::deleteSchema(const std::string& schemaId) {
     protocol::SchemaRecord schema;
     schema.schemaId = schemaId;
-    return changeSchema(schemaOperation::remove, schema, schemaId);
+    return changeSchema(protocol::SchemaOperation::remove, schema, schemaId);
 }
 
-bool InventoryCommands::changeSchema(std::uint8_t operation, const protocol::SchemaRecord& schema,
+bool InventoryCommands::changeSchema(protocol::SchemaOperation operation, const protocol::SchemaRecord& schema,
                                      std::string summary) {
     return sendCommand(client_, protocol::ChangeSchemaRequest{.operation = operation, .schema = schema},
                        std::move(summary));
@@ -110,27 +107,27 @@ bool InventoryCommands::nextIpRange(protocol::IpRangeRecord& range) {
 }
 
 bool InventoryCommands::addIpRange(const protocol::IpRangeRecord& range) {
-    return changeIpRange(rangeOperation::add, range, wire::toUtf8(range.name));
+    return changeIpRange(protocol::RangeOperation::add, range, wire::toUtf8(range.name));
 }
 
 bool InventoryCommands::updateIpRange(const protocol::IpRangeRecord& range) {
-    return changeIpRange(rangeOperation::save, range, wire::toUtf8(range.name));
+    return changeIpRange(protocol::RangeOperation::save, range, wire::toUtf8(range.name));
 }
 
 bool InventoryCommands::deleteIpRange(const std::string& rangeId) {
     protocol::IpRangeRecord range;
     range.rangeId = rangeId;
-    return changeIpRange(rangeOperation::remove, range, rangeId);
+    return changeIpRange(protocol::RangeOperation::remove, range, rangeId);
 }
 
 bool InventoryCommands::setIpRangeActive(const std::string& rangeId, bool active) {
     protocol::IpRangeRecord range;
     range.rangeId = rangeId;
     range.active = active;
-    return changeIpRange(rangeOperation::setActive, range, rangeId);
+    return changeIpRange(protocol::RangeOperation::setActive, range, rangeId);
 }
 
-bool InventoryCommands::changeIpRange(std::uint8_t operation, const protocol::IpRangeRecord& range,
+bool InventoryCommands::changeIpRange(protocol::RangeOperation operation, const protocol::IpRangeRecord& range,
                                       std::string summary) {
     return sendCommand(client_, protocol::ChangeIpRangeRequest{.operation = operation, .range = range},
                        std::move(summary));

@@ -75,9 +75,9 @@ public:
     bool setIpRangeActive(const std::string& rangeId, bool active);
 
 private:
-    bool changeSchema(std::uint8_t operation, const protocol::SchemaRecord& schema, std::string summary);
+    bool changeSchema(protocol::SchemaOperation operation, const protocol::SchemaRecord& schema, std::string summary);
     bool listRanges(std::uint8_t listKind, const std::string& id);
-    bool changeIpRange(std::uint8_t operation, const protocol::IpRangeRecord& range, std::string summary);
+    bool changeIpRange(protocol::RangeOperation operation, const protocol::IpRangeRecord& range, std::string summary);
 
     CQVXAdminClass2& client_;
     RecordCursor<protocol::SchemaRecord> schemas_;

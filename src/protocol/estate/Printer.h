@@ -164,16 +164,13 @@ struct UpdateRecordRequest {
 };
 
 // What is to be deleted.
-namespace recordDeletion {
-constexpr std::uint8_t printer = 1;
-constexpr std::uint8_t queue = 2;
-} // namespace recordDeletion
+enum class RecordDeletion : std::uint8_t { printer = 1, queue = 2 };
 
 // Deletes a printer or a queue.
 struct DeleteRecordRequest {
     static constexpr std::uint16_t opcode = 36;
 
-    std::uint8_t type = 0; // one of recordDeletion
+    RecordDeletion type = RecordDeletion::printer;
     std::string id;
 
     static constexpr auto fields =

@@ -23,17 +23,15 @@ constexpr std::uint8_t one = 2;
 
 } // namespace protocol::rangeListKind
 
-// The operation on an IP range.
-namespace protocol::rangeOperation {
-
-constexpr std::uint8_t add = 1;
-constexpr std::uint8_t save = 2;
-constexpr std::uint8_t remove = 3;    // uses only the rangeId
-constexpr std::uint8_t setActive = 4; // uses only the rangeId and active
-
-} // namespace protocol::rangeOperation
-
 namespace protocol {
+
+// The operation on an IP range.
+enum class RangeOperation : std::uint8_t {
+    add = 1,
+    save = 2,
+    remove = 3,    // uses only the rangeId
+    setActive = 4, // uses only the rangeId and active
+};
 
 // A block of addresses and what a migration does with the printers in it. The numbered values and texts belong to the
 // server, and a console sends them back unchanged.
@@ -80,10 +78,10 @@ struct ListIpRangesRequest {
 // Adds, changes, deletes or switches an IP range.
 struct ChangeIpRangeRequest {
     static constexpr std::uint16_t opcode = 56;
-    static constexpr std::array<std::uint8_t, 4> actions = {rangeOperation::add, rangeOperation::save,
-                                                            rangeOperation::remove, rangeOperation::setActive};
+    static constexpr std::array actions = {RangeOperation::add, RangeOperation::save, RangeOperation::remove,
+                                           RangeOperation::setActive};
 
-    std::uint8_t operation = 0; // one of rangeOperation
+    RangeOperation operation = RangeOperation::add;
     IpRangeRecord range;
 
     static constexpr auto fields =

@@ -21,16 +21,14 @@ constexpr std::uint32_t one = 1;
 
 } // namespace protocol::schemaListKind
 
-// The operation on a migration plan.
-namespace protocol::schemaOperation {
-
-constexpr std::uint8_t create = 1;
-constexpr std::uint8_t save = 2;
-constexpr std::uint8_t remove = 4; // uses only the schemaId
-
-} // namespace protocol::schemaOperation
-
 namespace protocol {
+
+// The operation on a migration plan.
+enum class SchemaOperation : std::uint8_t {
+    create = 1,
+    save = 2,
+    remove = 4, // uses only the schemaId
+};
 
 // A migration plan: what to do with one printer of the old estate. Empty fields of the old printer are ignored.
 struct SchemaRecord {
@@ -74,10 +72,9 @@ struct ListSchemasRequest {
 // Adds, changes or deletes a migration plan.
 struct ChangeSchemaRequest {
     static constexpr std::uint16_t opcode = 38;
-    static constexpr std::array<std::uint8_t, 3> actions = {schemaOperation::create, schemaOperation::save,
-                                                            schemaOperation::remove};
+    static constexpr std::array actions = {SchemaOperation::create, SchemaOperation::save, SchemaOperation::remove};
 
-    std::uint8_t operation = 0; // one of schemaOperation
+    SchemaOperation operation = SchemaOperation::create;
     SchemaRecord schema;
 
     static constexpr auto fields =

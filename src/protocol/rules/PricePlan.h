@@ -14,34 +14,36 @@ constexpr std::uint8_t last = walletAndExternalDebit;
 
 } // namespace protocol::payMethod
 
-// What a row of a price plan applies to, and how.
-namespace protocol::priceKind {
+namespace protocol {
 
-constexpr std::uint8_t multiplier = 0; // a paper, by its base price and the plan's multipliers
-constexpr std::uint8_t print = 1;      // a paper, absolutely
-constexpr std::uint8_t copy = 2;       // the same
-constexpr std::uint8_t scan = 3;       // the same, without duplex
-constexpr std::uint8_t other = 4;      // a paper, absolutely; no console creates such a row, and it can't be edited
-constexpr std::uint8_t areaMultiplier = 5;
-constexpr std::uint8_t areaPrint = 6; // absolutely, without duplex
-constexpr std::uint8_t last = areaPrint;
+// What a row of a price plan applies to, and how.
+enum class PriceKind : std::uint8_t {
+    multiplier = 0, // a paper, by its base price and the plan's multipliers
+    print = 1,      // a paper, absolutely
+    copy = 2,       // the same
+    scan = 3,       // the same, without duplex
+    other = 4,      // a paper, absolutely; no console creates such a row, and it can't be edited
+    areaMultiplier = 5,
+    areaPrint = 6, // absolutely, without duplex
+};
 
 // A paper may have several rows if each is of a different one of these kinds.
-constexpr bool isAbsoluteOfPaper(std::uint8_t kind) {
-    return kind >= print && kind <= other;
+constexpr bool isAbsoluteOfPaper(PriceKind kind) {
+    return kind >= PriceKind::print && kind <= PriceKind::other;
 }
 
-constexpr bool isArea(std::uint8_t kind) {
-    return kind == areaMultiplier || kind == areaPrint;
+constexpr bool isArea(PriceKind kind) {
+    return kind == PriceKind::areaMultiplier || kind == PriceKind::areaPrint;
 }
 
-constexpr bool isMultiplier(std::uint8_t kind) {
-    return kind == multiplier || kind == areaMultiplier;
+constexpr bool isMultiplier(PriceKind kind) {
+    return kind == PriceKind::multiplier || kind == PriceKind::areaMultiplier;
 }
 
-} // namespace protocol::priceKind
-
-namespace protocol {
+// A peer may send any number.
+constexpr bool isKnown(PriceKind kind) {
+    return kind <= PriceKind::areaPrint;
+}
 
 // What print jobs cost: the general figures of a plan, whose prices for papers and areas are PriceEntryRecords.
 struct PricePlanRecord {
@@ -70,9 +72,9 @@ struct PricePlanRecord {
 
 // The price of a paper or of a unit of area within a price plan. A price without a meaning for the kind is 0.
 struct PriceEntryRecord {
-    std::string id;              // uuid text, made by the console
-    std::string paperName;       // label of the paper or area, in 8-bit text
-    std::uint8_t kind = 0;       // one of priceKind
+    std::string id;        // uuid text, made by the console
+    std::string paperName; // label of the paper or area, in 8-bit text
+    PriceKind kind = PriceKind::multiplier;
     std::uint16_t paperCode = 0; // of paperSizes or areaUnits
     float basePrice = 0;         // the only price of a multiplier
     float bwSimplex = 0;

@@ -48,7 +48,8 @@ const PricePlanRecord plan{.id = "p1",
                            .vat = 2500};
 const std::string planFields =
     "02 00 70 31 01 02 00 4E 00 00 00 00 00 80 3F 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 40 C4 09 00 00";
-const PriceEntryRecord price{.id = "r1", .paperName = "A4", .kind = 0, .paperCode = 9, .basePrice = 0.5F};
+const PriceEntryRecord price{
+    .id = "r1", .paperName = "A4", .kind = protocol::PriceKind::multiplier, .paperCode = 9, .basePrice = 0.5F};
 const std::string priceFields =
     "02 00 72 31 02 00 41 34 00 09 00 00 00 00 3F 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00";
 const ShortIdRecord shortId{.id = uuid,

@@ -139,7 +139,7 @@ TEST_F(WriteCheck, seesTheObjectsOfTheRules) {
     price.basePrice = 0.07F;
     expectDone([&] { return client.addPricePlan(plan, {price, client::newRecord<protocol::PriceEntryRecord>()}); });
     expectDone([&] { return client.updatePricePlan(plan, {price}); });
-    price.kind = 99;
+    price.kind = static_cast<protocol::PriceKind>(99);
     expectRefused("WritePricePlan", [&] { return client.updatePricePlan(plan, {price}); });
     expectDone([&] { return client.deletePricePlan(plan.id); });
 

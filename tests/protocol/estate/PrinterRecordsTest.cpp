@@ -138,7 +138,7 @@ TEST(MovePrinterRequest, isPrinterAndNewRegion) {
 }
 
 TEST(DeleteRecordRequest, isTypeAndId) {
-    const DeleteRecordRequest request{.type = 2, .id = "q1"};
+    const DeleteRecordRequest request{.type = protocol::RecordDeletion::queue, .id = "q1"};
 
     EXPECT_EQ(hexOf(request), tidy("01 0A 00 00 00  02  02 00 71 31"));
     EXPECT_EQ(fromFields<DeleteRecordRequest>("02 02 00 71 31"), request);

@@ -190,14 +190,14 @@ TEST(ListSchemasRequest, isTheIdAndThenAWideKind) {
 }
 
 TEST(ChangeSchemaRequest, isTheOperationAndThenThePlan) {
-    for (const std::uint8_t operation : ChangeSchemaRequest::actions) {
+    for (const auto operation : ChangeSchemaRequest::actions) {
         expectBothWays(ChangeSchemaRequest{.operation = operation, .schema = ordinarySchema()},
-                       support::Bytes{operation} + support::hex(ordinarySchemaFields));
+                       support::Bytes{static_cast<std::uint8_t>(operation)} + support::hex(ordinarySchemaFields));
     }
 }
 
 TEST(ChangeSchemaRequest, aDeletedOneIsEmptyButForItsId) {
-    ChangeSchemaRequest request{.operation = 4, .schema = {}};
+    ChangeSchemaRequest request{.operation = SchemaOperation::remove, .schema = {}};
     request.schema.schemaId = "s1";
     EXPECT_EQ(hexOf(request), tidy("01 23 00 00 00  04 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"
                                    "02 00 73 31 00 00 00 00 00 00 00"));
@@ -243,14 +243,14 @@ TEST(ListIpRangesRequest, isANarrowKindAndThenTheId) {
 }
 
 TEST(ChangeIpRangeRequest, isTheOperationAndThenTheRange) {
-    for (const std::uint8_t operation : ChangeIpRangeRequest::actions) {
+    for (const auto operation : ChangeIpRangeRequest::actions) {
         expectBothWays(ChangeIpRangeRequest{.operation = operation, .range = ordinaryRange()},
-                       support::Bytes{operation} + support::hex(ordinaryRangeFields));
+                       support::Bytes{static_cast<std::uint8_t>(operation)} + support::hex(ordinaryRangeFields));
     }
 }
 
 TEST(ChangeIpRangeRequest, oneThatSwitchesIsEmptyButForIdAndState) {
-    ChangeIpRangeRequest request{.operation = 4, .range = {}};
+    ChangeIpRangeRequest request{.operation = RangeOperation::setActive, .range = {}};
     request.range.rangeId = "i1";
     request.range.active = true;
     EXPECT_EQ(hexOf(request), tidy("01 25 00 00 00  04 02 00 69 31 01 00 00 00 00 00 00 00 00 00 00 00 00 00 00"

@@ -26,7 +26,7 @@ const std::string planFields = beforePlanName + "02 00 4E 00" + behindPlanName;
 
 const PriceEntryRecord ordinaryEntry{.id = "r1",
                                      .paperName = "A4",
-                                     .kind = 1,
+                                     .kind = PriceKind::print,
                                      .paperCode = 9,
                                      .basePrice = 0,
                                      .bwSimplex = 0.25F,
@@ -55,6 +55,14 @@ TEST(PriceEntryRecord, thePricesFollowThePaper) {
     expectNoShorterMessage<PriceEntryRecord>(entryFields);
     expectFields(PriceEntryRecord{},
                  "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
+}
+
+TEST(PriceEntryRecord, aKindThatIsNotKnownKeepsItsNumber) {
+    PriceEntryRecord entry = ordinaryEntry;
+    entry.kind = static_cast<PriceKind>(0xFE);
+
+    EXPECT_FALSE(isKnown(entry.kind));
+    expectFields(entry, "02 00 72 31 02 00 41 34 FE 09 00 00 00 00 00 00 00 80 3E 00 00 00 3F 00 00 80 3F 00 00 00 40");
 }
 
 TEST(PriceEntryRecord, theLabelIsEightBitTextOfAnyBytes) {

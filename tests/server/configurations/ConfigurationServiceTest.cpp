@@ -281,7 +281,7 @@ TEST_F(ConfigurationServiceTest, whatQueuesUseEndsWithItsDeployment) {
 TEST_F(ConfigurationServiceTest, whatAQueueUsesEndsWithTheQueue) {
     apply(queue, "de", "c1");
 
-    place.recordService().remove({.type = 1, .id = printer});
+    place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = printer});
 
     EXPECT_TRUE(estate.users("c1").empty());
     EXPECT_TRUE(isDone(remove("c1", 0)));

@@ -212,7 +212,7 @@ TEST(RecordService, deletingAPrinterDeletesItsQueues) {
     const auto printer = place.addPrinter(u"P", north);
     const auto queue = place.addQueue(u"Q", printer);
     const auto other = place.addPrinter(u"Other", north);
-    EXPECT_TRUE(isDone(place.recordService().remove({.type = 1, .id = printer})));
+    EXPECT_TRUE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = printer})));
     EXPECT_FALSE(place.exists(printer));
     EXPECT_FALSE(place.exists(queue));
     EXPECT_TRUE(place.exists(other));
@@ -226,13 +226,13 @@ TEST(RecordService, aDeleteNamesTheRightTypeOrIsRefused) {
     const auto queue = place.addQueue(u"Q", printer);
     const auto followQueue = place.add(3, u"F", north);
     const auto localPrinter = place.add(6, u"L", home);
-    EXPECT_FALSE(isDone(place.recordService().remove({.type = 2, .id = printer})));
-    EXPECT_FALSE(isDone(place.recordService().remove({.type = 1, .id = queue})));
-    EXPECT_FALSE(isDone(place.recordService().remove({.type = 3, .id = queue})));
-    EXPECT_FALSE(isDone(place.recordService().remove({.type = 1, .id = "nobody"})));
-    EXPECT_TRUE(isDone(place.recordService().remove({.type = 2, .id = queue})));
-    EXPECT_TRUE(isDone(place.recordService().remove({.type = 2, .id = followQueue})));
-    EXPECT_TRUE(isDone(place.recordService().remove({.type = 1, .id = localPrinter})));
+    EXPECT_FALSE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::queue, .id = printer})));
+    EXPECT_FALSE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = queue})));
+    EXPECT_FALSE(isDone(place.recordService().remove({.type = static_cast<protocol::RecordDeletion>(3), .id = queue})));
+    EXPECT_FALSE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = "nobody"})));
+    EXPECT_TRUE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::queue, .id = queue})));
+    EXPECT_TRUE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::queue, .id = followQueue})));
+    EXPECT_TRUE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = localPrinter})));
     EXPECT_TRUE(place.exists(printer));
 }
 

@@ -82,7 +82,7 @@ TEST(FoundPrinterList, anOwnPrinterAtTheAddressIsMappedWithItsFirstQueue) {
     const auto queue = place.addQueue(u"First", printer);
     EXPECT_EQ(place.found(report).at(0).mappedQueueName, u"First");
     EXPECT_EQ(place.found(report).at(0).mappedQueueId, queue);
-    place.recordService().remove({.type = 1, .id = printer});
+    place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = printer});
     EXPECT_EQ(place.found(report).at(0).mappedPrinterName, u"");
     EXPECT_EQ(place.found(report).at(0).mappedQueueName, u"");
 }
@@ -114,11 +114,11 @@ TEST(FoundPrinterList, aPlanShowsAsSoonAsItIsMadeAndNoLongerThanItIsThere) {
              {1, u"Ignore"}, {2, u"Reinstall"}, {3, u"Delete"}, {0, u""}, {4, u""}}) {
         auto made = plan(u"Plan", "10.1.0.7");
         made.action = action;
-        place.changePlan(1, made);
+        place.changePlan(protocol::SchemaOperation::create, made);
         EXPECT_EQ(place.found(report).at(0).migrationPlan, u"Plan");
         EXPECT_EQ(place.found(report).at(0).migrationAction, text) << action;
         EXPECT_EQ(place.planNames(report), Names{u"Plan"});
-        place.changePlan(4, place.plans().at(0));
+        place.changePlan(protocol::SchemaOperation::remove, place.plans().at(0));
         EXPECT_EQ(place.found(report).at(0).migrationPlan, u"");
         EXPECT_EQ(place.planNames(report), Names{});
     }
@@ -129,10 +129,10 @@ TEST(FoundPrinterList, aPlanCoversAPrinterWhenAllThatItNamesAgrees) {
     place.addShared(u"HP 1", "10.1.0.7", u"X5"); // its port is IP_10.1.0.7
     const auto report = place.report();
     const auto covers = [&](const SchemaRecord& made) {
-        place.changePlan(1, made);
+        place.changePlan(protocol::SchemaOperation::create, made);
         const bool shown = place.found(report).at(0).migrationPlan == u"P";
         EXPECT_EQ(!place.planNames(report).empty(), shown);
-        place.changePlan(4, place.plans().at(0));
+        place.changePlan(protocol::SchemaOperation::remove, place.plans().at(0));
         return shown;
     };
     EXPECT_TRUE(covers(plan(u"P", "10.1.0.7")));
@@ -159,10 +159,10 @@ TEST(FoundPrinterList, ofSeveralPlansTheOneThatNamesThePrinterBestDecides) {
          {plan(u"model", "", u"", u"X5"), plan(u"model and port", "", u"", u"X5", "IP_10.1.0.7"),
           plan(u"name", "", u"HP 1"), plan(u"address", "10.1.0.7"), plan(u"address and name", "10.1.0.7", u"HP 1"),
           plan(u"the same, newer", "10.1.0.7", u"HP 1")}) {
-        place.changePlan(1, next);
+        place.changePlan(protocol::SchemaOperation::create, next);
         EXPECT_EQ(place.found(report).at(0).migrationPlan, next.schemaName);
     }
-    place.changePlan(1, plan(u"too late", "10.1.0.7"));
+    place.changePlan(protocol::SchemaOperation::create, plan(u"too late", "10.1.0.7"));
     EXPECT_EQ(place.found(report).at(0).migrationPlan, u"the same, newer");
     EXPECT_EQ(place.planNames(report).size(), 7U);
 }
@@ -172,7 +172,7 @@ TEST(FoundPrinterList, longNamesAreCutSoThatTheFrameCanBeReceived) {
     place.addShared(u"HP 1", "10.1.0.7");
     const auto printer = place.addOwn(std::u16string(30000, u'p'), "10.1.0.7");
     place.addQueue(std::u16string(30000, u'q'), printer);
-    place.changePlan(1, plan(std::u16string(30000, u'm'), "10.1.0.7"));
+    place.changePlan(protocol::SchemaOperation::create, plan(std::u16string(30000, u'm'), "10.1.0.7"));
     const auto found = place.found(place.report()).at(0);
     EXPECT_EQ(found.mappedPrinterName, std::u16string(4000, u'p'));
     EXPECT_EQ(found.mappedQueueName, std::u16string(4000, u'q'));

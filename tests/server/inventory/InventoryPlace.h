@@ -143,10 +143,10 @@ public:
         return recordsOf<protocol::IpRangeRecord>(connection().table<IpRangeTable>().list());
     }
 
-    protocol::StatusReply changePlan(std::uint8_t operation, const protocol::SchemaRecord& plan) {
+    protocol::StatusReply changePlan(protocol::SchemaOperation operation, const protocol::SchemaRecord& plan) {
         return MigrationPlanService(connection()).change({.operation = operation, .schema = plan});
     }
-    protocol::StatusReply changeRange(std::uint8_t operation, const protocol::IpRangeRecord& range) {
+    protocol::StatusReply changeRange(protocol::RangeOperation operation, const protocol::IpRangeRecord& range) {
         return IpRangeService(connection()).change({.operation = operation, .range = range});
     }
     // An active one.
@@ -156,7 +156,7 @@ public:
         range.startIp = first;
         range.endIp = last;
         range.rangeType = rangeType;
-        changeRange(1, range);
+        changeRange(protocol::RangeOperation::add, range);
     }
 
     // 0 for one that does not exist.

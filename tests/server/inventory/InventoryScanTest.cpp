@@ -118,7 +118,7 @@ TEST(InventoryScan, whatAnActiveRangeTellsToIgnoreIsLeftOut) {
     auto resting = place.ranges().at(0);
     resting.active = false;
     resting.rangeType = range::ignore;
-    place.changeRange(1, resting);
+    place.changeRange(protocol::RangeOperation::add, resting);
     const auto found = place.found(place.report());
     EXPECT_EQ(test::each(found, &protocol::InventoryPrinterRecord::printerIp),
               (std::vector<std::string>{"10.1.0.1", "10.1.0.3", "10.2.0.1"}));

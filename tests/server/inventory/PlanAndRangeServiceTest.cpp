@@ -45,7 +45,7 @@ TEST(MigrationPlanService, aNewPlanGetsAnIdAndKeepsAllItsFields) {
     InventoryPlace place;
     auto plan = fullPlan();
     plan.schemaId = "mine";
-    EXPECT_TRUE(isDone(place.changePlan(1, plan)));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::create, plan)));
     const auto stored = place.plans().at(0);
     EXPECT_EQ(stored.schemaId.size(), 36U);
     plan.schemaId = stored.schemaId;
@@ -54,22 +54,22 @@ TEST(MigrationPlanService, aNewPlanGetsAnIdAndKeepsAllItsFields) {
 
 TEST(MigrationPlanService, anEmptyPlanIsKept) {
     InventoryPlace place;
-    EXPECT_TRUE(isDone(place.changePlan(1, {})));
-    EXPECT_TRUE(isDone(place.changePlan(1, {})));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::create, {})));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::create, {})));
     EXPECT_EQ(place.plans().size(), 2U);
 }
 
 TEST(MigrationPlanService, anEditReplacesAllFieldsAndADeleteNamesTheIdAlone) {
     InventoryPlace place;
-    place.changePlan(1, fullPlan());
+    place.changePlan(protocol::SchemaOperation::create, fullPlan());
     SchemaRecord edited;
     edited.schemaId = place.plans().at(0).schemaId;
     edited.schemaName = u"Other";
-    EXPECT_TRUE(isDone(place.changePlan(2, edited)));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::save, edited)));
     EXPECT_EQ(place.plans(), std::vector{edited});
     SchemaRecord gone;
     gone.schemaId = edited.schemaId;
-    EXPECT_TRUE(isDone(place.changePlan(4, gone)));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::remove, gone)));
     EXPECT_TRUE(place.plans().empty());
 }
 
@@ -77,19 +77,20 @@ TEST(MigrationPlanService, aPlanThatIsNotThereIsNeitherSavedNorDeleted) {
     InventoryPlace place;
     auto plan = fullPlan();
     plan.schemaId = "nobody";
-    EXPECT_EQ(place.changePlan(2, plan).text, u"The migration plan was deleted in the meantime.");
-    EXPECT_FALSE(isDone(place.changePlan(4, plan)));
+    EXPECT_EQ(place.changePlan(protocol::SchemaOperation::save, plan).text,
+              u"The migration plan was deleted in the meantime.");
+    EXPECT_FALSE(isDone(place.changePlan(protocol::SchemaOperation::remove, plan)));
     EXPECT_TRUE(place.plans().empty());
 }
 
 TEST(MigrationPlanService, aPlanThatCouldNotBeSentBackIsRefused) {
     InventoryPlace place;
-    place.changePlan(1, fullPlan());
+    place.changePlan(protocol::SchemaOperation::create, fullPlan());
     auto plan = place.plans().at(0);
     plan.oldPort = std::string(65000, 'p');
     plan.schemaName = std::u16string(300, u'n');
-    EXPECT_FALSE(isDone(place.changePlan(1, plan)));
-    EXPECT_FALSE(isDone(place.changePlan(2, plan)));
+    EXPECT_FALSE(isDone(place.changePlan(protocol::SchemaOperation::create, plan)));
+    EXPECT_FALSE(isDone(place.changePlan(protocol::SchemaOperation::save, plan)));
     plan.oldPort = "IP_1";
     plan.schemaName = u"Plan";
     EXPECT_EQ(place.plans(), std::vector{plan});
@@ -101,13 +102,13 @@ TEST(MigrationPlanService, theQueueOfAPlanIsFoundByItsNameWhenOnlyOneHasIt) {
     const auto queue = place.addQueue(u"Color", printer);
     auto plan = fullPlan();
     plan.newPrinterName = u"color";
-    place.changePlan(1, plan);
+    place.changePlan(protocol::SchemaOperation::create, plan);
     EXPECT_EQ(place.plans().at(0).newQueueId, queue);
     place.add(3, u"Color", place.record(printer).regionId);
-    place.changePlan(1, plan);
+    place.changePlan(protocol::SchemaOperation::create, plan);
     EXPECT_EQ(place.plans().at(1).newQueueId, "");
     plan.newQueueId = queue;
-    place.changePlan(1, plan);
+    place.changePlan(protocol::SchemaOperation::create, plan);
     EXPECT_EQ(place.plans().at(2).newQueueId, queue);
 }
 
@@ -117,13 +118,13 @@ TEST(MigrationPlanService, aPlanOutlivesItsQueue) {
     auto plan = fullPlan();
     plan.newPrinterName = u"Color";
     plan.newQueueId = place.addQueue(u"Color", printer);
-    place.changePlan(1, plan);
-    place.recordService().remove({.type = 1, .id = printer});
+    place.changePlan(protocol::SchemaOperation::create, plan);
+    place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = printer});
     const auto orphan = place.plans().at(0);
     EXPECT_EQ(orphan.newQueueId, "");
     EXPECT_EQ(orphan.newPrinterName, u"Color");
     plan.schemaId = orphan.schemaId; // a dialog that was open in the meantime still has the queue's id
-    EXPECT_TRUE(isDone(place.changePlan(2, plan)));
+    EXPECT_TRUE(isDone(place.changePlan(protocol::SchemaOperation::save, plan)));
     EXPECT_EQ(place.plans(), std::vector{orphan});
 }
 
@@ -132,7 +133,7 @@ TEST(MigrationPlanTable, plansAreInTheOrderOfNames) {
     for (const auto* const name : {u"b", u"C", u"A"}) {
         SchemaRecord plan;
         plan.schemaName = name;
-        place.changePlan(1, plan);
+        place.changePlan(protocol::SchemaOperation::create, plan);
     }
     EXPECT_EQ(test::each(place.plans(), &SchemaRecord::schemaName), (std::vector<std::u16string>{u"A", u"b", u"C"}));
 }
@@ -140,7 +141,7 @@ TEST(MigrationPlanTable, plansAreInTheOrderOfNames) {
 TEST(IpRangeService, aNewRangeGetsAnIdAndKeepsAllItsFields) {
     InventoryPlace place;
     auto range = fullRange();
-    EXPECT_TRUE(isDone(place.changeRange(1, range)));
+    EXPECT_TRUE(isDone(place.changeRange(protocol::RangeOperation::add, range)));
     range.rangeId = place.ranges().at(0).rangeId;
     EXPECT_EQ(range.rangeId.size(), 36U);
     EXPECT_EQ(place.ranges(), std::vector{range});
@@ -148,34 +149,34 @@ TEST(IpRangeService, aNewRangeGetsAnIdAndKeepsAllItsFields) {
 
 TEST(IpRangeService, aRangeWithAllFieldsEmptyIsKept) {
     InventoryPlace place;
-    EXPECT_TRUE(isDone(place.changeRange(1, {})));
+    EXPECT_TRUE(isDone(place.changeRange(protocol::RangeOperation::add, {})));
     EXPECT_EQ(place.ranges().size(), 1U);
     EXPECT_TRUE(place.connection().table<IpRangeTable>().active().empty());
 }
 
 TEST(IpRangeService, anEditReplacesAllFieldsAndADeleteNamesTheIdAlone) {
     InventoryPlace place;
-    place.changeRange(1, fullRange());
+    place.changeRange(protocol::RangeOperation::add, fullRange());
     auto edited = place.ranges().at(0);
     edited.name = u"Roof";
     edited.startIp = u"10.1.0.9";
-    EXPECT_TRUE(isDone(place.changeRange(2, edited)));
+    EXPECT_TRUE(isDone(place.changeRange(protocol::RangeOperation::save, edited)));
     EXPECT_EQ(place.ranges(), std::vector{edited}); // fields that a dialog does not show are kept
     IpRangeRecord gone;
     gone.rangeId = edited.rangeId;
-    EXPECT_TRUE(isDone(place.changeRange(3, gone)));
+    EXPECT_TRUE(isDone(place.changeRange(protocol::RangeOperation::remove, gone)));
     EXPECT_TRUE(place.ranges().empty());
 }
 
 TEST(IpRangeService, switchingChangesNothingElseAndMayBeRepeated) {
     InventoryPlace place;
-    place.changeRange(1, fullRange());
+    place.changeRange(protocol::RangeOperation::add, fullRange());
     auto expected = place.ranges().at(0);
     IpRangeRecord request;
     request.rangeId = expected.rangeId;
     for (const bool active : {false, false, true, true}) {
         request.active = expected.active = active;
-        EXPECT_TRUE(isDone(place.changeRange(4, request)));
+        EXPECT_TRUE(isDone(place.changeRange(protocol::RangeOperation::setActive, request)));
         EXPECT_EQ(place.ranges(), std::vector{expected});
         EXPECT_EQ(place.connection().table<IpRangeTable>().active().size(), active ? 1U : 0U);
     }
@@ -185,7 +186,8 @@ TEST(IpRangeService, aRangeThatIsNotThereIsNeitherSavedNorDeletedNorSwitched) {
     InventoryPlace place;
     auto range = fullRange();
     range.rangeId = "nobody";
-    for (const std::uint8_t operation : {std::uint8_t{2}, std::uint8_t{3}, std::uint8_t{4}}) {
+    for (const auto operation :
+         {protocol::RangeOperation::save, protocol::RangeOperation::remove, protocol::RangeOperation::setActive}) {
         EXPECT_EQ(place.changeRange(operation, range).text, u"The IP range was deleted in the meantime.");
     }
     EXPECT_TRUE(place.ranges().empty());
@@ -193,14 +195,14 @@ TEST(IpRangeService, aRangeThatIsNotThereIsNeitherSavedNorDeletedNorSwitched) {
 
 TEST(IpRangeService, endsThatMakeNoSenseAreRefused) {
     InventoryPlace place;
-    place.changeRange(1, fullRange());
+    place.changeRange(protocol::RangeOperation::add, fullRange());
     const auto stored = place.ranges().at(0);
     const auto refusedWith = [&](const std::u16string& first, const std::u16string& last) {
         auto range = stored;
         range.startIp = first;
         range.endIp = last;
-        const auto text = place.changeRange(2, range).text;
-        EXPECT_EQ(place.changeRange(1, range).text, text);
+        const auto text = place.changeRange(protocol::RangeOperation::save, range).text;
+        EXPECT_EQ(place.changeRange(protocol::RangeOperation::add, range).text, text);
         return text;
     };
     EXPECT_EQ(refusedWith(u"10.1.0.9", u"10.1.0.8"), u"The IP range ends before it begins.");
@@ -215,7 +217,7 @@ TEST(IpRangeService, aRangeThatCouldNotBeSentBackIsRefused) {
     auto range = fullRange();
     range.rangeText2 = std::string(65000, 't');
     range.comment = std::u16string(300, u'c');
-    EXPECT_FALSE(isDone(place.changeRange(1, range)));
+    EXPECT_FALSE(isDone(place.changeRange(protocol::RangeOperation::add, range)));
     EXPECT_TRUE(place.ranges().empty());
 }
 

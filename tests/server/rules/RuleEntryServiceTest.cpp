@@ -184,7 +184,7 @@ TEST(RuleEntryService, entriesGoWithThePrinterTheQueueAndTheRegionThatTheyStandO
     EXPECT_TRUE(isDone(place.place(RuleEstate::namedEntry("e2"), queue)));
     EXPECT_TRUE(isDone(place.place(RuleEstate::namedEntry("e3"), "", region)));
     EXPECT_TRUE(isDone(place.place(RuleEstate::namedEntry("e4"), "")));
-    EXPECT_TRUE(isDone(place.recordService().remove({.type = 1, .id = printer})));
+    EXPECT_TRUE(isDone(place.recordService().remove({.type = protocol::RecordDeletion::printer, .id = printer})));
     EXPECT_EQ(place.entryIds(printer), Ids{});
     EXPECT_EQ(place.entryIds(queue), Ids{});
     EXPECT_TRUE(isDone(place.regionService().remove({.regionId = region, .kind = 0})));

@@ -50,7 +50,7 @@ PricePlanRecord fullPlan() {
 PriceEntryRecord priceOf(const std::string& id, std::uint16_t code) {
     return {.id = id,
             .paperName = "cm \xB2",
-            .kind = 6,
+            .kind = protocol::PriceKind::areaPrint,
             .paperCode = code,
             .basePrice = 0.1F,
             .bwSimplex = 0.2F,
@@ -177,7 +177,8 @@ TEST(PricePlanService, aRefusedPriceLeavesThePlanAndAllPricesAsTheyWere) {
     plan.name = u"Other";
     auto bad = priceOf("r2", 8);
     for (const auto& change : std::initializer_list<void (*)(PriceEntryRecord&)>{
-             [](PriceEntryRecord& entry) { entry.kind = 7; }, [](PriceEntryRecord& entry) { entry.id.clear(); },
+             [](PriceEntryRecord& entry) { entry.kind = static_cast<protocol::PriceKind>(7); },
+             [](PriceEntryRecord& entry) { entry.id.clear(); },
              [](PriceEntryRecord& entry) { entry.paperName = std::string(65535, 'x'); }}) {
         bad = priceOf("r2", 8);
         change(bad);
