@@ -199,6 +199,16 @@ bool Shell::refresh() {
     });
 }
 
+bool Shell::refreshList() {
+    return operate([&] {
+        if (!view_.active()) {
+            return false;
+        }
+        view_.refresh();
+        return true;
+    });
+}
+
 ViewHistory::Exists Shell::exists() const {
     return [this](ScopeId id) { return tree_.contains(id); };
 }

@@ -55,6 +55,8 @@ public:
     bool clickColumn(std::int32_t column);
     // Refreshes the selected row, or else the selected scope item.
     bool refresh();
+    // Refreshes the selected scope item, whichever row is selected; that row stays selected.
+    bool refreshList();
     bool back();
     bool forward();
     bool canGoBack() const;

@@ -1,6 +1,5 @@
 #include "hosts/desktop/list/ColumnLayout.h"
 
-#include "hosts/desktop/list/FittedWidths.h"
 #include "hosts/desktop/look/Text.h"
 
 #include <QEvent>
@@ -9,19 +8,31 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <numeric>
 
 namespace desktop {
 namespace {
 
 constexpr int automaticWidth = 120; // of a column without a width
 constexpr int onlyWidth = 260;      // the least width of an only column
-constexpr int leastWidth = 48;
-constexpr int saveDelay = 400; // milliseconds
+constexpr int leastWidth = 64;
+constexpr int saveDelay = 400;            // milliseconds
+constexpr std::size_t measuredRows = 100; // enough to tell, and quick
+constexpr int widestContents = 420;       // for which a column asks by its texts
+constexpr int cellMargins = 14;           // what a cell adds to its text
+constexpr int iconWidth = 24;             // what the first column has in front of it
 
 } // namespace
 
 ColumnLayout::ColumnLayout(const Operations& operations, ViewSettings& settings, QHeaderView& header)
     : operations_(operations), settings_(settings), header_(header) {
+    fittingSoon_.setSingleShot(true);
+    fittingSoon_.callOnTimeout([this] {
+        if (fitting_) {
+            const QScopedValueRollback applying(applying_, true);
+            fit();
+        }
+    });
     saving_.setSingleShot(true);
     saving_.setInterval(saveDelay);
     saving_.callOnTimeout([this] { save(); });
@@ -88,18 +99,50 @@ void ColumnLayout::applyDefaults() {
     fit();
 }
 
-void ColumnLayout::fit() {
+void ColumnLayout::rowsChanged() {
+    if (fitting_) {
+        fittingSoon_.start(0);
+    }
+}
+
+int ColumnLayout::contentsWidth(int column) const {
+    const auto& pane = operations_.shell().pane();
+    const QFontMetrics metrics(header_.font());
+    int widest = 0;
+    for (std::size_t row = 0; row < std::min(pane.rowCount(), measuredRows); ++row) {
+        widest = std::max(widest, metrics.horizontalAdvance(oneLine(pane.cell(row, column))));
+    }
+    return widest == 0 ? 0 : std::min(widest + cellMargins + (column == 0 ? iconWidth : 0), widestContents);
+}
+
+// Where there is little room, the texts of a column matter more than its title.
+std::vector<ColumnWish> ColumnLayout::wishes() const {
     const auto& columns = operations_.shell().header().columns();
-    std::vector<ColumnWish> wishes;
+    std::vector<ColumnWish> roomy;
+    std::vector<ColumnWish> tight;
+    int needed = 0;
     for (int column = 0; column < header_.count(); ++column) {
         const auto width = static_cast<std::size_t>(column) < columns.size()
                                ? columns[static_cast<std::size_t>(column)].width
                                : automaticWidth;
-        wishes.push_back({std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0),
-                          std::max(header_.sectionSizeHint(column), leastWidth)});
+        const int own = std::max(width > 0 ? width : automaticWidth, header_.count() == 1 ? onlyWidth : 0);
+        const int title = header_.sectionSizeHint(column);
+        const int contents = contentsWidth(column);
+        roomy.push_back({std::max({own, title, contents}), std::max({title, contents, leastWidth})});
+        tight.push_back({std::max(own, contents), std::min(title, std::max(contents, leastWidth))});
+        needed += roomy.back().least;
+    }
+    return needed <= header_.width() ? roomy : tight;
+}
+
+void ColumnLayout::fit() {
+    auto widths = fittedWidths(wishes(), header_.width());
+    if (!widths.empty()) {
+        // The header goes on to the edge of the list.
+        widths.back() += std::max(0, header_.width() - std::accumulate(widths.begin(), widths.end(), 0));
     }
     int column = 0;
-    for (const int width : fittedWidths(wishes, header_.width())) {
+    for (const int width : widths) {
         widths_[column] = width;
         header_.resizeSection(column++, width);
     }

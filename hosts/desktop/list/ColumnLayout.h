@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/desktop/activity/Operations.h"
+#include "hosts/desktop/list/FittedWidths.h"
 #include "hosts/desktop/list/ViewSettings.h"
 
 #include <QTimer>
@@ -14,7 +15,8 @@ class QPoint;
 namespace desktop {
 
 // The columns of the list as the user arranged them: which, in what order and how wide, remembered for each class of
-// node and each set of columns that it has. Until the user changes them, all of them fit into the view.
+// node and each set of columns that it has. Until the user changes them, all of them fit into the view and fill it, and
+// those whose texts are long get the room that others do not need.
 class ColumnLayout final : public QObject {
 public:
     // All outlive it. The header is the list's.
@@ -23,6 +25,8 @@ public:
 
     // Call when the list has other columns, or shows another node.
     void apply();
+    // Call when the list has other rows.
+    void rowsChanged();
     // Resets the columns to those that the node asks for.
     void reset();
     // Lets the user choose the visible columns.
@@ -37,6 +41,9 @@ private:
     QString key() const;
     void applyDefaults();
     void fit();
+    [[nodiscard]] std::vector<ColumnWish> wishes() const;
+    // The widest text among the first rows, in pixels.
+    [[nodiscard]] int contentsWidth(int column) const;
     void changed();
     std::vector<ColumnChoice> current() const;
     void save();
@@ -44,6 +51,7 @@ private:
     const Operations& operations_;
     ViewSettings& settings_;
     QHeaderView& header_;
+    QTimer fittingSoon_;                  // rows come one after the other
     QTimer saving_;                       // a drag changes a width hundreds of times
     QString applied_;                     // the list whose columns these are
     std::vector<ColumnChoice> wanted_;    // what is to be saved

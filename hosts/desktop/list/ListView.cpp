@@ -60,6 +60,8 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
             operations_.later([this] { selectCurrent(); });
         }
     });
+    connect(&model_, &QAbstractItemModel::modelReset, this, [this] { columns_.rowsChanged(); });
+    connect(&model_, &QAbstractItemModel::rowsInserted, this, [this] { columns_.rowsChanged(); });
     model_.onAboutToChange = [this] { beforeChange(); };
     observers_.add(*this);
 }

@@ -8,6 +8,24 @@ namespace desktop {
 
 using console::ScopeId;
 
+namespace {
+
+// Shows the list of the item and selects the row with the name; false without one.
+bool selectRow(Operations& operations, ScopeId item, const QString& name) {
+    if (!operations.perform([&](shell::Shell& console) { return console.select(item); })) {
+        return false;
+    }
+    const auto& pane = operations.shell().pane();
+    for (std::size_t place = 0; place < pane.rowCount(); ++place) {
+        if (toQString(pane.cell(place, 0)) == name) {
+            return operations.perform([&](shell::Shell& console) { return console.selectRow(pane.row(place).id); });
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 std::optional<std::vector<QString>> namesInPath(const QString& path) {
     std::vector<QString> names(1);
     for (qsizetype place = 0; place < path.size(); ++place) {
@@ -50,7 +68,11 @@ std::optional<QString> openPath(Operations& operations, const QString& path) {
         const auto found =
             std::ranges::find_if(children, [&](ScopeId child) { return toQString(tree.text(child)) == name; });
         if (found == children.end()) {
-            return QStringLiteral("There is no \"%1\" in \"%2\"").arg(name, toQString(tree.text(item)));
+            const bool isLast = &name == &names->back();
+            return isLast && selectRow(operations, item, name)
+                       ? std::nullopt
+                       : std::optional(
+                             QStringLiteral("There is no \"%1\" in \"%2\"").arg(name, toQString(tree.text(item))));
         }
         item = *found;
     }

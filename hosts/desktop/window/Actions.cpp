@@ -46,8 +46,18 @@ Actions::Actions(QWidget& window) : window_(window) {
                     QKeySequence(Qt::Key_F6));
     resetColumns =
         make(QStringLiteral("Reset &Columns"), QStringLiteral("To show the columns as they were originally"), {});
+    shortcuts = make(QStringLiteral("&Keyboard Shortcuts"), QStringLiteral("To see all keys of this program"),
+                     QKeySequence(Qt::Key_F1));
     about = make(QStringLiteral("&About Vantrel Manager"), QStringLiteral("To see information about this program"), {});
     quit = make(QStringLiteral("&Quit"), QStringLiteral("To close the program"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    disable();
+}
+
+// Before the login there is nothing to act on.
+void Actions::disable() const {
+    for (QAction* const action : {back, forward, up, refresh, cut, paste, rename, remove, copyText, exportList}) {
+        action->setEnabled(false);
+    }
 }
 
 QAction* Actions::make(const QString& text, const QString& statusTip, const QKeySequence& key) const {

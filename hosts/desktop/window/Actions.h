@@ -30,6 +30,7 @@ public:
     QAction* find;
     QAction* nextPane;
     QAction* resetColumns;
+    QAction* shortcuts;
     QAction* about;
     QAction* quit;
 
@@ -39,6 +40,7 @@ public:
     void addVerbs(QMenu& menu) const;
 
 private:
+    void disable() const;
     [[nodiscard]] QAction* make(const QString& text, const QString& statusTip, const QKeySequence& key) const;
 
     QWidget& window_;

@@ -5,7 +5,16 @@
 #include <QAction>
 #include <QMenu>
 
+#include <algorithm>
+#include <array>
+
 namespace desktop {
+namespace {
+
+// With which the product begins the entries that make something.
+constexpr std::array newWords{"Create ", "New ", "Add "};
+
+} // namespace
 
 ContextMenus::ContextMenus(Operations& operations, const Actions& actions, QWidget& window)
     : operations_(operations), actions_(actions), window_(window) {}
@@ -48,6 +57,22 @@ void ContextMenus::fill(QMenu& menu, const shell::Target& target) const {
     if (actions_.exportList->isEnabled()) {
         menu.addAction(actions_.exportList);
     }
+}
+
+QStringList ContextMenus::creators(const shell::Target& target) const {
+    QStringList names;
+    operations_.perform([&](shell::Shell& console) {
+        for (const auto& item : console.menu(target)) {
+            const QString name = oneLine(item.text);
+            const bool makes = std::ranges::any_of(
+                newWords, [&](const char* word) { return name.startsWith(QLatin1String(word), Qt::CaseInsensitive); });
+            if (makes && !item.separator && !item.disabled) {
+                names += name;
+            }
+        }
+        return true;
+    });
+    return names;
 }
 
 std::unique_ptr<QMenu> ContextMenus::make(const shell::Target& target) const {

@@ -3,6 +3,7 @@
 #include "hosts/desktop/window/Actions.h"
 
 #include <QPoint>
+#include <QStringList>
 
 #include <memory>
 
@@ -17,6 +18,8 @@ public:
     // Adds the node's own entries, then the verbs and the window's actions. The item or row must be the selected one.
     void fill(QMenu& menu, const shell::Target& target) const;
     [[nodiscard]] std::unique_ptr<QMenu> make(const shell::Target& target) const;
+    // The entries that make something new.
+    [[nodiscard]] QStringList creators(const shell::Target& target) const;
     // Shows the menu and runs the chosen entry.
     void show(const shell::Target& target, const QPoint& place) const;
 

@@ -6,6 +6,7 @@
 #include "hosts/desktop/tree/TreePath.h"
 #include "hosts/desktop/window/AboutBox.h"
 #include "hosts/desktop/window/Resources.h"
+#include "hosts/desktop/window/ShortcutSheet.h"
 
 #include <QAction>
 #include <QApplication>
@@ -33,14 +34,19 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
       menus_(session.operations(), actions_, *this),
       panes_(new Panes(session.operations(), session.observers(), icons, settings, this)),
       activity_(new ActivityDock(session.activity(), this)),
+      details_(new DetailsDock(this)),
       status_(*statusBar(), session.operations(), session.age()),
-      wait_(session.operations(), session.observers(), *this) {
+      wait_(session.operations(), session.observers(), *this),
+      autoRefresh_(session.operations(), settings, *this) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Vantrel Manager"));
     setWindowIcon(IconStrips::application());
     setCentralWidget(panes_);
     addDockWidget(Qt::BottomDockWidgetArea, activity_);
     activity_->hide();
+    addDockWidget(Qt::RightDockWidgetArea, details_);
+    details_->hide();
+    connect(details_, &QDockWidget::visibilityChanged, this, [this] { showStateSoon(); });
     makeMenus();
     makeToolBar();
     connectActions();
@@ -50,6 +56,7 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
         return metrics.horizontalAdvance(oneLine(title)) + 3 * metrics.averageCharWidth() + metrics.height();
     });
     session_.age().onChange = [this] { showStateSoon(); };
+    panes_->readingFailure = [this] { return session_.age().failure(); };
     session_.observers().add(*this);
     status_.update();
 }
@@ -116,7 +123,9 @@ void MainWindow::makeMenus() {
     edit->addActions({actions_.filter, actions_.find});
 
     QMenu* const view = menuBar()->addMenu(QStringLiteral("&View"));
-    view->addActions({actions_.refresh, actions_.resetColumns});
+    view->addAction(actions_.refresh);
+    autoRefresh_.addTo(*view);
+    view->addAction(actions_.resetColumns);
     view->addSeparator();
     QAction* const log = activity_->toggleViewAction();
     log->setText(QStringLiteral("Activity &Log"));
@@ -124,12 +133,17 @@ void MainWindow::makeMenus() {
     log->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
     log->setIcon(GlyphIcon::make(GlyphIcon::Glyph::log));
     view->addAction(log);
+    QAction* const details = details_->toggleViewAction();
+    details->setText(QStringLiteral("&Details"));
+    details->setStatusTip(QStringLiteral("To see everything about the selected row"));
+    details->setShortcut(QKeySequence(Qt::Key_F3));
+    view->addAction(details);
     view->addAction(actions_.nextPane);
 
     QMenu* const go = menuBar()->addMenu(QStringLiteral("&Go"));
     go->addActions({actions_.back, actions_.forward, actions_.up});
 
-    menuBar()->addMenu(QStringLiteral("&Help"))->addAction(actions_.about);
+    menuBar()->addMenu(QStringLiteral("&Help"))->addActions({actions_.shortcuts, actions_.about});
 }
 
 void MainWindow::makeToolBar() {
@@ -170,19 +184,21 @@ void MainWindow::connectActions() {
     });
     on(actions_.nextPane, [this] { focusNextPane(); });
     on(actions_.resetColumns, [this] { panes_->list().columns().reset(); });
+    on(actions_.shortcuts, [this] { showShortcuts(); });
     on(actions_.about, [this] { showAbout(); });
     on(actions_.quit, [this] { close(); });
 
     const auto showMenu = [this](const shell::Target& target, const QPoint& place) { menus_.show(target, place); };
     panes_->tree().onMenu = showMenu;
     panes_->list().onMenu = showMenu;
+    panes_->path().onChosen = [this](console::ScopeId item) {
+        run([item](shell::Shell& shell) { return shell.select(item); });
+    };
     panes_->filter().onFiltered = [this] { showStateSoon(); };
     panes_->search().onMessage = [this](const QString& message) {
         statusBar()->showMessage(message, message.isEmpty() ? 1 : messageTime);
     };
-    panes_->notice().onRetry = [this] {
-        run([](shell::Shell& shell) { return shell.selectRow(0) && shell.refresh(); });
-    };
+    panes_->notice().onRetry = [this] { run(&shell::Shell::refreshList); };
 }
 
 void MainWindow::goUp() {
@@ -239,6 +255,10 @@ void MainWindow::showAbout() {
     AboutBox(about, IconStrips::application(), this).exec();
 }
 
+void MainWindow::showShortcuts() {
+    ShortcutSheet(*menuBar(), this).exec();
+}
+
 void MainWindow::showStateSoon() {
     if (!std::exchange(showing_, true)) {
         session_.operations().later([this] {
@@ -255,7 +275,13 @@ void MainWindow::showState() {
     panes_->showPath();
     actions_.update(session_.operations());
     status_.update();
+    if (details_->isVisible()) {
+        details_->update(shell);
+    }
     sayAge();
+    if (shell.pane().unfilteredCount() == 0) {
+        panes_->setCreators(menus_.creators({.scope = shell.selection().scope}));
+    }
     panes_->list().setAccessibleDescription(shell.pane().rowCount() == 0 ? panes_->emptyText() : QString());
     panes_->list().viewport()->update();
 }

@@ -2,7 +2,9 @@
 
 #include "hosts/desktop/activity/ActivityDock.h"
 #include "hosts/desktop/activity/WaitIndicator.h"
+#include "hosts/desktop/window/AutoRefresh.h"
 #include "hosts/desktop/window/ContextMenus.h"
+#include "hosts/desktop/window/DetailsDock.h"
 #include "hosts/desktop/window/Panes.h"
 #include "hosts/desktop/window/Session.h"
 #include "hosts/desktop/window/StatusLine.h"
@@ -27,10 +29,13 @@ public:
 
     Panes& panes() { return *panes_; }
     ActivityDock& activity() { return *activity_; }
+    DetailsDock& details() { return *details_; }
+    AutoRefresh& autoRefresh() { return autoRefresh_; }
     [[nodiscard]] const Actions& actions() const { return actions_; }
     [[nodiscard]] const ContextMenus& menus() const { return menus_; }
     [[nodiscard]] const WaitIndicator& waitIndicator() const { return wait_; }
     void showAbout();
+    void showShortcuts();
 
     // Restores the remembered size and position, or centers the window at its natural size.
     void restorePlace();
@@ -67,8 +72,10 @@ private:
     ContextMenus menus_;
     Panes* panes_;
     ActivityDock* activity_;
+    DetailsDock* details_;
     StatusLine status_;
     WaitIndicator wait_;
+    AutoRefresh autoRefresh_;
     bool showing_ = false; // a call of showState is pending
     bool closing_ = false;
 };

@@ -38,6 +38,7 @@ void describe(QCommandLineParser& parser) {
         {"size", "Size of the window, for instance 1200x800.", "WxH"},
         {"scale", "Scale of everything, for instance 1.5.", "factor"},
         {"activity", "Shows the activity log."},
+        {"details", "Shows the details of the selected row."},
     });
     parser.addPositionalArgument(
         QStringLiteral("path"), QStringLiteral("What to show, for instance Printers/Berlin; a slash in a name is \\/."),
@@ -104,6 +105,7 @@ std::variant<Options, Refusal> readOptions(const QStringList& arguments) {
     options.settings = parser.value(QStringLiteral("settings"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
     options.activity = parser.isSet(QStringLiteral("activity"));
+    options.details = parser.isSet(QStringLiteral("details"));
     options.path = parser.positionalArguments().value(0);
     return options;
 }

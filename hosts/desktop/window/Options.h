@@ -24,6 +24,7 @@ struct Options {
     QSize size;
     double scale = 0;
     bool activity = false;
+    bool details = false;
     QString path;
 };
 

@@ -24,7 +24,7 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
       listModel_(operations, observers, icons),
       search_(new TreeSearchBar(operations)),
       tree_(new ScopeView(operations, observers, treeModel_)),
-      path_(new ElidedLabel),
+      path_(new PathBar),
       filter_(new FilterBar(operations, observers)),
       notice_(new NoticeBar),
       list_(new ListView(operations, observers, listModel_, settings)) {
@@ -42,7 +42,8 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
     filter_->onLeave = [this] { list_->setFocus(Qt::ShortcutFocusReason); };
     list_->emptyText = [this] { return emptyText(); };
     QWidget::setTabOrder(search_, tree_);
-    QWidget::setTabOrder(tree_, filter_);
+    QWidget::setTabOrder(tree_, path_);
+    QWidget::setTabOrder(path_, filter_);
     QWidget::setTabOrder(filter_, list_);
 }
 
@@ -72,10 +73,6 @@ QWidget* Panes::listSide() {
     layout->setSpacing(0);
     auto* const line = new QHBoxLayout;
     line->setContentsMargins(gap + 2, gap, gap, gap);
-    path_->setAccessibleName(QStringLiteral("What the list shows"));
-    QFont bold = font();
-    bold.setBold(true);
-    path_->setFont(bold);
     filter_->setFixedWidth(filterWidth);
     line->addWidget(path_, 1);
     line->addWidget(filter_);
@@ -88,12 +85,12 @@ QWidget* Panes::listSide() {
 void Panes::showPath() {
     const auto& tree = operations_.shell().tree();
     const auto path = tree.pathTo(operations_.shell().selection().scope);
-    QStringList names;
+    std::vector<PathBar::Step> steps;
     // The two fixed items at the top are left out unless one of them is shown.
     for (std::size_t place = path.size() > 2 ? 2 : 0; place < path.size(); ++place) {
-        names += oneLine(tree.text(path[place]));
+        steps.push_back({path[place], oneLine(tree.text(path[place]))});
     }
-    path_->setLine(names.join(QStringLiteral("  ›  ")));
+    path_->setPath(std::move(steps));
 }
 
 QString Panes::emptyText() const {
@@ -104,6 +101,13 @@ QString Panes::emptyText() const {
     if (pane.unfilteredCount() > 0) {
         return QStringLiteral("The filter hides all of %1.\nClear it (Ctrl+F, Esc) to see them.")
             .arg(StatusLine::countText(pane.unfilteredCount(), pane.unfilteredCount()));
+    }
+    if (readingFailure && !readingFailure().isEmpty()) {
+        return QStringLiteral("The list could not be read.");
+    }
+    if (!creators_.isEmpty()) {
+        return QStringLiteral("There is nothing here yet.\nThe Action menu has: %1.")
+            .arg(creators_.join(QStringLiteral(", ")));
     }
     return operations_.shell().header().columns().empty() ? QStringLiteral("There is nothing to list here.")
                                                           : QStringLiteral("There is nothing here yet.");

@@ -2,10 +2,10 @@
 
 #include "hosts/desktop/list/FilterBar.h"
 #include "hosts/desktop/list/ListView.h"
-#include "hosts/desktop/look/ElidedLabel.h"
 #include "hosts/desktop/tree/ScopeView.h"
 #include "hosts/desktop/tree/TreeSearchBar.h"
 #include "hosts/desktop/window/NoticeBar.h"
+#include "hosts/desktop/window/PathBar.h"
 
 #include <QSplitter>
 
@@ -25,11 +25,16 @@ public:
     FilterBar& filter() { return *filter_; }
     TreeSearchBar& search() { return *search_; }
     NoticeBar& notice() { return *notice_; }
+    PathBar& path() { return *path_; }
 
     // Shows the path of the current list in the tree: "Printers › Berlin".
     void showPath();
-    // Why the list is empty.
-    QString emptyText() const;
+    // Why the list is empty, and what the user can do about it.
+    [[nodiscard]] QString emptyText() const;
+    // Why the displayed list could not be read; empty when it was.
+    std::function<QString()> readingFailure;
+    // The entries of the Action menu that put something into the displayed list.
+    void setCreators(QStringList entries) { creators_ = std::move(entries); }
 
 private:
     QWidget* treeSide();
@@ -40,10 +45,11 @@ private:
     ListModel listModel_;
     TreeSearchBar* search_;
     ScopeView* tree_;
-    ElidedLabel* path_;
+    PathBar* path_;
     FilterBar* filter_;
     NoticeBar* notice_;
     ListView* list_;
+    QStringList creators_;
 };
 
 } // namespace desktop

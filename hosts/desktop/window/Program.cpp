@@ -58,6 +58,9 @@ int runProgram(const Options& options, const std::optional<wire::WideString>& pa
     if (options.activity) {
         window.activity().show();
     }
+    if (options.details) {
+        window.details().show();
+    }
     int status = 0;
     if (isPicture) {
         session.ui().setUnattended();
