@@ -7,6 +7,7 @@
 #include <iostream>
 #include <set>
 #include <stdexcept>
+#include <string_view>
 
 // Writes the initial inputs of the fuzzers into a folder, with a subfolder for each fuzzer. They are valid inputs,
 // built by hand or field by field from the layouts of the catalogue.
@@ -191,6 +192,24 @@ void addText(const Corpus& corpus) {
     }
 }
 
+void addFilters(const Corpus& corpus) {
+    const std::pair<const char*, std::string_view> filters[] = {
+        {"words", "laser hall"},
+        {"a-phrase", "\"hall 1\" -\"say \"\"x\"\"\""},
+        {"a-column", "queue:laser -loc:store"},
+        {"a-quoted-column", "\"Queue Name\":\"hall 1\""},
+        {"comparisons", "jobs:>5 jobs:>=5 jobs:<15 jobs:<=15 jobs:=10"},
+        {"no-text", "location:\"\" -queue:=\"\""},
+        {"a-day", "jobs:>2024-02-29"},
+        {"a-moment", "jobs:<=\"2024-03-05 17:04:09\""},
+        {"unfinished", "queue: jobs:> - \"hall"},
+        {"an-unknown-column", "colour:red 17:04"},
+    };
+    for (const auto& [name, text] : filters) {
+        corpus.add("filter", name, Bytes{10} + Bytes(text.begin(), text.end()));
+    }
+}
+
 void addFrames(const Corpus& corpus) {
     const auto command = commandMessage(29, 1);
     const auto data = dataMessage(hex("02 00 61 31  04 00 41 00 E4 00  01 00 00 00"));
@@ -254,6 +273,7 @@ int main(int argc, char** argv) {
     try {
         const Corpus corpus(argv[1]);
         addText(corpus);
+        addFilters(corpus);
         addFrames(corpus);
         addTransport(corpus);
         addCommands(corpus);

@@ -168,7 +168,7 @@ void filter(benchmark::State& state) {
     OurView shown(ours());
     paint(shown.view);
     for (auto _ : state) {
-        ours().shell.filter(u"PRINTER 77");
+        ours().shell.filter(u"\"PRINTER 77\"");
         paint(shown.view);
         state.PauseTiming();
         ours().shell.filter(u"");

@@ -167,27 +167,26 @@ void ResultPane::sort(std::optional<SortOrder> order) {
     }
 }
 
-void ResultPane::filter(wire::WideStringView text, std::int32_t columns) {
+void ResultPane::filter(wire::WideStringView text) {
     filterText_ = text;
-    filterColumns_ = columns;
-    filter_ = RowFilter(text);
+    filter_ = RowFilter(filterText_, titles_);
     reset(arranged());
 }
 
+void ResultPane::setTitles(std::vector<wire::WideString> titles) {
+    titles_ = std::move(titles);
+    if (!filterText_.empty()) {
+        filter_ = RowFilter(filterText_, titles_);
+        reset(arranged());
+    }
+}
+
 std::vector<const Row*> ResultPane::passing() const {
-    const auto passes = [this](const Row& row) {
-        for (std::int32_t column = 0; column < filterColumns_; ++column) {
-            if (filter_.matches(cellOf(row, column))) {
-                return true;
-            }
-        }
-        return false;
-    };
     std::vector<const Row*> rows;
     rows.reserve(unfilteredCount());
     for (const auto* const source : {&scopeRows_, &rows_}) {
         for (const Row& row : *source) {
-            if (filter_.empty() || passes(row)) {
+            if (filter_.matches(row)) {
                 rows.push_back(&row);
             }
         }

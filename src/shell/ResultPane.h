@@ -37,16 +37,20 @@ public:
     // their first column.
     void sort(std::optional<SortOrder> order);
     const std::optional<SortOrder>& sortOrder() const { return order_; }
-    // Compares the first `columns` columns.
-    void filter(wire::WideStringView text, std::int32_t columns);
+    // Shows only the rows that pass; see RowFilter.
+    void filter(wire::WideStringView text);
     const wire::WideString& filterText() const { return filterText_; }
+    // What in the filter was probably meant differently.
+    const std::vector<FilterProblem>& filterProblems() const { return filter_.problems(); }
 
     // The row that a host shows at the top of its window, to be shown there again after a change. When that row is
     // removed, the next remaining one takes its place, or else the previous one; 0 when none remains.
     void setTopRow(console::ResultId id) { topRow_ = id; }
     console::ResultId topRow() const { return topRow_; }
 
-    // For the shell. Removes all rows, because another node is going to be shown, in its own order and unfiltered.
+    // For the shell. The titles of the columns, which the filter refers to.
+    void setTitles(std::vector<wire::WideString> titles);
+    // Removes all rows, because another node is going to be shown, in its own order and unfiltered.
     void restart(std::optional<SortOrder> order);
     // The row with that id as handlers see it; null when there is none.
     const Row* find(console::ResultId id) const;
@@ -91,7 +95,7 @@ private:
     std::optional<SortOrder> order_;
     RowFilter filter_;
     wire::WideString filterText_;
-    std::int32_t filterColumns_ = 0;
+    std::vector<wire::WideString> titles_;
     console::ResultId last_ = 0;
     console::ResultId greatest_ = 0; // no row of current() has a greater id
     bool follows_ = false;           // all rows inserted since all were removed are in the same order as in rows_

@@ -1,17 +1,91 @@
 #include "shell/RowFilter.h"
 
-#include "wire/CaseFold.h"
+#include "shell/FoldedText.h"
+#include "shell/NaturalOrder.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace shell {
+namespace {
 
-RowFilter::RowFilter(wire::WideStringView text) : folded_(wire::foldCase(text)) {}
+// The cells of a row of the result pane.
+class CellsOfRow final : public FilteredCells {
+public:
+    explicit CellsOfRow(const Row& row) : row_(row) {}
 
-bool RowFilter::matches(wire::WideStringView cell) const {
-    const auto found = std::search(cell.begin(), cell.end(), folded_.begin(), folded_.end(),
-                                   [](char16_t unit, char16_t folded) { return wire::foldCase(unit) == folded; });
-    return folded_.empty() || found != cell.end();
+    [[nodiscard]] wire::WideStringView text(std::int32_t column) const override { return cellOf(row_, column); }
+    [[nodiscard]] std::optional<std::int64_t> number(std::int32_t column) const override {
+        return row_.node->sortValue(column);
+    }
+
+private:
+    const Row& row_;
+};
+
+// Whether something passes that is below, within or above what the term names.
+bool passes(FilterTest test, bool below, bool above) {
+    switch (test) {
+    case FilterTest::less:
+        return below;
+    case FilterTest::lessOrEqual:
+        return !above;
+    case FilterTest::greater:
+        return above;
+    case FilterTest::greaterOrEqual:
+        return !below;
+    default:
+        return !below && !above;
+    }
+}
+
+} // namespace
+
+RowFilter::RowFilter(wire::WideStringView text, std::span<const wire::WideString> titles)
+    : query_(parseFilter(text, titles)), columns_(static_cast<std::int32_t>(titles.size())) {}
+
+bool RowFilter::matches(const FilteredCells& cells) const {
+    return std::ranges::all_of(query_.terms,
+                               [&](const FilterTerm& term) { return meets(cells, term) != term.negated; });
+}
+
+bool RowFilter::matches(const Row& row) const {
+    return empty() || matches(CellsOfRow(row));
+}
+
+bool RowFilter::meets(const FilteredCells& cells, const FilterTerm& term) const {
+    if (!term.column) {
+        for (std::int32_t column = 0; column < columns_; ++column) {
+            if (containsFolded(cells.text(column), term.text)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    switch (term.test) {
+    case FilterTest::contains:
+        return containsFolded(cells.text(*term.column), term.text);
+    case FilterTest::empty:
+        return cells.text(*term.column).empty();
+    default:
+        return compares(cells, term);
+    }
+}
+
+// A cell without a value meets no comparison: a printer that was never seen was not seen before last year.
+bool RowFilter::compares(const FilteredCells& cells, const FilterTerm& term) const {
+    if (const auto number = term.numbers ? cells.number(*term.column) : std::nullopt) {
+        constexpr auto noDate = std::numeric_limits<std::int64_t>::min(); // see wire::wireDateOrder
+        return *number != noDate && passes(term.test, *number<term.numbers->first, *number> term.numbers->last);
+    }
+    const auto text = cells.text(*term.column);
+    if (text.empty()) {
+        return false;
+    }
+    key_.clear();
+    appendNaturalKey(key_, text);
+    const int compared = key_.compare(term.text);
+    return passes(term.test, compared<0, compared> 0);
 }
 
 } // namespace shell

@@ -345,7 +345,7 @@ void Shell::sort(std::optional<SortOrder> order) {
 }
 
 void Shell::filter(wire::WideStringView text) {
-    view_.pane.filter(text, static_cast<std::int32_t>(header().columns().size()));
+    view_.pane.filter(text);
 }
 
 Table Shell::table() const {

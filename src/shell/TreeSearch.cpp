@@ -1,6 +1,7 @@
 #include "shell/TreeSearch.h"
 
-#include "shell/RowFilter.h"
+#include "shell/FoldedText.h"
+#include "wire/CaseFold.h"
 
 #include <algorithm>
 #include <vector>
@@ -9,14 +10,14 @@ namespace shell {
 
 console::ScopeId findInTree(const ScopeTree& tree, wire::WideStringView text, console::ScopeId from,
                             const std::function<void(console::ScopeId)>& load) {
-    const RowFilter wanted(text);
+    const auto wanted = wire::foldCase(text);
     console::ScopeId firstAbove = 0;
     bool below = false;
     std::vector<console::ScopeId> ahead{tree.root()};
     while (!ahead.empty()) {
         const auto id = ahead.back();
         ahead.pop_back();
-        if ((below || firstAbove == 0) && wanted.matches(tree.text(id))) {
+        if ((below || firstAbove == 0) && containsFolded(tree.text(id), wanted)) {
             if (below) {
                 return id;
             }

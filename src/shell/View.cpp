@@ -197,6 +197,9 @@ void View::commit() {
     }
     pane.setScopeRows(scopeRows());
     if (header.commit()) {
+        std::vector<wire::WideString> titles;
+        std::ranges::transform(header.columns(), std::back_inserter(titles), &ShownColumn::title);
+        pane.setTitles(std::move(titles));
         observers_.tell([](ShellObserver& observer) { observer.columnsChanged(); });
     }
     pane.commit();

@@ -96,7 +96,8 @@ TEST_F(ResultPane, redrawsARowThatAFilterHidesOnceItIsShown) {
     const auto a = insert(u"a");
     insert(u"b");
     pane.commit();
-    pane.filter(u"b", 1);
+    pane.setTitles({u"Name"});
+    pane.filter(u"b");
     events.log.clear();
     a->setResultImage(7);
 
@@ -104,7 +105,7 @@ TEST_F(ResultPane, redrawsARowThatAFilterHidesOnceItIsShown) {
     pane.commit();
 
     EXPECT_TRUE(events.log.empty());
-    pane.filter(u"", 1);
+    pane.filter(u"");
     EXPECT_EQ(pane.row(0).image, 7);
 }
 
@@ -405,6 +406,20 @@ TEST_F(ResultPane, nodesThatWereHandedOutOnlyTheFirstTimeGo) {
     EXPECT_EQ(estate.living, 1);
 }
 
+TEST_F(ResultPane, readsTheFilterAgainForOtherTitles) {
+    insert(u"a");
+    insert(u"b");
+    pane.commit();
+    pane.setTitles({u"Queue"});
+    pane.filter(u"name:b");
+    EXPECT_EQ(pane.rowCount(), 0U);
+
+    pane.setTitles({u"Name"});
+
+    ASSERT_EQ(pane.rowCount(), 1U);
+    EXPECT_EQ(pane.cell(0, 0), u"b");
+}
+
 TEST_F(ResultPane, aHundredThousandRowsAreSortedFilteredAndReplaced) {
     std::vector<std::shared_ptr<LeafNode>> nodes;
     for (int i = 99999; i >= 0; --i) {
@@ -414,7 +429,8 @@ TEST_F(ResultPane, aHundredThousandRowsAreSortedFilteredAndReplaced) {
     EXPECT_EQ(pane.cell(99999, 0), u"Printer 99999");
     pane.sort(shell::SortOrder{0, false});
     EXPECT_EQ(pane.cell(0, 0), u"Printer 99999");
-    pane.filter(u"R 123", 2);
+    pane.setTitles({u"Name", u"Number"});
+    pane.filter(u"\"R 123\"");
     EXPECT_EQ(pane.rowCount(), 111U);
 
     pane.DeleteAllRsltItems();

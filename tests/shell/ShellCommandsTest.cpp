@@ -272,6 +272,23 @@ TEST_F(ShellCommands, filterLooksIntoAllColumnsAndEndsWithTheItem) {
     EXPECT_TRUE(shell.pane().filterText().empty());
 }
 
+TEST_F(ShellCommands, filterAsksAColumnByItsTitle) {
+    shell.filter(u"numb:>7");
+    EXPECT_EQ(rows(), (Lines{"a1"}));
+
+    shell.filter(u"-numb:>7 name:a2");
+    EXPECT_EQ(rows(), (Lines{"A2", "a2"}));
+}
+
+TEST_F(ShellCommands, tellsWhatAFilterMeansForNoColumn) {
+    shell.filter(u"colour:red");
+    ASSERT_EQ(shell.pane().filterProblems().size(), 1U);
+
+    shell.filter(u"");
+
+    EXPECT_TRUE(shell.pane().filterProblems().empty());
+}
+
 TEST_F(ShellCommands, theTableIsTheListAsItStands) {
     shell.filter(u"a1");
     shell.sort(shell::SortOrder{0, false});
