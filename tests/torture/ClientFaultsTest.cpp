@@ -2,6 +2,7 @@
 #include "client/ConnectFailed.h"
 #include "tests/server/support/TestFolder.h"
 #include "tests/server/support/VantreldProcess.h"
+#include "tests/support/LoopbackName.h"
 #include "tests/torture/ClientOperations.h"
 #include "tests/torture/SharedPlan.h"
 #include "wire/WaitObserver.h"
@@ -46,7 +47,7 @@ public:
 class ClientFaults : public testing::TestWithParam<ClientOperation> {
 protected:
     void SetUp() override {
-        settings_->host = "localhost";
+        settings_->host = support::loopbackName;
         settings_->port = server_.waitForPort();
         settings_->hooks.commands = &observer_;
         settings_->hooks.wait = &patience_;

@@ -1,3 +1,4 @@
+#include "tests/support/LoopbackName.h"
 #include "tests/support/ScriptedServer.h"
 #include "tests/support/SilentListener.h"
 #include "tests/wire/FaultySocket.h"
@@ -72,7 +73,7 @@ TEST(CTransConnect, aServerThatListensIsReached) {
 TEST(CTransConnect, aServerIsReachedByName) {
     ScriptedServer server([](auto& connection) { connection.stall(); });
     CTrans connection;
-    connection.setHost("localhost");
+    connection.setHost(support::loopbackName);
     connection.setPort(server.port());
     EXPECT_TRUE(connection.connect(10, {}));
 }

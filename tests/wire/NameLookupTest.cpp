@@ -1,5 +1,7 @@
 #include "wire/NameLookup.h"
 
+#include "tests/support/LoopbackName.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -70,7 +72,7 @@ TEST(NameLookup, thatIsKnownNeedsNoWait) {
 }
 
 TEST(NameLookup, ofThisMachineFindsTheLoopbackAddress) {
-    const auto found = wire::platformSocket().resolve("localhost")->wait(generous);
+    const auto found = wire::platformSocket().resolve(support::loopbackName)->wait(generous);
 
     ASSERT_TRUE(found);
     EXPECT_EQ(found->result, 0);
