@@ -173,6 +173,11 @@ void ResultPane::filter(wire::WideStringView text) {
     reset(arranged());
 }
 
+void ResultPane::beginFiltered(wire::WideStringView text) {
+    filterText_ = text;
+    filter_ = RowFilter(filterText_, titles_);
+}
+
 void ResultPane::setTitles(std::vector<wire::WideString> titles) {
     titles_ = std::move(titles);
     if (!filterText_.empty()) {

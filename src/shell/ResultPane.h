@@ -52,6 +52,8 @@ public:
     void setTitles(std::vector<wire::WideString> titles);
     // Removes all rows, because another node is going to be shown, in its own order and unfiltered.
     void restart(std::optional<SortOrder> order);
+    // The same with a filter, which takes effect on commit.
+    void beginFiltered(wire::WideStringView text);
     // The row with that id as handlers see it; null when there is none.
     const Row* find(console::ResultId id) const;
     // The row for the same thing, by class and refresh key; null when there is none.

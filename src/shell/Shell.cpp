@@ -108,6 +108,7 @@ bool Shell::show(ScopeId id) {
     if (id == view_.scope()) {
         return view_.selectRow(0);
     }
+    history_.keepFilter(view_.pane.filterText());
     view_.select(*item);
     history_.visit(view_.scope());
     return true;
@@ -215,11 +216,13 @@ ViewHistory::Exists Shell::exists() const {
 
 bool Shell::step(ScopeId (ViewHistory::*direction)(const ViewHistory::Exists&)) {
     return operate([&] {
+        history_.keepFilter(view_.pane.filterText());
         ScopeItem* const item = tree_.alive((history_.*direction)(exists()));
         if (item == nullptr) {
             return false;
         }
         view_.select(*item);
+        view_.pane.beginFiltered(history_.filter());
         return true;
     });
 }

@@ -4,7 +4,7 @@ namespace shell {
 
 void ViewHistory::visit(console::ScopeId id) {
     if (!visited_.empty()) {
-        if (visited_[current_] == id) {
+        if (visited_[current_].id == id) {
             return;
         }
         visited_.resize(current_ + 1);
@@ -12,13 +12,23 @@ void ViewHistory::visit(console::ScopeId id) {
             visited_.erase(visited_.begin());
         }
     }
-    visited_.push_back(id);
+    visited_.push_back({.id = id, .filter = {}});
     current_ = visited_.size() - 1;
+}
+
+void ViewHistory::keepFilter(wire::WideStringView text) {
+    if (!visited_.empty()) {
+        visited_[current_].filter = text;
+    }
+}
+
+wire::WideString ViewHistory::filter() const {
+    return visited_.empty() ? wire::WideString() : visited_[current_].filter;
 }
 
 std::size_t ViewHistory::before(const Exists& exists) const {
     for (std::size_t place = current_; place-- > 0;) {
-        if (visited_[place] != visited_[current_] && exists(visited_[place])) {
+        if (visited_[place].id != visited_[current_].id && exists(visited_[place].id)) {
             return place;
         }
     }
@@ -27,7 +37,7 @@ std::size_t ViewHistory::before(const Exists& exists) const {
 
 std::size_t ViewHistory::after(const Exists& exists) const {
     for (std::size_t place = current_ + 1; place < visited_.size(); ++place) {
-        if (visited_[place] != visited_[current_] && exists(visited_[place])) {
+        if (visited_[place].id != visited_[current_].id && exists(visited_[place].id)) {
             return place;
         }
     }
@@ -40,7 +50,7 @@ console::ScopeId ViewHistory::back(const Exists& exists) {
         return 0;
     }
     current_ = place;
-    return visited_[place];
+    return visited_[place].id;
 }
 
 console::ScopeId ViewHistory::forward(const Exists& exists) {
@@ -49,7 +59,7 @@ console::ScopeId ViewHistory::forward(const Exists& exists) {
         return 0;
     }
     current_ = place;
-    return visited_[place];
+    return visited_[place].id;
 }
 
 bool ViewHistory::canGoBack(const Exists& exists) const {

@@ -294,5 +294,34 @@ TEST_F(Shell, anOperationInTheMiddleOfAnotherIsRefused) {
     EXPECT_EQ(shell.selection().scope, a());
 }
 
+TEST_F(Shell, backAndForwardBringTheFilterOfAListBack) {
+    start();
+    shell.select(a());
+    const auto all = shell.pane().rowCount();
+    shell.filter(u"A2");
+    const auto some = shell.pane().rowCount();
+    ASSERT_LT(some, all);
+    shell.select(b());
+    EXPECT_TRUE(shell.pane().filterText().empty());
+
+    EXPECT_TRUE(shell.back());
+    EXPECT_EQ(shell.pane().filterText(), u"A2");
+    EXPECT_EQ(shell.pane().rowCount(), some);
+
+    EXPECT_TRUE(shell.forward());
+    EXPECT_TRUE(shell.pane().filterText().empty());
+}
+
+TEST_F(Shell, anItemThatIsChosenAnewHasNoFilter) {
+    start();
+    shell.select(a());
+    shell.filter(u"A2");
+    shell.select(b());
+
+    shell.select(a());
+
+    EXPECT_TRUE(shell.pane().filterText().empty());
+}
+
 } // namespace
 } // namespace shelltest

@@ -27,7 +27,7 @@ ActivityDock::ActivityDock(ActivityLog& log, QWidget* parent)
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->setFrameShape(QFrame::NoFrame);
     view_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    constexpr std::array widths{15, 20, 16, 18, 9, 9, 10, 10, 30}; // in letters
+    constexpr std::array widths{15, 20, 16, 18, 10, 13, 16, 10, 30}; // in letters
     const int letter = fontMetrics().averageCharWidth();
     for (std::size_t column = 0; column < widths.size(); ++column) {
         view_->header()->resizeSection(static_cast<int>(column), letter * widths[column] + 12);

@@ -47,8 +47,8 @@ const std::array<ActivityColumn, 9> columns{{
     {"About", false, [](const Activity& a) { return a.about; }},
     {"Server", false, [](const Activity& a) { return a.target; }},
     {"Records", true, [](const Activity& a) { return numberOf(a, a.records); }},
-    {"Sent", true, [](const Activity& a) { return numberOf(a, a.bytesSent); }},
-    {"Received", true, [](const Activity& a) { return numberOf(a, a.bytesReceived); }},
+    {"Bytes Sent", true, [](const Activity& a) { return numberOf(a, a.bytesSent); }},
+    {"Bytes Received", true, [](const Activity& a) { return numberOf(a, a.bytesReceived); }},
     {"Duration", true, durationOf},
     {"Outcome", false, outcomeOf},
 }};
