@@ -3,7 +3,7 @@
 #include "hosts/ctl/Failure.h"
 #include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
-#include "shell/ListExport.h"
+#include "hosts/ctl/TableWriter.h"
 
 #include <nlohmann/json.hpp>
 
@@ -84,7 +84,7 @@ void writeCatalogue(std::ostream& out, Format format) {
         .columns = {u"Opcode", u"Version", u"Name", u"Reply", u"Purpose"},
         .rowCount = rows.size(),
         .cell = [&](std::size_t row, std::size_t column) -> wire::WideStringView { return rows[row][column]; }};
-    format == Format::csv ? shell::writeCsv(out, table) : shell::writeText(out, table);
+    writeTable(out, table, format);
 }
 
 const protocol::Command& findCommand(std::string_view opcodeOrName) {

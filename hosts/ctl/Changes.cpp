@@ -1,12 +1,18 @@
 #include "hosts/ctl/Changes.h"
 
+#include "hosts/ctl/FormWriter.h"
 #include "hosts/ctl/MenuEntry.h"
 #include "hosts/ctl/NodeFinder.h"
 #include "hosts/ctl/PrintableText.h"
 
+#include <sstream>
+
 namespace ctl {
 
-void runEntry(const Options& options, Session& session) {
+namespace {
+
+// Chooses the entry from the menu of the node or the row, and does the steps.
+void choose(const Options& options, Session& session) {
     const auto path = parsePath(options.path);
     shell::Shell& shell = session.start();
     shell.select(findNode(shell, path));
@@ -21,6 +27,24 @@ void runEntry(const Options& options, Session& session) {
     session.ui().setSteps(StepList(options.steps));
     shell.invoke(entry.id, target);
     session.check();
+}
+
+} // namespace
+
+void runEntry(const Options& options, Session& session) {
+    choose(options, session);
+}
+
+void printForm(const Options& options, Session& session, std::ostream& out) {
+    session.forbidWrites();
+    std::ostringstream form;
+    session.ui().setReader([&](forms::Form& open) { writeForm(form, open, options.format); });
+    choose(options, session);
+    if (!session.ui().hasRead()) {
+        throw Failure(ExitStatus::refused,
+                      "No form is open after the entry \"" + shown(wire::toWide(options.entry)) + "\" and the steps");
+    }
+    out << form.str();
 }
 
 void renameNode(const Options& options, Session& session) {

@@ -5,12 +5,12 @@
 #include "hosts/ctl/CatalogueTable.h"
 #include "hosts/ctl/Changes.h"
 #include "hosts/ctl/FieldArgument.h"
+#include "hosts/ctl/ListWriter.h"
 #include "hosts/ctl/MenuWriter.h"
 #include "hosts/ctl/NodeFinder.h"
 #include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
 #include "hosts/ctl/TreeWriter.h"
-#include "shell/ListExport.h"
 
 #include <nlohmann/json.hpp>
 
@@ -28,57 +28,38 @@ void logIn(const Options& options, Session& session, std::ostream& out) {
     }
 }
 
-void writeTree(const Options& options, Session& session, std::ostream& out) {
+// What of the filter was probably meant differently; the output is of use all the same.
+void note(Session& session, const std::vector<shell::FilterProblem>& problems) {
+    for (const auto& problem : problems) {
+        session.ui().note(shown(shell::describe(problem)));
+    }
+}
+
+void printTree(const Options& options, Session& session, std::ostream& out) {
     const auto path = parsePath(options.path);
+    const auto choice = parseListChoice(options);
     shell::Shell& shell = session.start();
     const auto id = findNode(shell, path);
     session.check();
-    TreeWriter writer(shell, options.depth);
-    switch (options.format) {
-    case Format::json:
-        writer.writeJson(out, id);
-        break;
-    case Format::csv:
-        writer.writeCsv(out, id);
-        break;
-    case Format::table:
-        writer.writeText(out, id);
-        break;
-    }
+    TreeReader reader(shell, options.depth, choice);
+    const auto tree = reader.read(id);
     session.check();
-}
-
-// One row per line, so that long lists stay readable.
-void writeListJson(std::ostream& out, const NodePath& path, const shell::Table& table) {
-    Json columns = Json::array();
-    std::ranges::transform(table.columns, std::back_inserter(columns), wire::toUtf8);
-    out << "{\n  \"path\": " << dump(formatPath(path)) << ",\n  \"columns\": " << dump(columns) << ",\n  \"rows\": [";
-    for (std::size_t row = 0; row < table.rowCount; ++row) {
-        Json cells = Json::array();
-        for (std::size_t column = 0; column < table.columns.size(); ++column) {
-            cells.push_back(wire::toUtf8(table.cell(row, column)));
-        }
-        out << (row == 0 ? "\n    " : ",\n    ") << dump(cells);
-    }
-    out << (table.rowCount == 0 ? "]\n}\n" : "\n  ]\n}\n");
+    note(session, reader.problems());
+    writeTree(out, tree, reader.titles(), options.format);
 }
 
 void showList(const Options& options, Session& session, std::ostream& out) {
     const auto path = parsePath(options.path);
+    const auto choice = parseListChoice(options);
     shell::Shell& shell = session.start();
     shell.select(findNode(shell, path));
     session.check();
-    const auto table = shell.table();
-    switch (options.format) {
-    case Format::json:
-        writeListJson(out, path, table);
-        break;
-    case Format::csv:
-        shell::writeCsv(out, table);
-        break;
-    case Format::table:
-        shell::writeText(out, table);
-        break;
+    const ListWriter writer(shell, choice);
+    note(session, shell::parseFilter(choice.filter, titlesOf(shell)).problems);
+    if (options.format == Format::json) {
+        writer.writeJson(out, path);
+    } else {
+        writer.write(out, options.format);
     }
 }
 
@@ -93,6 +74,30 @@ void showMenu(const Options& options, Session& session, std::ostream& out) {
     writeMenu(out, menu, options.format);
 }
 
+// "u8:kind i32:parentId", as the fields of a call are written.
+std::string fieldsOf(const protocol::RecordLayout& layout) {
+    std::string text;
+    for (const auto& field : layout.fields) {
+        text += (text.empty() ? "" : " ") +
+                std::string(field.kind == protocol::FieldKind::record ? field.element->name
+                                                                      : protocol::nameOf(field.kind)) +
+                ':' + std::string(field.name);
+    }
+    return text;
+}
+
+// Throws Failure (usage) for a command that takes fields.
+void refuseWithoutFields(const protocol::Command& command) {
+    std::string wanted = command.request != nullptr ? fieldsOf(*command.request) : "";
+    for (const auto& form : command.forms) {
+        wanted += (wanted.empty() ? "" : "; or ") + fieldsOf(*form.layout) + " (" + std::string(form.when) + ')';
+    }
+    if (!wanted.empty()) {
+        throw Failure(ExitStatus::usage, "The command " + std::string(command.name) + " takes " + wanted +
+                                             " (see vantrelctl commands --format json)");
+    }
+}
+
 void call(const Options& options, Session& session, std::ostream& out) {
     const auto& command = findCommand(options.opcode);
     std::vector<protocol::FieldValue> fields;
@@ -100,6 +105,9 @@ void call(const Options& options, Session& session, std::ostream& out) {
     if (command.connection == protocol::Connection::own || command.name == "Login") {
         throw Failure(ExitStatus::usage,
                       "The command " + std::string(command.name) + " is a part of the login; use \"vantrelctl login\"");
+    }
+    if (options.fields.empty()) {
+        refuseWithoutFields(command);
     }
     session.logIn();
     client::CQVXAdminClass client;
@@ -126,11 +134,13 @@ void carryOut(const Options& options, Session& session, std::ostream& out) {
     case CommandKind::login:
         return logIn(options, session, out);
     case CommandKind::tree:
-        return writeTree(options, session, out);
+        return printTree(options, session, out);
     case CommandKind::show:
         return showList(options, session, out);
     case CommandKind::menu:
         return showMenu(options, session, out);
+    case CommandKind::form:
+        return printForm(options, session, out);
     case CommandKind::run:
         return runEntry(options, session);
     case CommandKind::rename:

@@ -65,6 +65,13 @@ int CtlUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner
 
 void CtlUserInterface::drive(forms::Form& form) {
     const Step* const step = steps_.next();
+    if (step == nullptr && reader_) {
+        if (!std::exchange(hasRead_, true)) {
+            reader_(form);
+        }
+        form.userCancelled();
+        return;
+    }
     if (step == nullptr) {
         throw leftOpen(form);
     }

@@ -7,6 +7,8 @@
 #include <functional>
 #include <optional>
 #include <ostream>
+#include <string>
+#include <utility>
 
 namespace ctl {
 
@@ -25,9 +27,18 @@ public:
     void begin() {
         steps_ = StepList();
         failure_.reset();
+        reader_ = nullptr;
+        hasRead_ = false;
     }
+    // Called with the form that is open after the last step; that form and those below it are then cancelled.
+    void setReader(std::function<void(forms::Form&)> reader) { reader_ = std::move(reader); }
+    // Whether the reader was called.
+    [[nodiscard]] bool hasRead() const { return hasRead_; }
     // Called before a step is taken; a Failure that it throws ends the steps.
     std::function<void()> beforeStep;
+
+    // Tells the user something that does not make the command fail, in one line.
+    void note(const std::string& line) { errors_ << "vantrelctl: " << line << '\n'; }
 
     // Throws the failure, if there was one, or a failure for unused steps.
     void finish();
@@ -45,6 +56,8 @@ private:
     std::ostream& errors_;
     StepList steps_;
     std::optional<Failure> failure_;
+    std::function<void(forms::Form&)> reader_;
+    bool hasRead_ = false;
 };
 
 } // namespace ctl

@@ -57,4 +57,17 @@ std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& t
     return std::optional<forms::DateTime>(value);
 }
 
+std::string formatDateTime(const forms::DateTimeOptions& options, const std::optional<forms::DateTime>& value) {
+    if (!value) {
+        return "none";
+    }
+    const auto digits = [](int number, std::size_t count) {
+        const auto text = std::to_string(number);
+        return std::string(count - std::min(count, text.size()), '0') + text;
+    };
+    const auto date = digits(value->year, 4) + '-' + digits(value->month, 2) + '-' + digits(value->day, 2);
+    const auto time = digits(value->hour, 2) + ':' + digits(value->minute, 2) + ':' + digits(value->second, 2);
+    return !options.time ? date : options.date ? date + ' ' + time : time;
+}
+
 } // namespace ctl

@@ -11,4 +11,7 @@ namespace ctl {
 // optional is empty for anything else. Missing parts have the defaults of DateTime.
 std::optional<std::optional<forms::DateTime>> parseDateTime(const std::string& text);
 
+// The same way round, with the parts that the picker has.
+std::string formatDateTime(const forms::DateTimeOptions& options, const std::optional<forms::DateTime>& value);
+
 } // namespace ctl

@@ -1,7 +1,7 @@
 #include "hosts/ctl/MenuWriter.h"
 
 #include "hosts/ctl/ReplyJson.h"
-#include "shell/ListExport.h"
+#include "hosts/ctl/TableWriter.h"
 
 #include <nlohmann/json.hpp>
 
@@ -56,7 +56,7 @@ void writeMenu(std::ostream& out, std::span<const shell::MenuItem> menu, Format 
     if (std::ranges::any_of(rows, [](const auto& row) { return !row.back().empty(); })) {
         table.columns.emplace_back(u"Mark");
     }
-    format == Format::csv ? shell::writeCsv(out, table) : shell::writeText(out, table);
+    writeTable(out, table, format);
 }
 
 } // namespace ctl

@@ -12,7 +12,7 @@ namespace ctl {
 
 enum class Format : std::uint8_t { table, json, csv };
 
-enum class CommandKind : std::uint8_t { login, tree, show, menu, run, rename, move, call, commands, script };
+enum class CommandKind : std::uint8_t { login, tree, show, menu, form, run, rename, move, call, commands, script };
 
 // The parsed command line. Texts are UTF-8.
 struct Options {
@@ -30,6 +30,9 @@ struct Options {
     CommandKind command = CommandKind::login;
     std::string path;
     std::optional<std::uint32_t> depth; // of the tree
+    std::optional<std::string> columns; // of a list, with commas in between
+    std::optional<std::string> sort;    // the same; descending with a "-" in front
+    std::optional<std::string> filter;
     std::optional<std::string> row;
     std::string entry; // of the menu
     std::string newName;

@@ -46,8 +46,8 @@ private:
     bool changed_;
 };
 
-wire::WideString fromTerminal() {
-    std::cerr << "Password: " << std::flush;
+wire::WideString fromTerminal(const std::string& account) {
+    std::cerr << "Password of " << account << ": " << std::flush;
     std::string line;
     {
         const SilentTerminal silent;
@@ -61,7 +61,7 @@ wire::WideString fromTerminal() {
 
 } // namespace
 
-wire::WideString obtainPassword(const std::optional<std::filesystem::path>& file) {
+wire::WideString obtainPassword(const std::optional<std::filesystem::path>& file, const std::string& account) {
     if (file) {
         return fromFile(*file);
     }
@@ -69,7 +69,7 @@ wire::WideString obtainPassword(const std::optional<std::filesystem::path>& file
         return wire::toWide(value);
     }
     if (isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0) {
-        return fromTerminal();
+        return fromTerminal(account);
     }
     throw Failure(ExitStatus::noConnection, "There is no password: give --password-file FILE or set VANTREL_PASSWORD");
 }

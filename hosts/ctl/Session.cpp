@@ -28,7 +28,7 @@ Session::Session(const Options& options, std::ostream& errors)
       settings_(options.settings ? *options.settings : common::IniSettingsStore::defaultPath()),
       platform_{.ui = ui_,
                 .settings = settings_,
-                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_, .requests = &writes_},
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_, .requests = &gate_},
                 .productVersion = {},
                 .locale = locale_,
                 .environment = environment_,
@@ -53,7 +53,8 @@ StepList Session::loginSteps(const wire::WideString& server, const wire::WideStr
     const auto user = checked(value(options_.user, "UserName", "--user NAME"), "user name");
     const auto domain = checked(
         options_.domain ? wire::toWide(*options_.domain) : settings_.read("DomainName").value_or(u""), "domain");
-    const auto password = checked(obtainPassword(options_.passwordFile), "password");
+    const auto account = shown(user) + " at " + shown(server) + ":" + shown(port);
+    const auto password = checked(obtainPassword(options_.passwordFile, account), "password");
     const auto step = [](const char16_t* label, const wire::WideString& text) {
         return Step{.kind = Step::Kind::set, .label = label, .value = text, .written = "the login"};
     };
@@ -103,6 +104,7 @@ shell::Shell& Session::start() {
 void Session::beginCommand() {
     failures_.forget();
     writes_.forget();
+    gate_.closeForWrites(false);
     ui_.begin();
 }
 

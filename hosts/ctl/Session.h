@@ -10,6 +10,7 @@
 #include "hosts/ctl/CtlUserInterface.h"
 #include "hosts/ctl/FailureWatch.h"
 #include "hosts/ctl/Options.h"
+#include "hosts/ctl/ReadOnlyGate.h"
 #include "platform/Platform.h"
 #include "platform/RefusalBox.h"
 #include "shell/CommandWatch.h"
@@ -43,6 +44,8 @@ public:
     void check();
 
     CtlUserInterface& ui() { return ui_; }
+    // Until the next command, commands that write are refused.
+    void forbidWrites() { gate_.closeForWrites(true); }
 
 private:
     // The given value, or else that of the settings with the name. Throws Failure (no connection) without either.
@@ -67,6 +70,7 @@ private:
     std::optional<Activity> activity_;
     FailureWatch failures_;
     common::WriteCheck writes_;
+    ReadOnlyGate gate_{writes_};
     shell::CommandWatch watch_{observers_};
     CtlUserInterface ui_;
     platform::RefusalBox refusals_{ui_};

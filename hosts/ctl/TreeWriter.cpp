@@ -3,71 +3,95 @@
 #include "hosts/ctl/NodePath.h"
 #include "hosts/ctl/PrintableText.h"
 #include "hosts/ctl/ReplyJson.h"
-#include "shell/ListExport.h"
+#include "hosts/ctl/TableWriter.h"
 
 #include <nlohmann/json.hpp>
 
-#include <array>
-#include <functional>
+#include <utility>
+#include <vector>
 
 namespace ctl {
+namespace {
 
-using console::ScopeId;
+using Line = std::vector<wire::WideString>;
+using Lines = std::vector<Line>;
 
-std::vector<ScopeId> TreeWriter::childrenOf(ScopeId id, std::uint32_t level) {
-    if (below(level)) {
-        return {};
-    }
-    shell_.expand(id);
-    const auto children = shell_.tree().children(id);
-    return {children.begin(), children.end()};
-}
-
-void TreeWriter::writeJson(std::ostream& out, ScopeId id) {
-    const std::function<Json(ScopeId, std::uint32_t)> node = [&](ScopeId item, std::uint32_t level) {
-        Json json{{"name", wire::toUtf8(shell_.tree().text(item))}};
-        if (!below(level)) {
-            Json children = Json::array();
-            for (const ScopeId child : childrenOf(item, level)) {
-                children.push_back(node(child, level + 1));
-            }
-            json["children"] = std::move(children);
+Json jsonOf(const TreeItem& item, std::span<const wire::WideString> titles) {
+    Json json{{"name", wire::toUtf8(item.name)}};
+    for (std::size_t column = 0; column < item.cells.size(); ++column) {
+        if (item.cells[column]) {
+            json["cells"][wire::toUtf8(titles[column])] = wire::toUtf8(*item.cells[column]);
         }
-        return json;
-    };
-    out << dump(node(id, 0), 2) << '\n';
+    }
+    if (item.read) {
+        json["children"] = Json::array();
+        for (const TreeItem& child : item.children) {
+            json["children"].push_back(jsonOf(child, titles));
+        }
+    }
+    return json;
 }
 
-void TreeWriter::writeText(std::ostream& out, ScopeId id) {
-    out << shown(shell_.tree().text(id)) << '\n';
-    writeLines(out, id, "", 0);
-}
-
-void TreeWriter::writeLines(std::ostream& out, ScopeId id, const std::string& guide, std::uint32_t level) {
-    const auto children = childrenOf(id, level);
-    for (const ScopeId child : children) {
-        const bool last = child == children.back();
-        out << guide << (last ? "└── " : "├── ") << shown(shell_.tree().text(child)) << '\n';
-        writeLines(out, child, guide + (last ? "    " : "│   "), level + 1);
+void addCells(Line& line, const TreeItem& item) {
+    for (const auto& cell : item.cells) {
+        line.push_back(cell.value_or(u""));
     }
 }
 
-void TreeWriter::writeCsv(std::ostream& out, ScopeId id) {
-    std::vector<std::array<wire::WideString, 2>> rows;
-    NodePath path;
-    const std::function<void(ScopeId, std::uint32_t)> add = [&](ScopeId item, std::uint32_t level) {
-        path.push_back(shell_.tree().text(item));
-        rows.push_back({wire::toWide(std::to_string(level)), wire::toWide(formatPath(path))});
-        for (const ScopeId child : childrenOf(item, level)) {
-            add(child, level + 1);
+void addPaths(Lines& lines, NodePath& path, const TreeItem& item) {
+    path.push_back(item.name);
+    auto& line =
+        lines.emplace_back(Line{wire::toWide(std::to_string(path.size() - 1)), wire::toWide(formatPath(path))});
+    addCells(line, item);
+    for (const TreeItem& child : item.children) {
+        addPaths(lines, path, child);
+    }
+    path.pop_back();
+}
+
+// The guide leads to the children of the item.
+void addGuided(Lines& lines, const wire::WideString& name, const TreeItem& item, const wire::WideString& guide) {
+    addCells(lines.emplace_back(Line{name}), item);
+    for (const TreeItem& child : item.children) {
+        const bool last = &child == &item.children.back();
+        addGuided(lines, guide + (last ? u"└── " : u"├── ") + child.name, child, guide + (last ? u"    " : u"│   "));
+    }
+}
+
+void writeLines(std::ostream& out, const Lines& lines, Line columns, Format format) {
+    writeTable(
+        out,
+        {.columns = std::move(columns),
+         .rowCount = lines.size(),
+         .cell = [&](std::size_t row, std::size_t column) -> wire::WideStringView { return lines[row][column]; }},
+        format);
+}
+
+Line with(Line columns, std::span<const wire::WideString> titles) {
+    columns.insert(columns.end(), titles.begin(), titles.end());
+    return columns;
+}
+
+} // namespace
+
+void writeTree(std::ostream& out, const TreeItem& tree, std::span<const wire::WideString> titles, Format format) {
+    Lines lines;
+    if (format == Format::json) {
+        out << dump(jsonOf(tree, titles), 2) << '\n';
+    } else if (format == Format::csv) {
+        NodePath path;
+        addPaths(lines, path, tree);
+        writeLines(out, lines, with({u"Level", u"Path"}, titles), format);
+    } else {
+        addGuided(lines, tree.name, tree, {});
+        if (!titles.empty()) {
+            writeLines(out, lines, with({u"Tree"}, titles), format);
+            return;
         }
-        path.pop_back();
-    };
-    add(id, 0);
-    shell::writeCsv(
-        out, {.columns = {u"Level", u"Path"},
-              .rowCount = rows.size(),
-              .cell = [&](std::size_t row, std::size_t column) -> wire::WideStringView { return rows[row][column]; }});
+        for (const Line& line : lines) {
+            out << shown(line.front()) << '\n';
+        }
+    }
 }
 
 } // namespace ctl

@@ -39,20 +39,41 @@ bool isLow(char16_t unit) {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
+// The point at a place, which is moved behind it.
+char32_t takePoint(wire::WideStringView text, std::size_t& place) {
+    const char32_t unit = text[place++];
+    if (!isHigh(static_cast<char16_t>(unit)) || place == text.size() || !isLow(text[place])) {
+        return unit;
+    }
+    return 0x10000U + ((unit - 0xD800U) << 10U) + (static_cast<char32_t>(text[place++]) - 0xDC00U);
+}
+
+std::size_t widthOf(char32_t point) {
+    return isIn(widthless, point) ? 0U : isIn(wide, point) ? 2U : 1U;
+}
+
 } // namespace
 
 std::size_t displayWidth(wire::WideStringView text) {
     std::size_t width = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t point = text[i];
-        if (isHigh(text[i]) && i + 1 < text.size() && isLow(text[i + 1])) {
-            point = 0x10000U + ((point - 0xD800U) << 10U) + (static_cast<char32_t>(text[++i]) - 0xDC00U);
-        }
-        if (!isIn(widthless, point)) {
-            width += isIn(wide, point) ? 2U : 1U;
-        }
+    for (std::size_t place = 0; place < text.size();) {
+        width += widthOf(takePoint(text, place));
     }
     return width;
+}
+
+wire::WideString elided(wire::WideStringView text, std::size_t width) {
+    if (displayWidth(text) <= width) {
+        return wire::WideString(text);
+    }
+    std::size_t end = 0;
+    for (std::size_t place = 0, used = 1; place < text.size(); end = place) {
+        used += widthOf(takePoint(text, place));
+        if (used > width) {
+            break;
+        }
+    }
+    return wire::WideString(text.substr(0, end)) + (width == 0 ? u"" : u"…");
 }
 
 } // namespace shell

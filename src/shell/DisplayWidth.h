@@ -10,4 +10,7 @@ namespace shell {
 // that stand above or below another letter.
 std::size_t displayWidth(wire::WideStringView text);
 
+// The text if it is not wider than that, otherwise its beginning with an ellipsis.
+wire::WideString elided(wire::WideStringView text, std::size_t width);
+
 } // namespace shell

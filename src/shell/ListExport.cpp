@@ -63,6 +63,23 @@ std::string jsonString(wire::WideStringView text) {
     return json + '"';
 }
 
+// Narrows the widest columns until the lines are not wider than that, but none below the least width.
+void fit(std::vector<std::size_t>& widths, std::size_t width) {
+    constexpr std::size_t least = 6;
+    const auto widthWith = [&](std::size_t most) {
+        std::size_t sum = columnGap.size() * (widths.size() - 1);
+        for (const std::size_t one : widths) {
+            sum += std::min(one, most);
+        }
+        return sum;
+    };
+    std::size_t most = std::max(*std::ranges::max_element(widths), least);
+    while (most > least && widthWith(most) > width) {
+        --most;
+    }
+    std::ranges::transform(widths, widths.begin(), [most](std::size_t one) { return std::min(one, most); });
+}
+
 } // namespace
 
 void writeCsv(std::ostream& out, const Table& table) {
@@ -87,6 +104,10 @@ void writeJson(std::ostream& out, const Table& table) {
 }
 
 void writeText(std::ostream& out, const Table& table) {
+    writeText(out, table, unlimitedWidth);
+}
+
+void writeText(std::ostream& out, const Table& table, std::size_t width) {
     if (table.columns.empty()) {
         return;
     }
@@ -97,9 +118,11 @@ void writeText(std::ostream& out, const Table& table) {
             widths[column] = std::max(widths[column], displayWidth(visibleText(text)));
         },
         [](std::size_t) {});
+    fit(widths, width);
     std::string line;
     std::size_t gap = 0; // blanks to write before the next text, so that no line ends in blanks
-    const auto add = [&](std::size_t column, const wire::WideString& text) {
+    const auto add = [&](std::size_t column, const wire::WideString& whole) {
+        const auto text = elided(whole, widths[column]);
         if (!text.empty()) {
             line.append(gap, ' ').append(wire::toUtf8(text));
             gap = 0;

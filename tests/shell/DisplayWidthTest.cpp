@@ -22,6 +22,16 @@ TEST(DisplayWidth, marksOnALetterTakeNone) {
     EXPECT_EQ(displayWidth(u"e\u0301"), 1U);
 }
 
+TEST(DisplayWidth, aTextThatIsCutEndsWithAnEllipsis) {
+    EXPECT_EQ(shell::elided(u"Hall", 4), u"Hall");
+    EXPECT_EQ(shell::elided(u"Halls", 4), u"Hal…");
+    EXPECT_EQ(shell::elided(u"東京東", 5), u"東京…");
+    EXPECT_EQ(shell::elided(u"東京東", 4), u"東…");
+    EXPECT_EQ(shell::elided(u"a\U0001F5A8b", 3), u"a…");
+    EXPECT_EQ(shell::elided(u"ab", 1), u"…");
+    EXPECT_EQ(shell::elided(u"ab", 0), u"");
+}
+
 TEST(DisplayWidth, aLoneSurrogateTakesOne) {
     const char16_t lone[] = {0xD83D, u'a', 0};
 

@@ -9,13 +9,21 @@ namespace {
 using Cells = std::vector<std::vector<wire::WideString>>;
 
 // The table's first row of cells is that of the titles.
+shell::Table tableOf(const Cells& cells) {
+    return {.columns = cells.front(), .rowCount = cells.size() - 1, .cell = [&](std::size_t row, std::size_t column) {
+                return wire::WideStringView(cells[row + 1][column]);
+            }};
+}
+
 std::string written(void (*write)(std::ostream&, const shell::Table&), const Cells& cells) {
-    shell::Table table;
-    table.columns = cells.front();
-    table.rowCount = cells.size() - 1;
-    table.cell = [&](std::size_t row, std::size_t column) { return wire::WideStringView(cells[row + 1][column]); };
     std::ostringstream out;
-    write(out, table);
+    write(out, tableOf(cells));
+    return out.str();
+}
+
+std::string writtenWithin(std::size_t width, const Cells& cells) {
+    std::ostringstream out;
+    shell::writeText(out, tableOf(cells), width);
     return out.str();
 }
 
@@ -53,6 +61,19 @@ TEST(ListExport, textAlignsColumnsByTheirWidthOnTheScreen) {
 
 TEST(ListExport, textMakesLineBreaksVisible) {
     EXPECT_EQ(written(shell::writeText, {{u"Name"}, {u"a\nb"}}), "Name\n----\na\u240Ab\n");
+}
+
+TEST(ListExport, textCutsTheWidestColumnsAtTheEdgeOfATerminal) {
+    EXPECT_EQ(writtenWithin(20, {{u"Name", u"Comment"}, {u"Hall 1", u"beside the entrance"}, {u"東京東京", u"x"}}),
+              "Name      Comment\n--------  ----------\nHall 1    beside th…\n東京東京  x\n");
+}
+
+TEST(ListExport, textThatFitsIsNotCut) {
+    EXPECT_EQ(writtenWithin(10, {{u"Name", u"Jobs"}, {u"Hall", u"3"}}), "Name  Jobs\n----  ----\nHall  3\n");
+}
+
+TEST(ListExport, textKeepsAFewCellsOfEachColumn) {
+    EXPECT_EQ(writtenWithin(1, {{u"Long name", u"Jobs"}, {u"Hall", u"3"}}), "Long …  Jobs\n------  ----\nHall    3\n");
 }
 
 TEST(ListExport, textOfAListWithoutColumnsIsEmpty) {
