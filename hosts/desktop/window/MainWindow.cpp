@@ -68,6 +68,7 @@ MainWindow::~MainWindow() {
     session_.setMeasure(nullptr);
     delete panes_; // its views must be destroyed before their models
     delete activity_;
+    delete details_; // it reports when it is hidden
 }
 
 void MainWindow::restorePlace() {
