@@ -44,6 +44,14 @@ BoxReply statement(std::string line, std::uint32_t icon) {
 
 } // namespace
 
+wire::WideString withObject(wire::WideStringView text, wire::WideStringView object) {
+    wire::WideString line(text.substr(0, text.find_last_not_of(u' ') + 1));
+    if (!object.empty()) {
+        line.append(u" \"").append(object).append(u"\"");
+    }
+    return line;
+}
+
 BoxReply replyTo(const Step* next, wire::WideStringView text, wire::WideStringView caption, std::uint32_t boxStyle) {
     const Buttons buttons = buttonsOf(boxStyle);
     const std::string line = shown(caption) + ": " + shown(text.substr(0, text.find_last_not_of(u' ') + 1));

@@ -21,6 +21,9 @@ struct BoxReply {
     std::optional<Failure> failure; // of the command
 };
 
+// The text of a question, followed by the name of what it is about.
+wire::WideString withObject(wire::WideStringView text, wire::WideStringView object);
+
 // The reply that the next step gives; the step is null at the end. A box that can't be answered gets the answer that
 // changes nothing. A box with only an OK is a message: unless a step answers it, it makes the command fail; with a
 // warning or error icon it always does.

@@ -48,6 +48,13 @@ platform::Answer CtlUserInterface::messageBox(platform::WindowHandle /*owner*/, 
     return reply.answer;
 }
 
+// The name stands on the line of the question.
+platform::Answer CtlUserInterface::messageBoxAbout(platform::WindowHandle owner, const wire::WideString& object,
+                                                   const wire::WideString& text, const wire::WideString& caption,
+                                                   std::uint32_t boxStyle) {
+    return messageBox(owner, withObject(text, object), caption, boxStyle);
+}
+
 int CtlUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {
     form.open();
     try {

@@ -454,7 +454,8 @@ void NodeBase::selectAndPress(ScopeId scopeId, const KeySequence& keys) const {
 }
 
 bool NodeBase::confirm(const wire::WideString& question) const {
-    return messageBox(question, u"Warning", platform::boxStyle::okCancel) == platform::Answer::ok;
+    return platform_.ui.messageBoxAbout(0, displayName(), question, u"Warning", platform::boxStyle::okCancel) ==
+           platform::Answer::ok;
 }
 
 platform::Answer NodeBase::messageBox(const wire::WideString& text, const wire::WideString& caption,

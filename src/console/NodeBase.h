@@ -152,7 +152,7 @@ protected:
     // Selects an item of the tree and presses keys there.
     void selectAndPress(ScopeId scopeId, const KeySequence& keys) const;
 
-    // Asks as every destructive command does: caption "Warning", OK and Cancel. True on OK.
+    // Asks about this node as every destructive command does: caption "Warning", OK and Cancel. True on OK.
     bool confirm(const wire::WideString& question) const;
     platform::Answer messageBox(const wire::WideString& text, const wire::WideString& caption,
                                 std::uint32_t style) const;

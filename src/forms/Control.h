@@ -14,7 +14,19 @@ class ControlVisitor;
 class Form;
 
 // Which aspect of a control has changed, so that a host need update only that.
-enum class Aspect : std::uint8_t { label, text, items, selection, enabled, visible, focus, limits, columns, pages };
+enum class Aspect : std::uint8_t {
+    label,
+    text,
+    items,
+    selection,
+    enabled,
+    visible,
+    focus,
+    limits,
+    columns,
+    pages,
+    problem
+};
 
 // What every control of a form has: a label, whether it is enabled and visible, and the form that it is on. A control
 // is a member of its form (or of a group or page of it) and knows no widget. Setters are for the form's own code and

@@ -88,7 +88,7 @@ void EditableList::editPressed() {
 void EditableList::deletePressed() {
     const auto record = namedRecord();
     const auto question = deleteQuestion();
-    if (record && (question.empty() || confirmDelete(list.form(), question))) {
+    if (record && (question.empty() || confirmDelete(list.form(), question, name(*record)))) {
         remove(*record);
     }
 }

@@ -57,12 +57,20 @@ void Form::userCancelled() {
     }
 }
 
-void Form::userPressedDefault() {
+Button* Form::defaultButton(const Control* focused) {
     for (Control* control : controlsOf(*this)) {
         auto* const button = dynamic_cast<Button*>(control);
-        if (button != nullptr && button->isDefault() && button->userPressed()) {
-            return;
+        const bool meant = focused == nullptr || control->beside() == nullptr || control->beside() == focused;
+        if (meant && button != nullptr && button->isDefault() && button->reachable()) {
+            return button;
         }
+    }
+    return nullptr;
+}
+
+void Form::userPressedDefault(const Control* focused) {
+    if (Button* const button = defaultButton(focused)) {
+        button->userPressed();
     }
 }
 

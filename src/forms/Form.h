@@ -40,9 +40,12 @@ public:
     void open();
     // For hosts: Escape and the closing cross do the same as the Cancel button.
     void userCancelled();
-    // For hosts: Enter, where the focused control does not take it. Presses the first default button that can be
-    // pressed, the form's own ones before the standard one.
-    void userPressedDefault();
+    // For hosts: the button that Enter presses while this control has the focus: the first default one that can be
+    // pressed, the form's own ones before the standard one. An own one that is beside a box is meant for that box
+    // alone; null stands for no control in particular. Null if none can be pressed.
+    [[nodiscard]] Button* defaultButton(const Control* focused = nullptr);
+    // For hosts: Enter, where the focused control does not take it.
+    void userPressedDefault(const Control* focused = nullptr);
 
     [[nodiscard]] bool ended() const { return ended_; }
     [[nodiscard]] int result() const { return result_; }

@@ -3,6 +3,8 @@
 #include "forms/ControlShape.h"
 #include "forms/Form.h"
 #include "forms/Group.h"
+#include "forms/Label.h"
+#include "forms/LayoutFold.h"
 #include "forms/Neighbours.h"
 #include "forms/Page.h"
 #include "forms/RadioButton.h"
@@ -48,6 +50,7 @@ private:
     void addBlock(Control& control);
     Row rowOf(Control& control, bool hasLabels);
     Line lineOf(Controls controls);
+    Line rowLineOf(Controls controls);
     void addToLine(Control& control, Line& line);
     BlockPart partOf(Control& control);
     // Separates the groups that are beside each other from what belongs to them but is not a group.
@@ -131,11 +134,11 @@ Row ColumnPlanner::rowOf(Control& control, bool hasLabels) {
     const ControlShape shape = shapeOf(control);
     const Controls others = neighbours_.of(control);
     if (shape.place == Place::field && !others.empty()) {
-        return {.choice = &control, .line = lineOf(others)};
+        return {.choice = &control, .line = rowLineOf(others)};
     }
     const bool isRadioButton = dynamic_cast<const RadioButton*>(&control) != nullptr;
     return {.captionOf = shape.hasCaption ? &control : nullptr,
-            .line = lineOf(std::array{&control}),
+            .line = rowLineOf(std::array{&control}),
             .spans = isRadioButton || !hasLabels};
 }
 
@@ -144,6 +147,12 @@ Line ColumnPlanner::lineOf(Controls controls) {
     for (Control* control : controls) {
         addToLine(*control, line);
     }
+    return line;
+}
+
+Line ColumnPlanner::rowLineOf(Controls controls) {
+    Line line = lineOf(controls);
+    line.back().remark = line.size() > 1 && dynamic_cast<const Label*>(line.back().control) != nullptr;
     return line;
 }
 
@@ -187,8 +196,8 @@ bool ColumnPlanner::grows(Controls controls) const {
 
 } // namespace
 
-LayoutPlan planOf(Form& form) {
-    LayoutPlan plan{.body = ColumnPlanner(form).plan(), .foot = {}};
+LayoutPlan planOf(Form& form, Arrangement arrangement) {
+    LayoutPlan plan{.body = rearranged(ColumnPlanner(form).plan(), arrangement), .foot = {}};
     for (const Button* button : {&form.okButton(), &form.cancelButton()}) {
         plan.foot.push_back({.control = button});
     }

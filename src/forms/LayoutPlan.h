@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <variant>
 #include <vector>
 
@@ -14,6 +16,8 @@ struct LineItem {
     const Control* control = nullptr;
     bool caption = false; // its label is in front of it
     bool widens = false;  // takes the remaining width of the line; at most one per line
+    bool remark =
+        false; // ends a row; as wide as the other remarks of its rows, so that the boxes before them are level
 };
 
 // Controls side by side. If none of them widens, the free space is at the end.
@@ -50,12 +54,47 @@ struct Block {
     int stretch = 0;
 };
 
+// Columns beside each other, equally wide.
+struct Abreast {
+    std::vector<Column> columns;
+    int stretch = 0;
+};
+
+struct Sheet;
+
+// Sheets behind each other, each with a tab. They belong to the layout: the form knows nothing of them, and a control
+// that gets the focus brings its sheet to the front.
+struct Sheets {
+    std::vector<Sheet> sheets;
+    int stretch = 0;
+};
+
 // The content of a container, from the top down. Extra height is shared among the sections by their stretch; a section
 // with 0 keeps its height. If no section grows, the extra height stays at the bottom.
 struct Column {
-    std::vector<std::variant<Rows, Line, Block>> sections;
+    std::vector<std::variant<Rows, Line, Block, Abreast, Sheets>> sections;
     bool grows = false;
 };
+
+using Section = decltype(Column::sections)::value_type;
+
+// A sheet, and the groups on it whose labels are its title.
+struct Sheet {
+    std::vector<const Control*> titledBy;
+    Column content;
+};
+
+// How a dialog is arranged, from the one that is easiest to read to the one that needs the least height. A host takes
+// the first that the screen has room for; only if there is none does the dialog scroll, and then without its foot.
+enum class Arrangement : std::uint8_t {
+    stacked,
+    columns,         // two beside each other
+    sheets,          // a sheet for each group
+    sheetsOfColumns, // and two columns within large groups
+};
+
+inline constexpr std::array arrangements{Arrangement::stacked, Arrangement::columns, Arrangement::sheets,
+                                         Arrangement::sheetsOfColumns};
 
 // The plan of a dialog: what goes where, before anything is measured. It holds for every state of the form: hidden and
 // disabled controls have their place too, and a host leaves no gap for a line or row of which nothing is visible. It
@@ -65,6 +104,6 @@ struct LayoutPlan {
     Line foot; // the standard buttons, at the right
 };
 
-LayoutPlan planOf(Form& form);
+LayoutPlan planOf(Form& form, Arrangement arrangement = Arrangement::stacked);
 
 } // namespace forms

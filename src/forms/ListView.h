@@ -15,14 +15,17 @@ namespace forms {
 struct ListColumn {
     wire::WideString title;
     int width = 100;
+    bool number = false; // its cells are numbers, which hosts align at the right
 
     [[nodiscard]] bool hidden() const { return width <= 0; }
 };
 
-// A row of a list view: a text per column, and the id by which the program identifies the row.
+// A row of a list view: a text per column, the id by which the program identifies the row, and what else a person may
+// want to know about it, which hosts show as a tool tip.
 struct ListRow {
     std::vector<wire::WideString> cells;
     std::string data;
+    wire::WideString hint{};
 };
 
 // A list with columns, of which at most one row is selected.

@@ -10,9 +10,10 @@ namespace forms {
 class Control;
 class Form;
 
-// Asks before something is deleted; true on OK.
-[[nodiscard]] bool confirmDelete(platform::Platform& platform, std::u16string_view question);
-[[nodiscard]] bool confirmDelete(Form& form, std::u16string_view question);
+// Asks before something is deleted, and names it if the question does not; true on OK.
+[[nodiscard]] bool confirmDelete(platform::Platform& platform, std::u16string_view question,
+                                 std::u16string_view object = {});
+[[nodiscard]] bool confirmDelete(Form& form, std::u16string_view question, std::u16string_view object = {});
 
 // Says that the form can't end without the field, and moves the focus there.
 void refuseBlank(Control& field, std::u16string_view text, std::u16string_view caption = u"Required field is Empty!",

@@ -32,6 +32,13 @@ void TextControl::setReadOnly(bool readOnly) {
     changed(Aspect::limits);
 }
 
+void TextControl::setProblem(wire::WideString problem) {
+    if (problem_ != problem) {
+        problem_ = std::move(problem);
+        changed(Aspect::problem);
+    }
+}
+
 bool TextControl::userTyped(wire::WideString text) {
     if (!takesInput() || options_.readOnly) {
         return false;

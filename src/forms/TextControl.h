@@ -26,6 +26,10 @@ public:
     [[nodiscard]] const TextOptions& options() const { return options_; }
     void setLimit(std::size_t limit);
     void setReadOnly(bool readOnly);
+    // What is wrong with the text as it stands, for hosts to show at the box; empty if nothing is. It is only a hint:
+    // the form can be confirmed all the same.
+    [[nodiscard]] const wire::WideString& problem() const { return problem_; }
+    void setProblem(wire::WideString problem);
 
     std::function<void()> onChange;
     // The user has changed the text. False when it breaks the box's rules (too long, not digits, read only, disabled);
@@ -37,6 +41,7 @@ protected:
 
 private:
     wire::WideString text_;
+    wire::WideString problem_;
     TextOptions options_;
 };
 

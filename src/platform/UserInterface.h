@@ -46,6 +46,13 @@ public:
     virtual Answer messageBox(WindowHandle owner, const wire::WideString& text, const wire::WideString& caption,
                               std::uint32_t style) = 0;
 
+    // The same about an object that the text does not name, such as "Berlin" for "Delete the selected region?". A host
+    // shows the name beneath the text; one that can't shows the text alone.
+    virtual Answer messageBoxAbout(WindowHandle owner, const wire::WideString& /*object*/, const wire::WideString& text,
+                                   const wire::WideString& caption, std::uint32_t style) {
+        return messageBox(owner, text, caption, style);
+    }
+
     // Shows the form until it ends: attaches itself as the form's observer, calls Form::open, reports what the user
     // does, detaches. Returns Form::result. Forms nest. May be called from a thread started by startThread.
     virtual int runModal(forms::Form& form, WindowHandle owner) = 0;

@@ -28,6 +28,10 @@ NewPricePlanDlg::NewPricePlanDlg(platform::Platform& platform, std::optional<Rec
       knowsPrices_(isNew()) {
     multipliers.setBeside(general);
     scanMultiplier.box.setLimit(64);
+    vat.onChange = [this] {
+        const bool leftAlone = vat.text() == shownVat_;
+        vat.setProblem(leftAlone ? wire::WideString() : hundredthsProblem(this->platform().locale, vat.text()));
+    };
     papers.onChange = [this] { okButton().setEnabled(knowsPrices_ && !papers.updating()); };
 }
 

@@ -89,7 +89,8 @@ void NewRuleGroupDlg::add() {
 
 void NewRuleGroupDlg::remove() {
     const auto* const entry = selectedEntry();
-    if (entry == nullptr || !forms::confirmDelete(*this, u"Are you sure you want to delete this rule entry?")) {
+    if (entry == nullptr ||
+        !forms::confirmDelete(*this, u"Are you sure you want to delete this rule entry?", entry->name)) {
         return;
     }
     client::CQVXAdminClass client;

@@ -6,7 +6,7 @@
 namespace rules {
 
 // A box for a price in the user's number format. While its text is unchanged it stands for the exact number, before
-// rounding and grouping; until forget() is called.
+// rounding and grouping; until forget() is called. A text that is not a number is marked as such.
 class PriceBox {
 public:
     PriceBox(forms::Container& container, const platform::Locale& locale, std::u16string_view label);
@@ -15,7 +15,7 @@ public:
     // The same with two decimals.
     void showAmount(float amount);
     // Keeps the text, which from now on is read as a number.
-    void forget() { shownText_.clear(); }
+    void forget();
     [[nodiscard]] bool empty() const { return box.text().empty(); }
     [[nodiscard]] float price() const;
     // The same, but `before` if the box is empty.
@@ -24,6 +24,7 @@ public:
     forms::EditBox box;
 
 private:
+    void mark();
     void show(float price, wire::WideString text);
 
     const platform::Locale& locale_;

@@ -27,6 +27,26 @@ Shown shownOf(const PriceEntryRecord& row) {
             {base, simplex, duplex, simplex, duplex}};
 }
 
+// Rows of the same paper for print, copy and scan have the same columns.
+wire::WideString hintOf(PriceKind kind) {
+    switch (kind) {
+    case PriceKind::multiplier:
+        return u"Multiplier of a paper";
+    case PriceKind::print:
+        return u"Prices of printing";
+    case PriceKind::copy:
+        return u"Prices of copying";
+    case PriceKind::scan:
+        return u"Prices of scanning";
+    case PriceKind::areaMultiplier:
+        return u"Multiplier of an area";
+    case PriceKind::areaPrint:
+        return u"Prices of printing on an area";
+    default:
+        return {};
+    }
+}
+
 bool excludes(const PriceEntryRecord& row, const PriceEntryRecord& added) {
     const bool ofDifferentKinds =
         isAbsoluteOfPaper(row.kind) && isAbsoluteOfPaper(added.kind) && row.kind != added.kind;
@@ -50,14 +70,15 @@ void PriceTable::removePaper(std::uint16_t paperCode) {
 }
 
 std::vector<forms::ListColumn> PriceTable::columns() {
-    return {{u"Paper type", 85}, {u"Base price", 85},    {u"B/W Simplex", 85},
-            {u"B/W Duplex", 85}, {u"Color Simplex", 85}, {u"Color Duplex", 87}};
+    constexpr bool number = true;
+    return {{u"Paper type", 85},         {u"Base price", 85, number},    {u"B/W Simplex", 85, number},
+            {u"B/W Duplex", 85, number}, {u"Color Simplex", 85, number}, {u"Color Duplex", 87, number}};
 }
 
 std::vector<forms::ListRow> PriceTable::listRows(const platform::Locale& locale) const {
     std::vector<forms::ListRow> lines;
     for (const auto& row : rows_) {
-        forms::ListRow line{.cells = {wire::fromCodePage(row.paperName)}, .data = row.id};
+        forms::ListRow line{.cells = {wire::fromCodePage(row.paperName)}, .data = row.id, .hint = hintOf(row.kind)};
         const Shown shown = shownOf(row);
         for (std::size_t i = 0; i < shown.prices.size(); ++i) {
             line.cells.push_back(shown.meant[i] ? formatPrice(locale, shown.prices[i]) : u"N/A");

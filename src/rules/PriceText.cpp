@@ -56,25 +56,36 @@ bool isHexDigit(char character) {
     return std::string_view("0123456789abcdefABCDEF").find(character) != std::string_view::npos;
 }
 
+struct NumberAtStart {
+    double value = 0;
+    std::string_view rest; // behind the number; the whole text if there is none
+};
+
 // The number at the beginning of a text, as strtod reads it in the plain locale. Words such as "infinity" are not
 // numbers.
-double numberAtStart(std::string_view text) {
+NumberAtStart readNumber(std::string_view text) {
+    const std::string_view whole = text;
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) {
         text.remove_prefix(1);
     }
     if (text.empty() || (text[0] != '.' && (text[0] < '0' || text[0] > '9'))) {
-        return 0;
+        return {0, whole};
     }
     const bool hex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && isHexDigit(text[2]);
     if (hex) {
         text.remove_prefix(2);
     }
     double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value,
-                    hex ? std::chars_format::hex : std::chars_format::general);
-    return negative ? -value : value;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value,
+                                      hex ? std::chars_format::hex : std::chars_format::general);
+    text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
+    return {negative ? -value : value, read.ec == std::errc() ? text : whole};
+}
+
+double numberAtStart(std::string_view text) {
+    return readNumber(text).value;
 }
 
 // A text with a point before its decimals, fit to be read as a number.
@@ -87,6 +98,17 @@ std::string withPoint(const platform::Locale& locale, wire::WideStringView text)
     std::string plain(number.size(), '?'); // "?" ends a number
     std::ranges::transform(number, plain.begin(), [](char16_t unit) { return unit < 0x80 ? char(unit) : '?'; });
     return plain;
+}
+
+bool isNumber(const platform::Locale& locale, wire::WideStringView text) {
+    const std::string plain = withPoint(locale, text);
+    const auto number = readNumber(plain);
+    const bool fits = std::isfinite(static_cast<float>(number.value));
+    return fits && number.rest.size() < plain.size() && number.rest.find_first_not_of(' ') == std::string_view::npos;
+}
+
+wire::WideString readAs(const wire::WideString& number) {
+    return u"Not a number; it is read as " + number;
 }
 
 } // namespace
@@ -117,6 +139,24 @@ std::int64_t parseHundredths(const platform::Locale& locale, wire::WideStringVie
     const double hundredths = numberAtStart(number) * 100.0;
     const bool fits = hundredths < tooLarge && hundredths > -tooLarge;
     return fits ? static_cast<std::int64_t>(plain ? std::round(hundredths) : hundredths) : 0;
+}
+
+wire::WideString priceProblem(const platform::Locale& locale, wire::WideStringView text) {
+    return text.empty() || isNumber(locale, text) ? wire::WideString()
+                                                  : readAs(formatPrice(locale, parsePrice(locale, text)));
+}
+
+wire::WideString hundredthsProblem(const platform::Locale& locale, wire::WideStringView text) {
+    constexpr double least = 1e-6;
+    if (text.empty()) {
+        return {};
+    }
+    const double read = static_cast<double>(parseHundredths(locale, text)) / 100;
+    if (!isNumber(locale, text)) {
+        return readAs(formatAmount(locale, read));
+    }
+    const bool exact = std::abs(numberAtStart(withPoint(locale, text)) - read) < least;
+    return exact ? wire::WideString() : u"Only two decimals are kept; it is read as " + formatAmount(locale, read);
 }
 
 } // namespace rules

@@ -25,4 +25,9 @@ constexpr int priceDigits = 4;
 // nearest floating-point number is less. A text that is not a number, or too large a number, reads as 0.
 [[nodiscard]] std::int64_t parseHundredths(const platform::Locale& locale, wire::WideStringView text);
 
+// What a person who types the text should know: that it is not a number, or has more decimals than are kept, and as
+// what it is read. Empty for an empty text and for one that is read as it stands.
+[[nodiscard]] wire::WideString priceProblem(const platform::Locale& locale, wire::WideStringView text);
+[[nodiscard]] wire::WideString hundredthsProblem(const platform::Locale& locale, wire::WideStringView text);
+
 } // namespace rules

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace snapin {
 namespace {
@@ -49,6 +50,7 @@ void AuthenticationDlg::onInitDialog() {
     version.setText(versionLine(platform()));
     if (platform().settings.exists()) {
         readSettings();
+        focusFirstMissing();
     } else {
         serverName.setFocus();
     }
@@ -60,6 +62,17 @@ void AuthenticationDlg::readSettings() {
     port.setText(settings.read("ServerPort").value_or(u""));
     domain.setText(settings.read("DomainName").value_or(u""));
     userName.setText(settings.read("UserName").value_or(u""));
+}
+
+// The domain may be missing.
+void AuthenticationDlg::focusFirstMissing() {
+    for (forms::TextControl* const box : std::initializer_list<forms::TextControl*>{&serverName, &port, &userName}) {
+        if (box->text().empty()) {
+            box->setFocus();
+            return;
+        }
+    }
+    password.setFocus();
 }
 
 void AuthenticationDlg::checkPort() {

@@ -48,6 +48,7 @@ protected:
 
 private:
     void readSettings();
+    void focusFirstMissing();
     void storeSettings();
     void checkPort();
     void showStatus(std::uint16_t loginStatus);

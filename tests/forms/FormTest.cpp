@@ -164,6 +164,22 @@ TEST_F(FormTest, aDefaultButtonOfItsOwnComesFirst) {
     EXPECT_FALSE(form.ended());
 }
 
+TEST_F(FormTest, aDefaultButtonBesideABoxIsMeantForThatBoxAlone) {
+    Button find(form, u"Find", true);
+    find.setBeside(form.name);
+    int found = 0;
+    find.onPress = [&] { ++found; };
+    EXPECT_EQ(form.defaultButton(&form.name), &find);
+    EXPECT_EQ(form.defaultButton(&form.password), &form.okButton());
+
+    form.userPressedDefault(&form.name);
+    EXPECT_FALSE(form.ended());
+    form.userPressedDefault(&form.password);
+
+    EXPECT_EQ(found, 1);
+    EXPECT_EQ(form.result(), idOk);
+}
+
 TEST_F(FormTest, nothingCanBeDoneOnceItHasEnded) {
     form.EndDialog(idOk);
     EXPECT_FALSE(form.name.userTyped(u"x"));

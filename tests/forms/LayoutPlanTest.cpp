@@ -92,6 +92,14 @@ TEST_F(LayoutPlanTest, whatStandsBesideABoxSharesItsLineAndHasItsLabelThere) {
                       "  [Number] | <Number> _ pages [Other] Other\n");
 }
 
+TEST_F(LayoutPlanTest, aRemarkAtTheEndOfARowIsLevelWithTheOthers) {
+    EditBox number{form, u"Number"};
+    Label remark{form, u"", u"pages"};
+    remark.setBeside(number);
+    EXPECT_EQ(body(), "rows\n"
+                      "  [Number] | <Number> level pages\n");
+}
+
 TEST_F(LayoutPlanTest, aCheckBoxWithItsNumberStandsWhereLabelsStand) {
     EditBox name{form, u"Name"};
     CheckBox limited{form, u"Limited to"};

@@ -52,6 +52,22 @@ public:
         }
     }
 
+    void operator()(const Abreast& abreast) {
+        for (const Column& column : abreast.columns) {
+            begin(0) += (&column == abreast.columns.data() ? "abreast" : "and") + stretched(abreast.stretch) + "\n";
+            text += planText(column, indent_ + 1);
+        }
+    }
+    void operator()(const Sheets& sheets) {
+        for (const Sheet& sheet : sheets.sheets) {
+            begin(0) += "sheet";
+            for (const Control* control : sheet.titledBy) {
+                text += " " + captionOf(*control);
+            }
+            text += stretched(sheets.stretch) + "\n" + planText(sheet.content, indent_ + 1);
+        }
+    }
+
     std::string text;
 
 private:
@@ -82,6 +98,7 @@ std::string planText(const Line& line) {
     for (const LineItem& item : line) {
         text += text.empty() ? "" : " ";
         text += item.caption ? captionOf(*item.control) + " " : "";
+        text += item.remark ? "level " : "";
         text += item.widens ? "<" + nameOf(*item.control) + ">" : nameOf(*item.control);
     }
     return text;

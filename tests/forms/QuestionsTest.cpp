@@ -28,6 +28,14 @@ TEST_F(Questions, beforeADeleteGoByOkAndCancel) {
     EXPECT_EQ(platform.ui.boxes()[0].owner, platform.ui.active);
 }
 
+TEST_F(Questions, beforeADeleteNameWhatIsDeleted) {
+    platform.ui.expectBox(Answer::ok, u"Delete the selected region?");
+
+    EXPECT_TRUE(confirmDelete(form, u"Delete the selected region?", u"Berlin"));
+
+    EXPECT_EQ(platform.ui.boxes()[0].object, u"Berlin");
+}
+
 TEST_F(Questions, aBlankFieldIsNamedAndGetsTheFocus) {
     platform.ui.expectBox(Answer::ok, u"Name field should not be blank!");
 

@@ -77,6 +77,17 @@ TEST_F(TextControlTest, aNewLimitLeavesTheTextAlone) {
     EXPECT_EQ(form.name.options().limit, 3U);
 }
 
+TEST_F(TextControlTest, aProblemIsToldToTheHostAndKeepsNothingFromBeingTyped) {
+    RecordingFormObserver host;
+    form.setObserver(&host);
+    form.name.setProblem(u"Too short");
+    form.name.setProblem(u"Too short");
+    ASSERT_EQ(host.changes.size(), 1U);
+    EXPECT_EQ(host.changes.front().second, Aspect::problem);
+    EXPECT_TRUE(form.name.userTyped(u"x"));
+    EXPECT_EQ(form.name.problem(), u"Too short");
+}
+
 TEST_F(TextControlTest, anyTextMayStandInABox) {
     const wire::WideString odd = wire::WideString(65535, u'x') + u"\n\t\"'/\\" + u'\0' + char16_t{0xD800};
     EXPECT_TRUE(form.password.userTyped(odd));

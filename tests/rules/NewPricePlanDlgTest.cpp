@@ -294,4 +294,23 @@ TEST_F(NewPricePlanDialog, sendsNothingOnCancel) {
     EXPECT_TRUE(platform_.commands().empty());
 }
 
+TEST_F(NewPricePlanDialog, marksWhatIsNotReadAsItIsTyped) {
+    NewPricePlanDlg dialog(platform_);
+    dialog.open();
+    EXPECT_EQ(dialog.vat.problem(), u"");
+
+    dialog.vat.userTyped(u"19.999");
+    dialog.defaultPrice.box.userTyped(u"1.5x");
+
+    EXPECT_NE(dialog.vat.problem(), u"");
+    EXPECT_NE(dialog.defaultPrice.box.problem(), u"");
+    EXPECT_EQ(dialog.defaultPrice.price(), 1.5F);
+
+    dialog.vat.userTyped(u"19.99");
+    dialog.defaultPrice.box.userTyped(u"1.5");
+
+    EXPECT_EQ(dialog.vat.problem(), u"");
+    EXPECT_EQ(dialog.defaultPrice.box.problem(), u"");
+}
+
 } // namespace

@@ -180,4 +180,18 @@ TEST(PriceTable, listsWhatNoNumberIsAsItIs) {
     EXPECT_EQ(table.listRows(support::germanLocale()).at(0).cells.at(1), u"inf");
 }
 
+TEST(PriceTable, tellsRowsOfOnePaperApartByTheirHints) {
+    PriceTable table;
+    for (const int kind : {1, 2, 3}) {
+        table.add(row(kind, a4));
+    }
+
+    const auto rows = table.listRows(support::germanLocale());
+
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0].hint, u"Prices of printing");
+    EXPECT_EQ(rows[1].hint, u"Prices of copying");
+    EXPECT_EQ(rows[2].hint, u"Prices of scanning");
+}
+
 } // namespace

@@ -195,4 +195,23 @@ TEST(PriceText, hundredthsAreReadAsFreelyAsPrices) {
     EXPECT_EQ(parseHundredths(german, u"1e999"), 0);
 }
 
+TEST(PriceText, aTextThatIsReadAsItStandsHasNoProblem) {
+    for (const auto* text : {u"", u"1", u"1.5", u" 1.5 ", u"-2", u".5", u"0x10", u"1e3"}) {
+        EXPECT_EQ(rules::priceProblem(plain, text), u"") << wire::toUtf8(text);
+    }
+    EXPECT_EQ(rules::priceProblem(germanLocale(), u"1,5"), u"");
+    EXPECT_EQ(rules::hundredthsProblem(plain, u"19.99"), u"");
+    EXPECT_EQ(rules::hundredthsProblem(plain, u"7.70"), u"");
+    EXPECT_EQ(rules::hundredthsProblem(plain, u""), u"");
+}
+
+TEST(PriceText, aTextThatIsCutSaysAsWhatItIsRead) {
+    EXPECT_EQ(rules::priceProblem(plain, u"1.5x"), u"Not a number; it is read as 1.5000");
+    EXPECT_EQ(rules::priceProblem(germanLocale(), u"1.234,5"), u"Not a number; it is read as 1,2340");
+    EXPECT_EQ(rules::priceProblem(plain, u"none"), u"Not a number; it is read as 0.0000");
+    EXPECT_EQ(rules::priceProblem(plain, u"1e99"), u"Not a number; it is read as 0.0000");
+    EXPECT_EQ(rules::hundredthsProblem(plain, u"19.999"), u"Only two decimals are kept; it is read as 19.99");
+    EXPECT_EQ(rules::hundredthsProblem(plain, u"7%"), u"Not a number; it is read as 7.00");
+}
+
 } // namespace

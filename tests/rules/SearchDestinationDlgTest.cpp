@@ -58,6 +58,17 @@ TEST_F(SearchDestinationDialog, searchesWhenEnterIsPressed) {
     EXPECT_EQ(dialog_.queue.items().size(), 3U);
 }
 
+TEST_F(SearchDestinationDialog, keepsTheChosenQueueWhenEnterIsPressedThere) {
+    dialog_.userPressedDefault(&dialog_.searchTerms);
+    ASSERT_EQ(dialog_.queue.items().size(), 3U);
+    dialog_.queue.userSelected(1);
+
+    dialog_.userPressedDefault(&dialog_.queue);
+
+    EXPECT_EQ(dialog_.result(), forms::idOk);
+    EXPECT_EQ(name_, u"Office");
+}
+
 TEST_F(SearchDestinationDialog, aSearchReplacesWhatTheOneBeforeHasFound) {
     dialog_.searchButton.userPressed();
     estate_.queues = {{.queueId = "q4", .queueName = u"Harbour"}};

@@ -68,11 +68,17 @@ TEST_F(AllForms, canBeDrawnByEveryHostAndToldApartByAPerson) {
 }
 
 TEST_F(AllForms, haveAPlaceForEachControlAndEachLabel) {
-    checkEach(support::expectPlacedOnce);
+    for (const forms::Arrangement arrangement : forms::arrangements) {
+        checkEach([arrangement](forms::Form& form) { support::expectPlacedOnce(form, arrangement); });
+    }
 }
 
 TEST_F(AllForms, haveAnAccessKeyForEachLabelThatCanHaveOne) {
     checkEach(support::expectAccessKeys);
+}
+
+TEST_F(AllForms, keepTheirAccessKeysInEveryState) {
+    checkEach(support::expectSteadyAccessKeys);
 }
 
 } // namespace

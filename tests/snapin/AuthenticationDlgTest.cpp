@@ -89,7 +89,15 @@ TEST_F(AuthenticationDialog, startsWithWhatWasStored) {
     EXPECT_EQ(dialog_.userName.text(), u"ann");
     EXPECT_EQ(dialog_.domain.text(), u"OFFICE");
     EXPECT_EQ(dialog_.password.text(), u"");
-    EXPECT_EQ(dialog_.focus(), nullptr);
+    EXPECT_EQ(dialog_.focus(), &dialog_.password);
+}
+
+TEST_F(AuthenticationDialog, startsInTheFirstFieldThatIsMissing) {
+    platform_.settings.values = {{"ServerName", u"print1"}, {"ServerPort", u"5005"}, {"DomainName", u"OFFICE"}};
+
+    dialog_.open();
+
+    EXPECT_EQ(dialog_.focus(), &dialog_.userName);
 }
 
 TEST_F(AuthenticationDialog, startsEmptyInTheServerFieldWhenNothingWasEverStored) {

@@ -86,7 +86,7 @@ void FakeUserInterface::runThreads() {
 
 platform::Answer FakeUserInterface::messageBox(platform::WindowHandle owner, const wire::WideString& text,
                                                const wire::WideString& caption, std::uint32_t style) {
-    boxes_.push_back({owner, text, caption, style});
+    boxes_.push_back({owner, text, caption, style, {}});
     if (expected_.empty() || !expected_.front().answer) {
         ADD_FAILURE() << "unexpected box \"" << wire::toUtf8(text) << "\" (" << wire::toUtf8(caption) << ")";
         return escape(style);
@@ -98,6 +98,14 @@ platform::Answer FakeUserInterface::messageBox(platform::WindowHandle owner, con
     }
     EXPECT_TRUE(offers(style, *next.answer)) << "the box \"" << wire::toUtf8(text) << "\" has no such button";
     return *next.answer;
+}
+
+platform::Answer FakeUserInterface::messageBoxAbout(platform::WindowHandle owner, const wire::WideString& object,
+                                                    const wire::WideString& text, const wire::WideString& caption,
+                                                    std::uint32_t style) {
+    const auto answer = messageBox(owner, text, caption, style);
+    boxes_.back().object = object;
+    return answer;
 }
 
 int FakeUserInterface::runModal(forms::Form& form, platform::WindowHandle owner) {

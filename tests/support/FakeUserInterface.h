@@ -20,6 +20,7 @@ public:
         wire::WideString text;
         wire::WideString caption;
         std::uint32_t style = 0;
+        wire::WideString object; // that it is about
     };
 
     ~FakeUserInterface() override;
@@ -51,6 +52,9 @@ public:
 
     platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
                                 const wire::WideString& caption, std::uint32_t style) override;
+    platform::Answer messageBoxAbout(platform::WindowHandle owner, const wire::WideString& object,
+                                     const wire::WideString& text, const wire::WideString& caption,
+                                     std::uint32_t style) override;
     int runModal(forms::Form& form, platform::WindowHandle owner) override;
     void press(std::span<const platform::Key> keys) override;
     void startThread(std::function<void()> work) override;

@@ -3,7 +3,6 @@
 #include "forms/ControlShape.h"
 #include "forms/FormLabels.h"
 #include "forms/FormWalk.h"
-#include "forms/LayoutPlan.h"
 #include "forms/Page.h"
 #include "forms/Tabs.h"
 #include "wire/CaseFold.h"
@@ -48,6 +47,16 @@ public:
             }
         }
         (*this)(block.below);
+    }
+    void operator()(const Abreast& abreast) {
+        for (const Column& column : abreast.columns) {
+            add(column);
+        }
+    }
+    void operator()(const Sheets& sheets) {
+        for (const Sheet& sheet : sheets.sheets) {
+            add(sheet.content);
+        }
     }
     void add(const Column& column) {
         for (const auto& section : column.sections) {
@@ -121,8 +130,8 @@ bool hasNoChance(const Keyed& without, const std::vector<Keyed>& all) {
 
 } // namespace
 
-void expectPlacedOnce(Form& form) {
-    const LayoutPlan plan = planOf(form);
+void expectPlacedOnce(Form& form, Arrangement arrangement) {
+    const LayoutPlan plan = planOf(form, arrangement);
     PlacedCounter placed;
     placed.add(plan.body);
     placed(plan.foot);
@@ -144,6 +153,27 @@ void expectAccessKeys(Form& form) {
         } else {
             EXPECT_TRUE(hasNoChance(each, all)) << "it could have a key";
         }
+    }
+}
+
+void expectSteadyAccessKeys(Form& form) {
+    const auto keys = [&form] {
+        std::vector<wire::WideString> all;
+        std::ranges::transform(keyedLabelsOf(form), std::back_inserter(all),
+                               [](const Keyed& each) { return each.label.marked(); });
+        return all;
+    };
+    const auto before = keys();
+    for (Control* control : controlsOf(form)) {
+        SCOPED_TRACE("control \"" + wire::toUtf8(fullName(*control)) + "\"");
+        const bool visible = control->visible();
+        const bool enabled = control->enabled();
+        control->setVisible(!visible);
+        EXPECT_EQ(keys(), before);
+        control->setEnabled(!enabled);
+        EXPECT_EQ(keys(), before);
+        control->setVisible(visible);
+        control->setEnabled(enabled);
     }
 }
 

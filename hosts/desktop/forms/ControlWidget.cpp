@@ -3,6 +3,7 @@
 #include "forms/ControlShape.h"
 #include "forms/FormLabels.h"
 #include "forms/FormWalk.h"
+#include "hosts/desktop/forms/SheetTabs.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QFocusEvent>
@@ -54,10 +55,8 @@ void ControlWidget::mirror(forms::Aspect aspect) {
             }
             break;
         case forms::Aspect::visible:
-            field_->setVisible(control_.visible());
-            if (caption_ != nullptr) {
-                caption_->setVisible(control_.visible());
-            }
+            show(field_);
+            show(caption_);
             break;
         case forms::Aspect::label:
             for (QWidget* stop : tabStops()) {
@@ -65,7 +64,8 @@ void ControlWidget::mirror(forms::Aspect aspect) {
             }
             break;
         case forms::Aspect::focus:
-            if (widget_->isVisible() && control_.reachable()) {
+            if (widget_->window()->isVisible() && control_.reachable()) {
+                SheetTabs::reveal(*widget_);
                 widget_->window()->activateWindow();
                 widget_->setFocus(Qt::TabFocusReason);
             }
@@ -74,6 +74,13 @@ void ControlWidget::mirror(forms::Aspect aspect) {
             update(aspect);
         }
     });
+}
+
+// What has never been hidden is shown with the dialog, and not before.
+void ControlWidget::show(QWidget* widget) const {
+    if (widget != nullptr && widget->isHidden() == control_.visible()) {
+        widget->setVisible(control_.visible());
+    }
 }
 
 int ControlWidget::comfortableWidth() const {
@@ -91,15 +98,12 @@ wire::WideString ControlWidget::spokenName() const {
     return forms::readableLabel(named->label());
 }
 
-void ControlWidget::mirrorAll() {
+void ControlWidget::mirrorContent() {
     using enum forms::Aspect;
-    for (const auto aspect : {label, columns, limits, items, text, pages, selection, enabled}) {
+    for (const auto aspect : {label, columns, limits, items, text, problem, pages, selection, enabled}) {
         mirror(aspect);
     }
     refillNow();
-    if (!control_.visible()) {
-        mirror(visible);
-    }
 }
 
 void ControlWidget::mirrored(const std::function<void()>& change) {

@@ -32,8 +32,8 @@ public:
     virtual void showLabels(const forms::FormLabels& labels);
     // The form has changed this about the control.
     void mirror(forms::Aspect aspect);
-    // Mirrors all aspects.
-    void mirrorAll();
+    // Mirrors everything but whether it is visible.
+    void mirrorContent();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -63,6 +63,7 @@ protected:
 
 private:
     void addCaption();
+    void show(QWidget* widget) const;
     void refillNow();
 
     forms::Control& control_;

@@ -4,6 +4,7 @@
 #include "hosts/desktop/forms/FormScroll.h"
 #include "hosts/desktop/forms/FormWidgets.h"
 #include "hosts/desktop/forms/MessageBox.h"
+#include "hosts/desktop/forms/SheetTabs.h"
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <limits>
 #include <utility>
 
 namespace desktop {
@@ -18,37 +20,59 @@ namespace {
 
 constexpr int narrowestDialog = 360;
 
-// From the inside out: sizes measured before the widgets had their style are discarded.
-void layOutAnew(QWidget& widget) {
-    widget.ensurePolished();
-    for (QObject* const child : widget.children()) {
-        if (auto* const inner = qobject_cast<QWidget*>(child)) {
-            layOutAnew(*inner);
-        }
-    }
-    if (widget.layout() != nullptr) {
-        widget.layout()->invalidate();
-        widget.layout()->activate();
-    }
-}
-
 } // namespace
 
 FormDialog::FormDialog(forms::Form& form, QWidget* owner)
     : QDialog(owner != nullptr ? owner : frontWindow()), form_(form), scroll_(new FormScroll(this)) {
+    if (parentWidget() != nullptr) {
+        setScreen(parentWidget()->screen());
+    }
     form_.setObserver(this);
     form_.open(); // before anything is drawn, so that its content is drawn once
     setSizeGripEnabled(true);
     setMinimumWidth(narrowestDialog);
-    widgets_ = std::make_unique<FormWidgets>(form_, *scroll_->widget());
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(scroll_);
+    whole->setSpacing(0);
+    whole->addWidget(scroll_, 1);
+    arrange();
     titleChanged(form_);
+    connect(qApp, &QApplication::focusChanged, this, [this] { widgets_->showDefaultButton(); });
 }
 
 FormDialog::~FormDialog() {
+    disconnect(qApp, nullptr, this, nullptr);
     form_.setObserver(nullptr);
+}
+
+void FormDialog::arrange() {
+    forms::Arrangement lowest{};
+    int least = std::numeric_limits<int>::max();
+    for (const forms::Arrangement arrangement : forms::arrangements) {
+        const QSize size = draw(arrangement);
+        const QSize room = scroll_->room();
+        if (size.height() <= room.height() && size.width() <= room.width()) {
+            return;
+        }
+        if (size.height() < least && size.width() <= room.width()) {
+            least = size.height();
+            lowest = arrangement;
+        }
+    }
+    draw(lowest);
+}
+
+QSize FormDialog::draw(forms::Arrangement arrangement) {
+    widgets_.reset();
+    delete foot_;
+    foot_ = new QWidget(this);
+    layout()->addWidget(foot_);
+    widgets_ = std::make_unique<FormWidgets>(form_, arrangement, scroll_->renew(), *foot_);
+    scroll_->setHeightBelow(foot_->sizeHint().height());
+    scroll_->layOutAnew();
+    const QSize size = scroll_->widget()->minimumSizeHint();
+    widgets_->hideInvisible();
+    return size;
 }
 
 QWidget* FormDialog::widgetOf(const forms::Control& control) const {
@@ -68,7 +92,7 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return;
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (isEnter && isPlain) {
-        form_.userPressedDefault();
+        form_.userPressedDefault(widgets_->focused());
         event->accept();
         return;
     }
@@ -77,12 +101,13 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
 
 void FormDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        layOutAnew(*scroll_->widget());
-        scroll_->updateGeometry();
+        scroll_->layOutAnew();
         resize(sizeHint()); // by default a dialog takes at most two thirds of the screen
     }
     QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is drawn even if no key has been pressed yet
     if (ControlWidget* const first = widgets_->first()) {
+        SheetTabs::reveal(*first->widget());
         first->tabStops().front()->setFocus(Qt::TabFocusReason);
     }
 }
@@ -99,8 +124,7 @@ void FormDialog::controlChanged(forms::Control& control, forms::Aspect aspect) {
 
 void FormDialog::growToFit() {
     growsSoon_ = false;
-    layOutAnew(*scroll_->widget());
-    scroll_->updateGeometry();
+    scroll_->layOutAnew();
     resize(size().expandedTo(sizeHint()));
 }
 

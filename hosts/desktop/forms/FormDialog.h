@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/FormObserver.h"
+#include "forms/LayoutPlan.h"
 
 #include <QDialog>
 
@@ -33,6 +34,10 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Draws the form in the first arrangement that the screen has room for.
+    void arrange();
+    // Returns the least size of everything that the form can show, without the foot.
+    QSize draw(forms::Arrangement arrangement);
     // Called once a handler that has made controls visible has returned.
     void growToFit();
 
@@ -42,6 +47,7 @@ private:
 
     forms::Form& form_;
     FormScroll* scroll_;
+    QWidget* foot_ = nullptr; // always in sight
     bool growsSoon_ = false;
     std::unique_ptr<FormWidgets> widgets_;
 };

@@ -1,7 +1,10 @@
 #include "hosts/desktop/forms/FormLayout.h"
 
 #include "forms/Control.h"
+#include "forms/FormWalk.h"
 #include "hosts/desktop/forms/GroupWidget.h"
+#include "hosts/desktop/forms/SheetTabs.h"
+#include "hosts/desktop/forms/ShownText.h"
 #include "hosts/desktop/forms/TabsWidget.h"
 
 #include <QFormLayout>
@@ -36,16 +39,28 @@ void keepAtTop(const forms::Column& plan, QBoxLayout& column) {
 
 } // namespace
 
-void FormLayout::lay(const forms::LayoutPlan& plan, QWidget& surface) {
+void FormLayout::lay(const forms::LayoutPlan& plan, QWidget& surface, QWidget& foot) {
     QBoxLayout& column = layColumn(plan.body, surface);
     keepAtTop(plan.body, column);
-    auto* const foot = new QHBoxLayout;
-    foot->addStretch(1);
+    auto* const buttons = new QHBoxLayout(&foot);
+    buttons->setSpacing(gap);
+    buttons->addStretch(1);
     for (const forms::LineItem& item : plan.foot) {
-        foot->addWidget(widgetOf_(*item.control)->field());
+        buttons->addWidget(widgetOf_(*item.control)->field());
     }
-    column.addSpacing(gap);
-    column.addLayout(foot);
+}
+
+void FormLayout::levelRemarks() const {
+    for (const auto& remarks : remarks_) {
+        int widest = 0;
+        for (QWidget* remark : remarks) {
+            remark->ensurePolished();
+            widest = std::max(widest, remark->sizeHint().width());
+        }
+        for (QWidget* remark : remarks) {
+            remark->setMinimumWidth(widest);
+        }
+    }
 }
 
 void FormLayout::hideEmptyLines() const {
@@ -56,11 +71,15 @@ void FormLayout::hideEmptyLines() const {
 
 QBoxLayout& FormLayout::layColumn(const forms::Column& plan, QWidget& surface) {
     auto* const column = new QVBoxLayout(&surface);
-    column->setSpacing(gap);
-    for (const auto& section : plan.sections) {
-        std::visit([&](const auto& each) { add(each, *column); }, section);
-    }
+    fill(*column, plan);
     return *column;
+}
+
+void FormLayout::fill(QBoxLayout& column, const forms::Column& plan) {
+    column.setSpacing(gap);
+    for (const auto& section : plan.sections) {
+        std::visit([&](const auto& each) { add(each, column); }, section);
+    }
 }
 
 void FormLayout::add(const forms::Rows& plan, QBoxLayout& column) {
@@ -68,8 +87,12 @@ void FormLayout::add(const forms::Rows& plan, QBoxLayout& column) {
     columns->setSpacing(columnGap);
     for (const auto& part : plan.columns) {
         auto* const rows = newRows();
+        remarks_.emplace_back();
         for (const forms::Row& row : part) {
             addRow(row, *rows);
+            if (row.line.back().remark) {
+                remarks_.back().push_back(widgetOf_(*row.line.back().control)->field());
+            }
         }
         columns->addLayout(rows, 1);
     }
@@ -94,6 +117,33 @@ void FormLayout::add(const forms::Block& plan, QBoxLayout& column) {
     if (!plan.below.empty()) {
         column.addLayout(lineOf(plan.below));
     }
+}
+
+void FormLayout::add(const forms::Abreast& plan, QBoxLayout& column) {
+    auto* const columns = new QHBoxLayout;
+    columns->setSpacing(columnGap);
+    for (const forms::Column& part : plan.columns) {
+        auto* const content = new QVBoxLayout;
+        fill(*content, part);
+        keepAtTop(part, *content);
+        columns->addLayout(content, 1);
+    }
+    column.addLayout(columns, plan.stretch);
+}
+
+void FormLayout::add(const forms::Sheets& plan, QBoxLayout& column) {
+    auto* const tabs = new SheetTabs;
+    for (const forms::Sheet& sheet : plan.sheets) {
+        QStringList titles;
+        for (const forms::Control* control : sheet.titledBy) {
+            titles.append(withoutAccessKey(shownLine(forms::readableLabel(control->label()))));
+        }
+        auto* const surface = new QWidget;
+        keepAtTop(sheet.content, layColumn(sheet.content, *surface));
+        tabs->addTab(surface, titles.join(QStringLiteral(", ")));
+    }
+    sheets_.push_back(tabs);
+    column.addWidget(tabs, 1);
 }
 
 void FormLayout::addRow(const forms::Row& plan, QFormLayout& rows) {

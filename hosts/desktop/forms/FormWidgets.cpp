@@ -4,15 +4,17 @@
 #include "forms/Form.h"
 #include "forms/FormWalk.h"
 #include "hosts/desktop/forms/ButtonWidget.h"
+#include "hosts/desktop/forms/SheetTabs.h"
 #include "hosts/desktop/forms/WidgetMaker.h"
 
+#include <QTabBar>
 #include <QWidget>
 
 #include <algorithm>
 
 namespace desktop {
 
-FormWidgets::FormWidgets(forms::Form& form, QWidget& surface)
+FormWidgets::FormWidgets(forms::Form& form, forms::Arrangement arrangement, QWidget& surface, QWidget& foot)
     : form_(form), labels_(form), layout_([this](const forms::Control& control) { return find(control); }) {
     WidgetMaker maker(surface);
     for (forms::Control* control : forms::controlsOf(form)) {
@@ -21,13 +23,20 @@ FormWidgets::FormWidgets(forms::Form& form, QWidget& surface)
         inOrder_.push_back(widget.get());
         widgets_.emplace(control, std::move(widget));
     }
-    layout_.lay(forms::planOf(form), surface);
+    layout_.lay(forms::planOf(form, arrangement), surface, foot);
     for (ControlWidget* widget : inOrder_) {
-        widget->mirrorAll();
+        widget->mirrorContent();
     }
-    layout_.hideEmptyLines();
+    layout_.levelRemarks();
     orderTabStops();
     showDefaultButton();
+}
+
+void FormWidgets::hideInvisible() {
+    for (ControlWidget* widget : inOrder_) {
+        widget->mirror(forms::Aspect::visible);
+    }
+    layout_.hideEmptyLines();
 }
 
 FormWidgets::~FormWidgets() = default;
@@ -70,18 +79,27 @@ ControlWidget* FormWidgets::first() const {
 }
 
 void FormWidgets::showDefaultButton() {
-    bool found = false;
+    const forms::Button* const found = form_.defaultButton(focused());
     for (forms::Control* control : forms::controlsOf(form_)) {
-        if (const auto* const button = dynamic_cast<const forms::Button*>(control)) {
-            const bool isIt = !found && button->isDefault() && button->reachable();
-            static_cast<ButtonWidget*>(find(*control))->showAsDefault(isIt);
-            found = found || isIt;
+        if (dynamic_cast<const forms::Button*>(control) != nullptr) {
+            static_cast<ButtonWidget*>(find(*control))->showAsDefault(control == found);
         }
     }
 }
 
+const forms::Control* FormWidgets::focused() const {
+    const auto hasFocus = [](const auto& each) {
+        return std::ranges::any_of(each.second->tabStops(), [](const QWidget* stop) { return stop->hasFocus(); });
+    };
+    const auto found = std::ranges::find_if(widgets_, hasFocus);
+    return found != widgets_.end() ? found->first : nullptr;
+}
+
 void FormWidgets::orderTabStops() {
     QWidget* before = nullptr;
+    for (const SheetTabs* tabs : layout_.sheets()) {
+        before = tabs->tabBar();
+    }
     for (const ControlWidget* widget : inOrder_) {
         for (QWidget* stop : widget->tabStops()) {
             if (before != nullptr) {

@@ -18,19 +18,24 @@ namespace desktop {
 // The widgets of a form: makes them, lays them out, and sets their names and Tab order.
 class FormWidgets {
 public:
-    // On an empty surface, which owns the widgets.
-    FormWidgets(forms::Form& form, QWidget& surface);
+    // On an empty surface and an empty foot, which own the widgets.
+    FormWidgets(forms::Form& form, forms::Arrangement arrangement, QWidget& surface, QWidget& foot);
     FormWidgets(const FormWidgets&) = delete;
     FormWidgets& operator=(const FormWidgets&) = delete;
     ~FormWidgets();
 
+    // Called once. Until then everything that the form can show takes its room.
+    void hideInvisible();
     [[nodiscard]] ControlWidget* find(const forms::Control& control) const;
     void controlChanged(forms::Control& control, forms::Aspect aspect);
+    // Marks the button that Enter presses now.
+    void showDefaultButton();
+    // The control that has the keyboard focus; null for none.
+    [[nodiscard]] const forms::Control* focused() const;
     // The widget with the initial focus: the one that the form has set, or else the first that takes it; null for none.
     [[nodiscard]] ControlWidget* first() const;
 
 private:
-    void showDefaultButton();
     void orderTabStops();
 
     forms::Form& form_;

@@ -2,8 +2,11 @@
 
 #include "forms/TextControl.h"
 #include "hosts/desktop/forms/ShownText.h"
+#include "hosts/desktop/look/ColorScheme.h"
+#include "hosts/desktop/look/SvgIcon.h"
+#include "hosts/desktop/look/Text.h"
 
-#include <QGuiApplication>
+#include <QAction>
 
 #include <algorithm>
 #include <limits>
@@ -54,6 +57,8 @@ void LineWidget::update(forms::Aspect aspect) {
         showText();
     } else if (aspect == forms::Aspect::limits) {
         showLimits();
+    } else if (aspect == forms::Aspect::problem) {
+        showProblem();
     }
 }
 
@@ -73,11 +78,21 @@ void LineWidget::showLimits() {
     const auto length = std::max(box_.options().limit, box_.text().size());
     setMaxLength(static_cast<int>(std::min(length, unlimited)));
     line_->setReadOnly(box_.options().readOnly);
-    QPalette palette;
-    if (box_.options().readOnly) {
-        palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
+    line_->setPalette(box_.options().readOnly ? readOnlyPalette() : QPalette());
+}
+
+void LineWidget::showProblem() {
+    const QString problem = shownLine(box_.problem());
+    delete mark_;
+    mark_ = nullptr;
+    if (!problem.isEmpty()) {
+        mark_ =
+            line_->addAction(SvgIcon::make(QStringLiteral(":/icons/boxes/warning.svg")), QLineEdit::TrailingPosition);
+        mark_->setText(problem);
+        mark_->setToolTip(plainToolTip(problem));
     }
-    line_->setPalette(palette);
+    line_->setToolTip(problem.isEmpty() ? QString() : plainToolTip(problem));
+    line_->setAccessibleDescription(problem);
 }
 
 // QLineEdit itself would move the cursor to the end.

@@ -10,7 +10,7 @@ class TextControl;
 
 namespace desktop {
 
-// A box for one line of text, or for a password.
+// A box for one line of text, or for a password. A problem with the text is marked by a sign with a tool tip.
 class LineWidget final : public ControlWidget {
 public:
     LineWidget(forms::TextControl& box, QLineEdit::EchoMode echo);
@@ -22,10 +22,12 @@ private:
     void typed(const QString& text);
     void showText();
     void showLimits();
+    void showProblem();
     void setMaxLength(int length);
 
     forms::TextControl& box_;
     QLineEdit* line_;
+    QAction* mark_ = nullptr; // while the text has a problem
 };
 
 } // namespace desktop

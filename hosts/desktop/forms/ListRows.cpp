@@ -2,6 +2,7 @@
 
 #include "forms/ListView.h"
 #include "hosts/desktop/forms/ShownText.h"
+#include "hosts/desktop/look/Text.h"
 
 namespace desktop {
 
@@ -26,15 +27,34 @@ QVariant ListRows::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     const auto column = static_cast<std::size_t>(index.column());
     // The list may have changed since the last refresh.
-    if (role != Qt::DisplayRole || !index.isValid() || row >= list_.rows().size()) {
+    if (!index.isValid() || row >= list_.rows().size()) {
         return {};
     }
-    const auto& cells = list_.rows()[row].cells;
-    return column < cells.size() ? shownLine(cells[column]) : QString();
+    const auto& [cells, id, hint] = list_.rows()[row];
+    switch (role) {
+    case Qt::DisplayRole:
+        return column < cells.size() ? shownLine(cells[column]) : QString();
+    case Qt::TextAlignmentRole:
+        return alignmentOf(column);
+    case Qt::ToolTipRole:
+        return hint.empty() ? QVariant() : plainToolTip(shownLine(hint));
+    case Qt::AccessibleDescriptionRole:
+        return hint.empty() ? QVariant() : shownLine(hint);
+    default:
+        return {};
+    }
+}
+
+QVariant ListRows::alignmentOf(std::size_t column) const {
+    const bool number = column < list_.columns().size() && list_.columns()[column].number;
+    return static_cast<int>((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 QVariant ListRows::headerData(int section, Qt::Orientation orientation, int role) const {
     const auto column = static_cast<std::size_t>(section);
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal) {
+        return alignmentOf(column);
+    }
     if (role != Qt::DisplayRole || orientation != Qt::Horizontal || column >= list_.columns().size()) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }

@@ -2,6 +2,8 @@
 
 #include <QAbstractTableModel>
 
+#include <cstddef>
+
 namespace forms {
 class ListView;
 } // namespace forms
@@ -22,6 +24,8 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    [[nodiscard]] QVariant alignmentOf(std::size_t column) const;
+
     const forms::ListView& list_;
     int rows_ = 0;
     int columns_ = 0;

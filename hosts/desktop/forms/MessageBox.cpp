@@ -85,6 +85,17 @@ void drawIcon(QMessageBox& box) {
     }
 }
 
+// As plain text, which the box does only with its main text.
+void showObject(QMessageBox& box, const wire::WideString& object) {
+    if (object.empty()) {
+        return;
+    }
+    box.setInformativeText(shownText(object));
+    if (auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
 } // namespace
 
 QWidget* frontWindow() {
@@ -93,7 +104,7 @@ QWidget* frontWindow() {
 }
 
 Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::WideString& caption,
-                      std::uint32_t style) {
+                      std::uint32_t style, const wire::WideString& object) {
     QMessageBox box(owner != nullptr ? owner : frontWindow());
     box.setWindowModality(Qt::ApplicationModal); // whether or not the style asks for it: there is only one console
     const QString shown = shownText(text);
@@ -104,7 +115,8 @@ Answer showMessageBox(QWidget* owner, const wire::WideString& text, const wire::
     box.setIcon(iconOf(style));
     drawIcon(box);
     box.setAccessibleName(box.windowTitle());
-    box.setAccessibleDescription(shown);
+    box.setAccessibleDescription(object.empty() ? shown : shown + QLatin1Char('\n') + shownLine(object));
+    showObject(box, object);
     if (shown.endsWith(QChar(0x2026)) && text.back() != u'\u2026') {
         box.setDetailedText(exactText(text));
     }

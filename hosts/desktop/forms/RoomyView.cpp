@@ -3,6 +3,7 @@
 #include "hosts/desktop/forms/RoomyRows.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -29,6 +30,18 @@ QSize RoomyView::sizeHint() const {
 
 QSize RoomyView::minimumSizeHint() const {
     return roomFor(fewestRows, narrowest * fontMetrics().averageCharWidth());
+}
+
+void RoomyView::keyPressEvent(QKeyEvent* event) {
+    const bool moves = event->matches(QKeySequence::MoveToPreviousLine) ||
+                       event->matches(QKeySequence::MoveToNextLine) ||
+                       event->matches(QKeySequence::MoveToPreviousPage) || event->matches(QKeySequence::MoveToNextPage);
+    if (moves && !selectionModel()->hasSelection() && model()->rowCount() > 0) {
+        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
 }
 
 QSize RoomyView::roomFor(int rows, int width) const {

@@ -3,8 +3,8 @@
 #include "forms/MultiLineEdit.h"
 #include "hosts/desktop/forms/LinesEdit.h"
 #include "hosts/desktop/forms/ShownText.h"
+#include "hosts/desktop/look/ColorScheme.h"
 
-#include <QGuiApplication>
 #include <QTextBlock>
 
 namespace desktop {
@@ -56,11 +56,7 @@ void TextWidget::cutToLimit(std::size_t tooMany) {
 void TextWidget::update(forms::Aspect aspect) {
     if (aspect == forms::Aspect::limits) {
         edit_->setReadOnly(box_.options().readOnly);
-        QPalette palette;
-        if (box_.options().readOnly) {
-            palette.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
-        }
-        edit_->setPalette(palette);
+        edit_->setPalette(box_.options().readOnly ? readOnlyPalette() : QPalette());
     } else if (aspect == forms::Aspect::text && typedText() != box_.text()) {
         edit_->setPlainText(exactText(box_.text()));
     }

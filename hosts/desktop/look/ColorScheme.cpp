@@ -1,5 +1,6 @@
 #include "hosts/desktop/look/ColorScheme.h"
 
+#include "hosts/desktop/look/ConsoleStyle.h"
 #include "hosts/desktop/look/DarkStyle.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QDBusVariant>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 
 namespace desktop {
 namespace {
@@ -63,6 +63,8 @@ QPalette lightPalette() {
         palette.setColor(QPalette::Disabled, role, faint);
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0xD9, 0xDC, 0xE1));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xE6, 0xE8, 0xEC));
+    palette.setColor(QPalette::Disabled, QPalette::Button, QColor(0xEC, 0xEE, 0xF1));
     return palette;
 }
 
@@ -89,6 +91,8 @@ QPalette darkPalette() {
         palette.setColor(QPalette::Disabled, role, faint);
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0x3A, 0x3E, 0x45));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0x33, 0x37, 0x3D));
+    palette.setColor(QPalette::Disabled, QPalette::Button, QColor(0x30, 0x33, 0x39));
     return palette;
 }
 
@@ -115,8 +119,17 @@ void applyColorScheme(ColorScheme look) {
         return;
     }
     const bool dark = look == ColorScheme::dark || (look == ColorScheme::system && systemPrefersDark());
-    QApplication::setStyle(dark ? new DarkStyle : QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(dark ? new DarkStyle : new ConsoleStyle);
     QApplication::setPalette(dark ? darkPalette() : lightPalette());
+}
+
+QPalette readOnlyPalette() {
+    const QPalette whole = QGuiApplication::palette();
+    const QColor disabled = whole.color(QPalette::Disabled, QPalette::Base);
+    const bool differs = disabled != whole.color(QPalette::Active, QPalette::Base);
+    QPalette palette;
+    palette.setColor(QPalette::Base, differs ? disabled : whole.color(QPalette::Window));
+    return palette;
 }
 
 } // namespace desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPalette>
 #include <QString>
 
 #include <cstdint>
@@ -15,5 +16,8 @@ std::optional<ColorScheme> colorSchemeNamed(const QString& name);
 
 // Applies to the whole program; call it before the first window is made.
 void applyColorScheme(ColorScheme look);
+
+// The colours of a box that can be read and not changed: its ground is that of disabled boxes.
+QPalette readOnlyPalette();
 
 } // namespace desktop

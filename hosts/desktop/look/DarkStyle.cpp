@@ -27,8 +27,6 @@ bool draw(const QStyleOption* option, const QPalette& palette, const std::functi
 
 } // namespace
 
-DarkStyle::DarkStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
 QPalette DarkStyle::outlined(const QPalette& palette) const {
     if (key_ != palette.cacheKey()) {
         key_ = palette.cacheKey();
@@ -44,7 +42,7 @@ QPalette DarkStyle::outlined(const QPalette& palette) const {
 void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     const auto plain = [&](const QStyleOption& changed) {
-        QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+        ConsoleStyle::drawPrimitive(element, &changed, painter, widget);
     };
     bool drawn = false;
     switch (element) {
@@ -65,19 +63,19 @@ void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         break;
     }
     if (!drawn) {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        ConsoleStyle::drawPrimitive(element, option, painter, widget);
     }
 }
 
 void DarkStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                    const QWidget* widget) const {
     const auto plain = [&](const QStyleOptionComplex& changed) {
-        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
+        ConsoleStyle::drawComplexControl(control, &changed, painter, widget);
     };
     const bool drawn = (control == CC_SpinBox && draw<QStyleOptionSpinBox>(option, outlined(option->palette), plain)) ||
                        (control == CC_ComboBox && draw<QStyleOptionComboBox>(option, outlined(option->palette), plain));
     if (!drawn) {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        ConsoleStyle::drawComplexControl(control, option, painter, widget);
     }
 }
 

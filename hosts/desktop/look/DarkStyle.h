@@ -1,15 +1,14 @@
 #pragma once
 
+#include "hosts/desktop/look/ConsoleStyle.h"
+
 #include <QPalette>
-#include <QProxyStyle>
 
 namespace desktop {
 
 // The plain style for dark windows, with visible outlines of boxes, check marks and radio buttons.
-class DarkStyle final : public QProxyStyle {
+class DarkStyle final : public ConsoleStyle {
 public:
-    DarkStyle();
-
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -71,8 +71,9 @@ void GlyphIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QI
     painter->translate(rect.center().x() + 0.5 - 8 * scale, rect.center().y() + 0.5 - 8 * scale);
     painter->scale(scale, scale);
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(QGuiApplication::palette().color(group, QPalette::ButtonText), 1.4, Qt::SolidLine,
-                         Qt::RoundCap, Qt::RoundJoin));
+    const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+    painter->setPen(
+        QPen(QGuiApplication::palette().color(group, role), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(pathOf(glyph_));
     painter->restore();
 }

@@ -44,7 +44,8 @@ QImage boxPicture() {
         image = framed(*box);
         box->close();
     });
-    showMessageBox(nullptr, regions::printersAndQueues.deleteQuestion, u"Warning", platform::boxStyle::okCancel);
+    showMessageBox(nullptr, regions::printersAndQueues.deleteQuestion, u"Warning", platform::boxStyle::okCancel,
+                   u"Harbour");
     return image;
 }
 

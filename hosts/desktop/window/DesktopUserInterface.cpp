@@ -16,13 +16,19 @@ QWidget* DesktopUserInterface::owner() const {
     return modal != nullptr ? modal : mainWindow_.data();
 }
 
-platform::Answer DesktopUserInterface::messageBox(platform::WindowHandle /*owner*/, const wire::WideString& text,
+platform::Answer DesktopUserInterface::messageBox(platform::WindowHandle owner, const wire::WideString& text,
                                                   const wire::WideString& caption, std::uint32_t style) {
+    return messageBoxAbout(owner, {}, text, caption, style);
+}
+
+platform::Answer DesktopUserInterface::messageBoxAbout(platform::WindowHandle /*owner*/, const wire::WideString& object,
+                                                       const wire::WideString& text, const wire::WideString& caption,
+                                                       std::uint32_t style) {
     if (std::exchange(silent_, false)) {
         said_ = text;
         return platform::Answer::ok;
     }
-    return showMessageBox(owner(), text, caption, style);
+    return showMessageBox(owner(), text, caption, style, object);
 }
 
 int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {

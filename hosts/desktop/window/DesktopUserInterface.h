@@ -30,6 +30,9 @@ public:
 
     platform::Answer messageBox(platform::WindowHandle owner, const wire::WideString& text,
                                 const wire::WideString& caption, std::uint32_t style) override;
+    platform::Answer messageBoxAbout(platform::WindowHandle owner, const wire::WideString& object,
+                                     const wire::WideString& text, const wire::WideString& caption,
+                                     std::uint32_t style) override;
     int runModal(forms::Form& form, platform::WindowHandle owner) override;
     platform::WindowHandle activeWindow() override;
     void setForeground(platform::WindowHandle window) override;

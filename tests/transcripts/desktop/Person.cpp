@@ -115,8 +115,9 @@ bool Person::goesOn() {
 
 void Person::answer(QMessageBox& box) {
     const bool going = goesOn();
-    const auto reply = ctl::replyTo(going ? steps_.next() : nullptr, desktop::toWideString(box.text()),
-                                    desktop::toWideString(box.windowTitle()), styleOf(box));
+    const auto text = ctl::withObject(desktop::toWideString(box.text()), desktop::toWideString(box.informativeText()));
+    const auto reply =
+        ctl::replyTo(going ? steps_.next() : nullptr, text, desktop::toWideString(box.windowTitle()), styleOf(box));
     if (reply.takesStep) {
         steps_.done();
     }

@@ -1,16 +1,6 @@
 #include "forms/FormWalk.h"
 #include "hosts/desktop/forms/FormDialog.h"
-#include "regions/CreateRegionDlg.h"
-#include "rules/AddRuleEntryDlg.h"
-#include "rules/AffectedDlg.h"
-#include "rules/CNewRuleDialog.h"
-#include "rules/NewMessageDlg.h"
-#include "rules/NewPricePlanDlg.h"
-#include "rules/NewRuleGroupDlg.h"
-#include "rules/PageLimitDlg.h"
-#include "rules/SearchDestinationDlg.h"
-#include "rules/ShortIdDlg.h"
-#include "snapin/AuthenticationDlg.h"
+#include "tests/hosts/desktop/forms/ProductForms.h"
 #include "tests/support/TestPlatform.h"
 
 #include <gtest/gtest.h>
@@ -35,42 +25,9 @@ struct Case {
     std::function<std::unique_ptr<forms::Form>(platform::Platform&)> make;
 };
 
-rules::RuleEntryPlace inAGroup() {
-    static std::vector<protocol::RuleEntryRecord> entries;
-    return {.entries = entries, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
-}
-
-template <rules::AddRuleEntryDlg::Mode mode>
-std::unique_ptr<forms::Form> newEntry(platform::Platform& platform) {
-    return std::make_unique<rules::AddRuleEntryDlg>(platform, mode, inAGroup());
-}
-
 std::vector<Case> allCases() {
-    const std::vector<Case> forms{
-        {"login", 100, [](auto& platform) { return std::make_unique<snapin::AuthenticationDlg>(platform); }},
-        {"createRegion", 100,
-         [](auto& platform) {
-             return std::make_unique<regions::CreateRegionDlg>(platform, 0,
-                                                               regions::CreateRegionDlg::Mode::printerTree);
-         }},
-        {"ruleGroup", 100, [](auto& platform) { return std::make_unique<rules::NewRuleGroupDlg>(platform); }},
-        {"ruleEntryInGroup", 100, newEntry<rules::AddRuleEntryDlg::Mode::group>},
-        {"ruleEntryOnRegion", 100, newEntry<rules::AddRuleEntryDlg::Mode::place>},
-        {"newRule", 100, [](auto& platform) { return std::make_unique<rules::CNewRuleDialog>(platform, inAGroup()); }},
-        {"affected", 100, [](auto& platform) { return std::make_unique<rules::AffectedDlg>(platform); }},
-        {"message", 100, [](auto& platform) { return std::make_unique<rules::NewMessageDlg>(platform); }},
-        {"shortId", 100, [](auto& platform) { return std::make_unique<rules::ShortIdDlg>(platform); }},
-        {"pageLimit", 100, [](auto& platform) { return std::make_unique<rules::PageLimitDlg>(platform); }},
-        {"searchDestination", 100,
-         [](auto& platform) {
-             static std::string id;
-             static wire::WideString name;
-             return std::make_unique<rules::SearchDestinationDlg>(platform, id, name);
-         }},
-        {"pricePlan", 100, [](auto& platform) { return std::make_unique<rules::NewPricePlanDlg>(platform); }},
-    };
     std::vector<Case> cases;
-    for (const auto& form : forms) {
+    for (const auto& form : productForms()) {
         for (const int scale : {100, 150, 200}) {
             cases.push_back({form.name, scale, form.make});
         }

@@ -185,5 +185,23 @@ TEST_F(FormKeyboard, everyWidgetThatTakesTheKeyboardHasAName) {
     }
 }
 
+TEST_F(FormKeyboard, aDefaultButtonBesideABoxIsPressedFromThereAlone) {
+    forms::Button find(form, u"Find", true);
+    find.setBeside(form.name);
+    int found = 0;
+    find.onPress = [&] { ++found; };
+    show();
+    EXPECT_TRUE(widget<QPushButton>(find).isDefault());
+    QTest::keyClick(&widget<QLineEdit>(form.name), Qt::Key_Return);
+    EXPECT_EQ(found, 1);
+
+    widget<QLineEdit>(form.password).setFocus();
+    EXPECT_FALSE(widget<QPushButton>(find).isDefault());
+    EXPECT_TRUE(widget<QPushButton>(form.okButton()).isDefault());
+    QTest::keyClick(&widget<QLineEdit>(form.password), Qt::Key_Return);
+    EXPECT_EQ(found, 1);
+    EXPECT_EQ(form.result(), forms::idOk);
+}
+
 } // namespace
 } // namespace desktop

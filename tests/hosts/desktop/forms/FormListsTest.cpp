@@ -341,5 +341,52 @@ TEST_F(FormLists, theItemThatIsSelectedInATreeIsInSight) {
     EXPECT_EQ(view.currentIndex().data().toString(), QStringLiteral("Region 299"));
 }
 
+TEST_F(FormLists, aSingleRowIsSelectedByTheArrowKeys) {
+    form.opening = [this] {
+        form.rules.setColumns({{u"Name", 120}});
+        form.rules.setRows({{{u"Rule 1"}, "a"}});
+    };
+    show();
+    auto& view = widget<QTreeView>(form.rules);
+    view.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(form.rules.selection(), 0U);
+}
+
+TEST_F(FormLists, theFirstArrowKeySelectsTheRowThatHasTheFocus) {
+    form.opening = [this] { fillRules(); };
+    show();
+    auto& view = widget<QTreeView>(form.rules);
+    view.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(form.rules.selection(), 0U);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(form.rules.selection(), 1U);
+}
+
+TEST_F(FormLists, numbersAreAlignedAtTheRightWithTheirTitle) {
+    form.rules.setColumns({{u"Name", 120}, {u"Price", 80, true}});
+    form.rules.setRows({{{u"A4", u"0.5"}, "a"}});
+    show();
+    const auto* const model = widget<QTreeView>(form.rules).model();
+    const auto alignment = [&](int column) {
+        return Qt::Alignment(model->index(0, column).data(Qt::TextAlignmentRole).toInt());
+    };
+    EXPECT_TRUE(alignment(0).testFlag(Qt::AlignLeft));
+    EXPECT_TRUE(alignment(1).testFlag(Qt::AlignRight));
+    EXPECT_TRUE(
+        Qt::Alignment(model->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt()).testFlag(Qt::AlignRight));
+}
+
+TEST_F(FormLists, aRowSaysMoreAboutItselfInItsToolTip) {
+    form.rules.setColumns({{u"Name", 120}});
+    form.rules.setRows({{{u"A4"}, "a", u"Prices of <copying>"}, {{u"A4"}, "b"}});
+    show();
+    const auto* const model = widget<QTreeView>(form.rules).model();
+    EXPECT_TRUE(model->index(0, 0).data(Qt::ToolTipRole).toString().contains(QStringLiteral("&lt;copying&gt;")));
+    EXPECT_EQ(model->index(0, 0).data(Qt::AccessibleDescriptionRole).toString(), QStringLiteral("Prices of <copying>"));
+    EXPECT_FALSE(model->index(1, 0).data(Qt::ToolTipRole).isValid());
+}
+
 } // namespace
 } // namespace desktop

@@ -280,5 +280,29 @@ TEST(FormTextsOfOtherKinds, aShownValueIsReadOutWithItsLabel) {
     EXPECT_EQ(value.accessibleName(), QStringLiteral("Physical Status: Offline"));
 }
 
+TEST_F(FormTexts, aBoxThatCannotBeTypedIntoDoesNotLookAsIfItCould) {
+    show();
+    const auto ground = [](const QWidget& box) { return box.palette().color(QPalette::Active, QPalette::Base); };
+    const QColor editable = ground(widget<QLineEdit>(form.name));
+    form.name.setReadOnly(true);
+    form.comment.setReadOnly(true);
+    EXPECT_NE(ground(widget<QLineEdit>(form.name)), editable);
+    EXPECT_NE(ground(widget<QPlainTextEdit>(form.comment)), editable);
+}
+
+TEST_F(FormTexts, aProblemIsMarkedAndToldUntilItIsSolved) {
+    show();
+    const auto& box = widget<QLineEdit>(form.name);
+    form.name.setProblem(u"Not a <number>");
+    ASSERT_EQ(box.actions().size(), 1);
+    EXPECT_FALSE(box.actions().front()->icon().isNull());
+    EXPECT_EQ(box.accessibleDescription(), QStringLiteral("Not a <number>"));
+    EXPECT_TRUE(box.toolTip().contains(QStringLiteral("Not a &lt;number&gt;")));
+
+    form.name.setProblem({});
+    EXPECT_TRUE(box.actions().isEmpty());
+    EXPECT_TRUE(box.toolTip().isEmpty());
+}
+
 } // namespace
 } // namespace desktop

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -131,6 +132,21 @@ TEST(MessageBox, theFrontWindowOwnsTheBox) {
         EXPECT_EQ(box.parentWidget(), &window);
         box.close();
     });
+}
+
+TEST(MessageBox, aQuestionNamesItsObjectBeneathItsTextAsPlainText) {
+    QTimer::singleShot(0, [] {
+        auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->text(), QStringLiteral("Delete the region?"));
+        EXPECT_EQ(box->informativeText(), QStringLiteral("<b>Berlin</b>"));
+        const auto* const label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+        ASSERT_NE(label, nullptr);
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        EXPECT_TRUE(box->accessibleDescription().contains(QStringLiteral("<b>Berlin</b>")));
+        box->close();
+    });
+    showMessageBox(nullptr, u"Delete the region?", u"Warning", boxStyle::okCancel, u"<b>Berlin</b>");
 }
 
 } // namespace

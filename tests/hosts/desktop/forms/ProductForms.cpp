@@ -1,0 +1,65 @@
+#include "tests/hosts/desktop/forms/ProductForms.h"
+
+#include "regions/CreateRegionDlg.h"
+#include "rules/AddRuleEntryDlg.h"
+#include "rules/AffectedDlg.h"
+#include "rules/CNewRuleDialog.h"
+#include "rules/NewMessageDlg.h"
+#include "rules/NewPricePlanDlg.h"
+#include "rules/NewRuleGroupDlg.h"
+#include "rules/PageLimitDlg.h"
+#include "rules/SearchDestinationDlg.h"
+#include "rules/ShortIdDlg.h"
+#include "snapin/AuthenticationDlg.h"
+
+namespace desktop {
+namespace {
+
+rules::RuleEntryPlace inAGroup() {
+    static std::vector<protocol::RuleEntryRecord> entries;
+    return {.entries = entries, .ownerId = "g", .ownerNumber = 0, .parentId = {}};
+}
+
+template <rules::AddRuleEntryDlg::Mode mode>
+std::unique_ptr<forms::Form> newEntry(platform::Platform& platform) {
+    return std::make_unique<rules::AddRuleEntryDlg>(platform, mode, inAGroup());
+}
+
+template <class Dialog>
+std::unique_ptr<forms::Form> plain(platform::Platform& platform) {
+    return std::make_unique<Dialog>(platform);
+}
+
+std::unique_ptr<forms::Form> newRegion(platform::Platform& platform) {
+    return std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree);
+}
+
+std::unique_ptr<forms::Form> newRule(platform::Platform& platform) {
+    return std::make_unique<rules::CNewRuleDialog>(platform, inAGroup());
+}
+
+std::unique_ptr<forms::Form> searchDestination(platform::Platform& platform) {
+    static std::string id;
+    static wire::WideString name;
+    return std::make_unique<rules::SearchDestinationDlg>(platform, id, name);
+}
+
+} // namespace
+
+std::vector<ProductForm> productForms() {
+    using rules::AddRuleEntryDlg;
+    return {{"login", plain<snapin::AuthenticationDlg>},
+            {"createRegion", newRegion},
+            {"ruleGroup", plain<rules::NewRuleGroupDlg>},
+            {"ruleEntryInGroup", newEntry<AddRuleEntryDlg::Mode::group>},
+            {"ruleEntryOnRegion", newEntry<AddRuleEntryDlg::Mode::place>},
+            {"newRule", newRule},
+            {"affected", plain<rules::AffectedDlg>},
+            {"message", plain<rules::NewMessageDlg>},
+            {"shortId", plain<rules::ShortIdDlg>},
+            {"pageLimit", plain<rules::PageLimitDlg>},
+            {"searchDestination", searchDestination},
+            {"pricePlan", plain<rules::NewPricePlanDlg>}};
+}
+
+} // namespace desktop
