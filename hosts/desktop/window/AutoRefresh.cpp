@@ -60,8 +60,10 @@ void AutoRefresh::setInterval(int seconds) {
 
 bool AutoRefresh::isIdle() const {
     const auto* const focus = QApplication::focusWidget();
+    // The editor of a cell belongs to the viewport of its view.
+    const auto* const viewport = focus == nullptr ? nullptr : focus->parentWidget();
     const auto* const view =
-        focus == nullptr ? nullptr : qobject_cast<const QAbstractItemView*>(focus->parentWidget()->parentWidget());
+        viewport == nullptr ? nullptr : qobject_cast<const QAbstractItemView*>(viewport->parentWidget());
     const bool editing = view != nullptr && qobject_cast<const QLineEdit*>(focus) != nullptr;
     return window_.isVisible() && !window_.isMinimized() && !operations_.busy() && !editing &&
            QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr &&
