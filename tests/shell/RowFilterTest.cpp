@@ -18,7 +18,8 @@ const ListTitles printerTitles{u"Name", u"Model", u"Jobs In Queue", u"Last Seen"
 // A row of a list; jobs and dates sort by numbers.
 class ListedPrinter final : public shell::FilteredCells {
 public:
-    ListedPrinter(wire::WideString name, wire::WideString model, int jobs, std::string seen, wire::WideString location)
+    ListedPrinter(wire::WideString name, wire::WideString model, int jobs, const std::string& seen,
+                  wire::WideString location)
         : texts_{std::move(name), std::move(model), wire::toWide(std::to_string(jobs)), wire::toWide(seen),
                  std::move(location)},
           jobs_(jobs),
