@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 
+#include <algorithm>
 #include <array>
 
 namespace desktop {
@@ -37,7 +38,7 @@ AutoRefresh::AutoRefresh(Operations& operations, ViewSettings& settings, QWidget
         action->setData(seconds);
         connect(action, &QAction::triggered, this, [this, seconds] { setInterval(seconds); });
     }
-    setInterval(settings_.state(settingName).toInt());
+    start(settings_.state(settingName).toInt());
 }
 
 void AutoRefresh::addTo(QMenu& menu) {
@@ -46,6 +47,11 @@ void AutoRefresh::addTo(QMenu& menu) {
 }
 
 void AutoRefresh::setInterval(int seconds) {
+    start(seconds);
+    settings_.setState(settingName, QByteArray::number(interval()));
+}
+
+void AutoRefresh::start(int seconds) {
     const auto known = std::ranges::find(intervals, seconds) == intervals.end() ? 0 : seconds;
     for (auto* const action : choices_.actions()) {
         action->setChecked(action->data().toInt() == known);
@@ -55,7 +61,6 @@ void AutoRefresh::setInterval(int seconds) {
     if (known > 0) {
         timer_.start();
     }
-    settings_.setState(settingName, QByteArray::number(known));
 }
 
 bool AutoRefresh::isIdle() const {
@@ -71,7 +76,7 @@ bool AutoRefresh::isIdle() const {
 }
 
 void AutoRefresh::refreshIfIdle() {
-    if (isIdle() && operations_.shell().selection().scope != 0) {
+    if (isIdle() && !(hasFailed && hasFailed()) && operations_.shell().selection().scope != 0) {
         // The list, not the selected row alone.
         operations_.perform([](shell::Shell& shell) { return shell.refreshList(); });
     }

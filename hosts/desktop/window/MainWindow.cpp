@@ -56,6 +56,7 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
         return metrics.horizontalAdvance(oneLine(title)) + 3 * metrics.averageCharWidth() + metrics.height();
     });
     session_.age().onChange = [this] { showStateSoon(); };
+    autoRefresh_.hasFailed = [this] { return !session_.age().failure().isEmpty(); };
     panes_->readingFailure = [this] { return session_.age().failure(); };
     session_.observers().add(*this);
     status_.update();

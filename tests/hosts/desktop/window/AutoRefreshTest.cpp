@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/AutoRefresh.h"
 
+#include "client/CQVXAdminClassProperties.h"
 #include "tests/hosts/desktop/WindowFixture.h"
 
 #include <QMenu>
@@ -68,6 +69,27 @@ TEST_F(AutomaticRefresh, waitsWhileANameIsEdited) {
     window().autoRefresh().refreshIfIdle();
 
     EXPECT_FALSE(editor->isHidden());
+}
+
+TEST_F(AutomaticRefresh, leavesAServerThatDoesNotAnswerToTheUser) {
+    open(QStringLiteral("Printers"));
+    const auto port = client::theProperties->port;
+    client::theProperties->port = 1; // where no server listens
+    show(QStringLiteral("Printers/München"));
+    ASSERT_FALSE(session().age().failure().isEmpty());
+
+    EXPECT_FALSE(refreshes());
+
+    client::theProperties->port = port;
+    window().actions().refresh->trigger();
+    settle();
+    EXPECT_TRUE(refreshes());
+}
+
+TEST_F(AutomaticRefresh, changesNoSettingsByItself) {
+    open();
+
+    EXPECT_TRUE(viewSettings->state(QStringLiteral("refreshSeconds")).isEmpty());
 }
 
 TEST_F(AutomaticRefresh, isRememberedAndIgnoresAnIntervalThatIsNotOffered) {
