@@ -3,6 +3,7 @@
 #include "shell/SortKeys.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace shell {
 namespace {
@@ -50,9 +51,29 @@ void sortRun(Rows run, const SortOrder& order, Places likely) {
                            [&](auto place) { return before[place]; });
 }
 
+// Puts rows into their natural order, which those that are equal in a column keep. Returns the likely positions for
+// that order.
+std::vector<std::uint32_t> sortNaturally(std::vector<const Row*>& rows, Places likely) {
+    const std::vector<const Row*> before = rows;
+    sortRows(rows, std::nullopt);
+    std::unordered_map<const Row*, std::uint32_t> places;
+    places.reserve(likely.size());
+    for (std::uint32_t place = 0; place < rows.size() && !likely.empty(); ++place) {
+        places.emplace(rows[place], place);
+    }
+    std::vector<std::uint32_t> next(likely.size());
+    std::ranges::transform(likely, next.begin(), [&](std::uint32_t place) { return places.at(before[place]); });
+    return next;
+}
+
 } // namespace
 
 void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order, Places likely) {
+    std::vector<std::uint32_t> likelyNow;
+    if (order && order->column != 0) {
+        likelyNow = sortNaturally(rows, likely);
+        likely = likelyNow;
+    }
     for (std::size_t begin = 0; begin < rows.size();) {
         const auto rest = Rows(rows).subspan(begin);
         const auto length = lengthOfRun(rest, order);

@@ -240,10 +240,10 @@ TEST_F(ShellCommands, theDeleteVerbRemovesTheRowOfTheTree) {
 TEST_F(ShellCommands, aClickOnATitleTellsTheNodeAndSortsByTheColumn) {
     EXPECT_TRUE(shell.clickColumn(1));
     EXPECT_EQ(snapIn.log, (Lines{"column click A 1"}));
-    EXPECT_EQ(rows(), (Lines{"A10", "A2", "a2", "a1"}));
+    EXPECT_EQ(rows(), (Lines{"A2", "A10", "a2", "a1"}));
 
     shell.clickColumn(1);
-    EXPECT_EQ(rows(), (Lines{"a1", "a2", "A10", "A2"}));
+    EXPECT_EQ(rows(), (Lines{"a1", "a2", "A2", "A10"}));
 }
 
 TEST_F(ShellCommands, aTitleThatIsNotThereCantBeClicked) {
