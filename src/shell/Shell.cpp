@@ -210,6 +210,20 @@ bool Shell::refreshList() {
     });
 }
 
+bool Shell::reread(const std::vector<ScopeId>& items) {
+    return operate([&] {
+        for (const ScopeId id : items) {
+            ScopeItem* const item = id != view_.scope() ? tree_.alive(id) : nullptr;
+            if (item != nullptr) {
+                item->loaded = false;
+                view_.load(*item);
+            }
+        }
+        view_.refresh();
+        return true;
+    });
+}
+
 ViewHistory::Exists Shell::exists() const {
     return [this](ScopeId id) { return tree_.contains(id); };
 }

@@ -57,6 +57,8 @@ public:
     bool refresh();
     // Refreshes the selected scope item, whichever row is selected; that row stays selected.
     bool refreshList();
+    // Reads from the server again what these items of the tree hold, and the shown list.
+    bool reread(const std::vector<console::ScopeId>& items);
     bool back();
     bool forward();
     bool canGoBack() const;

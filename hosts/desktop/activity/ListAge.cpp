@@ -52,7 +52,7 @@ QString ListAge::failure() const {
 }
 
 void ListAge::commandEnded(const client::CommandReport& report) {
-    if (!report.name.starts_with("List")) {
+    if (aside_ || !report.name.starts_with("List")) {
         return;
     }
     switch (report.outcome) {

@@ -25,6 +25,9 @@ public:
     // Why the shown list is older than the last attempt to read it; empty when it is not.
     QString failure() const;
 
+    // The commands that are run from now on are not about the list.
+    void setAside(bool aside) { aside_ = aside; }
+
     std::function<void()> onChange;
 
 private:
@@ -43,6 +46,7 @@ private:
     std::unordered_map<console::ScopeId, Reading> readings_;
     bool hasRead_ = false; // since the operation began
     QString failure_;
+    bool aside_ = false;
 };
 
 } // namespace desktop

@@ -1,6 +1,6 @@
 #include "hosts/desktop/activity/Operations.h"
 
-#include <utility>
+#include <QScopedValueRollback>
 
 namespace desktop {
 
@@ -25,9 +25,50 @@ void Operations::later(std::function<void()> work) {
     }
 }
 
+void Operations::request(std::function<bool(shell::Shell&)> work) {
+    later([this, work = std::move(work)] {
+        requested_ = work;
+        perform(work);
+    });
+}
+
+void Operations::repeat() {
+    if (requested_) {
+        later([this, work = requested_] { perform(work); });
+    }
+}
+
+void Operations::rename(const Renaming& renaming) {
+    later([this, renaming] {
+        const QScopedValueRollback<std::optional<Renaming>> now(renaming_, renaming);
+        performChange([&](shell::Shell& console) {
+            return console.selection() == renaming.target && console.rename(renaming.name);
+        });
+    });
+}
+
+bool Operations::isAdmitted() {
+    if (busy()) {
+        return false;
+    }
+    bool admitted = true;
+    if (admitsChange) {
+        const QScopedValueRollback held(held_, true);
+        admitted = admitsChange();
+    }
+    if (!waiting_.empty()) {
+        timer_.start(0);
+    }
+    return admitted;
+}
+
 void Operations::ended() {
     if (onEnd) {
         onEnd();
+    }
+    if (onSettled) {
+        const QScopedValueRollback held(held_, true);
+        onSettled();
     }
     if (!waiting_.empty()) {
         timer_.start(0);

@@ -6,8 +6,16 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace desktop {
+
+// A new name that the user has typed for an item or a row.
+struct Renaming {
+    shell::Target target;
+    wire::WideString name;
+};
 
 // The only way from the windows to the console, which does one thing at a time: an operation starts only when none is
 // running, and whatever comes up in the meantime waits for its end.
@@ -20,7 +28,7 @@ public:
     ~Operations();
 
     [[nodiscard]] const shell::Shell& shell() const { return shell_; }
-    [[nodiscard]] bool busy() const { return shell_.busy(); }
+    [[nodiscard]] bool busy() const { return held_ || shell_.busy(); }
 
     // How many have been started.
     [[nodiscard]] std::uint64_t count() const { return count_; }
@@ -39,15 +47,33 @@ public:
         ended();
         return done;
     }
+    // The same for work that changes something on the server: does nothing when the server would not accept it.
+    template <class Work>
+    bool performChange(Work&& work) {
+        return isAdmitted() && perform(std::forward<Work>(work));
+    }
 
     // Runs the work from the event loop as soon as no operation is running, in the order of the calls.
     void later(std::function<void()> work);
 
+    // Runs the work like later, and can run it again until the next one is requested.
+    void request(std::function<bool(shell::Shell&)> work);
+    void repeat();
+    // Gives the selected item or row a new name, like later; nothing happens when another one is selected by then.
+    void rename(const Renaming& renaming);
+    // What is being renamed at the moment; null for nothing.
+    [[nodiscard]] const Renaming* renaming() const { return renaming_ ? &*renaming_ : nullptr; }
+
     // Called around each operation.
     std::function<void()> onBegin;
     std::function<void()> onEnd;
+    // Called after onEnd, while no other operation can start.
+    std::function<void()> onSettled;
+    // Called before each change, while no other operation can start: whether the server accepts changes now.
+    std::function<bool()> admitsChange;
 
 private:
+    bool isAdmitted();
     void ended();
     void flush();
 
@@ -56,6 +82,9 @@ private:
     std::deque<std::function<void()>> waiting_;
     QTimer timer_;
     std::uint64_t count_ = 0;
+    std::function<bool(shell::Shell&)> requested_;
+    std::optional<Renaming> renaming_;
+    bool held_ = false;
 };
 
 } // namespace desktop

@@ -7,10 +7,16 @@
 #include <QScopedValueRollback>
 
 namespace desktop {
-namespace {
+WaitIndicator::WaitIndicator(const Operations& operations, shell::Observers& observers, QWidget& mainWindow)
+    : operations_(operations), observers_(observers), mainWindow_(mainWindow) {
+    observers_.add(*this);
+}
 
-// "ListPrinterRecords" as "List printer records".
-QString spoken(const QString& command) {
+WaitIndicator::~WaitIndicator() {
+    observers_.remove(*this);
+}
+
+QString WaitIndicator::spoken(const QString& command) {
     QString words;
     for (const QChar letter : command) {
         if (letter.isUpper() && !words.isEmpty()) {
@@ -21,17 +27,6 @@ QString spoken(const QString& command) {
         }
     }
     return words;
-}
-
-} // namespace
-
-WaitIndicator::WaitIndicator(const Operations& operations, shell::Observers& observers, QWidget& mainWindow)
-    : operations_(operations), observers_(observers), mainWindow_(mainWindow) {
-    observers_.add(*this);
-}
-
-WaitIndicator::~WaitIndicator() {
-    observers_.remove(*this);
 }
 
 QString WaitIndicator::describe(const QString& command, const QString& about, std::uint32_t records,

@@ -26,6 +26,8 @@ public:
     // Cancels the running command, and those that the same operation would send after it.
     void cancel() { cancelled_ = true; }
 
+    // "ListPrinterRecords" as "List printer records".
+    static QString spoken(const QString& command);
     // What is being done, as text: "List regions (Berlin): 1,200 records, 3 s".
     static QString describe(const QString& command, const QString& about, std::uint32_t records,
                             std::chrono::milliseconds elapsed);

@@ -83,10 +83,7 @@ bool ListModel::setData(const QModelIndex& index, const QVariant& value, int rol
     if (role != Qt::EditRole || idOf(index) == 0 || name.isEmpty() || name == data(index, Qt::EditRole).toString()) {
         return false;
     }
-    operations_.later([this, target = targetOf(index), name] {
-        operations_.perform(
-            [&](shell::Shell& console) { return console.selection() == target && console.rename(toWideString(name)); });
-    });
+    operations_.rename({.target = targetOf(index), .name = toWideString(name)});
     return true;
 }
 
@@ -138,7 +135,7 @@ bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int r
         return false;
     }
     operations_.later([this, source = *draggedTarget(data), id = scopeOf(parent)] {
-        operations_.perform([&](shell::Shell& console) { return console.drop(source, id); });
+        operations_.performChange([&](shell::Shell& console) { return console.drop(source, id); });
     });
     return true;
 }

@@ -8,6 +8,8 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace desktop {
@@ -121,7 +123,20 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    if (event->key() == Qt::Key_F10 &&
+        event->modifiers() == Qt::ShiftModifier) { // not all platforms make a menu key of it
+        const QPoint place = visualRect(currentIndex()).bottomLeft();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place));
+        contextMenuEvent(&menu);
+        event->accept();
+        return;
+    }
     QTreeView::keyPressEvent(event);
+    constexpr std::array moves{Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home, Qt::Key_End,
+                               Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space};
+    if (std::ranges::find(moves, event->key()) != moves.end()) {
+        operations_.later([this] { selectCurrent(); }); // of a single row, which is current already
+    }
 }
 
 void ListView::paintEvent(QPaintEvent* event) {

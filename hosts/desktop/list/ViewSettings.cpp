@@ -14,6 +14,20 @@ constexpr int mostColumns = 100;
 constexpr QSize leastVisible(200, 100);
 constexpr QSize smallestWindow(400, 300);
 
+// Moved, and if need be made smaller, so that the screen which shows most of it shows all of it.
+QRect heldTo(const std::vector<QRect>& screens, const QRect& wanted) {
+    const auto area = [&](const QRect& screen) {
+        const QRect visible = screen.intersected(wanted);
+        return visible.width() * visible.height();
+    };
+    const QRect screen = *std::ranges::max_element(screens, {}, area);
+    QRect held(wanted.topLeft(), wanted.size().boundedTo(screen.size()));
+    held.moveRight(std::min(held.right(), screen.right()));
+    held.moveBottom(std::min(held.bottom(), screen.bottom()));
+    held.moveTopLeft({std::max(held.left(), screen.left()), std::max(held.top(), screen.top())});
+    return held;
+}
+
 } // namespace
 
 ViewSettings::ViewSettings(QString file) : file_(std::move(file)) {}
@@ -69,11 +83,47 @@ QRect ViewSettings::geometry(const std::vector<QRect>& screens) const {
     };
     const bool usable = wanted.width() >= smallestWindow.width() && wanted.height() >= smallestWindow.height() &&
                         std::ranges::any_of(screens, shows);
-    return usable ? wanted : QRect();
+    return usable ? heldTo(screens, wanted) : QRect();
 }
 
 void ViewSettings::setGeometry(const QRect& geometry) {
     QSettings(file_, QSettings::IniFormat).setValue(QStringLiteral("window/geometry"), geometry);
+}
+
+std::vector<ServerLogin> ViewSettings::logins() const {
+    QSettings settings(file_, QSettings::IniFormat);
+    const int count = std::clamp(settings.beginReadArray(QStringLiteral("logins")), 0, mostLogins);
+    std::vector<ServerLogin> logins;
+    for (int place = 0; place < count; ++place) {
+        settings.setArrayIndex(place);
+        const ServerLogin login{.host = settings.value(QStringLiteral("host")).toString(),
+                                .port = static_cast<quint16>(settings.value(QStringLiteral("port")).toUInt()),
+                                .user = settings.value(QStringLiteral("user")).toString(),
+                                .domain = settings.value(QStringLiteral("domain")).toString()};
+        if (!login.host.isEmpty() && login.port != 0 && std::ranges::find(logins, login) == logins.end()) {
+            logins.push_back(login);
+        }
+    }
+    return logins;
+}
+
+void ViewSettings::addLogin(const ServerLogin& login) {
+    auto logins = this->logins();
+    std::erase(logins, login);
+    logins.insert(logins.begin(), login);
+    logins.resize(std::min<std::size_t>(logins.size(), mostLogins));
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.remove(QStringLiteral("logins"));
+    settings.beginWriteArray(QStringLiteral("logins"), static_cast<int>(logins.size()));
+    int place = 0;
+    for (const ServerLogin& each : logins) {
+        settings.setArrayIndex(place++);
+        settings.setValue(QStringLiteral("host"), each.host);
+        settings.setValue(QStringLiteral("port"), each.port);
+        settings.setValue(QStringLiteral("user"), each.user);
+        settings.setValue(QStringLiteral("domain"), each.domain);
+    }
+    settings.endArray();
 }
 
 QByteArray ViewSettings::state(const QString& name) const {

@@ -14,6 +14,16 @@ struct ColumnChoice {
     bool hidden = false;
 };
 
+// Where and as whom somebody has logged in; never with the password.
+struct ServerLogin {
+    QString host;
+    quint16 port = 0;
+    QString user;
+    QString domain;
+
+    friend bool operator==(const ServerLogin&, const ServerLogin&) = default;
+};
+
 // What the windows remember from one start to the next, in an INI file. An invalid file or one with unusable values is
 // ignored; it is rewritten when there is something to remember.
 class ViewSettings {
@@ -27,9 +37,15 @@ public:
     void setColumns(const QString& list, const std::vector<ColumnChoice>& columns);
     void forgetColumns(const QString& list);
 
-    // The window's position and size; an invalid rectangle when that is unknown or no screen would show enough of it.
+    // The window's position and size, held to the screen; an invalid rectangle when that is unknown or no screen would
+    // show enough of it.
     [[nodiscard]] QRect geometry(const std::vector<QRect>& screens) const;
     void setGeometry(const QRect& geometry);
+
+    // The recent logins, the latest first, each once.
+    static constexpr int mostLogins = 8;
+    [[nodiscard]] std::vector<ServerLogin> logins() const;
+    void addLogin(const ServerLogin& login);
 
     // By name: positions of splitters and docks, whether something is shown.
     [[nodiscard]] QByteArray state(const QString& name) const;

@@ -98,11 +98,7 @@ bool ScopeModel::setData(const QModelIndex& index, const QVariant& value, int ro
     if (role != Qt::EditRole || !index.isValid() || name.isEmpty() || name == data(index, Qt::EditRole).toString()) {
         return false;
     }
-    operations_.later([this, id = idOf(index), name] {
-        operations_.perform([&](shell::Shell& console) {
-            return console.selection() == shell::Target{id, 0} && console.rename(toWideString(name));
-        });
-    });
+    operations_.rename({.target = {.scope = idOf(index)}, .name = toWideString(name)});
     return true;
 }
 
@@ -145,7 +141,7 @@ bool ScopeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int 
         return false;
     }
     operations_.later([this, source = *draggedTarget(data), id = idOf(parent)] {
-        operations_.perform([&](shell::Shell& console) { return console.drop(source, id); });
+        operations_.performChange([&](shell::Shell& console) { return console.drop(source, id); });
     });
     return true;
 }

@@ -90,6 +90,18 @@ void ScopeView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
+void ScopeView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F10 &&
+        event->modifiers() == Qt::ShiftModifier) { // not all platforms make a menu key of it
+        const QPoint place = visualRect(currentIndex()).bottomLeft();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place));
+        contextMenuEvent(&menu);
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
 void ScopeView::selectionChanged() {
     showSelection();
 }

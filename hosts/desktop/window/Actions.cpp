@@ -36,6 +36,9 @@ Actions::Actions(QWidget& window) : window_(window) {
     exportList = make(QStringLiteral("&Export List..."), QStringLiteral("To save this list to a file, as it is shown"),
                       QKeySequence(Qt::CTRL | Qt::Key_E));
     exportList->setIcon(GlyphIcon::make(Glyph::exportList));
+    logIn = make(QStringLiteral("&Log in again..."), QStringLiteral("To log in to this server once more"), {});
+    connect = make(QStringLiteral("&Connect to another server..."),
+                   QStringLiteral("To administer another server in this window"), {});
     filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only rows that contain a text"),
                   QKeySequence(Qt::CTRL | Qt::Key_F));
     filter->setIcon(GlyphIcon::make(Glyph::filter));

@@ -26,6 +26,8 @@ public:
     QAction* remove;
     QAction* copyText;
     QAction* exportList;
+    QAction* logIn;
+    QAction* connect;
     QAction* filter;
     QAction* find;
     QAction* nextPane;

@@ -1,6 +1,7 @@
 #include "hosts/desktop/window/ContextMenus.h"
 
 #include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/window/KeptRow.h"
 
 #include <QAction>
 #include <QMenu>
@@ -37,8 +38,13 @@ bool ContextMenus::addEntries(QMenu& menu, const shell::Target& target) const {
         action->setEnabled(!item.disabled);
         action->setData(item.id);
         QObject::connect(action, &QAction::triggered, &menu, [&operations = operations_, target, id = item.id] {
-            operations.later([&operations, target, id] {
-                operations.perform([&](shell::Shell& console) { return console.invoke(id, target); });
+            const auto kept = std::make_shared<KeptRow>();
+            operations.request([target, id, kept](shell::Shell& console) {
+                kept->note(console);
+                return console.invoke(id, target);
+            });
+            operations.later([&operations, kept] {
+                operations.perform([&](shell::Shell& console) { return kept->select(console); });
             });
         });
     }

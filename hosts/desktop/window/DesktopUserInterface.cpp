@@ -33,7 +33,10 @@ platform::Answer DesktopUserInterface::messageBoxAbout(platform::WindowHandle /*
 
 int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*owner*/) {
     auto* const login = dynamic_cast<snapin::AuthenticationDlg*>(&form);
-    if (login == nullptr || (!password_ && !unattended_)) {
+    if (login == nullptr) {
+        return show(form);
+    }
+    if (!password_ && !unattended_) {
         return runForm(form, owner());
     }
     if (logIn(*login)) {
@@ -47,6 +50,17 @@ int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*o
     }
     form.userCancelled();
     return form.result();
+}
+
+int DesktopUserInterface::show(forms::Form& form) {
+    if (beforeForm) {
+        beforeForm(form);
+    }
+    const int result = runForm(form, owner());
+    if (afterForm) {
+        afterForm(form, result);
+    }
+    return result;
 }
 
 bool DesktopUserInterface::logIn(snapin::AuthenticationDlg& dialog) {

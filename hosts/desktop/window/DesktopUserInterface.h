@@ -6,6 +6,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace snapin {
@@ -25,6 +26,12 @@ public:
     void setPassword(wire::WideString password) { password_ = std::move(password); }
     // No user is present: a failed login is not repeated.
     void setUnattended() { unattended_ = true; }
+    [[nodiscard]] bool isUnattended() const { return unattended_; }
+    // The window in front, over which boxes and forms are shown.
+    [[nodiscard]] QWidget* owner() const;
+    // Called around each form but the login.
+    std::function<void(forms::Form&)> beforeForm;
+    std::function<void(forms::Form&, int result)> afterForm;
     // Why the unattended login has failed; empty when it has not.
     [[nodiscard]] const QString& loginFailure() const { return loginFailure_; }
 
@@ -39,7 +46,7 @@ public:
 
 private:
     bool logIn(snapin::AuthenticationDlg& dialog);
-    [[nodiscard]] QWidget* owner() const;
+    int show(forms::Form& form);
 
     QPointer<QWidget> mainWindow_;
     std::optional<wire::WideString> password_;

@@ -13,11 +13,14 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QIcon>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace desktop {
@@ -37,7 +40,8 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
       details_(new DetailsDock(this)),
       status_(*statusBar(), session.operations(), session.age()),
       wait_(session.operations(), session.observers(), *this),
-      autoRefresh_(session.operations(), settings, *this) {
+      autoRefresh_(session.operations(), settings, *this),
+      logins_(session.platform(), session.ui(), settings) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Vantrel Manager"));
     setWindowIcon(IconStrips::application());
@@ -51,6 +55,8 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
     makeToolBar();
     connectActions();
     session_.ui().setMainWindow(this);
+    logins_.onOtherServer = [this] { showOtherServer(); };
+    session_.watch().onRenameAgain = [this](const Renaming& renaming) { renameAgain(renaming); };
     session_.setMeasure([this](wire::WideStringView title) {
         const QFontMetrics metrics(panes_->list().font());
         return metrics.horizontalAdvance(oneLine(title)) + 3 * metrics.averageCharWidth() + metrics.height();
@@ -65,6 +71,8 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
 MainWindow::~MainWindow() {
     session_.observers().remove(*this);
     session_.age().onChange = nullptr;
+    session_.watch().setLogins(nullptr);
+    session_.watch().onRenameAgain = nullptr;
     session_.ui().setMainWindow(nullptr);
     session_.setMeasure(nullptr);
     delete panes_; // its views must be destroyed before their models
@@ -94,6 +102,8 @@ void MainWindow::start(const QString& path) {
         std::optional<QString> error;
         const bool done = session_.operations().perform([](shell::Shell& console) { return console.start(); });
         if (!closing_) {
+            logins_.remember();
+            session_.watch().setLogins(&logins_); // a first login that is given up closes the window
             error = done ? openPath(session_.operations(), path.isEmpty() ? QStringLiteral("Printers") : path)
                          : std::optional(QStringLiteral("The console can't start"));
             panes_->tree().setFocus(Qt::OtherFocusReason);
@@ -108,10 +118,7 @@ void MainWindow::start(const QString& path) {
 }
 
 void MainWindow::makeMenus() {
-    QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
-    file->addAction(actions_.exportList);
-    file->addSeparator();
-    file->addAction(actions_.quit);
+    makeFileMenu();
 
     QMenu* const action = menuBar()->addMenu(QStringLiteral("&Action"));
     connect(action, &QMenu::aboutToShow, this, [this, action] {
@@ -148,6 +155,78 @@ void MainWindow::makeMenus() {
     menuBar()->addMenu(QStringLiteral("&Help"))->addActions({actions_.shortcuts, actions_.about});
 }
 
+void MainWindow::makeFileMenu() {
+    QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
+    file->addAction(actions_.exportList);
+    file->addSeparator();
+    file->addActions({actions_.logIn, actions_.connect});
+    file->addSeparator();
+    file->addAction(actions_.quit);
+    connect(file, &QMenu::aboutToShow, this, [this, file] { showRecent(*file); });
+}
+
+// Below the entry that connects to another server: one click, and only the password is missing.
+void MainWindow::showRecent(QMenu& menu) {
+    for (QAction* const action : std::exchange(recent_, {})) {
+        delete action;
+    }
+    const ServerLogin current = LoginKeeper::current();
+    const auto actions = menu.actions();
+    QAction* const end = actions.at(actions.indexOf(actions_.connect) + 1);
+    for (const ServerLogin& login : logins_.recent()) {
+        if (login == current) {
+            continue;
+        }
+        const QString user = login.domain.isEmpty() ? login.user : login.domain + QLatin1Char('\\') + login.user;
+        QString text = oneLine(toWideString(QStringLiteral("%1 on %2:%3").arg(user, login.host).arg(login.port)));
+        auto* const action = new QAction(text.replace(QLatin1Char('&'), QStringLiteral("&&")), &menu);
+        action->setStatusTip(QStringLiteral("To administer this server in this window"));
+        connect(action, &QAction::triggered, this, [this, login] { logIn(login); });
+        menu.insertAction(end, action);
+        recent_.push_back(action);
+    }
+}
+
+void MainWindow::logIn(const ServerLogin& wanted) {
+    session_.operations().later([this, wanted] {
+        session_.watch().logIn(wanted);
+        showStateSoon();
+    });
+}
+
+// Everything that the tree has read belongs to the other server. What is there under the same name stays open.
+void MainWindow::showOtherServer() {
+    session_.operations().later([this] {
+        session_.operations().perform([](shell::Shell& console) {
+            const auto& tree = console.tree();
+            std::vector<console::ScopeId> branches;
+            for (const auto server : tree.children(tree.root())) {
+                const auto below = tree.children(server);
+                std::ranges::copy_if(below, std::back_inserter(branches),
+                                     [&](console::ScopeId id) { return tree.isLoaded(id); });
+            }
+            return console.reread(branches);
+        });
+        showStateSoon();
+    });
+}
+
+void MainWindow::renameAgain(const Renaming& renaming) {
+    const bool isRow = renaming.target.row != 0;
+    session_.operations().perform([&](shell::Shell& console) {
+        return console.select(renaming.target.scope) && (!isRow || console.selectRow(renaming.target.row));
+    });
+    if (session_.shell().selection() == renaming.target) {
+        rename();
+        QWidget& view = isRow ? static_cast<QWidget&>(panes_->list()) : panes_->tree();
+        // The last one: the box that has just been closed may still exist.
+        if (const auto editors = view.findChildren<QLineEdit*>(); !editors.isEmpty()) {
+            editors.back()->setText(toQString(renaming.name));
+            editors.back()->selectAll();
+        }
+    }
+}
+
 void MainWindow::makeToolBar() {
     QToolBar* const bar = addToolBar(QStringLiteral("Tools"));
     bar->setObjectName(QStringLiteral("tools"));
@@ -171,7 +250,10 @@ void MainWindow::connectActions() {
     on(actions_.up, [this] { goUp(); });
     on(actions_.refresh, [this] { run(&shell::Shell::refresh); });
     on(actions_.cut, [this] { run(&shell::Shell::cut); });
-    on(actions_.paste, [this] { run(&shell::Shell::paste); });
+    on(actions_.paste,
+       [this] { session_.operations().later([this] { session_.operations().performChange(&shell::Shell::paste); }); });
+    on(actions_.logIn, [this] { logIn(LoginKeeper::current()); });
+    on(actions_.connect, [this] { logIn({}); });
     on(actions_.remove, [this] { run(&shell::Shell::deleteItem); });
     on(actions_.rename, [this] { rename(); });
     on(actions_.copyText, [this] { copyText(); });
@@ -201,6 +283,10 @@ void MainWindow::connectActions() {
         statusBar()->showMessage(message, message.isEmpty() ? 1 : messageTime);
     };
     panes_->notice().onRetry = [this] { run(&shell::Shell::refreshList); };
+    panes_->notice().onLogin = [this] { logIn(LoginKeeper::current()); };
+    panes_->notice().onRetry = [this] {
+        run([](shell::Shell& shell) { return shell.selectRow(0) && shell.refresh(); });
+    };
 }
 
 void MainWindow::goUp() {
@@ -297,6 +383,7 @@ void MainWindow::sayAge() {
     const auto time = session_.age().readAt();
     const QString rest =
         time ? QStringLiteral(" The rows are from %1.").arg(time->toString(QStringLiteral("hh:mm:ss"))) : QString();
+    panes_->notice().offerLogin(session_.watch().isTurnedAway());
     panes_->notice().say(QStringLiteral("This list could not be read: %1.").arg(failure) + rest);
 }
 

@@ -49,6 +49,11 @@ private:
     void connectActions();
     void run(const std::function<bool(shell::Shell&)>& work);
     void showState();
+    void makeFileMenu();
+    void showRecent(QMenu& menu);
+    void logIn(const ServerLogin& wanted);
+    void showOtherServer();
+    void renameAgain(const Renaming& renaming);
     void sayAge();
     void rename();
     void copyText();
@@ -76,7 +81,9 @@ private:
     StatusLine status_;
     WaitIndicator wait_;
     AutoRefresh autoRefresh_;
-    bool showing_ = false; // a call of showState is pending
+    LoginKeeper logins_;
+    std::vector<QAction*> recent_; // the entries of recent logins
+    bool showing_ = false;         // a call of showState is pending
     bool closing_ = false;
 };
 

@@ -17,18 +17,30 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), label_(new QLabel(this))
     label_->setTextFormat(Qt::PlainText);
     label_->setWordWrap(true);
     label_->setForegroundRole(QPalette::ToolTipText);
-    auto* const retry = new QPushButton(QStringLiteral("Try &Again"), this);
-    connect(retry, &QPushButton::clicked, this, [this] {
-        if (onRetry) {
-            onRetry();
-        }
-    });
+    login_ = makeButton(QStringLiteral("&Log In Again..."), onLogin);
+    login_->hide();
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 4, 8, 4);
     layout->addWidget(picture);
     layout->addWidget(label_, 1);
-    layout->addWidget(retry);
+    layout->addWidget(login_);
+    layout->addWidget(makeButton(QStringLiteral("Try &Again"), onRetry));
     hide();
+}
+
+// The function may be set, or changed, later.
+QPushButton* NoticeBar::makeButton(const QString& text, const std::function<void()>& pressed) {
+    auto* const button = new QPushButton(text, this);
+    connect(button, &QPushButton::clicked, this, [&pressed] {
+        if (pressed) {
+            pressed();
+        }
+    });
+    return button;
+}
+
+void NoticeBar::offerLogin(bool offered) {
+    login_->setVisible(offered);
 }
 
 void NoticeBar::say(const QString& text) {

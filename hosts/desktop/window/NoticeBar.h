@@ -5,6 +5,7 @@
 #include <functional>
 
 class QLabel;
+class QPushButton;
 
 namespace desktop {
 
@@ -17,9 +18,15 @@ public:
     void say(const QString& text);
     [[nodiscard]] QString said() const;
     std::function<void()> onRetry;
+    // Whether the bar offers to log in.
+    void offerLogin(bool offered);
+    std::function<void()> onLogin;
 
 private:
+    QPushButton* makeButton(const QString& text, const std::function<void()>& pressed);
+
     QLabel* label_;
+    QPushButton* login_;
 };
 
 } // namespace desktop

@@ -6,7 +6,7 @@
 #include "hosts/common/TwoSidedSnapIn.h"
 #include "hosts/desktop/activity/ActivityLog.h"
 #include "hosts/desktop/activity/ListAge.h"
-#include "hosts/desktop/window/DesktopUserInterface.h"
+#include "hosts/desktop/window/ServerWatch.h"
 #include "platform/Platform.h"
 #include "platform/RefusalBox.h"
 #include "shell/CommandWatch.h"
@@ -26,6 +26,8 @@ public:
     Operations& operations() { return operations_; }
     const shell::Shell& shell() const { return shell_; }
     ListAge& age() { return age_; }
+    ServerWatch& watch() { return serverWatch_; }
+    platform::Platform& platform() { return platform_; }
     ActivityLog& activity() { return activity_; }
     void setMeasure(std::function<std::int32_t(wire::WideStringView)> measure) {
         shell_.setMeasure(std::move(measure));
@@ -47,6 +49,7 @@ private:
     shell::Shell shell_{snapIn_, tasks_, observers_};
     Operations operations_{shell_, tasks_};
     ListAge age_{operations_, observers_};
+    ServerWatch serverWatch_{operations_, observers_, age_, ui_};
 };
 
 } // namespace desktop

@@ -14,11 +14,17 @@ public:
     ServerProcess& operator=(const ServerProcess&) = delete;
     ~ServerProcess();
 
+    void stop();
+    // On the same port and with what it had before, but without any login.
+    void restart();
+
     // 0 when the server did not start.
     [[nodiscard]] quint16 port() const { return port_; }
     static constexpr const char16_t* password = u"secret-pw";
 
 private:
+    void start(const QString& port, const QStringList& more);
+
     QTemporaryDir folder_;
     QProcess process_;
     quint16 port_ = 0;

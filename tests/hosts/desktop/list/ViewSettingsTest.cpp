@@ -83,6 +83,31 @@ TEST_F(ViewSettingsTest, aPlaceOnAScreenThatIsGoneIsNotUsed) {
     EXPECT_TRUE(settings.geometry({screens[0], QRect(1920, 0, 1920, 1080)}).isValid());
 }
 
+TEST_F(ViewSettingsTest, aWindowThatStoodPartlyOffItsScreenIsHeldToIt) {
+    ViewSettings settings(path);
+    const std::vector<QRect> small{QRect(0, 0, 1280, 800)};
+
+    settings.setGeometry(QRect(900, 300, 900, 700));
+    EXPECT_EQ(QRect(380, 100, 900, 700), settings.geometry(small));
+    settings.setGeometry(QRect(100, 50, 1900, 1000));
+    EXPECT_EQ(QRect(0, 0, 1280, 800), settings.geometry(small));
+}
+
+TEST_F(ViewSettingsTest, theEightLatestLoginsAreRememberedOnceEach) {
+    ViewSettings settings(path);
+    for (int place = 0; place < 10; ++place) {
+        settings.addLogin({.host = QStringLiteral("server%1").arg(place), .port = 5005, .user = "admin", .domain = {}});
+    }
+    settings.addLogin({.host = QStringLiteral("server5"), .port = 5005, .user = "admin", .domain = {}});
+
+    const auto logins = ViewSettings(path).logins();
+
+    ASSERT_EQ(8U, logins.size());
+    EXPECT_EQ(QStringLiteral("server5"), logins[0].host);
+    EXPECT_EQ(QStringLiteral("server9"), logins[1].host);
+    EXPECT_EQ(QStringLiteral("server2"), logins[7].host);
+}
+
 TEST_F(ViewSettingsTest, aWindowThatCannotBeMovedOrSeenIsNotUsed) {
     ViewSettings settings(path);
     for (const QRect& bad : {QRect(0, -500, 900, 700), QRect(1'850, 100, 900, 700), QRect(0, 0, 20, 20),

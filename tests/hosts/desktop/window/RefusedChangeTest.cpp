@@ -1,0 +1,168 @@
+#include "tests/hosts/desktop/WindowFixture.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace desktoptest {
+namespace {
+
+// The window where a change is refused without a reply, or does not arrive.
+class RefusedChange : public WindowFixture {
+protected:
+    static QString textOf(const QDialog& box) {
+        QString text;
+        for (const auto* const label : box.findChildren<QLabel*>()) {
+            text += label->text();
+        }
+        return text;
+    }
+    // The box in the tree for a new name; null when there is none. One that was closed may still exist before it.
+    QLineEdit* nameBox() {
+        const auto boxes = panes().tree().findChildren<QLineEdit*>();
+        return boxes.isEmpty() ? nullptr : boxes.back();
+    }
+    void renameTo(const QString& name) {
+        window().actions().rename->trigger();
+        ASSERT_NE(nullptr, nameBox());
+        nameBox()->setText(name);
+        QTest::keyClick(nameBox(), Qt::Key_Return);
+    }
+    static constexpr const char* openAgain = "Open again with what you typed";
+};
+
+TEST_F(RefusedChange, aSecondRegionOfTheSameNameIsToldAndCanBeNamedAnew) {
+    open();
+    QString said;
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("Berlin"));
+        press(dialog, QStringLiteral("OK"));
+    });
+    whenAsked([&](QDialog& box) {
+        said = textOf(box);
+        press(box, QString::fromLatin1(openAgain));
+    });
+    whenAsked([](QDialog& dialog) {
+        EXPECT_EQ(QStringLiteral("Berlin"), dialog.findChildren<QLineEdit*>()[0]->text());
+        type(dialog, 0, QStringLiteral("Berlin West"));
+        press(dialog, QStringLiteral("OK"));
+    });
+
+    choose(QStringLiteral("Create region"));
+
+    EXPECT_TRUE(said.contains(QStringLiteral("did not accept this change: Create region."))) << said.toStdString();
+    window().actions().refresh->trigger();
+    settle();
+    EXPECT_TRUE(childrenOf(QStringLiteral("Printers")).contains(QStringLiteral("Berlin West")));
+}
+
+TEST_F(RefusedChange, whatIsNotOpenedAgainIsForgotten) {
+    open();
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("Berlin"));
+        press(dialog, QStringLiteral("OK"));
+    });
+    whenAsked([](QDialog& box) { press(box, QStringLiteral("Close")); });
+    choose(QStringLiteral("Create region"));
+    QString name;
+    whenAsked([&](QDialog& dialog) {
+        name = dialog.findChildren<QLineEdit*>()[0]->text();
+        press(dialog, QStringLiteral("Cancel"));
+    });
+
+    choose(QStringLiteral("Create region"));
+
+    EXPECT_EQ(QString(), name);
+}
+
+TEST_F(RefusedChange, aNameThatIsTakenComesBackIntoTheBoxForTheName) {
+    open(QStringLiteral("Printers/Berlin"));
+    whenAsked([](QDialog& box) { press(box, QString::fromLatin1(openAgain)); });
+    renameTo(QStringLiteral("München"));
+    settle();
+
+    QLineEdit* const editor = nameBox();
+    ASSERT_NE(nullptr, editor);
+    EXPECT_EQ(QStringLiteral("München"), editor->text());
+    editor->setText(QStringLiteral("Berlin East"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(childrenOf(QStringLiteral("Printers")).contains(QStringLiteral("Berlin East")));
+}
+
+TEST_F(RefusedChange, aPricePlanStaysOpenWithWhatWasTypedWhileTheServerIsDown) {
+    open(QStringLiteral("Rules/Price Plans"));
+    QString said;
+    whenAsked([&](QDialog& dialog) {
+        server.stop();
+        auto* const name = dialog.findChildren<QLineEdit*>()[0];
+        type(dialog, 0, QStringLiteral("Night"));
+        whenAsked([&](QDialog& box) {
+            said = textOf(box);
+            press(box, QStringLiteral("Close"));
+        });
+        whenAsked([&, name](QDialog& plan) {
+            EXPECT_EQ(QStringLiteral("Night"), name->text());
+            server.restart();
+            whenAsked([](QDialog& box) { press(box, QStringLiteral("Log In Again...")); });
+            whenAsked([](QDialog& login) {
+                type(login, 3, QStringLiteral("secret-pw"));
+                press(login, QStringLiteral("Login"));
+            });
+            press(plan, QStringLiteral("OK"));
+        });
+        press(dialog, QStringLiteral("OK"));
+    });
+
+    choose(QStringLiteral("New Price Plan..."));
+
+    EXPECT_TRUE(said.contains(QStringLiteral("can't be reached"))) << said.toStdString();
+    EXPECT_TRUE(rows().contains(QStringLiteral("Night")));
+}
+
+TEST_F(RefusedChange, aRenameWhileTheServerIsDownKeepsTheOldNameAndTheNewOneInItsBox) {
+    open(QStringLiteral("Printers/Berlin"));
+    server.stop();
+    whenAsked([](QDialog& box) { press(box, QStringLiteral("Close")); });
+    renameTo(QStringLiteral("Berlin East"));
+    settle();
+
+    EXPECT_TRUE(childrenOf(QStringLiteral("Printers")).contains(QStringLiteral("Berlin")));
+    const QLineEdit* const editor = nameBox();
+    ASSERT_NE(nullptr, editor);
+    EXPECT_EQ(QStringLiteral("Berlin East"), editor->text());
+}
+
+TEST_F(RefusedChange, aMoveWhileTheServerIsDownIsTold) {
+    open(QStringLiteral("Printers/München"));
+    selectRow(QStringLiteral("MUC-001"));
+    window().actions().cut->trigger();
+    settle();
+    show(QStringLiteral("Printers/Łódź"));
+    ASSERT_TRUE(window().actions().paste->isEnabled());
+    server.stop();
+    QString said;
+    whenAsked([&](QDialog& box) {
+        said = textOf(box);
+        press(box, QStringLiteral("Close"));
+    });
+
+    window().actions().paste->trigger();
+    settle();
+
+    EXPECT_TRUE(said.contains(QStringLiteral("Nothing was changed"))) << said.toStdString();
+}
+
+TEST_F(RefusedChange, aChangeThatIsAcceptedIsNotSpokenOf) {
+    open();
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("North"));
+        press(dialog, QStringLiteral("OK"));
+    });
+
+    choose(QStringLiteral("Create region"));
+
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
+}
+
+} // namespace
+} // namespace desktoptest
