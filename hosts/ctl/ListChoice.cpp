@@ -62,7 +62,7 @@ std::int32_t columnOrRefused(const wire::WideString& name, std::span<const wire:
 void sortBy(std::vector<const shell::Row*>& rows, const ListChoice& choice, std::span<const wire::WideString> titles) {
     for (const auto& key : std::views::reverse(choice.sort)) {
         if (const auto column = shell::columnCalled(key.column, titles)) {
-            shell::sortRows(rows, shell::SortOrder{.column = *column, .ascending = !key.descending});
+            shell::sortByColumn(rows, shell::SortOrder{.column = *column, .ascending = !key.descending});
         }
     }
 }

@@ -3,7 +3,7 @@
 #include "shell/SortKeys.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <numeric>
 
 namespace shell {
 namespace {
@@ -12,10 +12,7 @@ using Rows = std::span<const Row*>;
 using Places = std::span<const std::uint32_t>;
 
 // The number of rows that are sorted together with the first one.
-std::size_t lengthOfRun(Rows rows, const std::optional<SortOrder>& order) {
-    if (order) {
-        return rows.size();
-    }
+std::size_t lengthOfRun(Rows rows) {
     const Row& first = *rows.front();
     const auto& name = first.node->className();
     const auto end = std::ranges::find_if(rows, [&](const Row* row) {
@@ -36,7 +33,8 @@ std::vector<std::uint32_t> placesInRun(Places likely, std::size_t begin) {
     return places;
 }
 
-void sortRun(Rows run, const SortOrder& order, Places likely) {
+// Returns the ties.
+std::vector<SortKeys::Tie> sortRun(Rows run, const SortOrder& order, Places likely) {
     SortKeys keys;
     keys.reserve(run.size());
     for (const Row* const row : run) {
@@ -49,39 +47,41 @@ void sortRun(Rows run, const SortOrder& order, Places likely) {
     const std::vector<const Row*> before(run.begin(), run.end());
     std::ranges::transform(keys.sorted(order.ascending, likely), run.begin(),
                            [&](auto place) { return before[place]; });
+    return keys.ties();
 }
 
-// Puts rows into their natural order, which those that are equal in a column keep. Returns the likely positions for
-// that order.
-std::vector<std::uint32_t> sortNaturally(std::vector<const Row*>& rows, Places likely) {
-    const std::vector<const Row*> before = rows;
-    sortRows(rows, std::nullopt);
-    std::unordered_map<const Row*, std::uint32_t> places;
-    places.reserve(likely.size());
-    for (std::uint32_t place = 0; place < rows.size() && !likely.empty(); ++place) {
-        places.emplace(rows[place], place);
+void sortNaturally(Rows rows, Places likely) {
+    for (std::size_t begin = 0; begin < rows.size();) {
+        const auto rest = rows.subspan(begin);
+        const auto length = lengthOfRun(rest);
+        const auto places =
+            likely.empty() ? std::vector<std::uint32_t>() : placesInRun(likely.subspan(begin, length), begin);
+        sortRun(rest.first(length), SortOrder(), places);
+        begin += length;
     }
-    std::vector<std::uint32_t> next(likely.size());
-    std::ranges::transform(likely, next.begin(), [&](std::uint32_t place) { return places.at(before[place]); });
-    return next;
+}
+
+// Most ties are in order already.
+void sortTie(Rows rows) {
+    std::vector<std::uint32_t> asTheyAre(rows.size());
+    std::iota(asTheyAre.begin(), asTheyAre.end(), std::uint32_t{0});
+    sortNaturally(rows, asTheyAre);
 }
 
 } // namespace
 
 void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order, Places likely) {
-    std::vector<std::uint32_t> likelyNow;
-    if (order && order->column != 0) {
-        likelyNow = sortNaturally(rows, likely);
-        likely = likelyNow;
+    if (!order) {
+        sortNaturally(rows, likely);
+        return;
     }
-    for (std::size_t begin = 0; begin < rows.size();) {
-        const auto rest = Rows(rows).subspan(begin);
-        const auto length = lengthOfRun(rest, order);
-        const auto places =
-            likely.empty() ? std::vector<std::uint32_t>() : placesInRun(likely.subspan(begin, length), begin);
-        sortRun(rest.first(length), order.value_or(SortOrder()), places);
-        begin += length;
+    for (const auto& tie : sortRun(rows, *order, likely)) {
+        sortTie(Rows(rows).subspan(tie.begin, tie.length));
     }
+}
+
+void sortByColumn(std::vector<const Row*>& rows, const SortOrder& order) {
+    sortRun(rows, order, {});
 }
 
 } // namespace shell

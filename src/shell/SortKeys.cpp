@@ -34,15 +34,38 @@ void SortKeys::addKey(std::size_t begin) {
 std::vector<std::uint32_t> SortKeys::sorted(bool ascending, std::span<const std::uint32_t> likely) {
     skipCommonBeginning();
     setHeads();
-    const auto inOrder = [this, ascending](const Key& a, const Key& b) { return stands(a, b, ascending); };
-    const auto key = [this](std::uint32_t place) -> const Key& { return keys_[place]; };
-    if (likely.size() == keys_.size() && std::ranges::is_sorted(likely, inOrder, key)) {
+    const auto likelyKey = [&](std::size_t position) -> const Key& { return keys_[likely[position]]; };
+    const auto inOrder = [&](std::uint32_t a, std::uint32_t b) {
+        const int compared = compare(keys_[a], keys_[b]);
+        return ascending ? compared < 0 : compared > 0;
+    };
+    if (likely.size() == keys_.size() && std::ranges::is_sorted(likely, inOrder)) {
+        findTies(likelyKey);
         return {likely.begin(), likely.end()};
     }
-    std::ranges::sort(keys_, inOrder);
+    std::ranges::sort(keys_, [&](const Key& a, const Key& b) {
+        const int compared = ascending ? compare(a, b) : compare(b, a);
+        return compared != 0 ? compared < 0 : a.place < b.place;
+    });
+    findTies([&](std::size_t position) -> const Key& { return keys_[position]; });
     std::vector<std::uint32_t> places(keys_.size());
     std::ranges::transform(keys_, places.begin(), &Key::place);
     return places;
+}
+
+template <class KeyAt>
+void SortKeys::findTies(KeyAt keyAt) {
+    ties_.clear();
+    for (std::size_t begin = 0; begin < keys_.size();) {
+        auto end = begin + 1;
+        while (end < keys_.size() && compare(keyAt(begin), keyAt(end)) == 0) {
+            ++end;
+        }
+        if (end - begin > 1) {
+            ties_.push_back({.begin = begin, .length = end - begin});
+        }
+        begin = end;
+    }
 }
 
 void SortKeys::skipCommonBeginning() {
@@ -72,14 +95,11 @@ void SortKeys::setHeads() {
     }
 }
 
-bool SortKeys::stands(const Key& before, const Key& after, bool ascending) const {
-    const Key& lower = ascending ? before : after;
-    const Key& upper = ascending ? after : before;
-    if (lower.head != upper.head) {
-        return lower.head < upper.head;
+int SortKeys::compare(const Key& a, const Key& b) const {
+    if (a.head != b.head) {
+        return a.head < b.head ? -1 : 1;
     }
-    const int compared = textOf(lower).compare(textOf(upper));
-    return compared != 0 ? compared < 0 : before.place < after.place;
+    return textOf(a).compare(textOf(b));
 }
 
 } // namespace shell

@@ -17,9 +17,16 @@ public:
     // Numbers sort by value, after rows with an empty text.
     void add(std::int64_t number);
     // The positions of the texts, counted in the order in which they were added, sorted in natural order; equal ones as
-    // added. `likely` is a guess of the result, a permutation of all positions, or empty. Nothing can be added
-    // afterwards.
+    // added. `likely` is a guess of the result, a permutation of all positions, or empty; when it is right, equal texts
+    // stand as they do there. Nothing can be added afterwards.
     std::vector<std::uint32_t> sorted(bool ascending, std::span<const std::uint32_t> likely = {});
+
+    // A part of what was sorted last, with two equal texts or more.
+    struct Tie {
+        std::size_t begin = 0;
+        std::size_t length = 0;
+    };
+    [[nodiscard]] const std::vector<Tie>& ties() const { return ties_; }
 
 private:
     struct Key {
@@ -33,10 +40,14 @@ private:
     [[nodiscard]] wire::WideStringView textOf(const Key& key) const { return {units_.data() + key.begin, key.length}; }
     void skipCommonBeginning();
     void setHeads();
-    [[nodiscard]] bool stands(const Key& before, const Key& after, bool ascending) const;
+    // Negative when the first text is the lower one, zero when both are equal.
+    [[nodiscard]] int compare(const Key& a, const Key& b) const;
+    template <class KeyAt>
+    void findTies(KeyAt keyAt);
 
     wire::WideString units_;
     std::vector<Key> keys_;
+    std::vector<Tie> ties_;
 };
 
 } // namespace shell

@@ -59,8 +59,21 @@ TEST(SortKeys, aWrongLikelyOrderDoesNoHarm) {
     EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {1, 2}), (Places{1, 2, 0}));
 }
 
-TEST(SortKeys, aLikelyOrderThatSwapsEqualTextsIsWrong) {
-    EXPECT_EQ(sorted({u"x", u"x"}, true, {1, 0}), (Places{0, 1}));
+TEST(SortKeys, equalTextsStandAsInTheLikelyOrderWhenItIsRight) {
+    EXPECT_EQ(sorted({u"x", u"x"}, true, {1, 0}), (Places{1, 0}));
+}
+
+TEST(SortKeys, theTiesAreThePartsWithEqualTexts) {
+    shell::SortKeys keys;
+    for (const auto* const text : {u"b", u"a", u"c", u"B", u"c", u"d"}) {
+        keys.add(wire::WideStringView(text));
+    }
+    EXPECT_EQ(keys.sorted(true), (Places{1, 0, 3, 2, 4, 5}));
+    ASSERT_EQ(keys.ties().size(), 2U);
+    EXPECT_EQ(keys.ties()[0].begin, 1U);
+    EXPECT_EQ(keys.ties()[0].length, 2U);
+    EXPECT_EQ(keys.ties()[1].begin, 3U);
+    EXPECT_EQ(keys.ties()[1].length, 2U);
 }
 
 TEST(SortKeys, noTextsHaveNoPlaces) {

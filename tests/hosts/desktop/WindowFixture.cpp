@@ -30,18 +30,30 @@ void WindowFixture::SetUp() {
     viewSettings = std::make_unique<desktop::ViewSettings>(folder.filePath(QStringLiteral("view.ini")));
     watch_.setInterval(5);
     watch_.callOnTimeout([this] {
+        if (commands_.running > 0) {
+            return;
+        }
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         const bool isNew = dialog != seen_;
         seen_ = dialog;
         if (dialog != nullptr && isNew && !acts_.empty()) {
-            const auto act = std::move(acts_.front());
-            acts_.pop_front();
             // Not from within the timer, which would not fire while a box is open over the dialog.
             QMetaObject::invokeMethod(
-                dialog, [act, dialog] { act(*dialog); }, Qt::QueuedConnection);
+                dialog, [this, dialog] { actOn(*dialog); }, Qt::QueuedConnection);
         }
     });
     watch_.start();
+}
+
+// A dialog is also in front for a moment between two others that open over it.
+void WindowFixture::actOn(QDialog& dialog) {
+    if (QApplication::activeModalWidget() != &dialog) {
+        seen_ = nullptr;
+    } else if (!acts_.empty()) {
+        const auto act = std::move(acts_.front());
+        acts_.pop_front();
+        act(dialog);
+    }
 }
 
 void WindowFixture::TearDown() {
@@ -54,6 +66,8 @@ void WindowFixture::TearDown() {
 
 void WindowFixture::makeWindow() {
     session_ = std::make_unique<desktop::Session>(settings);
+    commands_.running = 0;
+    session_->observers().add(commands_);
     window_ = std::make_unique<desktop::MainWindow>(*session_, *viewSettings, icons);
     window_->resize(1000, 600);
     window_->show();

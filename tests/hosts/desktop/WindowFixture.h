@@ -30,8 +30,8 @@ protected:
     // Opens a window that asks for the login.
     void openWithDialog();
 
-    // Acts on the next dialogs, each once it is in front, in the order of the calls. A dialog that comes to the front
-    // again counts as the next one.
+    // Acts on the next dialogs, each once it is in front and no command runs, in the order of the calls. A dialog that
+    // comes to the front again counts as the next one.
     void whenAsked(std::function<void(QDialog&)> act);
     // Presses the button with that text, access key or not.
     static void press(QWidget& dialog, const QString& button);
@@ -61,8 +61,17 @@ protected:
     desktop::IconStrips icons;
 
 private:
-    void makeWindow();
+    // Counts the commands that run. The dialog beneath is in front while one does, until the next dialog opens.
+    struct Commands final : shell::ShellObserver {
+        void commandStarted(const client::CommandReport& /*report*/) override { ++running; }
+        void commandEnded(const client::CommandReport& /*report*/) override { --running; }
+        int running = 0;
+    };
 
+    void makeWindow();
+    void actOn(QDialog& dialog);
+
+    Commands commands_;
     std::unique_ptr<desktop::Session> session_;
     std::unique_ptr<desktop::MainWindow> window_;
     std::deque<std::function<void(QDialog&)>> acts_;

@@ -111,15 +111,19 @@ TEST_F(Selection, shiftF10OpensTheMenuOfTreeAndList) {
 }
 
 TEST_F(Selection, rowsThatAreEqualInAColumnKeepTheirNaturalOrderInBothDirections) {
-    open(QStringLiteral("Printers/München"));
+    open(QStringLiteral("Printers/Berlin/Warehouse"));
+    const auto& columns = shell().header().columns();
+    const auto found = std::ranges::find(columns, wire::WideString(u"Jobs In Queue"), &shell::ShownColumn::title);
+    ASSERT_NE(columns.end(), found);
+    const auto jobs = static_cast<std::int32_t>(found - columns.begin());
     const auto namesOf = [&](bool ascending) {
         session().operations().perform([&](shell::Shell& console) {
-            console.sort(shell::SortOrder{1, ascending});
+            console.sort(shell::SortOrder{jobs, ascending});
             return true;
         });
         QStringList names;
         for (std::size_t row = 0; row < shell().pane().rowCount(); ++row) {
-            if (desktop::toQString(shell().pane().cell(row, 1)).startsWith(QStringLiteral("LaserOne"))) {
+            if (desktop::toQString(shell().pane().cell(row, jobs)) == QStringLiteral("0")) {
                 names += desktop::toQString(shell().pane().cell(row, 0));
             }
         }
@@ -128,7 +132,7 @@ TEST_F(Selection, rowsThatAreEqualInAColumnKeepTheirNaturalOrderInBothDirections
     const QStringList up = namesOf(true);
     const QStringList down = namesOf(false);
 
-    EXPECT_FALSE(up.isEmpty());
+    EXPECT_LT(2, up.size());
     EXPECT_EQ(up, down);
     EXPECT_TRUE(std::ranges::is_sorted(up));
 }
