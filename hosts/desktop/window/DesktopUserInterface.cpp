@@ -52,7 +52,7 @@ int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*o
     return form.result();
 }
 
-int DesktopUserInterface::show(forms::Form& form) {
+int DesktopUserInterface::show(forms::Form& form) const {
     if (beforeForm) {
         beforeForm(form);
     }

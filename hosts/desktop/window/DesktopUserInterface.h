@@ -46,7 +46,7 @@ public:
 
 private:
     bool logIn(snapin::AuthenticationDlg& dialog);
-    int show(forms::Form& form);
+    int show(forms::Form& form) const;
 
     QPointer<QWidget> mainWindow_;
     std::optional<wire::WideString> password_;
