@@ -58,8 +58,8 @@ struct FilterQuery {
 // A condition on a column that has no value yet, as while it is being typed, is left out.
 [[nodiscard]] FilterQuery parseFilter(wire::WideStringView text, std::span<const wire::WideString> titles);
 
-// The column that a name refers to: the one with that title, or else the first whose title begins with the name, or else
-// the first with a later word that begins with it; without regard to case and blanks.
+// The column that a name refers to: the one with that title, or else the first whose title begins with the name, or
+// else the first with a later word that begins with it; without regard to case and blanks.
 [[nodiscard]] std::optional<std::int32_t> columnCalled(wire::WideStringView name,
                                                        std::span<const wire::WideString> titles);
 

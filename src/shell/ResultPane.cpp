@@ -180,6 +180,7 @@ void ResultPane::beginFiltered(wire::WideStringView text) {
 
 void ResultPane::setTitles(std::vector<wire::WideString> titles) {
     titles_ = std::move(titles);
+    ++revision_;
     if (!filterText_.empty()) {
         filter_ = RowFilter(filterText_, titles_);
         reset(arranged());
@@ -231,6 +232,7 @@ void ResultPane::redraw() {
         console::ResultItemFields item{.mask = console::resultMask::image, .nImage = row->image};
         row->node->GetResultPaneInfo(item);
         row->image = item.nImage;
+        ++revision_;
         if (place) {
             observers_.tell([&](auto& observer) { observer.rowsChanged(*place, 1); });
         }
@@ -246,6 +248,7 @@ void ResultPane::commitRows() {
     if (!working_ && !nextScope_) {
         return;
     }
+    ++revision_;
     const auto oldScope = std::exchange(scopeRows_, {}); // the shown rows point here until the end
     const auto oldRows = std::exchange(rows_, {});
     if (nextScope_) {

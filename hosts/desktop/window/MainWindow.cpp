@@ -279,6 +279,10 @@ void MainWindow::connectActions() {
         run([item](shell::Shell& shell) { return shell.select(item); });
     };
     panes_->filter().onFiltered = [this] { showStateSoon(); };
+    status_.parts().onPressed = [this](const shell::ListPart& part) {
+        const auto filter = toWideString(panes_->filter().text());
+        panes_->filter().setText(toQString(shell::toggled(filter, part, session_.shell().pane().titles())));
+    };
     panes_->search().onMessage = [this](const QString& message) {
         statusBar()->showMessage(message, message.isEmpty() ? 1 : messageTime);
     };

@@ -33,6 +33,7 @@ public:
     AutoRefresh& autoRefresh() { return autoRefresh_; }
     [[nodiscard]] const Actions& actions() const { return actions_; }
     [[nodiscard]] const ContextMenus& menus() const { return menus_; }
+    StatusLine& status() { return status_; }
     [[nodiscard]] const WaitIndicator& waitIndicator() const { return wait_; }
     void showAbout();
     void showShortcuts();

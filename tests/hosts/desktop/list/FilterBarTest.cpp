@@ -42,8 +42,7 @@ TEST_F(FilterOfList, isMarkedWhileItNamesAColumnThatTheListDoesNotHave) {
 
     type(QStringLiteral("colour:red"));
 
-    const QString problem =
-        QStringLiteral("There is no column \"colour\"; the filter takes this part as plain text.");
+    const QString problem = QStringLiteral("There is no column \"colour\"; the filter takes this part as plain text.");
     EXPECT_EQ(1, marks());
     EXPECT_EQ(problem, panes().filter().accessibleDescription());
     EXPECT_TRUE(panes().filter().toolTip().contains(QStringLiteral("There is no column")));
