@@ -115,12 +115,15 @@ int ColumnLayout::contentsWidth(int column) const {
     return widest == 0 ? 0 : std::min(widest + cellMargins + (column == 0 ? iconWidth : 0), widestContents);
 }
 
-// Where there is little room, the texts of a column matter more than its title.
+// Where there is little room, no column is wider than its texts and its title, and the texts matter more than the
+// title.
 std::vector<ColumnWish> ColumnLayout::wishes() const {
     const auto& columns = operations_.shell().header().columns();
     std::vector<ColumnWish> roomy;
+    std::vector<ColumnWish> snug;
     std::vector<ColumnWish> tight;
     int needed = 0;
+    int neededByTexts = 0;
     for (int column = 0; column < header_.count(); ++column) {
         const auto width = static_cast<std::size_t>(column) < columns.size()
                                ? columns[static_cast<std::size_t>(column)].width
@@ -129,10 +132,12 @@ std::vector<ColumnWish> ColumnLayout::wishes() const {
         const int title = header_.sectionSizeHint(column);
         const int contents = contentsWidth(column);
         roomy.push_back({std::max({own, title, contents}), std::max({title, contents, leastWidth})});
+        snug.push_back({std::max(title, contents), std::max(contents, leastWidth)});
         tight.push_back({std::max(own, contents), std::min(title, std::max(contents, leastWidth))});
         needed += roomy.back().least;
+        neededByTexts += snug.back().least;
     }
-    return needed <= header_.width() ? roomy : tight;
+    return needed <= header_.width() ? roomy : neededByTexts <= header_.width() ? snug : tight;
 }
 
 void ColumnLayout::fit() {

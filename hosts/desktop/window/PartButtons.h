@@ -11,8 +11,8 @@ class QToolButton;
 
 namespace desktop {
 
-// What the list holds ("3 with errors", "17 jobs"), each a button that filters the list by it. Those that don't fit into
-// the width are left out from the end.
+// What the list holds ("3 with errors", "17 jobs"), each a button that filters the list by it. Those that don't fit
+// into the width are left out from the end.
 class PartButtons final : public QWidget {
 public:
     explicit PartButtons(QWidget* parent = nullptr);
