@@ -171,6 +171,20 @@ void ColumnLayout::reset() {
 
 void ColumnLayout::showMenu(const QPoint& globalPosition) {
     QMenu menu(&header_);
+    fill(menu);
+    menu.exec(globalPosition);
+}
+
+QMenu* ColumnLayout::addMenu(QMenu& menu) {
+    QMenu* const columns = menu.addMenu(QStringLiteral("C&olumns"));
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
+        columns->clear();
+        fill(*columns);
+    });
+    return columns;
+}
+
+void ColumnLayout::fill(QMenu& menu) {
     for (int place = 0; place < header_.count(); ++place) {
         const int column = header_.logicalIndex(place);
         const QString title = header_.model()->headerData(column, Qt::Horizontal).toString();
@@ -182,7 +196,6 @@ void ColumnLayout::showMenu(const QPoint& globalPosition) {
     }
     menu.addSeparator();
     connect(menu.addAction(QStringLiteral("&Reset Columns")), &QAction::triggered, this, [this] { reset(); });
-    menu.exec(globalPosition);
 }
 
 bool ColumnLayout::isHidden(int column) const {

@@ -41,6 +41,7 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
       status_(*statusBar(), session.operations(), session.age()),
       wait_(session.operations(), session.observers(), *this),
       autoRefresh_(session.operations(), settings, *this),
+      look_(settings),
       logins_(session.platform(), session.ui(), settings) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Vantrel Manager"));
@@ -134,7 +135,11 @@ void MainWindow::makeMenus() {
     QMenu* const view = menuBar()->addMenu(QStringLiteral("&View"));
     view->addAction(actions_.refresh);
     autoRefresh_.addTo(*view);
+    panes_->list().columns().addMenu(*view);
     view->addAction(actions_.resetColumns);
+    view->addSeparator();
+    look_.addTo(*view);
+    look_.onMessage = [this](const QString& message) { statusBar()->showMessage(message, messageTime); };
     view->addSeparator();
     QAction* const log = activity_->toggleViewAction();
     log->setText(QStringLiteral("Activity &Log"));
