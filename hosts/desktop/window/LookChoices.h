@@ -11,8 +11,8 @@ class QMenu;
 
 namespace desktop {
 
-// What the View menu offers for the look of the whole program: light or dark, which changes at once, and the scale, with
-// which a program can only start. Both are remembered.
+// What the View menu offers for the look of the whole program: light or dark, which changes at once, and the scale,
+// with which a program can only start. Both are remembered.
 class LookChoices final : public QObject {
 public:
     // It outlives this.
