@@ -293,9 +293,6 @@ void MainWindow::connectActions() {
     };
     panes_->notice().onRetry = [this] { run(&shell::Shell::refreshList); };
     panes_->notice().onLogin = [this] { logIn(LoginKeeper::current()); };
-    panes_->notice().onRetry = [this] {
-        run([](shell::Shell& shell) { return shell.selectRow(0) && shell.refresh(); });
-    };
 }
 
 void MainWindow::goUp() {
