@@ -19,7 +19,7 @@ protected:
         QApplication::setStyle(style_);
         QApplication::setPalette(palette_);
     }
-    static QAction* entry(const QList<QAction*>& actions, QString text) {
+    static QAction* entry(const QList<QAction*>& actions, const QString& text) {
         for (QAction* const action : actions) {
             if (action->text().remove(QLatin1Char('&')) == text) {
                 return action;
