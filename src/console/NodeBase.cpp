@@ -421,8 +421,16 @@ void NodeBase::insertRows(IConsole& console) const {
         return;
     }
     list->DeleteAllRsltItems();
-    for (NodeBase* row : rows()) {
-        list->InsertItem(row->result_);
+    const auto nodes = rows();
+    // The nodes of a long list are far apart in memory: the processor fetches a few ahead.
+    constexpr std::size_t ahead = 16;
+    for (std::size_t place = 0; place < nodes.size(); ++place) {
+        if (place + ahead < nodes.size()) {
+            const auto& later = nodes[place + ahead]->result_;
+            __builtin_prefetch(&later.itemID);
+            __builtin_prefetch(&later.lParam);
+        }
+        list->InsertItem(nodes[place]->result_);
     }
 }
 
