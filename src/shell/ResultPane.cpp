@@ -19,13 +19,19 @@ std::vector<std::intptr_t> idsOf(const std::vector<const Row*>& rows) {
     return ids;
 }
 
-bool sameIds(const std::vector<Row>& a, const std::vector<Row>& b) {
-    return std::ranges::equal(a, b, {}, &Row::id, &Row::id);
-}
-
 } // namespace
 
+std::span<const Row> ResultPane::current() const {
+    if (working_) {
+        return *working_;
+    }
+    return std::span(rows_).first(again_.value_or(rows_.size()));
+}
+
 Result ResultPane::InsertItem(console::ResultItemFields& row) {
+    if (insertAgain(row)) {
+        return Result::ok;
+    }
     auto node = row.lParam != nullptr ? takeNode(*row.lParam) : nullptr;
     if (!node) {
         return Result::failed;
@@ -42,6 +48,22 @@ Result ResultPane::InsertItem(console::ResultItemFields& row) {
     }
     working_->push_back({std::move(node), row.itemID, row.nImage});
     return Result::ok;
+}
+
+bool ResultPane::insertAgain(const console::ResultItemFields& row) {
+    if (!again_ || *again_ == rows_.size()) {
+        return false;
+    }
+    const Row& next = rows_[*again_];
+    if (row.lParam != next.node.get() || row.itemID != next.id || row.nImage != next.image) {
+        return false;
+    }
+    greatest_ = std::max(greatest_, next.id);
+    if (places_) {
+        places_->emplace(next.id, *again_);
+    }
+    ++*again_;
+    return true;
 }
 
 Result ResultPane::DeleteItem(ResultId itemId, std::int32_t /*column*/) {
@@ -67,7 +89,8 @@ Result ResultPane::DeleteAllRsltItems() {
     if (working_) {
         discarded_ = std::move(*working_);
     }
-    working_.emplace().reserve(rows_.size());
+    working_.reset();
+    again_ = 0;
     places_.reset();
     greatest_ = 0;
     follows_ = true;
@@ -85,7 +108,10 @@ std::shared_ptr<console::CSnapInItem> ResultPane::takeNode(console::CSnapInItem&
 
 void ResultPane::beginChange() {
     if (!working_) {
-        working_ = rows_;
+        const auto rows = current();
+        working_.emplace().reserve(rows_.size());
+        working_->assign(rows.begin(), rows.end());
+        again_.reset();
     }
 }
 
@@ -101,7 +127,7 @@ bool ResultPane::isTaken(ResultId id) {
 
 std::unordered_map<ResultId, std::size_t>& ResultPane::places() {
     if (!places_) {
-        const auto& rows = current();
+        const auto rows = current();
         places_.emplace().reserve(rows.size());
         for (std::size_t place = 0; place < rows.size(); ++place) {
             places_->emplace(rows[place].id, place);
@@ -121,7 +147,7 @@ const Row* ResultPane::find(ResultId id) const {
         const auto found = std::ranges::find(scopeRows, id, &Row::id);
         return found != scopeRows.end() ? &*found : nullptr;
     }
-    const auto& rows = current();
+    const auto rows = current();
     if (places_) {
         const auto place = places_->find(id);
         return place != places_->end() ? &rows[place->second] : nullptr;
@@ -131,7 +157,7 @@ const Row* ResultPane::find(ResultId id) const {
 }
 
 const Row* ResultPane::findLike(const console::CSnapInItem& node) const {
-    const auto& rows = current();
+    const auto rows = current();
     const auto key = node.refreshKey();
     const auto found = std::ranges::find_if(rows, [&](const Row& row) {
         return row.node && row.node->className() == node.className() && row.node->refreshKey() == key;
@@ -180,7 +206,6 @@ void ResultPane::beginFiltered(wire::WideStringView text) {
 
 void ResultPane::setTitles(std::vector<wire::WideString> titles) {
     titles_ = std::move(titles);
-    ++revision_;
     if (!filterText_.empty()) {
         filter_ = RowFilter(filterText_, titles_);
         reset(arranged());
@@ -200,26 +225,23 @@ std::vector<const Row*> ResultPane::passing() const {
     return rows;
 }
 
-std::vector<const Row*> ResultPane::arranged() const {
+std::vector<const Row*> ResultPane::sorted() const {
     auto rows = passing();
     sortRows(rows, order_);
     return rows;
 }
 
-std::vector<const Row*> ResultPane::arrangedLike(const std::vector<Row>& scopeBefore,
-                                                 const std::vector<Row>& before) const {
-    auto rows = passing();
-    std::vector<std::uint32_t> places;
-    if (rows.size() == shown_.size() && rows.size() == unfilteredCount() && sameIds(scopeBefore, scopeRows_) &&
-        sameIds(before, rows_)) {
-        places.resize(rows.size());
-        std::ranges::transform(shown_, places.begin(), [&](const Row* row) {
-            return static_cast<std::uint32_t>(row->isScopeItem() ? row - scopeBefore.data()
-                                                                 : std::ssize(scopeBefore) + (row - before.data()));
-        });
+std::vector<const Row*> ResultPane::arranged() {
+    stand();
+    return sorted();
+}
+
+bool ResultPane::stand() {
+    if (filter_.empty()) {
+        return digests_.note({&scopeRows_, &rows_}, order_);
     }
-    sortRows(rows, order_, places);
-    return rows;
+    digests_.forget();
+    return false;
 }
 
 void ResultPane::redraw() {
@@ -232,7 +254,6 @@ void ResultPane::redraw() {
         console::ResultItemFields item{.mask = console::resultMask::image, .nImage = row->image};
         row->node->GetResultPaneInfo(item);
         row->image = item.nImage;
-        ++revision_;
         if (place) {
             observers_.tell([&](auto& observer) { observer.rowsChanged(*place, 1); });
         }
@@ -245,22 +266,18 @@ void ResultPane::commit() {
 }
 
 void ResultPane::commitRows() {
-    if (!working_ && !nextScope_) {
+    if (!working_ && !nextScope_ && !again_) {
         return;
     }
-    ++revision_;
-    const auto oldScope = std::exchange(scopeRows_, {}); // the shown rows point here until the end
-    const auto oldRows = std::exchange(rows_, {});
-    if (nextScope_) {
-        scopeRows_.swap(*nextScope_);
-    } else {
-        scopeRows_ = oldScope;
+    if (again_ && *again_ < rows_.size()) {
+        beginChange();
     }
-    if (working_) {
-        rows_.swap(*working_);
-    } else {
-        rows_ = oldRows;
-    }
+    again_.reset();
+    const bool otherRows = working_.has_value();
+    const bool otherScope = nextScope_.has_value();
+    // The shown rows point to the old ones until the end.
+    const auto oldScope = otherScope ? std::exchange(scopeRows_, std::move(*nextScope_)) : std::vector<Row>();
+    const auto oldRows = otherRows ? std::exchange(rows_, std::move(*working_)) : std::vector<Row>();
     nextScope_.reset();
     working_.reset();
     discarded_.clear();
@@ -268,9 +285,23 @@ void ResultPane::commitRows() {
     if (std::erase_if(rows_, [](const Row& row) { return !row.node; }) != 0) {
         places_.reset();
     }
-    auto next = arrangedLike(oldScope, oldRows);
+    if (stand()) {
+        if (otherRows || otherScope) {
+            follow(otherScope ? oldScope : scopeRows_, otherRows ? oldRows : rows_);
+        }
+        tellChanged();
+        return;
+    }
+    auto next = sorted();
     keepTopRow(next);
     show(std::move(next));
+}
+
+void ResultPane::follow(const std::vector<Row>& scopeBefore, const std::vector<Row>& before) {
+    for (const Row*& row : shown_) {
+        row =
+            row->isScopeItem() ? scopeRows_.data() + (row - scopeBefore.data()) : rows_.data() + (row - before.data());
+    }
 }
 
 void ResultPane::keepTopRow(const std::vector<const Row*>& next) {
@@ -313,6 +344,10 @@ void ResultPane::show(std::vector<const Row*> next) {
         }
     }
     shown_ = std::move(next);
+    tellChanged();
+}
+
+void ResultPane::tellChanged() {
     if (!shown_.empty()) {
         observers_.tell([&](auto& observer) { observer.rowsChanged(0, shown_.size()); });
     }

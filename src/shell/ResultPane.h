@@ -3,10 +3,12 @@
 #include "console/IResultData.h"
 #include "shell/Observers.h"
 #include "shell/Row.h"
+#include "shell/RowDigests.h"
 #include "shell/RowFilter.h"
 #include "shell/SortOrder.h"
 
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -31,14 +33,7 @@ public:
     std::optional<std::size_t> indexOf(console::ResultId id) const;
     // See cellOf.
     wire::WideStringView cell(std::size_t index, std::int32_t column) const { return cellOf(row(index), column); }
-    // All rows, those that the filter hides included, in the order in which they were inserted.
     std::size_t unfilteredCount() const { return scopeRows_.size() + rows_.size(); }
-    const Row& unfilteredRow(std::size_t index) const {
-        return index < scopeRows_.size() ? scopeRows_[index] : rows_[index - scopeRows_.size()];
-    }
-    const std::vector<wire::WideString>& titles() const { return titles_; }
-    // Grows whenever rows, their texts or the columns may have changed; neither sorting nor filtering changes it.
-    std::uint64_t revision() const { return revision_; }
 
     // Rows equal in the column keep their order. Without an order, neighbours of one class are in the natural order of
     // their first column.
@@ -74,9 +69,11 @@ public:
 
 private:
     // The rows as handlers have them.
-    const std::vector<Row>& current() const { return working_ ? *working_ : rows_; }
+    std::span<const Row> current() const;
     void commitRows();
     void redraw();
+    // True when the row is the next one of rows_, and nothing else has come since all rows were removed.
+    bool insertAgain(const console::ResultItemFields& row);
     // The node of the row that comes next; null when nobody owns it.
     std::shared_ptr<console::CSnapInItem> takeNode(console::CSnapInItem& node);
     void beginChange();
@@ -84,23 +81,31 @@ private:
     // The positions of the rows in current(), by their ids. Built on first use.
     std::unordered_map<console::ResultId, std::size_t>& places();
     std::vector<const Row*> passing() const;
-    std::vector<const Row*> arranged() const;
-    // The same for rows that are probably in the same order as the previous ones, which shown_ points to.
-    std::vector<const Row*> arrangedLike(const std::vector<Row>& scopeBefore, const std::vector<Row>& before) const;
+    std::vector<const Row*> sorted() const;
+    std::vector<const Row*> arranged();
+    // True when all rows stand where the displayed ones do.
+    bool stand();
+    // Makes shown_ point to rows that stand where the previous ones did.
+    void follow(const std::vector<Row>& scopeBefore, const std::vector<Row>& before);
     void show(std::vector<const Row*> next);
+    void tellChanged();
     void reset(std::vector<const Row*> next);
     void keepTopRow(const std::vector<const Row*>& next);
 
     const Observers& observers_;
     std::vector<Row> scopeRows_;
     std::vector<Row> rows_; // in order of insertion
-    // The rows as handlers see them, while they differ from rows_; a removed row has no node.
+    // Of rows_, as many as have been inserted again after all were removed, in their old sequence and unchanged; most
+    // refreshes do that with all of them.
+    std::optional<std::size_t> again_;
+    // The rows as handlers see them, while they differ from those; a removed row has no node.
     std::optional<std::vector<Row>> working_;
     std::vector<console::ResultId> redrawn_;    // to be redrawn on commit
     std::vector<Row> discarded_;                // removed before they were displayed; a refresh inserts its rows twice
     std::optional<std::vector<Row>> nextScope_; // scope rows that are not committed yet
     std::optional<std::unordered_map<console::ResultId, std::size_t>> places_; // see places()
     std::vector<const Row*> shown_; // scopeRows_ and rows_, sorted and filtered
+    RowDigests digests_;            // of the rows that shown_ was made of, if it has all of them
     std::optional<SortOrder> order_;
     RowFilter filter_;
     wire::WideString filterText_;
@@ -110,7 +115,6 @@ private:
     bool follows_ = false;           // all rows inserted since all were removed are in the same order as in rows_
     console::ResultId topRow_ = 0;
     bool replaced_ = false;
-    std::uint64_t revision_ = 0;
 };
 
 } // namespace shell

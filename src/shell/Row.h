@@ -18,7 +18,10 @@ struct Row {
     [[nodiscard]] console::ScopeId scopeId() const { return -id; } // of a scope item
 };
 
-// The text of one column. Valid until the row's node is asked again; empty when it returns none.
+// The text of one column. Valid until the row's node is asked again; null when it returns none.
+const char16_t* textOf(const Row& row, std::int32_t column);
+
+// The same; empty when it returns none.
 wire::WideStringView cellOf(const Row& row, std::int32_t column);
 
 } // namespace shell

@@ -3,20 +3,15 @@
 #include "shell/Row.h"
 #include "shell/SortOrder.h"
 
-#include <cstdint>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace shell {
 
 // Sorts rows by a column: by their numbers there, or else by their texts; rows that are equal there are in their
 // natural order, in either direction. That is also the order of all rows without another one: neighbours of one class
-// are in the natural order of their first column. `likely` lists the position of each row once, in the previous order;
-// empty when that is unknown. Most refreshes return rows in the same order as before, and checking that is faster than
-// sorting.
-void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order,
-              std::span<const std::uint32_t> likely = {});
+// are in the natural order of their first column.
+void sortRows(std::vector<const Row*>& rows, const std::optional<SortOrder>& order);
 
 // The same, but rows that are equal in the column stay as they stand.
 void sortByColumn(std::vector<const Row*>& rows, const SortOrder& order);

@@ -31,34 +31,27 @@ void SortKeys::addKey(std::size_t begin) {
                      .place = static_cast<std::uint32_t>(keys_.size())});
 }
 
-std::vector<std::uint32_t> SortKeys::sorted(bool ascending, std::span<const std::uint32_t> likely) {
+std::vector<std::uint32_t> SortKeys::sorted(bool ascending) {
     skipCommonBeginning();
     setHeads();
-    const auto likelyKey = [&](std::size_t position) -> const Key& { return keys_[likely[position]]; };
-    const auto inOrder = [&](std::uint32_t a, std::uint32_t b) {
-        const int compared = compare(keys_[a], keys_[b]);
-        return ascending ? compared < 0 : compared > 0;
-    };
-    if (likely.size() == keys_.size() && std::ranges::is_sorted(likely, inOrder)) {
-        findTies(likelyKey);
-        return {likely.begin(), likely.end()};
-    }
-    std::ranges::sort(keys_, [&](const Key& a, const Key& b) {
+    const auto stands = [this, ascending](const Key& a, const Key& b) {
         const int compared = ascending ? compare(a, b) : compare(b, a);
         return compared != 0 ? compared < 0 : a.place < b.place;
-    });
-    findTies([&](std::size_t position) -> const Key& { return keys_[position]; });
+    };
+    if (!std::ranges::is_sorted(keys_, stands)) { // many texts are added in order
+        std::ranges::sort(keys_, stands);
+    }
+    findTies();
     std::vector<std::uint32_t> places(keys_.size());
     std::ranges::transform(keys_, places.begin(), &Key::place);
     return places;
 }
 
-template <class KeyAt>
-void SortKeys::findTies(KeyAt keyAt) {
+void SortKeys::findTies() {
     ties_.clear();
     for (std::size_t begin = 0; begin < keys_.size();) {
         auto end = begin + 1;
-        while (end < keys_.size() && compare(keyAt(begin), keyAt(end)) == 0) {
+        while (end < keys_.size() && compare(keys_[begin], keys_[end]) == 0) {
             ++end;
         }
         if (end - begin > 1) {

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 namespace shell {
@@ -17,9 +16,8 @@ public:
     // Numbers sort by value, after rows with an empty text.
     void add(std::int64_t number);
     // The positions of the texts, counted in the order in which they were added, sorted in natural order; equal ones as
-    // added. `likely` is a guess of the result, a permutation of all positions, or empty; when it is right, equal texts
-    // stand as they do there. Nothing can be added afterwards.
-    std::vector<std::uint32_t> sorted(bool ascending, std::span<const std::uint32_t> likely = {});
+    // added. Nothing can be added afterwards.
+    std::vector<std::uint32_t> sorted(bool ascending);
 
     // A part of what was sorted last, with two equal texts or more.
     struct Tie {
@@ -42,8 +40,7 @@ private:
     void setHeads();
     // Negative when the first text is the lower one, zero when both are equal.
     [[nodiscard]] int compare(const Key& a, const Key& b) const;
-    template <class KeyAt>
-    void findTies(KeyAt keyAt);
+    void findTies();
 
     wire::WideString units_;
     std::vector<Key> keys_;

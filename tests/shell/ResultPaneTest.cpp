@@ -1,64 +1,9 @@
-#include "shell/ResultPane.h"
-#include "tests/shell/ShellFixture.h"
+#include "tests/shell/ResultPaneFixture.h"
 
 #include <array>
 
 namespace shelltest {
 namespace {
-
-// Records what happens to the rows.
-class RowEvents final : public shell::ShellObserver {
-public:
-    void rowsInserted(std::size_t first, std::size_t count) override { add("in", first, count); }
-    void rowsRemoved(std::size_t first, std::size_t count) override { add("out", first, count); }
-    void rowsChanged(std::size_t first, std::size_t count) override { add("changed", first, count); }
-    void rowsReset() override { log.emplace_back("reset"); }
-    Lines log;
-
-private:
-    void add(const std::string& what, std::size_t first, std::size_t count) {
-        log.push_back(what + " " + std::to_string(first) + " " + std::to_string(count));
-    }
-};
-
-class ResultPane : public testing::Test {
-protected:
-    ResultPane() { observers.add(events); }
-
-    std::shared_ptr<LeafNode> leaf(const wire::WideString& name) {
-        return std::make_shared<LeafNode>(platform, estate,
-                                          Estate::Entry{.key = wire::toUtf8(name), .name = name, .leaf = true});
-    }
-    std::shared_ptr<LeafNode> insert(const wire::WideString& name) {
-        auto node = leaf(name);
-        EXPECT_EQ(pane.InsertItem(node->resultFields()), console::Result::ok);
-        return node;
-    }
-    void replaceBy(const std::vector<std::shared_ptr<LeafNode>>& nodes) {
-        pane.DeleteAllRsltItems();
-        for (const auto& node : nodes) {
-            pane.InsertItem(node->resultFields());
-        }
-        pane.commit();
-    }
-    static std::string idOf(LeafNode& node) { return std::to_string(node.resultFields().itemID); }
-    Lines rows() const {
-        Lines texts;
-        for (std::size_t row = 0; row < pane.rowCount(); ++row) {
-            texts.push_back(wire::toUtf8(pane.cell(row, 0)));
-        }
-        return texts;
-    }
-
-    Estate estate;
-    shell::TaskQueue tasks;
-    QuietUserInterface ui{tasks};
-    support::MemorySettingsStore settings;
-    platform::Platform platform{.ui = ui, .settings = settings};
-    shell::Observers observers;
-    RowEvents events;
-    shell::ResultPane pane{observers};
-};
 
 TEST_F(ResultPane, redrawsARowWhereItStands) {
     const auto a = insert(u"a");
@@ -240,69 +185,6 @@ TEST_F(ResultPane, sortingByAnOrderThatStandsChangesNothing) {
     EXPECT_TRUE(events.log.empty());
 }
 
-TEST_F(ResultPane, rowsThatComeAgainWithOtherTextsAreSortedAnew) {
-    const std::vector nodes{insert(u"P1"), insert(u"P2"), insert(u"P3")};
-    pane.commit();
-    nodes.front()->entry.name = u"P9";
-
-    replaceBy(nodes);
-
-    EXPECT_EQ(rows(), (Lines{"P2", "P3", "P9"}));
-}
-
-TEST_F(ResultPane, rowsThatComeAgainInTheirOrderAreOnlyChanged) {
-    const std::vector nodes{insert(u"P3"), insert(u"P1"), insert(u"P2")};
-    pane.commit();
-    pane.sort(shell::SortOrder{0, false});
-    events.log.clear();
-
-    replaceBy(nodes);
-
-    EXPECT_EQ(rows(), (Lines{"P3", "P2", "P1"}));
-    EXPECT_EQ(events.log, (Lines{"changed 0 3"}));
-}
-
-TEST_F(ResultPane, equalRowsThatComeAgainTheOtherWayRoundChangePlaces) {
-    const auto first = insert(u"x");
-    const auto second = insert(u"x");
-    pane.commit();
-
-    replaceBy({second, first});
-
-    EXPECT_EQ(pane.row(0).node, second);
-    EXPECT_EQ(pane.row(1).node, first);
-}
-
-TEST_F(ResultPane, rowsThatComeAgainInAnotherSequenceKeepTheirIds) {
-    const auto one = insert(u"one");
-    const auto two = insert(u"two");
-    const auto three = insert(u"three");
-    const Lines before{idOf(*one), idOf(*two), idOf(*three)};
-    pane.commit();
-
-    replaceBy({three, one, two});
-    replaceBy({three, one, two});
-
-    EXPECT_EQ((Lines{idOf(*one), idOf(*two), idOf(*three)}), before);
-}
-
-TEST_F(ResultPane, aTakenIdIsNotGivenAgainWhenRowsComeInTheirOldSequence) {
-    const auto one = insert(u"one");
-    const auto two = insert(u"two");
-    pane.commit();
-    replaceBy({two, one});
-    pane.DeleteAllRsltItems();
-    pane.InsertItem(two->resultFields());
-    pane.InsertItem(one->resultFields());
-    const auto other = leaf(u"other");
-    other->resultFields().itemID = one->resultFields().itemID;
-
-    pane.InsertItem(other->resultFields());
-
-    EXPECT_NE(idOf(*other), idOf(*one));
-    EXPECT_EQ(pane.find(one->resultFields().itemID)->node, one);
-}
-
 TEST_F(ResultPane, rowsAreFoundBeforeAndAfterOthersGo) {
     const auto one = insert(u"one");
     const auto two = insert(u"two");
@@ -315,28 +197,6 @@ TEST_F(ResultPane, rowsAreFoundBeforeAndAfterOthersGo) {
     pane.commit();
 
     EXPECT_EQ(pane.find(two->resultFields().itemID)->node, two);
-}
-
-TEST_F(ResultPane, neighboursOfOneClassStayTogetherWhenTheyComeAgain) {
-    const auto folder = std::make_shared<FolderNode>(platform, estate, Estate::Entry{.key = "folder", .name = u"m"});
-    const auto first = leaf(u"z");
-    const auto second = leaf(u"c");
-    const auto last = leaf(u"a");
-    const auto insertAll = [&] {
-        pane.DeleteAllRsltItems();
-        pane.InsertItem(first->resultFields());
-        pane.InsertItem(second->resultFields());
-        pane.InsertItem(folder->resultFields());
-        pane.InsertItem(last->resultFields());
-        pane.commit();
-    };
-    insertAll();
-    EXPECT_EQ(rows(), (Lines{"c", "z", "m", "a"}));
-    first->entry.name = u"b";
-
-    insertAll();
-
-    EXPECT_EQ(rows(), (Lines{"b", "c", "m", "a"}));
 }
 
 TEST_F(ResultPane, theTopRowStaysWhileItIsThere) {
@@ -384,26 +244,6 @@ TEST_F(ResultPane, nodesGoWithTheirRows) {
     pane.commit();
 
     EXPECT_EQ(estate.living, 0);
-}
-
-TEST_F(ResultPane, rowsThatAreHandedOutTwiceAreShownOnce) {
-    const auto one = insert(u"one");
-    const auto two = insert(u"two");
-    pane.DeleteAllRsltItems();
-
-    replaceBy({one, two});
-
-    EXPECT_EQ(rows(), (Lines{"one", "two"}));
-}
-
-TEST_F(ResultPane, nodesThatWereHandedOutOnlyTheFirstTimeGo) {
-    const auto one = insert(u"one");
-    insert(u"two");
-
-    replaceBy({one});
-
-    EXPECT_EQ(rows(), (Lines{"one"}));
-    EXPECT_EQ(estate.living, 1);
 }
 
 TEST_F(ResultPane, readsTheFilterAgainForOtherTitles) {

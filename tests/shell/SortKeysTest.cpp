@@ -7,12 +7,12 @@ namespace {
 using Places = std::vector<std::uint32_t>;
 using Texts = std::vector<wire::WideString>;
 
-Places sorted(const Texts& texts, bool ascending = true, const Places& likely = {}) {
+Places sorted(const Texts& texts, bool ascending = true) {
     shell::SortKeys keys;
     for (const auto& text : texts) {
         keys.add(text);
     }
-    return keys.sorted(ascending, likely);
+    return keys.sorted(ascending);
 }
 
 TEST(SortKeys, textsStandInNaturalOrder) {
@@ -48,19 +48,6 @@ TEST(SortKeys, textsThatDifferLateAreComparedToTheirEnds) {
 
 TEST(SortKeys, aTextWithAZeroUnitStandsAfterTheOneThatEndsThere) {
     EXPECT_EQ(sorted({wire::WideString(u"a\0", 2), u"a", u"b"}), (Places{1, 0, 2}));
-}
-
-TEST(SortKeys, theLikelyOrderIsTakenWhenItIsRight) {
-    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {1, 2, 0}), (Places{1, 2, 0}));
-}
-
-TEST(SortKeys, aWrongLikelyOrderDoesNoHarm) {
-    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {0, 1, 2}), (Places{1, 2, 0}));
-    EXPECT_EQ(sorted({u"c", u"a", u"b"}, true, {1, 2}), (Places{1, 2, 0}));
-}
-
-TEST(SortKeys, equalTextsStandAsInTheLikelyOrderWhenItIsRight) {
-    EXPECT_EQ(sorted({u"x", u"x"}, true, {1, 0}), (Places{1, 0}));
 }
 
 TEST(SortKeys, theTiesAreThePartsWithEqualTexts) {
