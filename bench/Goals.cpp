@@ -54,7 +54,8 @@ void Goals::ReportRuns(const std::vector<Run>& runs) {
         if (run.run_type != Run::RT_Iteration || run.error_occurred) {
             continue;
         }
-        const double time = run.real_accumulated_time * 1e9 / static_cast<double>(run.iterations);
+        const double seconds = counted_ == Time::passed ? run.real_accumulated_time : run.cpu_accumulated_time;
+        const double time = seconds * 1e9 / static_cast<double>(run.iterations);
         const auto [entry, isNew] = times_.try_emplace(run.run_name.function_name, time);
         if (!isNew && time < entry->second) {
             entry->second = time;

@@ -41,8 +41,8 @@ int main(int argc, char** argv) {
     }
     common::installDiagnosticsLog(
         [](const std::string& line) { std::fprintf(stderr, "vantrel-admin: %s\n", line.c_str()); });
-    if (const double scale = desktop::scaleOf(options); scale > 0 && scale != 1) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    if (options.scale > 0) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     }
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     desktop::Application application(argc, argv);
