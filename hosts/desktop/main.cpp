@@ -41,8 +41,8 @@ int main(int argc, char** argv) {
     }
     common::installDiagnosticsLog(
         [](const std::string& line) { std::fprintf(stderr, "vantrel-admin: %s\n", line.c_str()); });
-    if (options.scale > 0) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    if (const double scale = desktop::scaleOf(options); scale > 0 && scale != 1) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
     }
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     desktop::Application application(argc, argv);

@@ -31,6 +31,16 @@ wire::WideString titleKey(wire::WideStringView title) {
     return key;
 }
 
+// Whether a word of the title after the first begins with the key, which may go on across blanks.
+bool hasWordLike(wire::WideStringView title, wire::WideStringView key) {
+    for (std::size_t place = 1; place < title.size(); ++place) {
+        if (isBlank(title[place - 1]) && !isBlank(title[place]) && titleKey(title.substr(place)).starts_with(key)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // A word, or a text in quotes.
 struct Value {
     wire::WideString text;
@@ -45,7 +55,13 @@ public:
 
     FilterQuery parse() {
         while (skipBlanks()) {
+            const auto begin = at_;
+            const auto terms = query_.terms.size();
             readTerm();
+            if (query_.terms.size() > terms) {
+                query_.terms.back().begin = begin;
+                query_.terms.back().length = at_ - begin;
+            }
         }
         return std::move(query_);
     }
@@ -175,16 +191,21 @@ FilterQuery parseFilter(wire::WideStringView text, std::span<const wire::WideStr
 std::optional<std::int32_t> columnCalled(wire::WideStringView name, std::span<const wire::WideString> titles) {
     const auto wanted = titleKey(name);
     std::optional<std::int32_t> beginning;
+    std::optional<std::int32_t> within;
     for (std::int32_t column = 0; column < std::ssize(titles) && !wanted.empty(); ++column) {
-        const auto title = titleKey(titles[static_cast<std::size_t>(column)]);
-        if (title == wanted) {
+        const auto& title = titles[static_cast<std::size_t>(column)];
+        const auto key = titleKey(title);
+        if (key == wanted) {
             return column;
         }
-        if (!beginning && title.starts_with(wanted)) {
+        if (!beginning && key.starts_with(wanted)) {
             beginning = column;
         }
+        if (!within && hasWordLike(title, wanted)) {
+            within = column;
+        }
     }
-    return beginning;
+    return beginning ? beginning : within;
 }
 
 wire::WideString describe(const FilterProblem& problem) {

@@ -206,6 +206,7 @@ void ResultPane::beginFiltered(wire::WideStringView text) {
 
 void ResultPane::setTitles(std::vector<wire::WideString> titles) {
     titles_ = std::move(titles);
+    ++revision_;
     if (!filterText_.empty()) {
         filter_ = RowFilter(filterText_, titles_);
         reset(arranged());
@@ -254,6 +255,7 @@ void ResultPane::redraw() {
         console::ResultItemFields item{.mask = console::resultMask::image, .nImage = row->image};
         row->node->GetResultPaneInfo(item);
         row->image = item.nImage;
+        ++revision_;
         if (place) {
             observers_.tell([&](auto& observer) { observer.rowsChanged(*place, 1); });
         }
@@ -269,6 +271,7 @@ void ResultPane::commitRows() {
     if (!working_ && !nextScope_ && !again_) {
         return;
     }
+    ++revision_;
     if (again_ && *again_ < rows_.size()) {
         beginChange();
     }

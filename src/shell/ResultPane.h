@@ -33,7 +33,14 @@ public:
     std::optional<std::size_t> indexOf(console::ResultId id) const;
     // See cellOf.
     wire::WideStringView cell(std::size_t index, std::int32_t column) const { return cellOf(row(index), column); }
+    // All rows, those that the filter hides included, in the order in which they were inserted.
     std::size_t unfilteredCount() const { return scopeRows_.size() + rows_.size(); }
+    const Row& unfilteredRow(std::size_t index) const {
+        return index < scopeRows_.size() ? scopeRows_[index] : rows_[index - scopeRows_.size()];
+    }
+    const std::vector<wire::WideString>& titles() const { return titles_; }
+    // Grows whenever rows, their texts or the columns may have changed; neither sorting nor filtering changes it.
+    std::uint64_t revision() const { return revision_; }
 
     // Rows equal in the column keep their order. Without an order, neighbours of one class are in the natural order of
     // their first column.
@@ -115,6 +122,7 @@ private:
     bool follows_ = false;           // all rows inserted since all were removed are in the same order as in rows_
     console::ResultId topRow_ = 0;
     bool replaced_ = false;
+    std::uint64_t revision_ = 0;
 };
 
 } // namespace shell

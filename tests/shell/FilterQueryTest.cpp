@@ -52,7 +52,29 @@ TEST(FilterQuery, aWholeTitleComesBeforeTheBeginningOfAnother) {
     EXPECT_EQ(shell::columnCalled(u"printers", queriedTitles), 1);
     EXPECT_EQ(shell::columnCalled(u"Printer  St", queriedTitles), 1);
     EXPECT_EQ(shell::columnCalled(u"", queriedTitles), std::nullopt);
-    EXPECT_EQ(shell::columnCalled(u"status", queriedTitles), std::nullopt);
+    EXPECT_EQ(shell::columnCalled(u"tatus", queriedTitles), std::nullopt);
+}
+
+TEST(FilterQuery, theBeginningOfAnyWordOfATitleWillDo) {
+    const QueriedTitles titles{u"Last Jobs Seen", u"SNMP Status", u"Printer Status", u"Jobs In Queue"};
+
+    EXPECT_EQ(shell::columnCalled(u"status", titles), 1);
+    EXPECT_EQ(shell::columnCalled(u"Queue", titles), 3);
+    EXPECT_EQ(shell::columnCalled(u"inqueue", titles), 3);
+    EXPECT_EQ(shell::columnCalled(u"jobs", titles), 3) << "the beginning of a title comes before that of a later word";
+    EXPECT_EQ(shell::columnCalled(u"een", titles), std::nullopt);
+}
+
+TEST(FilterQuery, tellsWhereItsTermsStand) {
+    const auto query = shell::parseFilter(u" a  -name:\"x y\" name: b", queriedTitles);
+
+    ASSERT_EQ(query.terms.size(), 3U);
+    EXPECT_EQ(query.terms[0].begin, 1U);
+    EXPECT_EQ(query.terms[0].length, 1U);
+    EXPECT_EQ(query.terms[1].begin, 4U);
+    EXPECT_EQ(query.terms[1].length, 11U);
+    EXPECT_EQ(query.terms[2].begin, 22U);
+    EXPECT_EQ(query.terms[2].length, 1U);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "hosts/desktop/forms/ShownText.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
 
@@ -14,6 +15,13 @@
 #include <utility>
 
 namespace desktop {
+namespace {
+
+bool isLetterWithAlt(const QKeyEvent& key) {
+    return key.modifiers() == Qt::AltModifier && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+} // namespace
 
 void ControlWidget::setUp(QWidget* widget, QWidget* field) {
     widget_ = widget;
@@ -125,6 +133,10 @@ void ControlWidget::refillNow() {
 }
 
 bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && isLetterWithAlt(static_cast<const QKeyEvent&>(*event))) {
+        event->ignore(); // no access key of the dialog; a box would take the letter for typed text
+        return true;
+    }
     if (event->type() == QEvent::Wheel && !widget_->hasFocus() && forms::shapeOf(control_).place == forms::Place::row) {
         event->ignore(); // the wheel scrolls the dialog and must not change the boxes that it passes
         return true;

@@ -115,12 +115,15 @@ int ColumnLayout::contentsWidth(int column) const {
     return widest == 0 ? 0 : std::min(widest + cellMargins + (column == 0 ? iconWidth : 0), widestContents);
 }
 
-// Where there is little room, the texts of a column matter more than its title.
+// Where there is little room, no column is wider than its texts and its title, and the texts matter more than the
+// title.
 std::vector<ColumnWish> ColumnLayout::wishes() const {
     const auto& columns = operations_.shell().header().columns();
     std::vector<ColumnWish> roomy;
+    std::vector<ColumnWish> snug;
     std::vector<ColumnWish> tight;
     int needed = 0;
+    int neededByTexts = 0;
     for (int column = 0; column < header_.count(); ++column) {
         const auto width = static_cast<std::size_t>(column) < columns.size()
                                ? columns[static_cast<std::size_t>(column)].width
@@ -129,10 +132,12 @@ std::vector<ColumnWish> ColumnLayout::wishes() const {
         const int title = header_.sectionSizeHint(column);
         const int contents = contentsWidth(column);
         roomy.push_back({std::max({own, title, contents}), std::max({title, contents, leastWidth})});
+        snug.push_back({std::max(title, contents), std::max(contents, leastWidth)});
         tight.push_back({std::max(own, contents), std::min(title, std::max(contents, leastWidth))});
         needed += roomy.back().least;
+        neededByTexts += snug.back().least;
     }
-    return needed <= header_.width() ? roomy : tight;
+    return needed <= header_.width() ? roomy : neededByTexts <= header_.width() ? snug : tight;
 }
 
 void ColumnLayout::fit() {
@@ -166,6 +171,20 @@ void ColumnLayout::reset() {
 
 void ColumnLayout::showMenu(const QPoint& globalPosition) {
     QMenu menu(&header_);
+    fill(menu);
+    menu.exec(globalPosition);
+}
+
+QMenu* ColumnLayout::addMenu(QMenu& menu) {
+    QMenu* const columns = menu.addMenu(QStringLiteral("C&olumns"));
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
+        columns->clear();
+        fill(*columns);
+    });
+    return columns;
+}
+
+void ColumnLayout::fill(QMenu& menu) {
     for (int place = 0; place < header_.count(); ++place) {
         const int column = header_.logicalIndex(place);
         const QString title = header_.model()->headerData(column, Qt::Horizontal).toString();
@@ -177,7 +196,6 @@ void ColumnLayout::showMenu(const QPoint& globalPosition) {
     }
     menu.addSeparator();
     connect(menu.addAction(QStringLiteral("&Reset Columns")), &QAction::triggered, this, [this] { reset(); });
-    menu.exec(globalPosition);
 }
 
 bool ColumnLayout::isHidden(int column) const {

@@ -10,6 +10,7 @@
 #include <vector>
 
 class QHeaderView;
+class QMenu;
 class QPoint;
 
 namespace desktop {
@@ -31,6 +32,8 @@ public:
     void reset();
     // Lets the user choose the visible columns.
     void showMenu(const QPoint& globalPosition);
+    // The same as a menu within another one, which always has the columns of the list shown.
+    QMenu* addMenu(QMenu& menu);
     bool isHidden(int column) const;
     // The last visible column can't be hidden.
     void setHidden(int column, bool hidden);
@@ -38,6 +41,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void fill(QMenu& menu);
     QString key() const;
     void applyDefaults();
     void fit();

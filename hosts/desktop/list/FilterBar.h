@@ -7,7 +7,8 @@
 
 namespace desktop {
 
-// The box for the text by which the list is filtered; the list follows while the user types.
+// The box for the text by which the list is filtered; the list follows while the user types. A warning sign marks what
+// was probably meant differently.
 class FilterBar final : public QLineEdit, private shell::ShellObserver {
 public:
     // Both outlive it.
@@ -18,17 +19,26 @@ public:
     std::function<void()> onLeave;
     // Called when the filter has changed.
     std::function<void()> onFiltered;
+    // What in the filter was probably meant differently, in sentences; empty when nothing was.
+    [[nodiscard]] const QString& problem() const { return problem_; }
+    // Called with the problem when it may have changed.
+    std::function<void(const QString&)> onProblem;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void selectionChanged() override;
+    void columnsChanged() override;
     void filter();
+    void showProblem();
 
     Operations& operations_;
     shell::Observers& observers_;
+    QString problem_;
+    QAction* mark_ = nullptr; // the warning sign in the box
     bool asked_ = false;
+    bool following_ = false; // showing the console's filter, which need not be reported back
 };
 
 } // namespace desktop

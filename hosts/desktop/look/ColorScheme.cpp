@@ -10,11 +10,29 @@
 #include <QPalette>
 #include <QStyle>
 
+#include <utility>
+
 namespace desktop {
 namespace {
 
 constexpr int portalTimeout = 300; // milliseconds
 constexpr int prefersDark = 1;
+
+// How the program looks before anything is applied.
+struct PlatformLook {
+    QString style = QApplication::style()->name();
+    QPalette palette = QGuiApplication::palette();
+};
+
+const PlatformLook& platformLook() {
+    static const PlatformLook look;
+    return look;
+}
+
+ColorScheme& applied() {
+    static ColorScheme look = ColorScheme::system;
+    return look;
+}
 
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
@@ -112,15 +130,24 @@ std::optional<ColorScheme> colorSchemeNamed(const QString& name) {
 }
 
 void applyColorScheme(ColorScheme look) {
-    const bool platformIsDark = isDark(QGuiApplication::palette());
+    const auto& platform = platformLook();
+    const auto before = std::exchange(applied(), look);
     // A platform with its own style and colours keeps them.
-    const bool plain = QApplication::style()->name().compare(QLatin1String("fusion"), Qt::CaseInsensitive) == 0;
-    if (look == ColorScheme::system && (!plain || platformIsDark)) {
+    const bool plain = platform.style.compare(QLatin1String("fusion"), Qt::CaseInsensitive) == 0;
+    if (look == ColorScheme::system && (!plain || isDark(platform.palette))) {
+        if (before != look) {
+            QApplication::setStyle(platform.style);
+            QApplication::setPalette(platform.palette);
+        }
         return;
     }
     const bool dark = look == ColorScheme::dark || (look == ColorScheme::system && systemPrefersDark());
     QApplication::setStyle(dark ? new DarkStyle : new ConsoleStyle);
     QApplication::setPalette(dark ? darkPalette() : lightPalette());
+}
+
+ColorScheme appliedColorScheme() {
+    return applied();
 }
 
 QPalette readOnlyPalette() {

@@ -39,7 +39,7 @@ Actions::Actions(QWidget& window) : window_(window) {
     logIn = make(QStringLiteral("&Log in again..."), QStringLiteral("To log in to this server once more"), {});
     connect = make(QStringLiteral("&Connect to another server..."),
                    QStringLiteral("To administer another server in this window"), {});
-    filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only rows that contain a text"),
+    filter = make(QStringLiteral("&Filter List"), QStringLiteral("To see only some rows of the list"),
                   QKeySequence(Qt::CTRL | Qt::Key_F));
     filter->setIcon(GlyphIcon::make(Glyph::filter));
     find = make(QStringLiteral("F&ind in Tree"), QStringLiteral("To go to an item of the tree by its name"),

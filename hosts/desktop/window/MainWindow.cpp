@@ -41,6 +41,7 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
       status_(*statusBar(), session.operations(), session.age()),
       wait_(session.operations(), session.observers(), *this),
       autoRefresh_(session.operations(), settings, *this),
+      look_(settings),
       logins_(session.platform(), session.ui(), settings) {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Vantrel Manager"));
@@ -134,7 +135,11 @@ void MainWindow::makeMenus() {
     QMenu* const view = menuBar()->addMenu(QStringLiteral("&View"));
     view->addAction(actions_.refresh);
     autoRefresh_.addTo(*view);
+    panes_->list().columns().addMenu(*view);
     view->addAction(actions_.resetColumns);
+    view->addSeparator();
+    look_.addTo(*view);
+    look_.onMessage = [this](const QString& message) { statusBar()->showMessage(message, messageTime); };
     view->addSeparator();
     QAction* const log = activity_->toggleViewAction();
     log->setText(QStringLiteral("Activity &Log"));
@@ -279,14 +284,15 @@ void MainWindow::connectActions() {
         run([item](shell::Shell& shell) { return shell.select(item); });
     };
     panes_->filter().onFiltered = [this] { showStateSoon(); };
+    status_.parts().onPressed = [this](const shell::ListPart& part) {
+        const auto filter = toWideString(panes_->filter().text());
+        panes_->filter().setText(toQString(shell::toggled(filter, part, session_.shell().pane().titles())));
+    };
     panes_->search().onMessage = [this](const QString& message) {
         statusBar()->showMessage(message, message.isEmpty() ? 1 : messageTime);
     };
     panes_->notice().onRetry = [this] { run(&shell::Shell::refreshList); };
     panes_->notice().onLogin = [this] { logIn(LoginKeeper::current()); };
-    panes_->notice().onRetry = [this] {
-        run([](shell::Shell& shell) { return shell.selectRow(0) && shell.refresh(); });
-    };
 }
 
 void MainWindow::goUp() {

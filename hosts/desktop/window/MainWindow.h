@@ -5,6 +5,7 @@
 #include "hosts/desktop/window/AutoRefresh.h"
 #include "hosts/desktop/window/ContextMenus.h"
 #include "hosts/desktop/window/DetailsDock.h"
+#include "hosts/desktop/window/LookChoices.h"
 #include "hosts/desktop/window/Panes.h"
 #include "hosts/desktop/window/Session.h"
 #include "hosts/desktop/window/StatusLine.h"
@@ -33,6 +34,7 @@ public:
     AutoRefresh& autoRefresh() { return autoRefresh_; }
     [[nodiscard]] const Actions& actions() const { return actions_; }
     [[nodiscard]] const ContextMenus& menus() const { return menus_; }
+    StatusLine& status() { return status_; }
     [[nodiscard]] const WaitIndicator& waitIndicator() const { return wait_; }
     void showAbout();
     void showShortcuts();
@@ -81,6 +83,7 @@ private:
     StatusLine status_;
     WaitIndicator wait_;
     AutoRefresh autoRefresh_;
+    LookChoices look_;
     LoginKeeper logins_;
     std::vector<QAction*> recent_; // the entries of recent logins
     bool showing_ = false;         // a call of showState is pending

@@ -24,7 +24,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), label_(new QLabel(this))
     layout->addWidget(picture);
     layout->addWidget(label_, 1);
     layout->addWidget(login_);
-    layout->addWidget(makeButton(QStringLiteral("Try &Again"), onRetry));
+    layout->addWidget(makeButton(QStringLiteral("&Try Again"), onRetry));
     hide();
 }
 

@@ -33,10 +33,10 @@ void describe(QCommandLineParser& parser) {
         {"domain", "Domain of the user.", "name"},
         {"password-file", "File whose first line is the password.", "file"},
         {"settings", "File of the saved login, instead of the usual one.", "file"},
-        {"look", "light, dark or system (like the desktop).", "look", "system"},
+        {"look", "light, dark or system (like the desktop), instead of the one in View > Look.", "look"},
         {"screenshot", "Saves a picture of the window to the file (PNG) and exits.", "file"},
         {"size", "Size of the window, for instance 1200x800.", "WxH"},
-        {"scale", "Scale of everything, for instance 1.5.", "factor"},
+        {"scale", "Scale of everything, for instance 1.5, instead of the one in the View menu.", "factor"},
         {"activity", "Shows the activity log."},
         {"details", "Shows the details of the selected row."},
     });
@@ -84,8 +84,8 @@ std::variant<Options, Refusal> readOptions(const QStringList& arguments) {
             return wrong(QStringLiteral("--port takes a number from 1 to 65535"));
         }
     }
-    const auto look = colorSchemeNamed(parser.value(QStringLiteral("look")));
-    if (!look) {
+    options.look = colorSchemeNamed(parser.value(QStringLiteral("look")));
+    if (parser.isSet(QStringLiteral("look")) && !options.look) {
         return wrong(QStringLiteral("--look takes light, dark or system"));
     }
     if (parser.isSet(QStringLiteral("size")) && !readSize(parser.value(QStringLiteral("size")), options.size)) {
@@ -100,7 +100,6 @@ std::variant<Options, Refusal> readOptions(const QStringList& arguments) {
     if (parser.positionalArguments().size() > 1) {
         return wrong(QStringLiteral("there is more than one path"));
     }
-    options.look = *look;
     options.passwordFile = parser.value(QStringLiteral("password-file"));
     options.settings = parser.value(QStringLiteral("settings"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));

@@ -18,11 +18,11 @@ namespace desktop {
 struct Options {
     std::map<std::string, wire::WideString, std::less<>> login; // by the names of the saved values
     QString passwordFile;
-    QString settings; // the file of the saved values; empty for the usual one
-    ColorScheme look = ColorScheme::system;
-    QString screenshot; // the picture to write; empty to run interactively
+    QString settings;                // the file of the saved values; empty for the usual one
+    std::optional<ColorScheme> look; // none for the one that was chosen in the window
+    QString screenshot;              // the picture to write; empty to run interactively
     QSize size;
-    double scale = 0;
+    double scale = 0; // 0 for the one that was chosen in the window
     bool activity = false;
     bool details = false;
     QString path;

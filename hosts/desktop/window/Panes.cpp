@@ -4,6 +4,7 @@
 #include "hosts/desktop/look/Text.h"
 #include "hosts/desktop/window/StatusLine.h"
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 namespace desktop {
@@ -26,6 +27,7 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
       tree_(new ScopeView(operations, observers, treeModel_)),
       path_(new PathBar),
       filter_(new FilterBar(operations, observers)),
+      filterNote_(new QLabel),
       notice_(new NoticeBar),
       list_(new ListView(operations, observers, listModel_, settings)) {
     setObjectName(QStringLiteral("panes"));
@@ -41,6 +43,10 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
     search_->onLeave = [this] { tree_->setFocus(Qt::ShortcutFocusReason); };
     filter_->onLeave = [this] { list_->setFocus(Qt::ShortcutFocusReason); };
     list_->emptyText = [this] { return emptyText(); };
+    filter_->onProblem = [this](const QString& problem) {
+        filterNote_->setText(problem);
+        filterNote_->setVisible(!problem.isEmpty());
+    };
     QWidget::setTabOrder(search_, tree_);
     QWidget::setTabOrder(tree_, path_);
     QWidget::setTabOrder(path_, filter_);
@@ -77,6 +83,12 @@ QWidget* Panes::listSide() {
     line->addWidget(path_, 1);
     line->addWidget(filter_);
     layout->addLayout(line);
+    filterNote_->setTextFormat(Qt::PlainText);
+    filterNote_->setWordWrap(true);
+    filterNote_->setAlignment(Qt::AlignRight);
+    filterNote_->setContentsMargins(gap, 0, gap, gap);
+    filterNote_->hide();
+    layout->addWidget(filterNote_);
     layout->addWidget(notice_);
     layout->addWidget(list_, 1);
     return side;

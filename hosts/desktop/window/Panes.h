@@ -9,6 +9,8 @@
 
 #include <QSplitter>
 
+class QLabel;
+
 namespace desktop {
 
 // The tree on the left and the list on the right, each with its search line above it.
@@ -31,6 +33,7 @@ public:
     void showPath();
     // Why the list is empty, and what the user can do about it.
     [[nodiscard]] QString emptyText() const;
+    [[nodiscard]] const QLabel& filterNote() const { return *filterNote_; }
     // Why the displayed list could not be read; empty when it was.
     std::function<QString()> readingFailure;
     // The entries of the Action menu that put something into the displayed list.
@@ -47,6 +50,7 @@ private:
     ScopeView* tree_;
     PathBar* path_;
     FilterBar* filter_;
+    QLabel* filterNote_; // what is wrong with the filter
     NoticeBar* notice_;
     ListView* list_;
     QStringList creators_;

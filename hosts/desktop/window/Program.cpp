@@ -2,6 +2,7 @@
 
 #include "hosts/common/IniSettingsStore.h"
 #include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/window/LookChoices.h"
 #include "hosts/desktop/window/MainWindow.h"
 #include "hosts/desktop/window/PrefilledSettings.h"
 #include "hosts/desktop/window/Screenshot.h"
@@ -29,22 +30,32 @@ QString viewSettingsFile(const std::filesystem::path& settings) {
     return QString::fromStdU16String(file.u16string());
 }
 
+// A screenshot shows the window in its initial state, and leaves no settings behind.
+bool isPicture(const Options& options) {
+    return !options.screenshot.isEmpty();
+}
+
 void complain(const QString& text) {
     std::fprintf(stderr, "vantrel-admin: %s\n", qPrintable(text));
 }
 
 } // namespace
 
+double scaleOf(const Options& options) {
+    if (options.scale > 0 || isPicture(options)) {
+        return options.scale;
+    }
+    return LookChoices::savedScale(ViewSettings(viewSettingsFile(settingsFile(options)))) / 100.0;
+}
+
 int runProgram(const Options& options, const std::optional<wire::WideString>& password) {
-    applyColorScheme(options.look);
     const auto file = settingsFile(options);
     common::IniSettingsStore saved(file);
     PrefilledSettings settings(saved, options.login);
-    const bool isPicture = !options.screenshot.isEmpty();
-    // A screenshot shows the window in its initial state, and leaves no settings behind.
     const QTemporaryDir pictureSettings;
-    ViewSettings viewSettings(isPicture ? pictureSettings.filePath(QStringLiteral("desktop.ini"))
-                                        : viewSettingsFile(file));
+    ViewSettings viewSettings(isPicture(options) ? pictureSettings.filePath(QStringLiteral("desktop.ini"))
+                                                 : viewSettingsFile(file));
+    applyColorScheme(options.look.value_or(LookChoices::savedLook(viewSettings)));
     const IconStrips icons;
     Session session(settings);
     if (password) {
@@ -52,7 +63,7 @@ int runProgram(const Options& options, const std::optional<wire::WideString>& pa
     }
     MainWindow window(session, viewSettings, icons);
     window.restorePlace();
-    if (isPicture || options.size.isValid()) {
+    if (isPicture(options) || options.size.isValid()) {
         window.resize(options.size.isValid() ? options.size : MainWindow::naturalSize);
     }
     if (options.activity) {
@@ -62,7 +73,7 @@ int runProgram(const Options& options, const std::optional<wire::WideString>& pa
         window.details().show();
     }
     int status = 0;
-    if (isPicture) {
+    if (isPicture(options)) {
         session.ui().setUnattended();
         window.onStarted = [&](std::optional<QString> error) {
             error = error ? error : takeScreenshot(window, options.screenshot);
@@ -76,7 +87,7 @@ int runProgram(const Options& options, const std::optional<wire::WideString>& pa
     window.show();
     window.start(options.path);
     QApplication::exec();
-    if (isPicture && !session.ui().loginFailure().isEmpty()) {
+    if (isPicture(options) && !session.ui().loginFailure().isEmpty()) {
         complain(session.ui().loginFailure());
         return noLoginStatus;
     }

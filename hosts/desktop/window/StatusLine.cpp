@@ -34,25 +34,33 @@ StatusLine::StatusLine(QStatusBar& bar, const Operations& operations, const List
     : operations_(operations),
       age_(age),
       count_(label(bar, QStringLiteral("Rows"))),
+      parts_(new PartButtons(&bar)),
       readAt_(label(bar, QStringLiteral("Time of reading"))),
       connection_(label(bar, QStringLiteral("Connection"))) {
-    bar.addWidget(count_, 1);
+    bar.addWidget(count_);
+    bar.addPermanentWidget(parts_, 1);
     bar.addPermanentWidget(readAt_);
     bar.addPermanentWidget(connection_);
 }
 
-QString StatusLine::countText(std::size_t shown, std::size_t all) {
+QString StatusLine::countText(std::size_t shown, std::size_t all, const QString& noun) {
     const QLocale locale;
     const QString total = locale.toString(static_cast<qulonglong>(all));
-    const QString unit = all == 1 ? QStringLiteral(" row") : QStringLiteral(" rows");
+    const QString unit = QLatin1Char(' ') + (all == 1 ? noun : noun + QLatin1Char('s'));
     return shown == all ? total + unit
                         : locale.toString(static_cast<qulonglong>(shown)) + QStringLiteral(" of ") + total + unit;
 }
 
 void StatusLine::update() {
     const auto& pane = operations_.shell().pane();
-    count_->setLine(operations_.shell().selection().scope == 0 ? QString()
-                                                               : countText(pane.rowCount(), pane.unfilteredCount()));
+    if (summarized_ != pane.revision()) {
+        summary_ = shell::summarize(pane);
+        summarized_ = pane.revision();
+    }
+    count_->setLine(operations_.shell().selection().scope == 0
+                        ? QString()
+                        : countText(pane.rowCount(), pane.unfilteredCount(), oneLine(summary_.noun)));
+    parts_->setParts(summary_.parts, pane);
     const auto time = age_.readAt();
     readAt_->setLine(time ? QStringLiteral("As of ") + time->toString(QStringLiteral("hh:mm:ss")) : QString());
     connection_->setLine(connectionText());

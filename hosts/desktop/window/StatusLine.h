@@ -2,12 +2,14 @@
 
 #include "hosts/desktop/activity/ListAge.h"
 #include "hosts/desktop/look/ElidedLabel.h"
+#include "hosts/desktop/window/PartButtons.h"
 
 class QStatusBar;
 
 namespace desktop {
 
-// The permanent part of the status bar: how many rows there are, when they were read, and who is logged in where.
+// The permanent part of the status bar: how many rows there are, how many of them are in which state, when they were
+// read, and who is logged in where.
 class StatusLine {
 public:
     // All outlive it; the bar owns the labels.
@@ -15,12 +17,16 @@ public:
 
     void update();
     // "5 of 120 rows" under a filter.
-    static QString countText(std::size_t shown, std::size_t all);
+    static QString countText(std::size_t shown, std::size_t all, const QString& noun = QStringLiteral("row"));
+    PartButtons& parts() { return *parts_; }
 
 private:
     const Operations& operations_;
     const ListAge& age_;
+    shell::ListSummary summary_;
+    std::optional<std::uint64_t> summarized_; // the revision of the rows that the summary is of
     ElidedLabel* count_;
+    PartButtons* parts_;
     ElidedLabel* readAt_;
     ElidedLabel* connection_;
 };

@@ -63,6 +63,19 @@ TEST_F(FormKeyboard, anAccessKeyTakesTheKeyboardToTheBoxBehindTheLabel) {
     EXPECT_TRUE(widget<QLineEdit>(form.password).hasFocus());
 }
 
+TEST_F(FormKeyboard, anAccessKeyThatNoControlHasTypesNothing) {
+    auto& dialog = show();
+    for (const Qt::Key key : {Qt::Key_J, Qt::Key_X}) {
+        ASSERT_EQ(std::ranges::count(accessKeys(dialog), QChar(key)), 0);
+        auto& box = widget<QLineEdit>(form.name);
+        box.setFocus();
+        box.selectAll();
+        const QString before = box.text();
+        QTest::keyClick(&box, key, Qt::AltModifier);
+        EXPECT_EQ(box.text(), before);
+    }
+}
+
 TEST_F(FormKeyboard, aLabelThatChangesMovesNoAccessKey) {
     auto& dialog = show();
     const auto before = accessKeys(dialog);

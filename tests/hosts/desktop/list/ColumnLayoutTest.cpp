@@ -44,6 +44,18 @@ TEST_F(Columns, cutNeitherATextNorATitleWhereThereIsRoom) {
     }
 }
 
+TEST_F(Columns, takeNoRoomThatTheTitlesOfOthersNeed) {
+    openAt(960);
+    constexpr int location = 2;
+    const int spare =
+        header().sectionSize(location) - std::max(textWidth(location), header().sectionSizeHint(location));
+
+    EXPECT_LE(spare, 14) << "the margins of a cell";
+    for (int column = 0; column < header().count(); ++column) {
+        EXPECT_GE(header().sectionSize(column), textWidth(column)) << column;
+    }
+}
+
 TEST_F(Columns, giveUpTheTitlesOfShortTextsFirstWhereThereIsLittleRoom) {
     openAt(860);
     constexpr int model = 1;
