@@ -12,7 +12,7 @@ namespace regions {
 class RegionNode;
 
 // What is the same for all nodes of one tree of regions.
-struct RegionTree {
+struct TreeOfRegions {
     protocol::RegionKind kind;
     CreateRegionDlg::Mode createMode;
     const char16_t* deleteQuestion;
@@ -20,7 +20,7 @@ struct RegionTree {
 };
 
 // The blank at the end of the question is intentional.
-inline constexpr RegionTree printersAndQueues{
+inline constexpr TreeOfRegions printersAndQueues{
     .kind = protocol::RegionKind::printersAndQueues,
     .createMode = CreateRegionDlg::Mode::printerTree,
     .deleteQuestion = u"Are you sure you want to delete the selected region? ",
@@ -34,7 +34,7 @@ public:
 
 protected:
     // The tree outlives the node.
-    RegionHolder(platform::Platform& platform, const console::NodeIdentity& identity, const RegionTree& tree,
+    RegionHolder(platform::Platform& platform, const console::NodeIdentity& identity, const TreeOfRegions& tree,
                  std::int32_t regionId)
         : NodeBase(platform, identity), tree_(tree), regionId_(regionId) {}
 
@@ -43,7 +43,7 @@ protected:
     // Refreshes whatever else shows the regions, after a move.
     virtual void refreshOthers() {}
 
-    const RegionTree& tree() const { return tree_; }
+    const TreeOfRegions& tree() const { return tree_; }
     const console::NodeArray<RegionNode>& regions() const { return regions_; }
     // Adds a region that the server has just made under this one.
     void addRegion(protocol::RegionRecord record);
@@ -59,7 +59,7 @@ protected:
     console::Result finishMove(bool moved);
 
 private:
-    const RegionTree& tree_;
+    const TreeOfRegions& tree_;
     std::int32_t regionId_;
     console::NodeArray<RegionNode> regions_;
 };

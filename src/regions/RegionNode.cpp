@@ -7,7 +7,7 @@
 
 namespace regions {
 
-RegionNode::RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const RegionTree& tree,
+RegionNode::RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const TreeOfRegions& tree,
                        protocol::RegionRecord record)
     : RegionHolder(platform, identity, tree, record.id) {
     setDisplayName(std::move(record.name));

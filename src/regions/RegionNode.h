@@ -14,7 +14,7 @@ public:
     std::string refreshKey() const override;
 
 protected:
-    RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const RegionTree& tree,
+    RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const TreeOfRegions& tree,
                protocol::RegionRecord record);
 
     console::RowReading rowReading() const override { return console::RowReading::onEveryShow; }
