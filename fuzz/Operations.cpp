@@ -100,7 +100,8 @@ void listAlarmDestinations(CQVXAdminClass& client) {
 }
 
 void listDriverModels(CQVXAdminClass& client) {
-    static_cast<void>(client.listDriverModels(0, "id"));
+    std::vector<protocol::DriverModelRecord> models;
+    static_cast<void>(client.listDriverModels(0, "id", models));
 }
 
 void countDeploymentConfigs(CQVXAdminClass& client) {

@@ -108,8 +108,9 @@ template <class R, class Request>
 
 // The same for callers that need the whole list: also false when it was cut short.
 template <class R, class Request>
-[[nodiscard]] bool listAllRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records) {
-    const auto announced = readList(client, request, records);
+[[nodiscard]] bool listAllRecords(CQVXAdminClass2& client, const Request& request, std::vector<R>& records,
+                                  std::string summary = {}) {
+    const auto announced = readList(client, request, records, std::move(summary));
     return announced && std::cmp_greater_equal(records.size(), std::max<std::int16_t>(*announced, 0));
 }
 

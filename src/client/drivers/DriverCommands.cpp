@@ -18,12 +18,10 @@ bool DriverCommands::nextDriverBrand(protocol::DriverBrandRecord& brand) {
     return brands_.next(brand);
 }
 
-std::vector<protocol::DriverModelRecord> DriverCommands::listDriverModels(std::uint8_t listKind,
-                                                                          const std::string& parentId) {
-    std::vector<protocol::DriverModelRecord> models;
-    static_cast<void>(listRecords(
-        client_, protocol::ListDriverModelsRequest{.listKind = listKind, .parentId = parentId}, models, parentId));
-    return models;
+bool DriverCommands::listDriverModels(std::uint8_t listKind, const std::string& parentId,
+                                      std::vector<protocol::DriverModelRecord>& models) {
+    return listAllRecords(client_, protocol::ListDriverModelsRequest{.listKind = listKind, .parentId = parentId},
+                          models, parentId);
 }
 
 bool DriverCommands::listOperatingSystems() {

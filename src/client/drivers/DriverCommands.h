@@ -27,9 +27,9 @@ public:
     [[nodiscard]] const std::vector<protocol::DriverBrandRecord>& driverBrands() const { return brands_.records(); }
 
     // The models of a brand or the alternates of a model, by a protocol::driverModelList, in the order of the wire.
-    // Throws ConnectFailed.
-    [[nodiscard]] std::vector<protocol::DriverModelRecord> listDriverModels(std::uint8_t listKind,
-                                                                            const std::string& parentId);
+    // False when not all of them arrived. Throws ConnectFailed.
+    [[nodiscard]] bool listDriverModels(std::uint8_t listKind, const std::string& parentId,
+                                        std::vector<protocol::DriverModelRecord>& models);
 
     bool listOperatingSystems();
     bool nextOperatingSystem(protocol::OperatingSystemRecord& system);

@@ -60,7 +60,9 @@ TEST_F(Drivers, brandsAreAskedForWithoutFieldsAndHandedOutLastFirst) {
 TEST_F(Drivers, modelsComeInWireOrder) {
     answer({countedList({pair("61") + hex("01"), pair("62") + hex("00")})});
 
-    const auto models = CQVXAdminClass(settings).listDriverModels(modelList::forAlternates, "b1");
+    std::vector<DriverModelRecord> models;
+
+    EXPECT_TRUE(CQVXAdminClass(settings).listDriverModels(modelList::forAlternates, "b1", models));
 
     EXPECT_EQ(received(), request(5, "03 02 00 62 31"));
     EXPECT_EQ(models, (std::vector<DriverModelRecord>{{"a", u"N", true}, {"b", u"N", false}}));
@@ -69,10 +71,12 @@ TEST_F(Drivers, modelsComeInWireOrder) {
 TEST_F(Drivers, modelsAreAskedForByKindOfList) {
     answer({countedList({}), countedList({}), countedList({})});
     CQVXAdminClass client(settings);
+    std::vector<DriverModelRecord> models;
 
-    EXPECT_TRUE(client.listDriverModels(modelList::ofBrand, "b").empty());
-    EXPECT_TRUE(client.listDriverModels(modelList::forDialogs, "b").empty());
-    EXPECT_TRUE(client.listDriverModels(modelList::alternates, "m").empty());
+    EXPECT_TRUE(client.listDriverModels(modelList::ofBrand, "b", models));
+    EXPECT_TRUE(client.listDriverModels(modelList::forDialogs, "b", models));
+    EXPECT_TRUE(client.listDriverModels(modelList::alternates, "m", models));
+    EXPECT_TRUE(models.empty());
 
     EXPECT_EQ(received(0), request(5, "00 01 00 62"));
     EXPECT_EQ(received(1), request(5, "01 01 00 62"));
@@ -86,8 +90,9 @@ TEST_F(Drivers, modelsOfAReplyThatBreaksOffThrow) {
         connection.send({whole.begin(), whole.end() - 1});
     }});
     CQVXAdminClass client(settings);
+    std::vector<DriverModelRecord> models;
 
-    EXPECT_EQ(thrownBy([&] { static_cast<void>(client.listDriverModels(0, "b")); }), "failed to get messages");
+    EXPECT_EQ(thrownBy([&] { static_cast<void>(client.listDriverModels(0, "b", models)); }), "failed to get messages");
 }
 
 TEST_F(Drivers, operatingSystemsAreAskedForWithoutFieldsAndHandedOutLastFirst) {
@@ -306,8 +311,9 @@ TEST_F(Drivers, withoutAServerEachCommandIsFalseAndListsAreEmpty) {
 
 TEST_F(Drivers, modelsWithoutAServerThrow) {
     CQVXAdminClass client(settings);
+    std::vector<DriverModelRecord> models;
 
-    EXPECT_THROW(static_cast<void>(client.listDriverModels(0, "b1")), ConnectFailed);
+    EXPECT_THROW(static_cast<void>(client.listDriverModels(0, "b1", models)), ConnectFailed);
 }
 
 } // namespace

@@ -227,7 +227,8 @@ TEST_F(WriteCheck, seesRecipientsPlansAndRanges) {
 TEST_F(WriteCheck, seesTheDriverCatalogue) {
     ASSERT_TRUE(client.listDriverBrands());
     const auto brand = client.driverBrands().front().brandId;
-    const auto models = client.listDriverModels(0, brand);
+    std::vector<protocol::DriverModelRecord> models;
+    ASSERT_TRUE(client.listDriverModels(0, brand, models));
     ASSERT_FALSE(models.empty());
 
     expectDone([&] { return client.addDriverModel(brand, u"New model"); });
