@@ -84,6 +84,11 @@ void Form::EndDialog(int result) {
     }
 }
 
+void Form::resume() {
+    ended_ = false;
+    result_ = idCancel;
+}
+
 void Form::setTitle(wire::WideString title) {
     title_ = std::move(title);
     if (observer_ != nullptr) {

@@ -47,6 +47,9 @@ public:
     // For hosts: Enter, where the focused control does not take it.
     void userPressedDefault(const Control* focused = nullptr);
 
+    // For hosts: the form has not ended after all, and keeps what was entered: what it wrote was not accepted.
+    void resume();
+
     [[nodiscard]] bool ended() const { return ended_; }
     [[nodiscard]] int result() const { return result_; }
     // The control that has, or should get, the focus; null for the first reachable one.

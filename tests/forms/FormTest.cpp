@@ -40,6 +40,19 @@ TEST_F(FormTest, theStandardButtonsEndItWithTheirIds) {
     EXPECT_EQ(other.result(), 2);
 }
 
+TEST_F(FormTest, whatWasEnteredStaysWhenItGoesOn) {
+    form.open();
+    form.name.userTyped(u"North");
+    form.okButton().userPressed();
+    form.resume();
+    EXPECT_FALSE(form.ended());
+    EXPECT_EQ(form.result(), idCancel);
+    EXPECT_EQ(form.name.text(), u"North");
+    form.okButton().userPressed();
+    EXPECT_TRUE(form.ended());
+    EXPECT_EQ(form.result(), idOk);
+}
+
 TEST_F(FormTest, theStandardButtonsCanHaveOtherTexts) {
     SampleForm login(platform, {.okLabel = u"Login", .cancelLabel = u"Give up"});
     EXPECT_EQ(login.okButton().label(), u"Login");

@@ -26,16 +26,7 @@ void Operations::later(std::function<void()> work) {
 }
 
 void Operations::request(std::function<bool(shell::Shell&)> work) {
-    later([this, work = std::move(work)] {
-        requested_ = work;
-        perform(work);
-    });
-}
-
-void Operations::repeat() {
-    if (requested_) {
-        later([this, work = requested_] { perform(work); });
-    }
+    later([this, work = std::move(work)] { perform(work); });
 }
 
 void Operations::rename(const Renaming& renaming) {

@@ -56,9 +56,8 @@ public:
     // Runs the work from the event loop as soon as no operation is running, in the order of the calls.
     void later(std::function<void()> work);
 
-    // Runs the work like later, and can run it again until the next one is requested.
+    // Performs the work like later.
     void request(std::function<bool(shell::Shell&)> work);
-    void repeat();
     // Gives the selected item or row a new name, like later; nothing happens when another one is selected by then.
     void rename(const Renaming& renaming);
     // What is being renamed at the moment; null for nothing.
@@ -82,7 +81,6 @@ private:
     std::deque<std::function<void()>> waiting_;
     QTimer timer_;
     std::uint64_t count_ = 0;
-    std::function<bool(shell::Shell&)> requested_;
     std::optional<Renaming> renaming_;
     bool held_ = false;
 };

@@ -53,14 +53,16 @@ int DesktopUserInterface::runModal(forms::Form& form, platform::WindowHandle /*o
 }
 
 int DesktopUserInterface::show(forms::Form& form) const {
-    if (beforeForm) {
-        beforeForm(form);
+    for (;;) {
+        if (beforeForm) {
+            beforeForm();
+        }
+        const int result = runForm(form, owner());
+        if (!afterForm || !afterForm(result)) {
+            return result;
+        }
+        form.resume();
     }
-    const int result = runForm(form, owner());
-    if (afterForm) {
-        afterForm(form, result);
-    }
-    return result;
 }
 
 bool DesktopUserInterface::logIn(snapin::AuthenticationDlg& dialog) {

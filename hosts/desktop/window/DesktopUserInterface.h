@@ -29,9 +29,9 @@ public:
     [[nodiscard]] bool isUnattended() const { return unattended_; }
     // The window in front, over which boxes and forms are shown.
     [[nodiscard]] QWidget* owner() const;
-    // Called around each form but the login.
-    std::function<void(forms::Form&)> beforeForm;
-    std::function<void(forms::Form&, int result)> afterForm;
+    // Called around each form but the login. If the second one returns true, the form is shown again as it was left.
+    std::function<void()> beforeForm;
+    std::function<bool(int result)> afterForm;
     // Why the unattended login has failed; empty when it has not.
     [[nodiscard]] const QString& loginFailure() const { return loginFailure_; }
 

@@ -1,13 +1,11 @@
 #include "hosts/desktop/window/ServerWatch.h"
 
+#include "forms/Form.h"
 #include "hosts/common/Admission.h"
 #include "hosts/desktop/activity/WaitIndicator.h"
 #include "hosts/desktop/look/Text.h"
 #include "hosts/desktop/window/Question.h"
 #include "wire/Cancelled.h"
-
-#include <QApplication>
-#include <QPushButton>
 
 #include <algorithm>
 #include <array>
@@ -24,12 +22,6 @@ bool isChange(const client::CommandReport& report) {
     constexpr std::array<std::string_view, 9> verbs{"Add",    "Create", "Delete", "Move", "Remove",
                                                     "Rename", "Set",    "Update", "Write"};
     return std::ranges::any_of(verbs, [&](std::string_view verb) { return report.name.starts_with(verb); });
-}
-
-// The button of the dialog in front that has been pressed last; null for none.
-QPushButton* pressedButton() {
-    const QWidget* const dialog = QApplication::activeModalWidget();
-    return dialog != nullptr ? qobject_cast<QPushButton*>(dialog->focusWidget()) : nullptr;
 }
 
 } // namespace
@@ -52,8 +44,8 @@ ServerWatch::ServerWatch(Operations& operations, shell::Observers& observers, Li
     formTimer_.callOnTimeout([this] { seeToForm(); });
     operations_.onSettled = [this] { settle(); };
     operations_.admitsChange = [this] { return admitsChange(); };
-    ui_.beforeForm = [this](forms::Form& form) { beforeForm(form); };
-    ui_.afterForm = [this](forms::Form& form, int result) { afterForm(form, result); };
+    ui_.beforeForm = [this] { beforeForm(); };
+    ui_.afterForm = [this](int result) { return afterForm(result); };
     observers_.add(*this);
 }
 
@@ -172,14 +164,6 @@ void ServerWatch::settle() {
     if (!refusal.isEmpty() && tell(refusal, renaming != nullptr && onRenameAgain)) {
         operations_.later([this, again = *renaming] { onRenameAgain(again); });
     }
-    if (std::exchange(opensAgain_, false)) {
-        operations_.repeat();
-        operations_.later([this, attempt = ++attempt_] {
-            if (attempt == attempt_) {
-                input_.reset(); // the dialog did not open
-            }
-        });
-    }
 }
 
 void ServerWatch::seeToSilence(const std::vector<console::ScopeId>& opened) {
@@ -217,40 +201,24 @@ void ServerWatch::readAgain(std::vector<console::ScopeId> items) {
     });
 }
 
-void ServerWatch::beforeForm(forms::Form& form) {
+void ServerWatch::beforeForm() {
     if (isOn()) {
         const Aside aside(*this);
         if (common::askForAdmission() == common::Admission::turnedAway) {
             offerLogin(); // without it the dialog says what it can't read
         }
-        if (input_ && input_->fits(form)) {
-            form.open();
-            std::exchange(input_, std::nullopt)->enterInto(form);
-        }
     }
     ++forms_;
 }
 
-void ServerWatch::afterForm(forms::Form& form, int result) {
+bool ServerWatch::afterForm(int result) {
     --forms_;
     if (!isOn()) {
-        return;
+        return false;
     }
     const QString refusal = takeRefusal();
-    if (refusal.isEmpty()) {
-        return;
-    }
-    QPushButton* const opener = forms_ > 0 ? pressedButton() : nullptr;
-    const bool canOpen = forms_ == 0 || opener != nullptr;
-    if (!tell(refusal, result == forms::idOk && canOpen)) {
-        return;
-    }
-    input_.emplace(form);
-    if (opener != nullptr) {
-        QTimer::singleShot(0, opener, &QPushButton::click);
-    } else {
-        opensAgain_ = true;
-    }
+    const bool wasConfirmed = result != forms::idCancel;
+    return !refusal.isEmpty() && tell(refusal, wasConfirmed);
 }
 
 QString ServerWatch::takeRefusal() {

@@ -3,7 +3,6 @@
 #include "client/RequestObserver.h"
 #include "hosts/common/WriteCheck.h"
 #include "hosts/desktop/activity/ListAge.h"
-#include "hosts/desktop/window/FormInput.h"
 #include "hosts/desktop/window/LoginKeeper.h"
 
 #include <QTimer>
@@ -53,8 +52,9 @@ private:
     void settle();
     void seeToSilence(const std::vector<console::ScopeId>& opened);
     void seeToForm();
-    void beforeForm(forms::Form& form);
-    void afterForm(forms::Form& form, int result);
+    void beforeForm();
+    // True when the form is to be shown again, with what was typed.
+    bool afterForm(int result);
     // The first change since the last call that was not carried out, in words; empty without one.
     QString takeRefusal();
     // True when the user wants back what was typed.
@@ -68,15 +68,12 @@ private:
     LoginKeeper* logins_ = nullptr;
     common::WriteCheck writes_;
     std::vector<console::ScopeId> opened_; // in this operation
-    std::optional<FormInput> input_;       // to be entered in the next form that it fits
     QString failedChange_;
     QTimer formTimer_;
-    int attempt_ = 0;         // to open a dialog again
     int aside_ = 0;           // commands of its own are running
     int running_ = 0;         // commands
     int forms_ = 0;           // open ones
     bool isAdmitted_ = false; // asked for the change that comes next
-    bool opensAgain_ = false; // once the operation is over
     bool sawSilence_ = false; // a command that arrived was not answered
     bool isTurnedAway_ = false;
     bool isDeclined_ = false; // the user did not want to log in for what was to be read

@@ -1,7 +1,10 @@
 #include "tests/hosts/desktop/WindowFixture.h"
 
+#include "client/CQVXAdminClass.h"
+
 #include <QLabel>
 #include <QLineEdit>
+#include <QTreeView>
 
 namespace desktoptest {
 namespace {
@@ -26,6 +29,15 @@ protected:
         ASSERT_NE(nullptr, nameBox());
         nameBox()->setText(name);
         QTest::keyClick(nameBox(), Qt::Key_Return);
+    }
+    // As somebody else would do it meanwhile.
+    static void deletePlan(wire::WideStringView name) {
+        client::CQVXAdminClass client;
+        std::vector<protocol::PricePlanRecord> plans;
+        ASSERT_TRUE(client.listPricePlans(plans));
+        const auto plan = std::ranges::find(plans, name, &protocol::PricePlanRecord::name);
+        ASSERT_NE(plans.end(), plan);
+        client.deletePricePlan(plan->id);
     }
     static constexpr const char* openAgain = "Open again with what you typed";
 };
@@ -87,6 +99,38 @@ TEST_F(RefusedChange, aNameThatIsTakenComesBackIntoTheBoxForTheName) {
     QTest::keyClick(editor, Qt::Key_Return);
     settle();
     EXPECT_TRUE(childrenOf(QStringLiteral("Printers")).contains(QStringLiteral("Berlin East")));
+}
+
+TEST_F(RefusedChange, theRowsOfADialogsListComeBackWithWhatWasTyped) {
+    open(QStringLiteral("Rules/Price Plans"));
+    selectRow(QStringLiteral("Students"));
+    const auto rowsOf = [](const QDialog& dialog) { return dialog.findChild<QTreeView*>()->model()->rowCount(); };
+    int edited = 0;
+    whenAsked([&](QDialog& dialog) {
+        const int before = rowsOf(dialog);
+        type(dialog, 0, QStringLiteral("Pupils"));
+        auto* const prices = dialog.findChild<QTreeView*>();
+        QTest::mouseClick(prices->viewport(), Qt::LeftButton, {},
+                          prices->visualRect(prices->model()->index(0, 0)).center());
+        press(dialog, QStringLiteral("Remove"));
+        QCoreApplication::processEvents(); // the list fills when the handler has returned
+        edited = rowsOf(dialog);
+        EXPECT_GT(before, edited);
+        deletePlan(u"Students");
+        press(dialog, QStringLiteral("OK"));
+    });
+    whenAsked([](QDialog& box) { press(box, QString::fromLatin1(openAgain)); });
+    int shownAgain = 0;
+    whenAsked([&](QDialog& dialog) {
+        shownAgain = rowsOf(dialog);
+        EXPECT_EQ(QStringLiteral("Pupils"), dialog.findChildren<QLineEdit*>()[0]->text());
+        press(dialog, QStringLiteral("Cancel"));
+    });
+
+    choose(QStringLiteral("Edit price plan"));
+
+    EXPECT_NE(0, edited);
+    EXPECT_EQ(edited, shownAgain);
 }
 
 TEST_F(RefusedChange, aPricePlanStaysOpenWithWhatWasTypedWhileTheServerIsDown) {
