@@ -9,8 +9,6 @@
 namespace bench {
 namespace {
 
-constexpr int repetitions = 5;
-
 std::size_t memory() {
     return mallinfo2().uordblks;
 }
@@ -64,10 +62,13 @@ void refreshSortedBare(benchmark::State& state) {
 void sort(benchmark::State& state) {
     OurView shown(ours());
     paint(shown.view);
+    shell::SortOrder order{.column = 1};
     for (auto _ : state) {
-        ours().operations.perform([](shell::Shell& console) { return console.clickColumn(1); });
+        ours().shell.sort(order);
+        order.ascending = !order.ascending;
         paint(shown.view);
     }
+    ours().shell.sort(std::nullopt);
 }
 
 void sortBare(benchmark::State& state) {

@@ -12,6 +12,8 @@
 
 namespace bench {
 
+constexpr int repetitions = 5; // of each benchmark
+
 // A user interface without a user.
 class NoPerson final : public shell::ShellUserInterface {
 public:
