@@ -23,8 +23,8 @@ void Notifier::stopped(std::string_view where, std::string_view what) const {
     observers_.tell([&](ShellObserver& observer) { observer.handlerStopped(where, what); });
 }
 
-void Notifier::expand(const Node& node, ScopeId id, bool expand) const {
-    static_cast<void>(send(Side::scope, node, {.event = Event::expand, .arg = expand ? 1 : 0, .param = id}));
+Result Notifier::expand(const Node& node, ScopeId id, bool expand) const {
+    return send(Side::scope, node, {.event = Event::expand, .arg = expand ? 1 : 0, .param = id});
 }
 
 Result Notifier::addImages(const Node& node, ScopeId id, console::IImageList& images) const {

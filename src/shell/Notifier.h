@@ -18,8 +18,9 @@ public:
     // Both outlive it.
     Notifier(SnapIn& snapIn, const Observers& observers) : snapIn_(snapIn), observers_(observers) {}
 
+    // Result::ok if the children could be read.
+    console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
     // Nothing depends on what a node makes of these.
-    void expand(const Node& node, console::ScopeId id, bool expand) const;
     console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
     void show(const Node& node, console::ScopeId id, bool show) const;
     // Asks the shown node to show its columns and rows again after a refresh.

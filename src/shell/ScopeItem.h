@@ -20,6 +20,7 @@ struct ScopeItem {
     std::int32_t openImage = 0;
     bool mayHaveChildren = false;
     bool loaded = false;                    // its node has been told to expand
+    bool unread = false;                    // its node was told so and could not read its children
     bool open = false;                      // its children are displayed
     bool gone = false;                      // removed by a handler, but displayed until the commit
     bool back = false;                      // removed and inserted again since the last commit

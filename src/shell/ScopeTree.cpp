@@ -172,7 +172,10 @@ std::int32_t ScopeTree::image(ScopeId id) const {
 
 bool ScopeTree::mayHaveChildren(ScopeId id) const {
     const ScopeItem* const item = find(id);
-    return item != nullptr && (item->loaded ? !item->shown.empty() : item->mayHaveChildren);
+    if (item == nullptr || !item->shown.empty()) {
+        return item != nullptr;
+    }
+    return item->mayHaveChildren && (!item->loaded || item->unread);
 }
 
 bool ScopeTree::isOpen(ScopeId id) const {
@@ -218,6 +221,16 @@ void ScopeTree::setOpen(ScopeItem& item, bool open) {
         item.open = open;
         const ScopeId id = item.id;
         observers_.tell([&](ShellObserver& observer) { observer.scopeItemOpened(id, open); });
+    }
+}
+
+void ScopeTree::noteRead(ScopeId id, bool read) {
+    ScopeItem* const item = alive(id);
+    if (item != nullptr) {
+        item->unread = !read && item->children.empty();
+        if (item->children.empty()) {
+            renamed_.push_back(id);
+        }
     }
 }
 

@@ -54,6 +54,8 @@ public:
     // The item itself, or else the nearest one above it that still exists.
     console::ScopeId nearestAlive(console::ScopeId id) const;
     void setOpen(ScopeItem& item, bool open);
+    // The item's node has read its children, or could not read them: then the expander stays, to try it again.
+    void noteRead(console::ScopeId id, bool read);
     // The item that must be loaded again when it comes back, even if nothing around it is open: the selected one.
     void keepReachable(console::ScopeId id) { reachable_ = id; }
     // An item that came back and was open before; 0 when there is none.

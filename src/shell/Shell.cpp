@@ -124,10 +124,11 @@ bool Shell::expand(ScopeId id) {
         if (item == nullptr) {
             return false;
         }
+        item->loaded = item->loaded && !item->unread;
         view_.load(*item);
         item = tree_.alive(id);
         if (item != nullptr) {
-            tree_.setOpen(*item, true);
+            tree_.setOpen(*item, !item->unread);
         }
         return item != nullptr;
     });

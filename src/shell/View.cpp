@@ -14,7 +14,9 @@ View::View(console::IConsole& console, const Notifier& notifier, ScopeTree& tree
 
 void View::load(ScopeItem& item) {
     if (!std::exchange(item.loaded, true)) {
-        notifier_.expand(item.node, item.id, true);
+        const ScopeId id = item.id;
+        const auto result = notifier_.expand(item.node, id, true);
+        tree_.noteRead(id, result == console::Result::ok);
     }
 }
 
@@ -108,6 +110,7 @@ void View::refresh() {
     }
     item->loaded = true;
     const auto result = notifier_.refresh(shown_, DataObjectType::scope, scope_);
+    tree_.noteRead(scope_, result == console::Result::ok);
     pane.takeReplaced();
     if (console::succeeded(result)) {
         showAnew();

@@ -17,7 +17,7 @@ namespace shell {
 // The selected scope item, its list, and the selected row of it. Sends the notifications that go with that, in the
 // order of the real console:
 //
-//   another scope item    expand (once in its life)
+//   another scope item    expand (once in its life; again by Shell::expand if the children could not be read)
 //                         to what was selected: select off; to the scope item that was shown: show off
 //                         verbs, columns and rows are reset
 //                         add images, show on, select on

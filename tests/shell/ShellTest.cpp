@@ -180,6 +180,47 @@ TEST_F(Shell, collapsingAboveTheSelectionSelectsWhatIsCollapsed) {
     EXPECT_EQ(shell.selection().scope, a());
 }
 
+TEST_F(Shell, anItemThatCouldNotBeReadKeepsItsExpanderAndIsReadAgainByIt) {
+    start();
+    estate.unreadable = "a";
+    shell.expand(a());
+    EXPECT_TRUE(shell.tree().mayHaveChildren(a()));
+    EXPECT_FALSE(shell.tree().isOpen(a()));
+
+    estate.unreadable.clear();
+    shell.expand(a());
+
+    EXPECT_EQ(treeBelow(a()).size(), 4U);
+    EXPECT_TRUE(shell.tree().isOpen(a()));
+    EXPECT_EQ(estate.lists, (Lines{"a", "a"}));
+}
+
+TEST_F(Shell, anItemThatCouldNotBeReadIsNotExpandedAgainByASelection) {
+    start();
+    estate.unreadable = "a";
+    shell.select(a());
+    shell.select(b());
+    snapIn.log.clear();
+
+    shell.select(a());
+
+    EXPECT_EQ(snapIn.log, (Lines{"select B off", "show B off", "add images A", "show A on", "select A on"}));
+}
+
+TEST_F(Shell, anItemThatARefreshCouldNotReadKeepsItsExpander) {
+    start();
+    shell.select(a());
+    estate.unreadable = "a";
+
+    shell.refresh();
+    EXPECT_TRUE(shell.tree().mayHaveChildren(a()));
+
+    estate.unreadable.clear();
+    estate.below["a"].clear();
+    shell.refresh();
+    EXPECT_FALSE(shell.tree().mayHaveChildren(a()));
+}
+
 TEST_F(Shell, anItemThatTurnsOutEmptyLosesItsExpander) {
     start();
     shell.expand(a());
