@@ -10,8 +10,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -19,6 +21,14 @@ namespace desktop {
 namespace {
 
 constexpr int narrowestDialog = 360;
+
+// With which the whole title is in the frame, beside the frame's buttons. The font of titles is not known: it is often
+// bold.
+int widthFor(const QString& title, const QWidget& dialog) {
+    QFont font = dialog.font();
+    font.setBold(true);
+    return QFontMetrics(font).horizontalAdvance(title) + 4 * dialog.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+}
 
 } // namespace
 
@@ -30,7 +40,6 @@ FormDialog::FormDialog(forms::Form& form, QWidget* owner)
     form_.setObserver(this);
     form_.open(); // before anything is drawn, so that its content is drawn once
     setSizeGripEnabled(true);
-    setMinimumWidth(narrowestDialog);
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
@@ -129,8 +138,11 @@ void FormDialog::growToFit() {
 }
 
 void FormDialog::titleChanged(forms::Form& form) {
+    const QString title = shownLine(form.title());
+    setMinimumWidth(
+        std::clamp(widthFor(title, *this), narrowestDialog, std::max(narrowestDialog, scroll_->room().width())));
     // Qt would take "[*]" for its placeholder of the "modified" mark.
-    setWindowTitle(shownLine(form.title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    setWindowTitle(QString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 void FormDialog::formEnded(forms::Form& form) {

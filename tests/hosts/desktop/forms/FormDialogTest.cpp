@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -28,6 +29,18 @@ TEST_F(FormDialogs, theTitleIsTheFormsAndFollowsIt) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Sample"));
     form.setTitle(u"Edit <b>Message</b>");
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Edit <b>Message</b>"));
+}
+
+TEST_F(FormDialogs, aLongTitleIsShownWholeUnlessTheScreenIsNarrower) {
+    auto& dialog = show();
+    const wire::WideString title = u"Rename the region that holds the printers of the warehouse in Berlin to something";
+    form.setTitle(title);
+    settle();
+    EXPECT_GE(dialog.width(), dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()));
+
+    form.setTitle(wire::WideString(5'000, u'W'));
+    settle();
+    EXPECT_LE(dialog.width(), dialog.screen()->availableGeometry().width());
 }
 
 TEST_F(FormDialogs, aControlIsDisabledAndHiddenWithItsLabel) {
