@@ -1,8 +1,8 @@
 #include "hosts/ctl/Session.h"
 
+#include "hosts/common/QuietOutput.h"
 #include "hosts/ctl/Password.h"
 #include "hosts/ctl/PrintableText.h"
-#include "hosts/ctl/QuietOutput.h"
 #include "snapin/AuthenticationDlg.h"
 #include "snapin/LoginThread.h"
 
@@ -73,7 +73,7 @@ wire::WideString Session::logIn() {
     ui_.setSteps(loginSteps(server, port));
     snapin::AuthenticationDlg dialog(platform_);
     {
-        const QuietOutput quiet; // the login prints something to standard output, which is for data here
+        const common::QuietOutput quiet; // the login prints something to standard output, which is for data here
         ui_.runModal(dialog, 0);
     }
     failures_.forget();

@@ -1,6 +1,7 @@
 #include "hosts/desktop/window/Program.h"
 
 #include "hosts/common/IniSettingsStore.h"
+#include "hosts/common/QuietOutput.h"
 #include "hosts/desktop/look/Text.h"
 #include "hosts/desktop/window/LookChoices.h"
 #include "hosts/desktop/window/MainWindow.h"
@@ -49,6 +50,7 @@ double scaleOf(const Options& options) {
 }
 
 int runProgram(const Options& options, const std::optional<wire::WideString>& password) {
+    const common::QuietOutput quiet; // the login leaves a word there, which nobody asked for
     const auto file = settingsFile(options);
     common::IniSettingsStore saved(file);
     PrefilledSettings settings(saved, options.login);

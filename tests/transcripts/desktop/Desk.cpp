@@ -1,8 +1,8 @@
 #include "tests/transcripts/desktop/Desk.h"
 
 #include "client/CQVXAdminClassProperties.h"
+#include "hosts/common/QuietOutput.h"
 #include "hosts/ctl/NodeFinder.h"
-#include "hosts/ctl/QuietOutput.h"
 #include "hosts/desktop/look/Text.h"
 #include "snapin/LoginThread.h"
 #include "tests/transcripts/desktop/Hands.h"
@@ -45,7 +45,7 @@ Desk::Desk(const SampleServer& server)
     window_->show();
     window_->activateWindow();
     session_->ui().setPassword(wire::toWide(SampleServer::password));
-    const ctl::QuietOutput quiet; // the login leaves a word on standard output
+    const common::QuietOutput quiet; // the login leaves a word on standard output
     bool started = false;
     window_->onStarted = [&](const std::optional<QString>&) { started = true; };
     window_->start({});

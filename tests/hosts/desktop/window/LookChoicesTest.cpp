@@ -1,24 +1,19 @@
 #include "hosts/desktop/window/LookChoices.h"
 
 #include "hosts/desktop/window/Program.h"
+#include "tests/hosts/desktop/KeptLook.h"
 #include "tests/hosts/desktop/WindowFixture.h"
 
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QStyle>
 
 namespace desktoptest {
 namespace {
 
 class ViewMenu : public WindowFixture {
 protected:
-    ~ViewMenu() override {
-        desktop::applyColorScheme(desktop::ColorScheme::system);
-        QApplication::setStyle(style_);
-        QApplication::setPalette(palette_);
-    }
     static QAction* entry(const QList<QAction*>& actions, const QString& text) {
         for (QAction* const action : actions) {
             if (action->text().remove(QLatin1Char('&')) == text) {
@@ -42,8 +37,7 @@ protected:
     int lightness() { return window().palette().color(QPalette::Window).lightness(); }
 
 private:
-    QString style_ = QApplication::style()->name();
-    QPalette palette_ = QApplication::palette();
+    KeptLook look_;
 };
 
 TEST_F(ViewMenu, changesTheLookAtOnceAndRemembersIt) {

@@ -3,7 +3,7 @@
 #include <iostream>
 #include <streambuf>
 
-namespace ctl {
+namespace common {
 
 // Discards what is written to std::cout while it lives.
 class QuietOutput {
@@ -26,4 +26,4 @@ private:
     std::streambuf* before_;
 };
 
-} // namespace ctl
+} // namespace common
