@@ -128,7 +128,10 @@ bool Shell::expand(ScopeId id) {
         view_.load(*item);
         item = tree_.alive(id);
         if (item != nullptr) {
-            tree_.setOpen(*item, !item->unread);
+            tree_.setOpen(*item, true);
+            if (item->unread) {
+                tree_.setOpen(*item, false); // so that opening it tries again
+            }
         }
         return item != nullptr;
     });
@@ -214,10 +217,16 @@ bool Shell::refreshList() {
 bool Shell::reread(const std::vector<ScopeId>& items) {
     return operate([&] {
         for (const ScopeId id : items) {
-            ScopeItem* const item = id != view_.scope() ? tree_.alive(id) : nullptr;
-            if (item != nullptr) {
-                item->loaded = false;
-                view_.load(*item);
+            ScopeItem* item = id != view_.scope() ? tree_.alive(id) : nullptr;
+            if (item == nullptr) {
+                continue;
+            }
+            const bool wasUnread = std::exchange(item->unread, false);
+            item->loaded = false;
+            view_.load(*item);
+            item = tree_.alive(id);
+            if (item != nullptr && wasUnread && !item->unread) {
+                tree_.setOpen(*item, true);
             }
         }
         view_.refresh();

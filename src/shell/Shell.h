@@ -44,6 +44,7 @@ public:
     bool busy() const { return running_; }
 
     bool select(console::ScopeId id);
+    // An item that can't be read is closed again at once; expanding it reads it again.
     bool expand(console::ScopeId id);
     bool collapse(console::ScopeId id);
     // Opens everything above an item.
@@ -57,7 +58,8 @@ public:
     bool refresh();
     // Refreshes the selected scope item, whichever row is selected; that row stays selected.
     bool refreshList();
-    // Reads from the server again what these items of the tree hold, and the shown list.
+    // Reads from the server again what these items of the tree hold, and the shown list. Those that could not be read
+    // before are open afterwards.
     bool reread(const std::vector<console::ScopeId>& items);
     bool back();
     bool forward();
