@@ -23,8 +23,12 @@ void Notifier::stopped(std::string_view where, std::string_view what) const {
     observers_.tell([&](ShellObserver& observer) { observer.handlerStopped(where, what); });
 }
 
-Result Notifier::expand(const Node& node, ScopeId id, bool expand) const {
-    return send(Side::scope, node, {.event = Event::expand, .arg = expand ? 1 : 0, .param = id});
+Result Notifier::expand(const Node& node, ScopeId id) const {
+    return send(Side::scope, node, {.event = Event::expand, .arg = 1, .param = id});
+}
+
+void Notifier::collapse(const Node& node, ScopeId id) const {
+    static_cast<void>(send(Side::scope, node, {.event = Event::expand, .arg = 0, .param = id}));
 }
 
 Result Notifier::addImages(const Node& node, ScopeId id, console::IImageList& images) const {

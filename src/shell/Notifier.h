@@ -19,8 +19,9 @@ public:
     Notifier(SnapIn& snapIn, const Observers& observers) : snapIn_(snapIn), observers_(observers) {}
 
     // Result::ok if the children could be read.
-    console::Result expand(const Node& node, console::ScopeId id, bool expand) const;
+    [[nodiscard]] console::Result expand(const Node& node, console::ScopeId id) const;
     // Nothing depends on what a node makes of these.
+    void collapse(const Node& node, console::ScopeId id) const;
     console::Result addImages(const Node& node, console::ScopeId id, console::IImageList& images) const;
     void show(const Node& node, console::ScopeId id, bool show) const;
     // Asks the shown node to show its columns and rows again after a refresh.

@@ -144,7 +144,7 @@ bool Shell::collapse(ScopeId id) {
             return false;
         }
         tree_.setOpen(*item, false);
-        notifier_.expand(item->node, id, false);
+        notifier_.collapse(item->node, id);
         const auto path = tree_.pathTo(view_.scope());
         return view_.scope() == id || std::ranges::find(path, id) == path.end() || show(id);
     });

@@ -15,7 +15,7 @@ View::View(console::IConsole& console, const Notifier& notifier, ScopeTree& tree
 void View::load(ScopeItem& item) {
     if (!std::exchange(item.loaded, true)) {
         const ScopeId id = item.id;
-        const auto result = notifier_.expand(item.node, id, true);
+        const auto result = notifier_.expand(item.node, id);
         tree_.noteRead(id, result == console::Result::ok);
     }
 }
