@@ -13,6 +13,17 @@ using console::Result;
 using console::ResultId;
 using console::ScopeId;
 
+namespace {
+
+std::optional<SortOrder> orderAfterClick(const std::optional<SortOrder>& order, std::int32_t column) {
+    if (!order || order->column != column) {
+        return SortOrder{column, true};
+    }
+    return order->ascending ? std::optional(SortOrder{column, false}) : std::nullopt;
+}
+
+} // namespace
+
 Shell::Shell(SnapIn& snapIn, TaskQueue& tasks, const Observers& observers)
     : snapIn_(snapIn),
       tasks_(tasks),
@@ -184,8 +195,7 @@ bool Shell::clickColumn(std::int32_t column) {
         if (item == nullptr || column < 0 || static_cast<std::size_t>(column) >= header().columns().size()) {
             return false;
         }
-        const auto& order = pane().sortOrder();
-        view_.pane.sort(SortOrder{column, !order || order->column != column || !order->ascending});
+        view_.pane.sort(orderAfterClick(pane().sortOrder(), column));
         notifier_.columnClick(item->node, column);
         return true;
     });
@@ -316,9 +326,21 @@ bool Shell::cut() {
         if (!canCut()) {
             return false;
         }
-        clipboard_ = view_.active();
+        setCutNode(view_.active());
         return true;
     });
+}
+
+bool Shell::isCut(const console::CSnapInItem& node) const {
+    return clipboard_ != nullptr && clipboard_->className() == node.className() &&
+           clipboard_->refreshKey() == node.refreshKey();
+}
+
+void Shell::setCutNode(std::shared_ptr<console::CSnapInItem> node) {
+    if (clipboard_ != node) {
+        clipboard_ = std::move(node);
+        observers_.tell([](ShellObserver& observer) { observer.cutChanged(); });
+    }
 }
 
 bool Shell::accepts(const std::shared_ptr<console::CSnapInItem>& source) {
@@ -337,8 +359,12 @@ bool Shell::canPaste() {
 
 bool Shell::paste() {
     return operate([&] {
-        return accepts(clipboard_) && console::succeeded(notifier_.paste(view_.active(), view_.activeType(),
-                                                                         std::exchange(clipboard_, nullptr)));
+        const auto source = clipboard_;
+        if (!accepts(source)) {
+            return false;
+        }
+        setCutNode(nullptr);
+        return console::succeeded(notifier_.paste(view_.active(), view_.activeType(), source));
     });
 }
 
@@ -381,6 +407,17 @@ Table Shell::table() const {
     table.rowCount = pane().rowCount();
     table.cell = [this](std::size_t row, std::size_t column) {
         return pane().cell(row, static_cast<std::int32_t>(column));
+    };
+    return table;
+}
+
+Table Shell::table(std::vector<std::size_t> rows, const std::vector<std::size_t>& columns) const {
+    Table table;
+    std::ranges::transform(columns, std::back_inserter(table.columns),
+                           [this](std::size_t column) { return header().columns().at(column).title; });
+    table.rowCount = rows.size();
+    table.cell = [this, rows = std::move(rows), columns](std::size_t row, std::size_t column) {
+        return pane().cell(rows[row], static_cast<std::int32_t>(columns[column]));
     };
     return table;
 }

@@ -12,6 +12,9 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace shell {
@@ -52,7 +55,8 @@ public:
     // 0 goes back to the scope item.
     bool selectRow(console::ResultId id);
     bool doubleClick(console::ResultId id);
-    // The user clicked a title: sorts the list by that column, or in the opposite direction if it already was.
+    // The user clicked a title: sorts the list by that column; after another click in the opposite direction, after a
+    // third one in its natural order again.
     bool clickColumn(std::int32_t column);
     // Refreshes the selected row, or else the selected scope item.
     bool refresh();
@@ -75,6 +79,12 @@ public:
     bool rename(const wire::WideString& newName);
     bool canCut() const { return offers(console::Verb::cut); }
     bool cut();
+    // What is cut and not pasted yet; null for nothing.
+    const std::shared_ptr<console::CSnapInItem>& cutNode() const { return clipboard_; }
+    // Whether the node stands for what is cut; a refresh makes a new node for it.
+    bool isCut(const console::CSnapInItem& node) const;
+    // Forgets what is cut with null, or puts back what a paste has taken in vain.
+    void setCutNode(std::shared_ptr<console::CSnapInItem> node);
     // Asks the node, so it must not be called while a handler runs.
     bool canPaste();
     bool paste();
@@ -85,11 +95,16 @@ public:
     bool drop(const Target& source, console::ScopeId target);
 
     void sort(std::optional<SortOrder> order);
+    // The orders in which lists are shown from now on, each by the class of the item that it belongs to; others are in
+    // their natural order.
+    void setSortOrders(std::unordered_map<std::string, SortOrder> orders) { view_.setOrders(std::move(orders)); }
     void filter(wire::WideStringView text);
     // See ResultPane::setTopRow.
     void setTopRow(console::ResultId id) { view_.pane.setTopRow(id); }
     // The list as displayed, sorted and filtered. Valid until the list changes.
     Table table() const;
+    // Some rows and columns of it, in the order given.
+    Table table(std::vector<std::size_t> rows, const std::vector<std::size_t>& columns) const;
     // The next item that contains the text, below the selected one; 0 when there is none. With `load`, items that were
     // never opened are searched as well.
     console::ScopeId find(wire::WideStringView text, bool load);

@@ -33,6 +33,8 @@ public:
     // Commands now go to another scope item, another row, or the other pane.
     virtual void selectionChanged() {}
     virtual void verbsChanged() {}
+    // Something else is cut, or nothing any more.
+    virtual void cutChanged() {}
 
     virtual void columnsChanged() {}
     virtual void rowsAboutToBeInserted(std::size_t /*first*/, std::size_t /*count*/) {}

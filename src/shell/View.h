@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace shell {
 
@@ -49,6 +50,8 @@ public:
     // Adapts the selection to what handlers did to the selected item and row; true when that changed anything. Before a
     // refresh only the item matters: the refresh does the rest.
     bool settle(bool beforeRefresh);
+    // See Shell::setSortOrders.
+    void setOrders(std::unordered_map<std::string, SortOrder> orders) { orders_ = std::move(orders); }
     // Displays the changes and reports the selection.
     void commit();
 
