@@ -140,11 +140,24 @@ std::vector<ColumnWish> ColumnLayout::wishes() const {
     return needed <= header_.width() ? roomy : neededByTexts <= header_.width() ? snug : tight;
 }
 
+// The last column that does not hold numbers, which would be far away from the text to their left.
+std::size_t ColumnLayout::roomiest() const {
+    const auto isLeft = [this](int column) {
+        const int alignment = header_.model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+        return (static_cast<unsigned>(alignment) & Qt::AlignRight) == 0;
+    };
+    int column = header_.count() - 1;
+    while (column > 0 && !isLeft(column)) {
+        --column;
+    }
+    return static_cast<std::size_t>(isLeft(column) ? column : header_.count() - 1);
+}
+
 void ColumnLayout::fit() {
     auto widths = fittedWidths(wishes(), header_.width());
     if (!widths.empty()) {
         // The header goes on to the edge of the list.
-        widths.back() += std::max(0, header_.width() - std::accumulate(widths.begin(), widths.end(), 0));
+        widths[roomiest()] += std::max(0, header_.width() - std::accumulate(widths.begin(), widths.end(), 0));
     }
     int column = 0;
     for (const int width : widths) {

@@ -46,6 +46,8 @@ private:
     void applyDefaults();
     void fit();
     [[nodiscard]] std::vector<ColumnWish> wishes() const;
+    // The column that gets the room that no column asks for.
+    [[nodiscard]] std::size_t roomiest() const;
     // The widest text among the first rows, in pixels.
     [[nodiscard]] int contentsWidth(int column) const;
     void changed();

@@ -1,10 +1,14 @@
 #include "hosts/desktop/list/ListModel.h"
 
 #include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/look/TextDelegate.h"
 #include "hosts/desktop/tree/DragData.h"
+#include "shell/NumberColumn.h"
 
 #include <QIcon>
 #include <QMimeData>
+
+#include <algorithm>
 
 namespace desktop {
 
@@ -67,8 +71,15 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return oneLine(cell(index));
     case Qt::EditRole:
-    case Qt::ToolTipRole:
         return toQString(cell(index));
+    case Qt::ToolTipRole:
+        return isCut(index) ? QVariant(cutText(toQString(cell(index)))) : toQString(cell(index));
+    case Qt::AccessibleDescriptionRole:
+        return isCut(index) ? QVariant(cutText({})) : QVariant();
+    case TextDelegate::cutRole:
+        return isCut(index);
+    case Qt::TextAlignmentRole:
+        return alignmentOf(index.column());
     case Qt::DecorationRole:
         return index.column() == 0 ? QVariant(icons_.icon(operations_.shell().listImages().strip(),
                                                           pane().row(static_cast<std::size_t>(index.row())).image))
@@ -87,10 +98,33 @@ bool ListModel::setData(const QModelIndex& index, const QVariant& value, int rol
     return true;
 }
 
+bool ListModel::isCut(const QModelIndex& index) const {
+    const auto& shell = operations_.shell();
+    return shell.cutNode() != nullptr && shell.isCut(*pane().row(static_cast<std::size_t>(index.row())).node);
+}
+
+bool ListModel::holdsNumbers(int column) const {
+    if (!numbers_) {
+        numbers_.emplace();
+        for (int each = 0; each < columnCount(); ++each) {
+            numbers_->push_back(shell::holdsNumbers(pane(), each));
+        }
+    }
+    const auto place = static_cast<std::size_t>(column);
+    return place < numbers_->size() && (*numbers_)[place];
+}
+
+QVariant ListModel::alignmentOf(int column) const {
+    return static_cast<int>((holdsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
     const auto& columns = operations_.shell().header().columns();
     if (orientation != Qt::Horizontal || section < 0 || static_cast<std::size_t>(section) >= columns.size()) {
         return {};
+    }
+    if (role == Qt::TextAlignmentRole) {
+        return alignmentOf(section);
     }
     return role == Qt::DisplayRole ? QVariant(oneLine(columns[static_cast<std::size_t>(section)].title)) : QVariant();
 }
@@ -118,6 +152,9 @@ QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const {
         return nullptr;
     }
     const auto first = indexes.front().siblingAtColumn(0);
+    if (std::ranges::any_of(indexes, [&](const QModelIndex& index) { return index.row() != first.row(); })) {
+        return nullptr; // the nodes take one at a time
+    }
     return makeDragData(targetOf(first), toQString(cell(first)));
 }
 
@@ -140,7 +177,8 @@ bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int r
     return true;
 }
 
-void ListModel::announceChange() const {
+void ListModel::announceChange() {
+    numbers_.reset();
     if (onAboutToChange) {
         onAboutToChange();
     }
@@ -171,6 +209,7 @@ void ListModel::rowsRemoved(std::size_t /*first*/, std::size_t /*count*/) {
 }
 
 void ListModel::rowsChanged(std::size_t first, std::size_t count) {
+    numbers_.reset();
     if (columnCount() > 0) {
         emit dataChanged(index(static_cast<int>(first), 0),
                          index(static_cast<int>(first + count) - 1, columnCount() - 1));

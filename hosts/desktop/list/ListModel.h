@@ -6,6 +6,9 @@
 
 #include <QAbstractTableModel>
 
+#include <optional>
+#include <vector>
+
 namespace desktop {
 
 // The list for a Qt view; copies nothing, and asks for a text only when it is shown.
@@ -20,6 +23,8 @@ public:
     [[nodiscard]] QModelIndex indexOf(console::ResultId id) const;
     // The target of a menu entry, a drag or a drop on the row.
     [[nodiscard]] shell::Target targetOf(const QModelIndex& index) const;
+    // Whether the column holds numbers, which are aligned to the right.
+    [[nodiscard]] bool holdsNumbers(int column) const;
     // The scope item that the row represents; 0 when it represents none.
     [[nodiscard]] console::ScopeId scopeOf(const QModelIndex& index) const;
 
@@ -44,8 +49,10 @@ public:
 
 private:
     [[nodiscard]] const shell::ResultPane& pane() const { return operations_.shell().pane(); }
+    [[nodiscard]] bool isCut(const QModelIndex& index) const;
     [[nodiscard]] wire::WideStringView cell(const QModelIndex& index) const;
-    void announceChange() const;
+    [[nodiscard]] QVariant alignmentOf(int column) const;
+    void announceChange();
 
     void columnsChanged() override;
     void rowsAboutToBeInserted(std::size_t first, std::size_t count) override;
@@ -59,6 +66,7 @@ private:
     Operations& operations_;
     shell::Observers& observers_;
     const IconStrips& icons_;
+    mutable std::optional<std::vector<bool>> numbers_; // by column; empty until it is asked for, and after a change
 };
 
 } // namespace desktop

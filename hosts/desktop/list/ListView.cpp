@@ -13,6 +13,14 @@
 #include <utility>
 
 namespace desktop {
+namespace {
+
+QItemSelectionModel& selectionModelOf(QTreeView& view, ListModel& model) {
+    view.setModel(&model);
+    return *view.selectionModel();
+}
+
+} // namespace
 
 ListView::ListView(Operations& operations, shell::Observers& observers, ListModel& model, ViewSettings& settings,
                    QWidget* parent)
@@ -20,9 +28,10 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
       operations_(operations),
       observers_(observers),
       model_(model),
-      columns_(operations, settings, *header()) {
+      settings_(settings),
+      columns_(operations, settings, *header()),
+      selectedRows_(model, selectionModelOf(*this, model)) {
     setAccessibleName(QStringLiteral("List"));
-    setModel(&model);
     setItemDelegate(new TextDelegate(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -30,7 +39,7 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideRight);
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -51,13 +60,9 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
     header()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header(), &QWidget::customContextMenuRequested, this,
             [this](const QPoint& place) { columns_.showMenu(header()->mapToGlobal(place)); });
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        operations_.later([this, column] {
-            operations_.perform([&](shell::Shell& console) { return console.clickColumn(column); });
-        });
-    });
-    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) { open(index); });
-    connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { clickTitle(column); });
+    connect(this, &QTreeView::doubleClicked, this, [this] { open(); });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!following_) {
             operations_.later([this] { selectCurrent(); });
         }
@@ -73,17 +78,56 @@ ListView::~ListView() {
     model_.onAboutToChange = nullptr;
 }
 
-void ListView::open(const QModelIndex& index) {
-    operations_.later([this, id = model_.idOf(index)] {
-        operations_.perform([&](shell::Shell& console) { return id != 0 && console.doubleClick(id); });
+// A third click brings the natural order back.
+void ListView::clickTitle(int column) {
+    operations_.later([this, column] {
+        const auto& shell = operations_.shell();
+        if (operations_.perform([&](shell::Shell& console) { return console.clickColumn(column); })) {
+            showOrder();
+            settings_.setSortOrder(shell.tree().find(shell.selection().scope)->node->className(),
+                                   shell.pane().sortOrder());
+        }
     });
 }
 
+void ListView::open() {
+    operations_.later([this, id = model_.idOf(selectedRows_.only())] {
+        const auto index = model_.indexOf(id);
+        if (model_.scopeOf(index) != 0) {
+            operations_.perform([id](shell::Shell& console) { return console.doubleClick(id); });
+        } else if (index.isValid() && onOpen &&
+                   operations_.perform([id](shell::Shell& console) { return console.selectRow(id); })) {
+            onOpen(model_.targetOf(index));
+        }
+    });
+}
+
+void ListView::selectOnly(const QModelIndex& index) {
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void ListView::ensureSelection() {
+    if (currentIndex().isValid() && !selectionModel()->hasSelection()) {
+        selectOnly(currentIndex());
+    }
+}
+
+// Of several rows it knows one; what can only be done with a single row is not offered then.
 void ListView::selectCurrent() {
-    const auto id = model_.idOf(currentIndex());
-    if (id != 0 && id != operations_.shell().selection().row) {
+    const auto id = model_.idOf(selectedRows_.representative());
+    if (id != operations_.shell().selection().row) {
         operations_.perform([&](shell::Shell& console) { return console.selectRow(id); });
     }
+}
+
+shell::Table ListView::selectedTable() const {
+    std::vector<std::size_t> columns;
+    for (int place = 0; place < header()->count(); ++place) {
+        if (const int column = header()->logicalIndex(place); !header()->isSectionHidden(column)) {
+            columns.push_back(static_cast<std::size_t>(column));
+        }
+    }
+    return operations_.shell().table(selectedRows_.rows(), columns);
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -93,6 +137,7 @@ void ListView::focusInEvent(QFocusEvent* event) {
         if (!currentIndex().isValid() && model_.rowCount() > 0) {
             setCurrentIndex(model_.index(0, 0));
         }
+        ensureSelection();
         operations_.later([this] { selectCurrent(); });
     }
 }
@@ -107,10 +152,15 @@ void ListView::contextMenuEvent(QContextMenuEvent* event) {
     const auto place =
         byKey && index.isValid() ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos();
     if (index.isValid()) {
-        setCurrentIndex(index);
+        if (selectionModel()->isSelected(index)) {
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        } else {
+            selectOnly(index);
+        }
         selectCurrent();
         onMenu(model_.targetOf(index), place);
     } else {
+        clearSelection();
         operations_.perform([](shell::Shell& console) { return console.selectRow(0); });
         onMenu({operations_.shell().selection().scope, 0}, place);
     }
@@ -119,7 +169,16 @@ void ListView::contextMenuEvent(QContextMenuEvent* event) {
 void ListView::keyPressEvent(QKeyEvent* event) {
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() != EditingState &&
         currentIndex().isValid()) {
-        open(currentIndex());
+        ensureSelection();
+        open();
+        event->accept();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && operations_.shell().cutNode() != nullptr) {
+        operations_.perform([](shell::Shell& console) {
+            console.setCutNode(nullptr);
+            return true;
+        });
         event->accept();
         return;
     }
@@ -135,6 +194,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     constexpr std::array moves{Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home, Qt::Key_End,
                                Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space};
     if (std::ranges::find(moves, event->key()) != moves.end()) {
+        ensureSelection();
         operations_.later([this] { selectCurrent(); }); // of a single row, which is current already
     }
 }
@@ -171,10 +231,8 @@ void ListView::showSelection() {
         return;
     }
     const auto index = model_.indexOf(row);
-    if (index.isValid() && (index.row() != currentIndex().row() || !selectionModel()->isSelected(index))) {
-        const auto column = currentIndex().isValid() ? currentIndex().column() : 0;
-        selectionModel()->setCurrentIndex(index.siblingAtColumn(column),
-                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (index.isValid() && !selectionModel()->isSelected(index)) {
+        selectOnly(index.siblingAtColumn(currentIndex().isValid() ? currentIndex().column() : 0));
     }
 }
 
@@ -204,6 +262,7 @@ void ListView::afterChange() {
         verticalScrollBar()->setValue(verticalScrollBar()->value() + visualRect(index).top() - anchor->top);
     }
     following_ = false;
+    header()->viewport()->update(); // which columns hold numbers may have changed
 }
 
 void ListView::rowsInserted(std::size_t /*first*/, std::size_t /*count*/) {
@@ -216,6 +275,7 @@ void ListView::rowsRemoved(std::size_t /*first*/, std::size_t /*count*/) {
 
 void ListView::rowsReset() {
     showOrder();
+    selectedRows_.restore();
     afterChange();
     showSelection();
 }

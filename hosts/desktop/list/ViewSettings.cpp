@@ -11,6 +11,8 @@ namespace {
 constexpr int narrowest = 16;
 constexpr int widest = 4'000;
 constexpr int mostColumns = 100;
+constexpr QLatin1String ascending("ascending");
+constexpr QLatin1String descending("descending");
 constexpr QSize leastVisible(200, 100);
 constexpr QSize smallestWindow(400, 300);
 
@@ -69,6 +71,32 @@ void ViewSettings::forgetColumns(const QString& list) {
     QSettings settings(file_, QSettings::IniFormat);
     settings.beginGroup(QStringLiteral("columns"));
     settings.remove(list);
+}
+
+std::unordered_map<std::string, shell::SortOrder> ViewSettings::sortOrders() const {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("sort"));
+    std::unordered_map<std::string, shell::SortOrder> orders;
+    for (const QString& list : settings.childKeys()) {
+        const auto words = settings.value(list).toString().split(QLatin1Char(' '));
+        bool isNumber = false;
+        const int column = words.front().toInt(&isNumber);
+        if (isNumber && column >= 0 && column < mostColumns && (words.back() == ascending || words.back() == descending)) {
+            orders[list.toStdString()] = {column, words.back() == ascending};
+        }
+    }
+    return orders;
+}
+
+void ViewSettings::setSortOrder(const std::string& list, const std::optional<shell::SortOrder>& order) {
+    QSettings settings(file_, QSettings::IniFormat);
+    const QString key = QStringLiteral("sort/") + QString::fromStdString(list);
+    if (order) {
+        settings.setValue(key, QString::number(order->column) + QLatin1Char(' ') +
+                                   (order->ascending ? ascending : descending));
+    } else {
+        settings.remove(key);
+    }
 }
 
 QRect ViewSettings::geometry(const std::vector<QRect>& screens) const {

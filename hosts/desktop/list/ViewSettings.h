@@ -1,8 +1,13 @@
 #pragma once
 
+#include "shell/SortOrder.h"
+
 #include <QRect>
 #include <QString>
 
+#include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace desktop {
@@ -36,6 +41,10 @@ public:
     [[nodiscard]] std::vector<ColumnChoice> columns(const QString& list) const;
     void setColumns(const QString& list, const std::vector<ColumnChoice>& columns);
     void forgetColumns(const QString& list);
+
+    // The orders of lists, by the class of the items that they belong to; a list in its natural order has none.
+    [[nodiscard]] std::unordered_map<std::string, shell::SortOrder> sortOrders() const;
+    void setSortOrder(const std::string& list, const std::optional<shell::SortOrder>& order);
 
     // The window's position and size, held to the screen; an invalid rectangle when that is unknown or no screen would
     // show enough of it.

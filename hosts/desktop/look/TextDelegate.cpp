@@ -25,6 +25,14 @@ bool TextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     return true;
 }
 
+void TextDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.data(cutRole).toBool()) {
+        option->state &= ~QStyle::State_Enabled;
+        option->font.setItalic(true);
+    }
+}
+
 QWidget* TextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const {
     QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
@@ -32,6 +40,11 @@ QWidget* TextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
         line->setAccessibleName(QStringLiteral("New name"));
     }
     return editor;
+}
+
+QString cutText(const QString& name) {
+    const QString said = QStringLiteral("Cut: paste it where it belongs, or press Esc");
+    return name.isEmpty() ? said : name + QLatin1Char('\n') + said;
 }
 
 } // namespace desktop

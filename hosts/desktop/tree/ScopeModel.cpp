@@ -1,6 +1,7 @@
 #include "hosts/desktop/tree/ScopeModel.h"
 
 #include "hosts/desktop/look/Text.h"
+#include "hosts/desktop/look/TextDelegate.h"
 #include "hosts/desktop/tree/DragData.h"
 
 #include <QIcon>
@@ -84,13 +85,23 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return oneLine(tree().text(id));
     case Qt::EditRole:
-    case Qt::ToolTipRole:
         return toQString(tree().text(id));
+    case Qt::ToolTipRole:
+        return isCut(id) ? cutText(toQString(tree().text(id))) : toQString(tree().text(id));
+    case Qt::AccessibleDescriptionRole:
+        return isCut(id) ? QVariant(cutText({})) : QVariant();
+    case TextDelegate::cutRole:
+        return isCut(id);
     case Qt::DecorationRole:
         return icons_.icon(operations_.shell().scopeImages().strip(), tree().image(id));
     default:
         return {};
     }
+}
+
+bool ScopeModel::isCut(ScopeId id) const {
+    const auto& shell = operations_.shell();
+    return shell.cutNode() != nullptr && shell.isCut(*tree().find(id)->node);
 }
 
 bool ScopeModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -99,6 +99,14 @@ void ScopeView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    if (event->key() == Qt::Key_Escape && operations_.shell().cutNode() != nullptr) {
+        operations_.perform([](shell::Shell& console) {
+            console.setCutNode(nullptr);
+            return true;
+        });
+        event->accept();
+        return;
+    }
     QTreeView::keyPressEvent(event);
 }
 

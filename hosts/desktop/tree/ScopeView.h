@@ -24,6 +24,7 @@ protected:
 
 private:
     void selectionChanged() override;
+    void cutChanged() override { viewport()->update(); }
     using QTreeView::selectionChanged;
     void scopeItemOpened(console::ScopeId item, bool open) override;
     void scopeItemsInserted(console::ScopeId parent, std::size_t first, std::size_t count) override;

@@ -1,6 +1,7 @@
 #include "hosts/desktop/window/Actions.h"
 
 #include "hosts/desktop/look/GlyphIcon.h"
+#include "shell/MenuChoice.h"
 
 #include <QAction>
 #include <QIcon>
@@ -31,11 +32,16 @@ Actions::Actions(QWidget& window) : window_(window) {
                  QKeySequence(Qt::CTRL | Qt::Key_V));
     rename = make(QStringLiteral("Re&name"), QStringLiteral("To give this another name"), QKeySequence(Qt::Key_F2));
     remove = make(QStringLiteral("&Delete"), QStringLiteral("To delete this"), QKeySequence(Qt::Key_Delete));
-    copyText = make(QStringLiteral("&Copy Text"), QStringLiteral("To copy the selected row as text"),
+    copyRows = make(QStringLiteral("&Copy"), QStringLiteral("To copy the selected rows as text and as a table"),
                     QKeySequence(Qt::CTRL | Qt::Key_C));
+    copyCell = make(QStringLiteral("Copy Ce&ll"), QStringLiteral("To copy the text of this cell alone"), {});
+    selectAll = make(QStringLiteral("Select &All"), QStringLiteral("To select all rows of the list"),
+                     QKeySequence(Qt::CTRL | Qt::Key_A));
     exportList = make(QStringLiteral("&Export List..."), QStringLiteral("To save this list to a file, as it is shown"),
                       QKeySequence(Qt::CTRL | Qt::Key_E));
     exportList->setIcon(GlyphIcon::make(Glyph::exportList));
+    exportRows = make(QStringLiteral("Export &Selected Rows..."),
+                      QStringLiteral("To save the selected rows to a file, as they are shown"), {});
     logIn = make(QStringLiteral("&Log in again..."), QStringLiteral("To log in to this server once more"), {});
     connect = make(QStringLiteral("&Connect to another server..."),
                    QStringLiteral("To administer another server in this window"), {});
@@ -58,7 +64,8 @@ Actions::Actions(QWidget& window) : window_(window) {
 
 // Before the login there is nothing to act on.
 void Actions::disable() const {
-    for (QAction* const action : {back, forward, up, refresh, cut, paste, rename, remove, copyText, exportList}) {
+    for (QAction* const action : {back, forward, up, refresh, cut, paste, rename, remove, copyRows, copyCell, selectAll, exportList,
+                                  exportRows}) {
         action->setEnabled(false);
     }
 }
@@ -76,26 +83,41 @@ QAction* Actions::make(const QString& text, const QString& statusTip, const QKey
     return action;
 }
 
-void Actions::update(Operations& operations) const {
+void Actions::update(Operations& operations, std::size_t selectedRows) const {
     const auto& shell = operations.shell();
     const auto& selection = shell.selection();
     back->setEnabled(shell.canGoBack());
     forward->setEnabled(shell.canGoForward());
     up->setEnabled(shell.tree().parent(selection.scope) != 0);
     refresh->setEnabled(selection.scope != 0);
-    cut->setEnabled(shell.canCut());
-    rename->setEnabled(shell.canRename());
-    remove->setEnabled(shell.canDelete());
-    copyText->setEnabled(selection.row != 0);
+    copyRows->setEnabled(selectedRows > 0);
+    copyCell->setEnabled(selectedRows > 0);
+    selectAll->setEnabled(shell.pane().rowCount() > 0);
     exportList->setEnabled(!shell.header().columns().empty());
-    paste->setEnabled(operations.perform([](shell::Shell& console) { return console.canPaste(); }));
+    exportRows->setEnabled(selectedRows > 1);
+    const bool isOne = selectedRows < 2;
+    cut->setEnabled(isOne && shell.canCut());
+    rename->setEnabled(isOne && shell.canRename());
+    remove->setEnabled(isOne && operations.perform([&](shell::Shell& console) {
+        return shell::removingEntry(console.menu(selection)) != nullptr;
+    }));
+    paste->setEnabled(isOne && operations.perform([](shell::Shell& console) { return console.canPaste(); }));
 }
 
 void Actions::addVerbs(QMenu& menu) const {
-    for (QAction* const action : {cut, paste, rename, remove}) {
+    for (QAction* const action : {cut, paste, rename}) {
         if (action->isEnabled()) {
             menu.addAction(action);
         }
+    }
+}
+
+void Actions::addForRows(QMenu& menu) const {
+    if (copyRows->isEnabled()) {
+        menu.addActions({copyRows, copyCell});
+    }
+    if (exportRows->isEnabled()) {
+        menu.addAction(exportRows);
     }
 }
 

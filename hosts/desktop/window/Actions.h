@@ -2,6 +2,8 @@
 
 #include "hosts/desktop/activity/Operations.h"
 
+#include <cstddef>
+
 class QAction;
 class QKeySequence;
 class QMenu;
@@ -24,8 +26,11 @@ public:
     QAction* paste;
     QAction* rename;
     QAction* remove;
-    QAction* copyText;
+    QAction* copyRows;
+    QAction* copyCell; // for the menu of a row
+    QAction* selectAll;
     QAction* exportList;
+    QAction* exportRows;
     QAction* logIn;
     QAction* connect;
     QAction* filter;
@@ -36,10 +41,13 @@ public:
     QAction* about;
     QAction* quit;
 
-    // Disables the actions that the selection does not offer. Must not be called within an operation of the console.
-    void update(Operations& operations) const;
-    // The verbs that the selection offers.
+    // Disables the actions that the selection does not offer; with several rows, everything that is for a single one.
+    // Must not be called within an operation of the console.
+    void update(Operations& operations, std::size_t selectedRows) const;
+    // The verbs that the selection offers. Not the one that deletes: that is an entry of the selection's own menu.
     void addVerbs(QMenu& menu) const;
+    // What can be done with the selected rows, whatever they are.
+    void addForRows(QMenu& menu) const;
 
 private:
     void disable() const;

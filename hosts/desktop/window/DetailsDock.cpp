@@ -3,10 +3,15 @@
 #include "hosts/desktop/look/Text.h"
 #include "hosts/desktop/window/StatusLine.h"
 
+#include <QLocale>
 #include <QTextBrowser>
+
+#include <ranges>
 
 namespace desktop {
 namespace {
+
+constexpr std::size_t mostDetailed = 20; // rows
 
 QString htmlOf(const QString& text) {
     return text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
@@ -31,6 +36,21 @@ QString pageOfRow(const shell::Shell& shell, std::size_t place) {
     return page(toQString(shell.pane().cell(place, 0)), lines);
 }
 
+QString pageOfRows(const shell::Shell& shell, const std::vector<std::size_t>& rows) {
+    QString html;
+    if (rows.size() > 1) {
+        html = QStringLiteral("<p>%1</p>").arg(
+            StatusLine::countText(rows.size(), shell.pane().rowCount()) + QStringLiteral(" selected"));
+    }
+    for (const std::size_t place : rows | std::views::take(mostDetailed)) {
+        html += pageOfRow(shell, place);
+    }
+    if (rows.size() > mostDetailed) {
+        html += QStringLiteral("<p>and %1 more</p>").arg(QLocale().toString(static_cast<qulonglong>(rows.size() - mostDetailed)));
+    }
+    return html;
+}
+
 QString pageOfList(const shell::Shell& shell) {
     const auto& pane = shell.pane();
     return page(toQString(shell.tree().text(shell.selection().scope)),
@@ -50,11 +70,10 @@ DetailsDock::DetailsDock(QWidget* parent)
     setWidget(text_);
 }
 
-void DetailsDock::update(const shell::Shell& shell) {
-    const auto place = shell.pane().indexOf(shell.selection().row);
+void DetailsDock::update(const shell::Shell& shell, const std::vector<std::size_t>& rows) {
     QString html;
-    if (place) {
-        html = pageOfRow(shell, *place);
+    if (!rows.empty()) {
+        html = pageOfRows(shell, rows);
     } else if (shell.selection().scope != 0) {
         html = pageOfList(shell);
     }

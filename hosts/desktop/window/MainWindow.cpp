@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/MainWindow.h"
 
+#include "hosts/desktop/list/CopyRows.h"
 #include "hosts/desktop/list/ExportList.h"
 #include "hosts/desktop/look/GlyphIcon.h"
 #include "hosts/desktop/look/Text.h"
@@ -10,7 +11,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QIcon>
 #include <QLineEdit>
@@ -101,7 +101,10 @@ void MainWindow::restorePlace() {
 void MainWindow::start(const QString& path) {
     session_.operations().later([this, path] {
         std::optional<QString> error;
-        const bool done = session_.operations().perform([](shell::Shell& console) { return console.start(); });
+        const bool done = session_.operations().perform([this](shell::Shell& console) {
+            console.setSortOrders(settings_.sortOrders());
+            return console.start();
+        });
         if (!closing_) {
             logins_.remember();
             session_.watch().setLogins(&logins_); // a first login that is given up closes the window
@@ -128,7 +131,7 @@ void MainWindow::makeMenus() {
     });
 
     QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    edit->addActions({actions_.cut, actions_.copyText, actions_.paste, actions_.rename, actions_.remove});
+    edit->addActions({actions_.cut, actions_.copyRows, actions_.paste, actions_.rename, actions_.remove, actions_.selectAll});
     edit->addSeparator();
     edit->addActions({actions_.filter, actions_.find});
 
@@ -162,7 +165,7 @@ void MainWindow::makeMenus() {
 
 void MainWindow::makeFileMenu() {
     QMenu* const file = menuBar()->addMenu(QStringLiteral("&File"));
-    file->addAction(actions_.exportList);
+    file->addActions({actions_.exportList, actions_.exportRows});
     file->addSeparator();
     file->addActions({actions_.logIn, actions_.connect});
     file->addSeparator();
@@ -259,10 +262,16 @@ void MainWindow::connectActions() {
        [this] { session_.operations().later([this] { session_.operations().performChange(&shell::Shell::paste); }); });
     on(actions_.logIn, [this] { logIn(LoginKeeper::current()); });
     on(actions_.connect, [this] { logIn({}); });
-    on(actions_.remove, [this] { run(&shell::Shell::deleteItem); });
+    on(actions_.remove, [this] {
+        session_.operations().later([this] { menus_.remove(session_.shell().selection()); });
+    });
     on(actions_.rename, [this] { rename(); });
-    on(actions_.copyText, [this] { copyText(); });
-    on(actions_.exportList, [this] { session_.operations().later([this] { exportShown(); }); });
+    on(actions_.copyRows, [this] { copySelectedRows(); });
+    on(actions_.copyCell, [this] { copyCell(); });
+    on(actions_.selectAll, [this] { panes_->list().selectAll(); });
+    on(actions_.exportList, [this] { session_.operations().later([this] { exportTable(session_.shell().table()); }); });
+    on(actions_.exportRows,
+       [this] { session_.operations().later([this] { exportTable(panes_->list().selectedTable()); }); });
     on(actions_.filter, [this] {
         panes_->filter().setFocus(Qt::ShortcutFocusReason);
         panes_->filter().selectAll();
@@ -280,6 +289,9 @@ void MainWindow::connectActions() {
     const auto showMenu = [this](const shell::Target& target, const QPoint& place) { menus_.show(target, place); };
     panes_->tree().onMenu = showMenu;
     panes_->list().onMenu = showMenu;
+    panes_->list().onOpen = [this](const shell::Target& target) { menus_.open(target); };
+    connect(panes_->list().selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { showStateSoon(); });
+    menus_.selectedRows = [this] { return panes_->list().selectedRows().count(); };
     panes_->path().onChosen = [this](console::ScopeId item) {
         run([item](shell::Shell& shell) { return shell.select(item); });
     };
@@ -310,24 +322,26 @@ void MainWindow::rename() {
     }
 }
 
-void MainWindow::copyText() {
-    const auto place = session_.shell().pane().indexOf(session_.shell().selection().row);
-    if (!place) {
-        return;
+void MainWindow::copySelectedRows() {
+    const auto table = panes_->list().selectedTable();
+    if (table.rowCount > 0) {
+        copyRows(table);
+        statusBar()->showMessage(StatusLine::countText(table.rowCount, table.rowCount) +
+                                     QStringLiteral(" copied to the clipboard."),
+                                 messageTime);
     }
-    QStringList cells;
-    for (int column = 0; column < panes_->listModel().columnCount(); ++column) {
-        if (!panes_->list().columns().isHidden(column)) {
-            cells += toQString(session_.shell().pane().cell(*place, column));
-        }
-    }
-    QGuiApplication::clipboard()->setText(cells.join(QLatin1Char('\t')));
-    statusBar()->showMessage(QStringLiteral("The row is in the clipboard."), messageTime);
 }
 
-void MainWindow::exportShown() {
+void MainWindow::copyCell() {
+    if (const auto cell = panes_->list().currentIndex(); cell.isValid()) {
+        copyText(cell.data(Qt::EditRole).toString());
+        statusBar()->showMessage(QStringLiteral("The cell is in the clipboard."), messageTime);
+    }
+}
+
+void MainWindow::exportTable(const shell::Table& table) {
     const auto& shell = session_.shell();
-    const QString said = exportList(shell.table(), oneLine(shell.tree().text(shell.selection().scope)), this);
+    const QString said = exportList(table, oneLine(shell.tree().text(shell.selection().scope)), this);
     if (!said.isEmpty()) {
         statusBar()->showMessage(said, messageTime);
     }
@@ -367,10 +381,11 @@ void MainWindow::showState() {
     const QString name = oneLine(shell.tree().text(shell.selection().scope));
     setWindowTitle(name.isEmpty() ? QStringLiteral("Vantrel Manager") : name + QStringLiteral(" – Vantrel Manager"));
     panes_->showPath();
-    actions_.update(session_.operations());
+    const auto& selected = panes_->list().selectedRows();
+    actions_.update(session_.operations(), selected.count());
     status_.update();
     if (details_->isVisible()) {
-        details_->update(shell);
+        details_->update(shell, selected.rows());
     }
     sayAge();
     if (shell.pane().unfilteredCount() == 0) {
@@ -411,6 +426,15 @@ void MainWindow::selectionChanged() {
 }
 
 void MainWindow::verbsChanged() {
+    showStateSoon();
+}
+
+void MainWindow::cutChanged() {
+    const auto& node = session_.shell().cutNode();
+    statusBar()->showMessage(
+        node ? QStringLiteral("'%1' is cut: paste it where it belongs, or press Esc.").arg(oneLine(node->displayName()))
+             : QString(),
+        node ? messageTime : 1);
     showStateSoon();
 }
 

@@ -58,13 +58,15 @@ private:
     void renameAgain(const Renaming& renaming);
     void sayAge();
     void rename();
-    void copyText();
-    void exportShown();
+    void copySelectedRows();
+    void copyCell();
+    void exportTable(const shell::Table& table);
     void focusNextPane();
     void goUp();
 
     void selectionChanged() override;
     void verbsChanged() override;
+    void cutChanged() override;
     void columnsChanged() override;
     void rowsInserted(std::size_t first, std::size_t count) override;
     void rowsRemoved(std::size_t first, std::size_t count) override;

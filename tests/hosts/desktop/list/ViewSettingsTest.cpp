@@ -117,5 +117,23 @@ TEST_F(ViewSettingsTest, aWindowThatCannotBeMovedOrSeenIsNotUsed) {
     }
 }
 
+TEST_F(ViewSettingsTest, remembersTheOrderOfEachListThatHasOne) {
+    ViewSettings settings(path);
+    settings.setSortOrder("class A", shell::SortOrder{5, false});
+    settings.setSortOrder("class B", shell::SortOrder{0, true});
+    settings.setSortOrder("class C", shell::SortOrder{1, true});
+
+    settings.setSortOrder("class C", std::nullopt);
+
+    EXPECT_EQ((std::unordered_map<std::string, shell::SortOrder>{{"class A", {5, false}}, {"class B", {0, true}}}),
+              ViewSettings(path).sortOrders());
+}
+
+TEST_F(ViewSettingsTest, ordersOfGarbageAreIgnored) {
+    write("[sort]\na=-1 ascending\nb=x\nc=\nd=99999999999 descending\ne=1 sideways\nf=1000000 ascending\n");
+
+    EXPECT_TRUE(ViewSettings(path).sortOrders().empty());
+}
+
 } // namespace
 } // namespace desktoptest

@@ -327,7 +327,7 @@ TEST_F(Window, theLastVisibleColumnStays) {
 TEST_F(Window, theSelectedRowIsCopiedAsText) {
     open(QStringLiteral("Printers/München"));
     selectRow(QStringLiteral("MUC-004"));
-    window().actions().copyText->trigger();
+    window().actions().copyRows->trigger();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("MUC-004\tQuillmark Dot 24\t")));
 }
 
