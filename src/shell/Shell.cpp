@@ -277,16 +277,22 @@ bool Shell::canGoForward() const {
     return history_.canGoForward(exists());
 }
 
-std::shared_ptr<console::CSnapInItem> Shell::nodeOf(const Target& target) {
+ScopeId Shell::scopeOf(console::CSnapInItem& node) const {
+    console::ScopeItemFields* fields = nullptr;
+    const bool answered = console::succeeded(node.GetScopeData(&fields)) && fields != nullptr;
+    return answered && tree_.contains(fields->ID) ? fields->ID : 0;
+}
+
+std::shared_ptr<console::CSnapInItem> Shell::nodeOf(const Target& target) const {
     if (target.row > 0) {
         const Row* const row = target.scope == view_.scope() ? view_.pane.find(target.row) : nullptr;
         return row != nullptr ? row->node : nullptr;
     }
-    const ScopeItem* const item = tree_.alive(target.row < 0 ? -target.row : target.scope);
-    return item != nullptr ? item->node : nullptr;
+    const ScopeItem* const item = tree_.find(target.row < 0 ? -target.row : target.scope);
+    return item != nullptr && !item->gone ? item->node : nullptr;
 }
 
-std::vector<MenuItem> Shell::menuOf(const Target& target) {
+std::vector<MenuItem> Shell::menuOf(const Target& target) const {
     ContextMenu menu;
     if (const auto node = nodeOf(target)) {
         node->AddMenuItems(menu, console::insertionAllowedTop,

@@ -45,6 +45,11 @@ public:
     const ImageStrips& listImages() const { return view_.images; }
     Target selection() const { return {view_.scope(), view_.row()}; }
     bool busy() const { return running_; }
+    // Null for a target that does not exist.
+    std::shared_ptr<console::CSnapInItem> nodeOf(const Target& target) const;
+    // The item of the tree that the node belongs to, or did before a refresh made a new node for it; 0 when there is
+    // none.
+    console::ScopeId scopeOf(console::CSnapInItem& node) const;
 
     bool select(console::ScopeId id);
     // An item that can't be read is closed again at once; expanding it reads it again.
@@ -138,8 +143,7 @@ private:
     bool step(console::ScopeId (ViewHistory::*direction)(const ViewHistory::Exists&));
     bool offers(console::Verb verb) const { return view_.active() && verbs().offers(verb); }
     bool accepts(const std::shared_ptr<console::CSnapInItem>& source);
-    std::shared_ptr<console::CSnapInItem> nodeOf(const Target& target);
-    std::vector<MenuItem> menuOf(const Target& target);
+    std::vector<MenuItem> menuOf(const Target& target) const;
     ViewHistory::Exists exists() const;
 
     SnapIn& snapIn_;

@@ -8,11 +8,10 @@ using Cells = std::vector<std::vector<wire::WideString>>;
 
 // The first row of cells is that of the titles.
 shell::ListClip clipped(const Cells& cells) {
-    return shell::clipOf({.columns = cells.front(),
-                          .rowCount = cells.size() - 1,
-                          .cell = [&](std::size_t row, std::size_t column) {
-                              return wire::WideStringView(cells[row + 1][column]);
-                          }});
+    return shell::clipOf(
+        {.columns = cells.front(), .rowCount = cells.size() - 1, .cell = [&](std::size_t row, std::size_t column) {
+             return wire::WideStringView(cells[row + 1][column]);
+         }});
 }
 
 TEST(ListClip, theTextHasALineForEachRowAndTabsBetweenTheCells) {

@@ -113,7 +113,8 @@ TEST_F(ShellRows, whatIsCutCanBeForgottenAndPutBack) {
 }
 
 TEST_F(ShellRows, aColumnWhoseCellsShowTheNumbersThatTheyAreSortedByHoldsNumbers) {
-    EXPECT_TRUE(holdNumbers({{.key = "x", .name = u"x", .number = u"12", .time = 12}, {.key = "y", .name = u"y", .number = u"0", .time = 0}}));
+    EXPECT_TRUE(holdNumbers({{.key = "x", .name = u"x", .number = u"12", .time = 12},
+                             {.key = "y", .name = u"y", .number = u"0", .time = 0}}));
 }
 
 TEST_F(ShellRows, signsDecimalsGroupsAndUnitsBelongToANumber) {
@@ -134,7 +135,8 @@ TEST_F(ShellRows, datesAreNoNumbers) {
 
 TEST_F(ShellRows, digitsThatAreSortedAsTextsAreNoNumbers) {
     EXPECT_FALSE(holdNumbers({{.key = "a", .name = u"a", .number = u"12"}}));
-    EXPECT_FALSE(holdNumbers({{.key = "a", .name = u"a", .number = u"12", .time = 12}, {.key = "b", .name = u"b", .number = u"x"}}));
+    EXPECT_FALSE(holdNumbers(
+        {{.key = "a", .name = u"a", .number = u"12", .time = 12}, {.key = "b", .name = u"b", .number = u"x"}}));
 }
 
 } // namespace

@@ -38,6 +38,16 @@ void Operations::rename(const Renaming& renaming) {
     });
 }
 
+void Operations::drop(const shell::Target& source, console::ScopeId target) {
+    later([this, source, target] {
+        if (onDrop) {
+            onDrop(source, target);
+        } else {
+            performChange([&](shell::Shell& console) { return console.drop(source, target); });
+        }
+    });
+}
+
 bool Operations::isAdmitted() {
     if (busy()) {
         return false;

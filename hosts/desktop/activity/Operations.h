@@ -60,6 +60,10 @@ public:
     void request(std::function<bool(shell::Shell&)> work);
     // Gives the selected item or row a new name, like later; nothing happens when another one is selected by then.
     void rename(const Renaming& renaming);
+    // Moves something to an item of the tree, like later.
+    void drop(const shell::Target& source, console::ScopeId target);
+    // Called to do so instead.
+    std::function<void(const shell::Target& source, console::ScopeId target)> onDrop;
     // What is being renamed at the moment; null for nothing.
     [[nodiscard]] const Renaming* renaming() const { return renaming_ ? &*renaming_ : nullptr; }
 

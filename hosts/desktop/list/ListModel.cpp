@@ -43,12 +43,7 @@ ScopeId ListModel::scopeOf(const QModelIndex& index) const {
         return 0;
     }
     const auto& row = pane().row(static_cast<std::size_t>(index.row()));
-    if (row.isScopeItem()) {
-        return row.scopeId();
-    }
-    console::ScopeItemFields* fields = nullptr;
-    const bool answered = console::succeeded(row.node->GetScopeData(&fields)) && fields != nullptr;
-    return answered && operations_.shell().tree().contains(fields->ID) ? fields->ID : 0;
+    return row.isScopeItem() ? row.scopeId() : operations_.shell().scopeOf(*row.node);
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const {
@@ -171,9 +166,7 @@ bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int r
     if (!canDropMimeData(data, action, row, column, parent)) {
         return false;
     }
-    operations_.later([this, source = *draggedTarget(data), id = scopeOf(parent)] {
-        operations_.performChange([&](shell::Shell& console) { return console.drop(source, id); });
-    });
+    operations_.drop(*draggedTarget(data), scopeOf(parent));
     return true;
 }
 

@@ -81,7 +81,8 @@ std::unordered_map<std::string, shell::SortOrder> ViewSettings::sortOrders() con
         const auto words = settings.value(list).toString().split(QLatin1Char(' '));
         bool isNumber = false;
         const int column = words.front().toInt(&isNumber);
-        if (isNumber && column >= 0 && column < mostColumns && (words.back() == ascending || words.back() == descending)) {
+        if (isNumber && column >= 0 && column < mostColumns &&
+            (words.back() == ascending || words.back() == descending)) {
             orders[list.toStdString()] = {column, words.back() == ascending};
         }
     }

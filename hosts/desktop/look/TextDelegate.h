@@ -4,8 +4,8 @@
 
 namespace desktop {
 
-// Draws the cells of trees and lists. A text that does not fit is elided, and shown whole in a tool tip. What is cut and
-// waits to be pasted is faded and slanted.
+// Draws the cells of trees and lists. A text that does not fit is elided, and shown whole in a tool tip. What is cut
+// and waits to be pasted is faded and slanted.
 class TextDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -151,9 +151,7 @@ bool ScopeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int 
     if (!canDropMimeData(data, action, row, column, parent)) {
         return false;
     }
-    operations_.later([this, source = *draggedTarget(data), id = idOf(parent)] {
-        operations_.performChange([&](shell::Shell& console) { return console.drop(source, id); });
-    });
+    operations_.drop(*draggedTarget(data), idOf(parent));
     return true;
 }
 

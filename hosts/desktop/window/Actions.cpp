@@ -26,6 +26,8 @@ Actions::Actions(QWidget& window) : window_(window) {
     refresh = make(QStringLiteral("&Refresh"), QStringLiteral("To read this from the server again"),
                    QKeySequence(Qt::Key_F5));
     refresh->setIcon(GlyphIcon::make(Glyph::refresh));
+    undo = make(QStringLiteral("&Undo Move"), QStringLiteral("To move it back to where it was"),
+                QKeySequence(Qt::CTRL | Qt::Key_Z));
     cut =
         make(QStringLiteral("Cu&t"), QStringLiteral("To move this somewhere else"), QKeySequence(Qt::CTRL | Qt::Key_X));
     paste = make(QStringLiteral("&Paste"), QStringLiteral("To move what was cut to this place"),
@@ -64,8 +66,8 @@ Actions::Actions(QWidget& window) : window_(window) {
 
 // Before the login there is nothing to act on.
 void Actions::disable() const {
-    for (QAction* const action : {back, forward, up, refresh, cut, paste, rename, remove, copyRows, copyCell, selectAll, exportList,
-                                  exportRows}) {
+    for (QAction* const action : {back, forward, up, refresh, undo, cut, paste, rename, remove, copyRows, copyCell,
+                                  selectAll, exportList, exportRows}) {
         action->setEnabled(false);
     }
 }

@@ -22,6 +22,7 @@ public:
     QAction* forward;
     QAction* up;
     QAction* refresh;
+    QAction* undo;
     QAction* cut;
     QAction* paste;
     QAction* rename;

@@ -22,9 +22,8 @@ void request(Operations& operations, const shell::Target& target, std::int32_t i
         kept->note(console);
         return console.invoke(id, target);
     });
-    operations.later([&operations, kept] {
-        operations.perform([&](shell::Shell& console) { return kept->select(console); });
-    });
+    operations.later(
+        [&operations, kept] { operations.perform([&](shell::Shell& console) { return kept->select(console); }); });
 }
 
 } // namespace

@@ -39,14 +39,15 @@ QString pageOfRow(const shell::Shell& shell, std::size_t place) {
 QString pageOfRows(const shell::Shell& shell, const std::vector<std::size_t>& rows) {
     QString html;
     if (rows.size() > 1) {
-        html = QStringLiteral("<p>%1</p>").arg(
-            StatusLine::countText(rows.size(), shell.pane().rowCount()) + QStringLiteral(" selected"));
+        html = QStringLiteral("<p>%1</p>")
+                   .arg(StatusLine::countText(rows.size(), shell.pane().rowCount()) + QStringLiteral(" selected"));
     }
     for (const std::size_t place : rows | std::views::take(mostDetailed)) {
         html += pageOfRow(shell, place);
     }
     if (rows.size() > mostDetailed) {
-        html += QStringLiteral("<p>and %1 more</p>").arg(QLocale().toString(static_cast<qulonglong>(rows.size() - mostDetailed)));
+        html += QStringLiteral("<p>and %1 more</p>")
+                    .arg(QLocale().toString(static_cast<qulonglong>(rows.size() - mostDetailed)));
     }
     return html;
 }

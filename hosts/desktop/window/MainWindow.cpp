@@ -36,6 +36,7 @@ MainWindow::MainWindow(Session& session, ViewSettings& settings, const IconStrip
       actions_(*this),
       menus_(session.operations(), actions_, *this),
       panes_(new Panes(session.operations(), session.observers(), icons, settings, this)),
+      moves_(session.operations(), panes_->undoBar()),
       activity_(new ActivityDock(session.activity(), this)),
       details_(new DetailsDock(this)),
       status_(*statusBar(), session.operations(), session.age()),
@@ -131,7 +132,10 @@ void MainWindow::makeMenus() {
     });
 
     QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    edit->addActions({actions_.cut, actions_.copyRows, actions_.paste, actions_.rename, actions_.remove, actions_.selectAll});
+    edit->addAction(actions_.undo);
+    edit->addSeparator();
+    edit->addActions(
+        {actions_.cut, actions_.copyRows, actions_.paste, actions_.rename, actions_.remove, actions_.selectAll});
     edit->addSeparator();
     edit->addActions({actions_.filter, actions_.find});
 
@@ -258,13 +262,14 @@ void MainWindow::connectActions() {
     on(actions_.up, [this] { goUp(); });
     on(actions_.refresh, [this] { run(&shell::Shell::refresh); });
     on(actions_.cut, [this] { run(&shell::Shell::cut); });
-    on(actions_.paste,
-       [this] { session_.operations().later([this] { session_.operations().performChange(&shell::Shell::paste); }); });
+    on(actions_.paste, [this] { moves_.paste(); });
+    on(actions_.undo, [this] { panes_->undoBar().undo(); });
+    panes_->undoBar().onChange = [this] { actions_.undo->setEnabled(panes_->undoBar().isOffered()); };
+    moves_.onMessage = [this](const QString& message) { statusBar()->showMessage(message, messageTime); };
     on(actions_.logIn, [this] { logIn(LoginKeeper::current()); });
     on(actions_.connect, [this] { logIn({}); });
-    on(actions_.remove, [this] {
-        session_.operations().later([this] { menus_.remove(session_.shell().selection()); });
-    });
+    on(actions_.remove,
+       [this] { session_.operations().later([this] { menus_.remove(session_.shell().selection()); }); });
     on(actions_.rename, [this] { rename(); });
     on(actions_.copyRows, [this] { copySelectedRows(); });
     on(actions_.copyCell, [this] { copyCell(); });

@@ -6,6 +6,7 @@
 #include "hosts/desktop/window/ContextMenus.h"
 #include "hosts/desktop/window/DetailsDock.h"
 #include "hosts/desktop/window/LookChoices.h"
+#include "hosts/desktop/window/Moves.h"
 #include "hosts/desktop/window/Panes.h"
 #include "hosts/desktop/window/Session.h"
 #include "hosts/desktop/window/StatusLine.h"
@@ -80,6 +81,7 @@ private:
     Actions actions_;
     ContextMenus menus_;
     Panes* panes_;
+    Moves moves_;
     ActivityDock* activity_;
     DetailsDock* details_;
     StatusLine status_;

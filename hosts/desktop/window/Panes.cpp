@@ -29,6 +29,7 @@ Panes::Panes(Operations& operations, shell::Observers& observers, const IconStri
       filter_(new FilterBar(operations, observers)),
       filterNote_(new QLabel),
       notice_(new NoticeBar),
+      undo_(new UndoBar),
       list_(new ListView(operations, observers, listModel_, settings)) {
     setObjectName(QStringLiteral("panes"));
     setChildrenCollapsible(false);
@@ -90,6 +91,7 @@ QWidget* Panes::listSide() {
     filterNote_->hide();
     layout->addWidget(filterNote_);
     layout->addWidget(notice_);
+    layout->addWidget(undo_);
     layout->addWidget(list_, 1);
     return side;
 }

@@ -6,6 +6,7 @@
 #include "hosts/desktop/tree/TreeSearchBar.h"
 #include "hosts/desktop/window/NoticeBar.h"
 #include "hosts/desktop/window/PathBar.h"
+#include "hosts/desktop/window/UndoBar.h"
 
 #include <QSplitter>
 
@@ -27,6 +28,7 @@ public:
     FilterBar& filter() { return *filter_; }
     TreeSearchBar& search() { return *search_; }
     NoticeBar& notice() { return *notice_; }
+    UndoBar& undoBar() { return *undo_; }
     PathBar& path() { return *path_; }
 
     // Shows the path of the current list in the tree: "Printers › Berlin".
@@ -52,6 +54,7 @@ private:
     FilterBar* filter_;
     QLabel* filterNote_; // what is wrong with the filter
     NoticeBar* notice_;
+    UndoBar* undo_;
     ListView* list_;
     QStringList creators_;
 };

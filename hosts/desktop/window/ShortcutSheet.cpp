@@ -23,10 +23,12 @@ struct Key {
 constexpr Key viewKeys[] = {
     {"Up, Down, Home, End, Page Up, Page Down", "Another row or item"},
     {"Right, Left", "Open or close an item of the tree"},
+    {"Enter", "Open the selected row or its dialog"},
+    {"Shift or Ctrl with these keys, Ctrl+Space", "Select several rows"},
     {"Any letters", "The next row or item that begins with them"},
     {"Shift+F10, Menu", "The menu of the selection"},
     {"Tab, Shift+Tab", "Between search, tree, path, filter and list"},
-    {"Esc", "Leave the filter or the search, or cancel a dialog or a slow command"},
+    {"Esc", "Leave the filter or the search, take back a cut, or cancel a dialog or a slow command"},
 };
 constexpr Key dialogKeys[] = {
     {"Tab, Shift+Tab", "The next or the previous control"},

@@ -32,6 +32,11 @@ TEST_F(Shortcuts, areAllOnOneSheet) {
 
     EXPECT_TRUE(lines.contains(QStringLiteral("F5: Refresh"))) << lines.join(QLatin1Char('\n')).toStdString();
     EXPECT_TRUE(lines.contains(QStringLiteral("F3: Details")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Ctrl+C: Copy")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Ctrl+A: Select All")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Ctrl+Z: Undo Move")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Del: Delete")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Enter: Open the selected row or its dialog")));
     EXPECT_TRUE(lines.contains(QStringLiteral("F1: Keyboard Shortcuts")));
     EXPECT_TRUE(lines.contains(QStringLiteral("Shift+F10, Menu: The menu of the selection")));
 }
