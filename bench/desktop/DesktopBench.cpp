@@ -179,6 +179,9 @@ int main(int argc, char** argv) {
     goals.ratioAtMost(2, "The same, beside a bare view that is sorted", "refresh", "refreshSortedBare");
     goals.ratioAtMost(2, "Sort, beside a bare view", "sort", "sortBare");
     goals.ratioAtMost(2, "Filter over all columns, beside a bare view", "filter", "filterBare");
+    goals.ratioAtMost(2, "Select all rows, beside a bare view", "selectAll", "selectAllBare");
+    goals.ratioAtMost(2, "Copy all rows as text and as a table, beside a bare view", "copy", "copyBare");
+    goals.ratioAtMost(2, "Details of one row after the other, beside a bare view", "details", "detailsBare");
     goals.ratioAtMost(2, "Filter by two columns, beside a bare view by one", "filterColumns", "filterColumnBare");
     goals.atMost(120, "What the view adds to a row", bench::overheadPerRow(), "bytes");
     goals.atMost(10, "More memory after twenty refreshes", bench::growth(), "%");

@@ -24,6 +24,7 @@ OurView::OurView(OurList& list)
 BareView::BareView(QAbstractItemModel& model) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
     resize(viewSize);
     setModel(&model);
 }
