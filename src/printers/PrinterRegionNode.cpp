@@ -53,7 +53,9 @@ std::span<const console::NodeCommand<PrinterRegionNode>> PrinterRegionNode::comm
     static constexpr std::array table{
         Command{.entry{u"Create region", u"To create a new region", 247}, .run = &PrinterRegionNode::createRegion},
         Command{.entry = console::separator},
-        Command{.entry{u"Delete region", u"To delete region", 302}, .run = &PrinterRegionNode::deleteRegion}};
+        Command{.entry{u"Delete region", u"To delete region", 302}, .run = &PrinterRegionNode::deleteRegion},
+        Command{.entry = console::separator},
+        Command{.entry{u"Region Rules", u"For region rules", 261}, .run = &PrinterRegionNode::regionRules}};
     return table;
 }
 

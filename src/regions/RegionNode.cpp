@@ -1,6 +1,7 @@
 #include "regions/RegionNode.h"
 
 #include "console/IConsoleNameSpace.h"
+#include "regions/RegionRulesDlg.h"
 #include "regions/RegionsBelow.h"
 
 #include <utility>
@@ -41,6 +42,11 @@ console::Result RegionNode::deleteRegion(console::CommandOrigin /*origin*/) {
     removeFromList();
     selectAndPress(parentRow(), {platform::Key::f5});
     return console::Result::ok;
+}
+
+console::Result RegionNode::regionRules(console::CommandOrigin /*origin*/) {
+    RegionRulesDlg dialog(platform(), regionId());
+    return runModal(dialog) == forms::idOk ? console::Result::ok : console::Result::notDone;
 }
 
 RegionContents RegionNode::readContents(client::CQVXAdminClass& client) const {

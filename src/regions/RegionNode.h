@@ -23,6 +23,8 @@ protected:
 
     // Asks, checks whether the region is empty, and deletes it.
     console::Result deleteRegion(console::CommandOrigin origin);
+    // Opens the rules that apply in the region.
+    console::Result regionRules(console::CommandOrigin origin);
     virtual RegionContents readContents(client::CQVXAdminClass& client) const;
 };
 

@@ -5,27 +5,22 @@
 #include <utility>
 
 namespace rules {
+namespace {
+
+// "shoud" must stay.
+RuleEntryFields::Ways waysOf(AddRuleEntryDlg::Mode mode) {
+    return {.types = mode == AddRuleEntryDlg::Mode::group ? RuleEntryFields::Types::withinGroup
+                                                          : RuleEntryFields::Types::all,
+            .blankName = u"Name field shoud not be blank!",
+            .typeWithoutRow = protocol::ruleEntryType::clientBilling};
+}
+
+} // namespace
 
 AddRuleEntryDlg::AddRuleEntryDlg(platform::Platform& platform, Mode mode, RuleEntryPlace place,
                                  std::optional<Record> edited)
-    : RecordForm(platform, {u"Add Rule", u"Add Rule"}, std::move(edited), newEntryAt(place)),
-      fields(*this, record_, mode == Mode::group ? RuleEntryFields::Types::withinGroup : RuleEntryFields::Types::all),
-      mode_(mode),
-      place_(std::move(place)) {
+    : RuleEntryForm(platform, std::move(place), std::move(edited), waysOf(mode)), mode_(mode) {
     onWritten = [this](const Record& /*written*/) { listAgain(placeToWrite()); };
-}
-
-bool AddRuleEntryDlg::take() {
-    return fields.take(u"Name field shoud not be blank!"); // "shoud" must stay
-}
-
-// A rule group on a region is sent with the group as its owner and the number of the region; this must stay.
-RuleEntryPlace AddRuleEntryDlg::placeToWrite() const {
-    auto place = place_;
-    if (record_.type == protocol::ruleEntryType::ruleGroup) {
-        place.ownerId = record_.targetId;
-    }
-    return place;
 }
 
 void AddRuleEntryDlg::addRecord(client::CQVXAdminClass& client) {

@@ -8,7 +8,6 @@
 #include "rules/NewPricePlanDlg.h"
 #include "rules/PageLimitDlg.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace rules {
@@ -19,19 +18,17 @@ NewRuleGroupDlg::NewRuleGroupDlg(platform::Platform& platform, std::optional<Rec
     : RecordForm(platform, {u"New Rule Group", u"Edit Rule Group"}, std::move(edited), client::newRecord<Record>()) {}
 
 void NewRuleGroupDlg::onInitDialog() {
-    entries.setColumns({{u"Rule Type", 100}, {u"Rule Name", 150}, {u"Rule Affected", 200}});
-    entries.onSelect = [this] { enableButtons(); };
-    addButton.onPress = [this] { add(); };
-    removeButton.onPress = [this] { remove(); };
+    rules.onAdd = [this] { add(); };
+    rules.onSelection = [this] { enableEdit(); };
     editButton.onPress = [this] { edit(); };
-    enableButtons();
+    enableEdit();
     if (isNew()) {
         client::CQVXAdminClass client;
         client.addRuleGroup(record_);
     }
     name.setText(record_.name);
     comment.setText(record_.comment);
-    listEntries();
+    rules.open(record_.id);
 }
 
 bool NewRuleGroupDlg::take() {
@@ -54,52 +51,17 @@ void NewRuleGroupDlg::onCancel() {
     EndDialog(forms::idOk);
 }
 
-const RuleEntryRecord* NewRuleGroupDlg::selectedEntry() const {
-    const auto row = entries.selection();
-    return row && *row < entries_.size() && !entries_[*row].id.empty() ? &entries_[*row] : nullptr;
-}
-
-void NewRuleGroupDlg::listEntries() {
-    client::CQVXAdminClass client;
-    client.listRuleEntries(record_.id, 0, entries_);
-    showEntries();
-}
-
-void NewRuleGroupDlg::showEntries() {
-    std::vector<forms::ListRow> rows;
-    rows.reserve(entries_.size());
-    for (const auto& entry : entries_) {
-        rows.push_back({.cells = {entry.typeText, entry.name, entry.affectedName}, .data = entry.id});
-    }
-    entries.setRows(std::move(rows));
-    enableButtons();
-}
-
-void NewRuleGroupDlg::enableButtons() {
-    const bool enabled = selectedEntry() != nullptr;
-    removeButton.setEnabled(enabled);
-    editButton.setEnabled(enabled);
+void NewRuleGroupDlg::enableEdit() {
+    editButton.setEnabled(rules.selected() != nullptr);
 }
 
 void NewRuleGroupDlg::add() {
-    AddRuleEntryDlg dialog(platform(), AddRuleEntryDlg::Mode::group, place());
+    AddRuleEntryDlg dialog(platform(), AddRuleEntryDlg::Mode::group, rules.place());
     runModal(dialog);
-    listEntries();
-}
-
-void NewRuleGroupDlg::remove() {
-    const auto* const entry = selectedEntry();
-    if (entry == nullptr ||
-        !forms::confirmDelete(*this, u"Are you sure you want to delete this rule entry?", entry->name)) {
-        return;
-    }
-    client::CQVXAdminClass client;
-    client.removeRuleEntry(entry->id, entry->type);
-    listEntries();
 }
 
 void NewRuleGroupDlg::edit() {
-    const auto* const selected = selectedEntry();
+    const auto* const selected = rules.selected();
     if (selected == nullptr) {
         return;
     }
@@ -109,13 +71,11 @@ void NewRuleGroupDlg::edit() {
     } else if (entry.type == protocol::ruleEntryType::pricePlan) {
         editPricePlan(entry);
     } else {
-        CNewRuleDialog dialog(platform(), place(), entry);
+        CNewRuleDialog dialog(platform(), rules.place(), entry);
         runModal(dialog);
     }
-    showEntries();
-    const auto row = std::ranges::find(entries_, entry.id, &RuleEntryRecord::id) - entries_.begin();
-    entries.select(static_cast<std::size_t>(row));
-    enableButtons();
+    rules.show();
+    rules.select(entry.id);
 }
 
 // An entry without a limit opens one with its name that is not on the server; this must stay.

@@ -2,13 +2,10 @@
 
 #include "forms/Button.h"
 #include "forms/EditBox.h"
-#include "forms/ListView.h"
 #include "forms/RecordForm.h"
 #include "protocol/rules/RuleEntry.h"
 #include "protocol/rules/RuleGroup.h"
-#include "rules/RuleEntryPlace.h"
-
-#include <vector>
+#include "rules/RuleEntryList.h"
 
 namespace rules {
 
@@ -20,9 +17,7 @@ public:
 
     forms::EditBox name{*this, u"Group Name", {.limit = 64}};
     forms::EditBox comment{*this, u"Group Comment", {.limit = 255}};
-    forms::ListView entries{*this, u"Rules"};
-    forms::Button addButton{*this, u"Add..."};
-    forms::Button removeButton{*this, u"Remove"};
+    RuleEntryList rules{*this, {u"Rule Type", u"Rule Name", u"Rule Affected"}, RuleEntryList::TypeWords::ofServer};
     forms::Button editButton{*this, u"Edit..."};
 
 protected:
@@ -33,19 +28,11 @@ protected:
     void onCancel() override;
 
 private:
-    RuleEntryPlace place() { return {.entries = entries_, .ownerId = record_.id, .ownerNumber = 0, .parentId = {}}; }
-    // Null without a selection, and for an entry without an id.
-    [[nodiscard]] const protocol::RuleEntryRecord* selectedEntry() const;
-    void listEntries();
-    void showEntries();
-    void enableButtons();
+    void enableEdit();
     void add();
-    void remove();
     void edit();
     void editPageLimit(const protocol::RuleEntryRecord& entry);
     void editPricePlan(const protocol::RuleEntryRecord& entry);
-
-    std::vector<protocol::RuleEntryRecord> entries_;
 };
 
 } // namespace rules

@@ -11,15 +11,16 @@ namespace ruleEntryType = protocol::ruleEntryType;
 
 } // namespace
 
-RuleEntryFields::RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Types types)
+RuleEntryFields::RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Ways ways)
     : type(container, u"Type"),
       name(container, u"Name", {.limit = 64}),
       comment(container, u"Comment", {.limit = 255}),
       affected(container, AffectedList::EmptyRow::first),
       object(container, entry),
-      entry_(entry) {
+      entry_(entry),
+      ways_(ways) {
     for (const auto& [value, label] : ruleEntryType::labels) {
-        if (value != ruleEntryType::ruleGroup || types == Types::all) {
+        if (value != ruleEntryType::ruleGroup || ways.types == Types::all) {
             type.add(value, label);
         }
     }
@@ -39,7 +40,7 @@ void RuleEntryFields::open() {
 }
 
 std::uint8_t RuleEntryFields::chosenType() const {
-    return type.value().value_or(ruleEntryType::clientBilling);
+    return type.value().value_or(ways_.typeWithoutRow.value_or(entry_.type));
 }
 
 void RuleEntryFields::typeChanged() {
@@ -53,9 +54,9 @@ void RuleEntryFields::allowOk() {
     type.form().okButton().setEnabled(affected.known() || chosenType() == ruleEntryType::ruleGroup);
 }
 
-bool RuleEntryFields::take(std::u16string_view blankNameText) {
+bool RuleEntryFields::take() {
     if (name.text().empty()) {
-        forms::refuseBlank(name, blankNameText);
+        forms::refuseBlank(name, ways_.blankName);
         return false;
     }
     entry_.name = name.text();

@@ -6,6 +6,7 @@
 #include "rules/RuleObjectList.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace rules {
@@ -17,14 +18,21 @@ public:
     // Where an entry is placed: groups do not nest, so within one there is no type "Rule group".
     enum class Types : std::uint8_t { all, withinGroup };
 
+    // In what the dialogs differ.
+    struct Ways {
+        Types types = Types::all;
+        std::u16string_view blankName;              // the message when the name is missing
+        std::optional<std::uint8_t> typeWithoutRow; // while no row is chosen; none for the type that the entry has
+    };
+
     // The entry outlives the fields.
-    RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Types types);
+    RuleEntryFields(forms::Container& container, protocol::RuleEntryRecord& entry, Ways ways);
 
     // Fills the lists and shows the entry; one without a type gets the first.
     void open();
     // Takes over what the user has chosen. False, with a message, as soon as something is missing; the entry then
     // contains everything before it.
-    [[nodiscard]] bool take(std::u16string_view blankNameText);
+    [[nodiscard]] bool take();
 
     forms::ChoiceList<std::uint8_t> type;
     forms::EditBox name;
@@ -38,6 +46,7 @@ private:
     void allowOk();
 
     protocol::RuleEntryRecord& entry_;
+    Ways ways_;
 };
 
 } // namespace rules

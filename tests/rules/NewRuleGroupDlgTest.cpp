@@ -103,7 +103,7 @@ TEST_F(RuleGroupDialog, cancellingANewGroupWithEntriesRemovesItInOneCommand) {
         adder.fields.name.userTyped(u"At the desk");
         adder.okButton().userPressed();
     });
-    dialog.addButton.userPressed();
+    dialog.rules.addButton.userPressed();
     EXPECT_EQ(estate_.change<protocol::AddRuleEntryRequest>(2).ownerId, id);
 
     dialog.cancelButton().userPressed();
@@ -141,7 +141,7 @@ TEST_F(RuleGroupDialog, showsAnEditedGroupWithItsEntries) {
     EXPECT_EQ(dialog->comment.text(), u"Comment of Students");
     EXPECT_EQ(dialog->name.options().limit, 64U);
     EXPECT_EQ(dialog->comment.options().limit, 255U);
-    const auto& columns = dialog->entries.columns();
+    const auto& columns = dialog->rules.list.columns();
     ASSERT_EQ(columns.size(), 3U);
     EXPECT_EQ(columns[0].title, u"Rule Type");
     EXPECT_EQ(columns[0].width, 100);
@@ -149,8 +149,8 @@ TEST_F(RuleGroupDialog, showsAnEditedGroupWithItsEntries) {
     EXPECT_EQ(columns[1].width, 150);
     EXPECT_EQ(columns[2].title, u"Rule Affected");
     EXPECT_EQ(columns[2].width, 200);
-    ASSERT_EQ(dialog->entries.rows().size(), 4U);
-    EXPECT_EQ(dialog->entries.rows()[0].cells, (std::vector<wire::WideString>{u"Type Quota", u"Quota", u"Staff"}));
+    ASSERT_EQ(dialog->rules.list.rows().size(), 4U);
+    EXPECT_EQ(dialog->rules.list.rows()[0].cells, (std::vector<wire::WideString>{u"Type Quota", u"Quota", u"Staff"}));
     EXPECT_EQ(estate_.requests(1), Strings{"61: 02 00 67 31 00 00 00 00"});
 }
 
@@ -170,20 +170,20 @@ TEST_F(RuleGroupDialog, updatesAnEditedGroupWithWhatItDoesNotShow) {
 
 TEST_F(RuleGroupDialog, editAndRemoveNeedASelectedRowWithAnId) {
     const auto dialog = edited();
-    EXPECT_FALSE(dialog->removeButton.enabled());
+    EXPECT_FALSE(dialog->rules.removeButton.enabled());
     EXPECT_FALSE(dialog->editButton.enabled());
 
-    dialog->entries.userSelected(0);
-    EXPECT_TRUE(dialog->removeButton.enabled());
+    dialog->rules.list.userSelected(0);
+    EXPECT_TRUE(dialog->rules.removeButton.enabled());
     EXPECT_TRUE(dialog->editButton.enabled());
 
-    dialog->entries.userSelected(3); // without an id
-    EXPECT_FALSE(dialog->removeButton.enabled());
+    dialog->rules.list.userSelected(3); // without an id
+    EXPECT_FALSE(dialog->rules.removeButton.enabled());
     EXPECT_FALSE(dialog->editButton.enabled());
 
-    dialog->entries.userSelected(1);
-    dialog->entries.userSelected(std::nullopt);
-    EXPECT_FALSE(dialog->removeButton.enabled());
+    dialog->rules.list.userSelected(1);
+    dialog->rules.list.userSelected(std::nullopt);
+    EXPECT_FALSE(dialog->rules.removeButton.enabled());
     EXPECT_FALSE(dialog->editButton.enabled());
 }
 
@@ -197,43 +197,43 @@ TEST_F(RuleGroupDialog, addsEntriesInsideTheGroupAndListsThemAgain) {
         adder.okButton().userPressed();
     });
 
-    dialog->addButton.userPressed();
+    dialog->rules.addButton.userPressed();
 
     EXPECT_EQ(estate_.changes(1).back().substr(0, 36), "64: 05 00 00 00 00 00 00 02 00 67 31");
-    ASSERT_EQ(dialog->entries.rows().size(), 1U);
-    EXPECT_EQ(dialog->entries.rows()[0].cells[1], u"At the desk");
+    ASSERT_EQ(dialog->rules.list.rows().size(), 1U);
+    EXPECT_EQ(dialog->rules.list.rows()[0].cells[1], u"At the desk");
     EXPECT_EQ(platform_.commands().back(), "ListRuleEntries");
 }
 
 TEST_F(RuleGroupDialog, removesAnEntryByItsIdAndTypeAfterAQuestion) {
     const auto dialog = edited();
-    dialog->entries.userSelected(2);
+    dialog->rules.list.userSelected(2);
     platform_.ui.expectBox(Answer::ok, u"Are you sure you want to delete this rule entry?");
 
-    dialog->removeButton.userPressed();
+    dialog->rules.removeButton.userPressed();
 
     EXPECT_EQ(estate_.changes(1), Strings{"62: 03 02 00 65 33 04 00"});
     EXPECT_EQ(platform_.ui.boxes().back().caption, u"Warning");
     EXPECT_EQ(platform_.ui.boxes().back().style, 1U);
     EXPECT_EQ(platform_.commands().back(), "ListRuleEntries");
-    EXPECT_FALSE(dialog->removeButton.enabled());
-    EXPECT_EQ(dialog->entries.selection(), std::nullopt);
+    EXPECT_FALSE(dialog->rules.removeButton.enabled());
+    EXPECT_EQ(dialog->rules.list.selection(), std::nullopt);
 }
 
 TEST_F(RuleGroupDialog, keepsAnEntryWhenTheQuestionIsCancelled) {
     const auto dialog = edited();
-    dialog->entries.userSelected(2);
+    dialog->rules.list.userSelected(2);
     platform_.ui.expectBox(Answer::cancel);
 
-    dialog->removeButton.userPressed();
+    dialog->rules.removeButton.userPressed();
 
     EXPECT_EQ(platform_.commands(), Strings{"ListRuleEntries"});
-    EXPECT_EQ(dialog->entries.selection(), 2U);
+    EXPECT_EQ(dialog->rules.list.selection(), 2U);
 }
 
 TEST_F(RuleGroupDialog, editsTheLimitThatAnEntryPointsAt) {
     const auto dialog = edited();
-    dialog->entries.userSelected(0);
+    dialog->rules.list.userSelected(0);
     platform_.ui.expect<PageLimitDlg>([](PageLimitDlg& editor) {
         EXPECT_EQ(editor.title(), u"Edit Page Limit Rule");
         EXPECT_EQ(editor.name.text(), u"Ten pages");
@@ -244,14 +244,14 @@ TEST_F(RuleGroupDialog, editsTheLimitThatAnEntryPointsAt) {
 
     EXPECT_EQ(estate_.change<protocol::WritePageLimitRequest>(1).action, 2);
     EXPECT_EQ(estate_.change<protocol::WritePageLimitRequest>(1).limit.id, "limit1");
-    EXPECT_EQ(dialog->entries.selection(), 0U);
+    EXPECT_EQ(dialog->rules.list.selection(), 0U);
     EXPECT_TRUE(dialog->editButton.enabled());
 }
 
 TEST_F(RuleGroupDialog, editsALimitCalledLikeTheEntryWhenItPointsAtNone) {
     estate_.entries["g1"] = {samples::entry("e1", 2, u"Quota")};
     const auto dialog = edited();
-    dialog->entries.userSelected(0);
+    dialog->rules.list.userSelected(0);
     platform_.ui.expect<PageLimitDlg>([](PageLimitDlg& editor) {
         EXPECT_EQ(editor.title(), u"Edit Page Limit Rule");
         EXPECT_EQ(editor.name.text(), u"Quota");
@@ -266,18 +266,18 @@ TEST_F(RuleGroupDialog, editsALimitCalledLikeTheEntryWhenItPointsAtNone) {
 TEST_F(RuleGroupDialog, doesNotEditALimitThatHasGone) {
     estate_.limits.clear();
     const auto dialog = edited();
-    dialog->entries.userSelected(0);
+    dialog->rules.list.userSelected(0);
 
     dialog->editButton.userPressed();
 
     EXPECT_EQ(platform_.failures().size(), 1U);
     EXPECT_TRUE(platform_.ui.forms().empty());
-    EXPECT_EQ(dialog->entries.rows().size(), 4U);
+    EXPECT_EQ(dialog->rules.list.rows().size(), 4U);
 }
 
 TEST_F(RuleGroupDialog, editsThePlanThatAnEntryPointsAtAndTheEntryWithIt) {
     const auto dialog = edited();
-    dialog->entries.userSelected(1);
+    dialog->rules.list.userSelected(1);
     platform_.ui.expect<NewPricePlanDlg>([](NewPricePlanDlg& editor) {
         EXPECT_EQ(editor.title(), u"Edit Priceplan");
         EXPECT_EQ(editor.name.text(), u"Standard");
@@ -293,7 +293,7 @@ TEST_F(RuleGroupDialog, editsThePlanThatAnEntryPointsAtAndTheEntryWithIt) {
 TEST_F(RuleGroupDialog, opensNothingForAPlanThatHasGone) {
     estate_.plans.clear();
     const auto dialog = edited();
-    dialog->entries.userSelected(1);
+    dialog->rules.list.userSelected(1);
 
     dialog->editButton.userPressed();
 
@@ -303,7 +303,7 @@ TEST_F(RuleGroupDialog, opensNothingForAPlanThatHasGone) {
 
 TEST_F(RuleGroupDialog, editsAllOtherEntriesThemselves) {
     const auto dialog = edited();
-    dialog->entries.userSelected(2);
+    dialog->rules.list.userSelected(2);
     platform_.ui.expect<CNewRuleDialog>([this](CNewRuleDialog& editor) {
         EXPECT_EQ(editor.name.text(), u"Handing over");
         EXPECT_EQ(editor.affected.list.selectedText(), u"Staff");
@@ -317,8 +317,8 @@ TEST_F(RuleGroupDialog, editsAllOtherEntriesThemselves) {
     const auto sent = estate_.change<protocol::UpdateRuleEntryRequest>(1);
     EXPECT_EQ(sent.entry.id, "e3");
     EXPECT_EQ(sent.entry.comment, u"At the desk");
-    EXPECT_EQ(dialog->entries.rows().size(), 3U);
-    EXPECT_EQ(dialog->entries.selection(), 1U); // the same entry as before
+    EXPECT_EQ(dialog->rules.list.rows().size(), 3U);
+    EXPECT_EQ(dialog->rules.list.selection(), 1U); // the same entry as before
 }
 
 TEST_F(RuleGroupDialog, showsAnEmptyListWhenTheGroupCouldNotBeMade) {
@@ -327,7 +327,7 @@ TEST_F(RuleGroupDialog, showsAnEmptyListWhenTheGroupCouldNotBeMade) {
 
     dialog.open();
 
-    EXPECT_TRUE(dialog.entries.rows().empty());
+    EXPECT_TRUE(dialog.rules.list.rows().empty());
     EXPECT_TRUE(platform_.ui.boxes().empty());
     EXPECT_TRUE(platform_.failures().empty());
 }

@@ -1,4 +1,7 @@
+#include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
+#include "regions/RegionRulesDlg.h"
+#include "regions/RegionTree.h"
 #include "rules/AddRuleEntryDlg.h"
 #include "rules/AffectedDlg.h"
 #include "rules/CNewRuleDialog.h"
@@ -29,6 +32,9 @@ protected:
         using rules::AddRuleEntryDlg;
         add<snapin::AuthenticationDlg>();
         add<regions::CreateRegionDlg>(0, regions::CreateRegionDlg::Mode::printerTree);
+        add<regions::AddTabRuleDlg>(place_);
+        add<regions::RegionRulesDlg>(1);
+        add<regions::RegionTree>();
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::group, place_);
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::place, place_);
         add<rules::AffectedDlg>();

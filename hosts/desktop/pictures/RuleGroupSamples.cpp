@@ -43,8 +43,8 @@ std::unique_ptr<forms::Form> groupToEdit(platform::Platform& platform) {
 }
 
 void selectAnEntry(forms::Form& form) {
-    dynamic_cast<rules::NewRuleGroupDlg&>(form).entries.select(1);
-    dynamic_cast<rules::NewRuleGroupDlg&>(form).entries.userSelected(1);
+    dynamic_cast<rules::NewRuleGroupDlg&>(form).rules.list.select(1);
+    dynamic_cast<rules::NewRuleGroupDlg&>(form).rules.list.userSelected(1);
 }
 
 template <rules::AddRuleEntryDlg::Mode mode>

@@ -1,6 +1,9 @@
 #include "tests/hosts/desktop/forms/ProductForms.h"
 
+#include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
+#include "regions/RegionRulesDlg.h"
+#include "regions/RegionTree.h"
 #include "rules/AddRuleEntryDlg.h"
 #include "rules/AffectedDlg.h"
 #include "rules/CNewRuleDialog.h"
@@ -34,6 +37,14 @@ std::unique_ptr<forms::Form> newRegion(platform::Platform& platform) {
     return std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree);
 }
 
+std::unique_ptr<forms::Form> ruleOnPrinter(platform::Platform& platform) {
+    return std::make_unique<regions::AddTabRuleDlg>(platform, inAGroup());
+}
+
+std::unique_ptr<forms::Form> rulesOfRegion(platform::Platform& platform) {
+    return std::make_unique<regions::RegionRulesDlg>(platform, 1);
+}
+
 std::unique_ptr<forms::Form> newRule(platform::Platform& platform) {
     return std::make_unique<rules::CNewRuleDialog>(platform, inAGroup());
 }
@@ -53,6 +64,9 @@ std::vector<ProductForm> productForms() {
             {"ruleGroup", plain<rules::NewRuleGroupDlg>},
             {"ruleEntryInGroup", newEntry<AddRuleEntryDlg::Mode::group>},
             {"ruleEntryOnRegion", newEntry<AddRuleEntryDlg::Mode::place>},
+            {"ruleOnPrinter", ruleOnPrinter},
+            {"regionRules", rulesOfRegion},
+            {"regionTree", plain<regions::RegionTree>},
             {"newRule", newRule},
             {"affected", plain<rules::AffectedDlg>},
             {"message", plain<rules::NewMessageDlg>},
