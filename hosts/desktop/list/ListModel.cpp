@@ -76,12 +76,14 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return alignmentOf(index.column());
     case Qt::DecorationRole:
-        return index.column() == 0 ? QVariant(icons_.icon(operations_.shell().listImages().strip(),
-                                                          pane().row(static_cast<std::size_t>(index.row())).image))
-                                   : QVariant();
+        return index.column() == 0 ? iconOf(pane().row(static_cast<std::size_t>(index.row()))) : QVariant();
     default:
         return {};
     }
+}
+
+QVariant ListModel::iconOf(const shell::Row& row) const {
+    return icons_.iconOf(row.node->className(), operations_.shell().listImages().strip(), row.image);
 }
 
 bool ListModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -52,6 +52,7 @@ private:
     [[nodiscard]] bool isCut(const QModelIndex& index) const;
     [[nodiscard]] wire::WideStringView cell(const QModelIndex& index) const;
     [[nodiscard]] QVariant alignmentOf(int column) const;
+    [[nodiscard]] QVariant iconOf(const shell::Row& row) const;
     void announceChange();
 
     void columnsChanged() override;

@@ -5,6 +5,7 @@
 #include <QIcon>
 
 #include <map>
+#include <string>
 #include <utility>
 
 namespace desktop {
@@ -16,6 +17,10 @@ public:
     // Empty for a strip or an index that does not exist.
     QIcon icon(const console::ImageStrip& strip, int index) const;
 
+    // The icon of a node of that class (console::CSnapInItem::className). Kinds of rules, which share an index, are
+    // told apart.
+    QIcon iconOf(const std::string& className, const console::ImageStrip& strip, int index) const;
+
     // How many icons the strip has; 0 for one that does not exist.
     static int count(const console::ImageStrip& strip);
     // The program's own icon.
@@ -23,6 +28,7 @@ public:
 
 private:
     mutable std::map<std::pair<std::int32_t, int>, QIcon> icons_;
+    mutable std::map<std::string, QIcon> kinds_;
 };
 
 } // namespace desktop

@@ -93,7 +93,7 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const {
     case TextDelegate::cutRole:
         return isCut(id);
     case Qt::DecorationRole:
-        return icons_.icon(operations_.shell().scopeImages().strip(), tree().image(id));
+        return iconOf(id);
     default:
         return {};
     }
@@ -102,6 +102,13 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const {
 bool ScopeModel::isCut(ScopeId id) const {
     const auto& shell = operations_.shell();
     return shell.cutNode() != nullptr && shell.isCut(*tree().find(id)->node);
+}
+
+QIcon ScopeModel::iconOf(ScopeId id) const {
+    const auto* const item = tree().find(id);
+    return item == nullptr
+               ? QIcon()
+               : icons_.iconOf(item->node->className(), operations_.shell().scopeImages().strip(), tree().image(id));
 }
 
 bool ScopeModel::setData(const QModelIndex& index, const QVariant& value, int role) {

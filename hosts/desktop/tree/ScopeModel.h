@@ -40,6 +40,7 @@ public:
 private:
     const shell::ScopeTree& tree() const { return operations_.shell().tree(); }
     [[nodiscard]] bool isCut(console::ScopeId id) const;
+    [[nodiscard]] QIcon iconOf(console::ScopeId id) const;
     int rowOf(console::ScopeId id) const;
     // The insertion of the root is not reported: the model notices it with the first change to it.
     void noticeRoot();

@@ -5,6 +5,10 @@
 #include <QImage>
 #include <QPixmap>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 namespace desktop {
 namespace {
 
@@ -43,6 +47,27 @@ TEST(IconStrips, noTwoDrawingsAreTheSame) {
             }
         }
     }
+}
+
+TEST(IconStrips, theKindsOfRulesThatShareAnIndexAreToldApart) {
+    const IconStrips icons;
+    const std::vector<std::string> classes{"class RulesRootNode", "class RuleSetNode", "class PricePlansNode",
+                                           "class PageLimitersNode", "class ShortIdNode"};
+    std::vector<QImage> drawn;
+    for (const auto& name : classes) {
+        SCOPED_TRACE(name);
+        drawn.push_back(icons.iconOf(name, console::commonStrip, 20).pixmap(32, 32).toImage());
+        EXPECT_TRUE(hasSomethingDrawn(drawn.back()));
+        EXPECT_EQ(std::ranges::count(drawn, drawn.back()), 1);
+    }
+    EXPECT_EQ(drawn.front(), icons.icon(console::commonStrip, 20).pixmap(32, 32).toImage());
+}
+
+TEST(IconStrips, aKindWithAnotherIndexHasThatOne) {
+    const IconStrips icons;
+    EXPECT_EQ(icons.iconOf("class ShortIdNode", console::commonStrip, 6).pixmap(32, 32).toImage(),
+              icons.icon(console::commonStrip, 6).pixmap(32, 32).toImage());
+    EXPECT_TRUE(icons.iconOf("class ShortIdNode", console::commonStrip, 99).isNull());
 }
 
 TEST(IconStrips, anIndexOrAStripThatIsNotThereIsEmpty) {
