@@ -1,6 +1,7 @@
 #include "hosts/desktop/forms/DateTimeWidget.h"
 
 #include "forms/DateTimePicker.h"
+#include "hosts/desktop/forms/TypedDateTimeEdit.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -54,7 +55,7 @@ QDateTime now() {
 } // namespace
 
 DateTimeWidget::DateTimeWidget(forms::DateTimePicker& picker)
-    : ControlWidget(picker), picker_(picker), edit_(new QDateTimeEdit(now())) {
+    : ControlWidget(picker), picker_(picker), edit_(new TypedDateTimeEdit(now())) {
     edit_->setTimeSpec(Qt::UTC);
     edit_->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
     edit_->setDisplayFormat(displayFormat(picker.options()));

@@ -222,6 +222,48 @@ TEST(FormTextsOfDays, aDayIsShownInTheFormThatIsAskedFor) {
     EXPECT_EQ(dynamic_cast<QDateTimeEdit&>(*dialog.widgetOf(day)).text(), QStringLiteral("2024-02-09"));
 }
 
+// The time after a person has typed over another one from its beginning.
+QString typedOver(QTime before, const char16_t* format, const QString& text) {
+    support::TestPlatform platform;
+    forms::SampleForm form(platform);
+    forms::DateTimePicker time(form, u"Time", {.date = false, .format = format});
+    FormDialog dialog(form);
+    dialog.show();
+    auto& box = dynamic_cast<QDateTimeEdit&>(*dialog.widgetOf(time));
+    box.setTime(before);
+    box.setFocus(Qt::TabFocusReason);
+    box.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&box, text);
+    QTest::keyClick(&box, Qt::Key_Tab);
+    const auto value = time.value().value_or(forms::DateTime());
+    return QTime(value.hour, value.minute, value.second).toString(QStringLiteral("HH:mm:ss"));
+}
+
+struct TypedTime {
+    const char16_t* format;
+    const char* typed;
+    const char* taken;
+};
+
+class FormTextsOfTimes : public testing::TestWithParam<TypedTime> {};
+
+TEST_P(FormTextsOfTimes, areTakenAsTheyAreTyped) {
+    for (const QTime before : {QTime(3, 4, 5), QTime(21, 4, 5), QTime(0, 0, 0), QTime(12, 0, 0)}) {
+        SCOPED_TRACE(before.toString().toStdString());
+        EXPECT_EQ(typedOver(before, GetParam().format, QString::fromLatin1(GetParam().typed)).toStdString(),
+                  GetParam().taken);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Typed, FormTextsOfTimes,
+                         testing::Values(TypedTime{u"h:mm:ss AP", "12:30:15 PM", "12:30:15"},
+                                         TypedTime{u"h:mm:ss AP", "12:30:15 AM", "00:30:15"},
+                                         TypedTime{u"h:mm:ss AP", "1:30:15 pm", "13:30:15"},
+                                         TypedTime{u"h:mm:ss AP", "123015PM", "12:30:15"},
+                                         TypedTime{u"hh:mm:ss ap", "11:59:58 am", "11:59:58"},
+                                         TypedTime{u"hh:mm:ss", "23:30:15", "23:30:15"},
+                                         TypedTime{u"hh:mm:ss", "233015", "23:30:15"}));
+
 // Digits only, a day that may be missing, and a value with a label.
 class OtherForm final : public forms::Form {
 public:
