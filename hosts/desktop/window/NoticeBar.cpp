@@ -1,5 +1,6 @@
 #include "hosts/desktop/window/NoticeBar.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -44,8 +45,14 @@ void NoticeBar::offerLogin(bool offered) {
 }
 
 void NoticeBar::say(const QString& text) {
+    const bool isNews = !text.isEmpty() && text != label_->text();
     label_->setText(text);
+    setAccessibleDescription(text);
     setVisible(!text.isEmpty());
+    if (isNews) {
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }
 
 QString NoticeBar::said() const {
