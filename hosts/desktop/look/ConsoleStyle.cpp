@@ -49,9 +49,12 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption* optio
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
     if (element == PE_IndicatorBranch && option->state.testFlag(State_Selected)) {
+        const bool hasFocus = option->state.testFlag(State_Active) && widget != nullptr && widget->hasFocus();
+        const QColor onSelection =
+            option->palette.color(hasFocus ? QPalette::Active : QPalette::Inactive, QPalette::HighlightedText);
         QStyleOption changed(*option);
-        changed.palette.setColor(QPalette::WindowText, option->palette.color(QPalette::HighlightedText));
-        changed.palette.setColor(QPalette::Text, option->palette.color(QPalette::HighlightedText));
+        changed.palette.setColor(QPalette::WindowText, onSelection);
+        changed.palette.setColor(QPalette::Text, onSelection);
         QProxyStyle::drawPrimitive(element, &changed, painter, widget);
         return;
     }

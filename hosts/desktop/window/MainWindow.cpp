@@ -354,7 +354,7 @@ void MainWindow::exportTable(const shell::Table& table) {
 
 void MainWindow::focusNextPane() {
     QWidget* next = &panes_->tree();
-    if (panes_->tree().hasFocus()) {
+    if (focusWidget() == &panes_->tree()) {
         next = &panes_->list();
     } else if (panes_->list().hasFocus() && activity_->isVisible()) {
         next = &activity_->view();
@@ -427,6 +427,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::selectionChanged() {
+    if (session_.shell().selection().row != 0 && focusWidget() == &panes_->tree()) {
+        panes_->list().setFocus(Qt::OtherFocusReason); // to the new row, to which the next key belongs
+    }
     showStateSoon();
 }
 

@@ -62,6 +62,25 @@ TEST_F(Selection, aRowWhoseDialogIsCancelledStaysSelected) {
     EXPECT_EQ(QStringLiteral("Night"), selected());
 }
 
+TEST_F(Selection, theKeyboardGoesToTheNewRow) {
+    open();
+    panes().tree().setFocus(Qt::OtherFocusReason);
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("Berlin"));
+        press(dialog, QStringLiteral("OK"));
+    });
+    whenAsked([](QDialog& box) { press(box, QStringLiteral("Open again with what you typed")); });
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("Nord"));
+        press(dialog, QStringLiteral("OK"));
+    });
+
+    choose(QStringLiteral("Create region"));
+
+    EXPECT_EQ(QStringLiteral("Nord"), selected());
+    EXPECT_EQ(&panes().list(), window().focusWidget());
+}
+
 TEST_F(Selection, aRemovedRowHandsOnToItsNeighbour) {
     open(QStringLiteral("Rules/Price Plans"));
     makePlan(QStringLiteral("Zz 1"));
