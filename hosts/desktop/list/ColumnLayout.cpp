@@ -140,17 +140,18 @@ std::vector<ColumnWish> ColumnLayout::wishes() const {
     return needed <= header_.width() ? roomy : neededByTexts <= header_.width() ? snug : tight;
 }
 
+bool ColumnLayout::isToTheRight(int column) const {
+    const int alignment = header_.model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+    return (static_cast<unsigned>(alignment) & Qt::AlignRight) != 0;
+}
+
 // The last column that does not hold numbers, which would be far away from the text to their left.
 std::size_t ColumnLayout::roomiest() const {
-    const auto isLeft = [this](int column) {
-        const int alignment = header_.model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
-        return (static_cast<unsigned>(alignment) & Qt::AlignRight) == 0;
-    };
     int column = header_.count() - 1;
-    while (column > 0 && !isLeft(column)) {
+    while (column > 0 && isToTheRight(column)) {
         --column;
     }
-    return static_cast<std::size_t>(isLeft(column) ? column : header_.count() - 1);
+    return static_cast<std::size_t>(isToTheRight(column) ? header_.count() - 1 : column);
 }
 
 void ColumnLayout::fit() {

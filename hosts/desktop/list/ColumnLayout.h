@@ -46,6 +46,7 @@ private:
     void applyDefaults();
     void fit();
     [[nodiscard]] std::vector<ColumnWish> wishes() const;
+    [[nodiscard]] bool isToTheRight(int column) const;
     // The column that gets the room that no column asks for.
     [[nodiscard]] std::size_t roomiest() const;
     // The widest text among the first rows, in pixels.

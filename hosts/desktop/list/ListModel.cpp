@@ -91,7 +91,9 @@ bool ListModel::setData(const QModelIndex& index, const QVariant& value, int rol
     if (role != Qt::EditRole || idOf(index) == 0 || name.isEmpty() || name == data(index, Qt::EditRole).toString()) {
         return false;
     }
-    operations_.rename({.target = targetOf(index), .name = toWideString(name)});
+    const auto target = targetOf(index);
+    operations_.rename({.target = target, .name = toWideString(name)});
+    operations_.later([this, target] { selectAgain(target); });
     return true;
 }
 
@@ -113,6 +115,14 @@ bool ListModel::holdsNumbers(int column) const {
 
 QVariant ListModel::alignmentOf(int column) const {
     return static_cast<int>((holdsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
+// The nodes leave the selection on the item of the tree.
+void ListModel::selectAgain(const shell::Target& target) {
+    operations_.perform([&](shell::Shell& console) {
+        return console.selection() == shell::Target{target.scope, 0} && console.pane().indexOf(target.row) &&
+               console.selectRow(target.row);
+    });
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {

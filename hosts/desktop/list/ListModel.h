@@ -49,6 +49,7 @@ public:
 
 private:
     [[nodiscard]] const shell::ResultPane& pane() const { return operations_.shell().pane(); }
+    void selectAgain(const shell::Target& target);
     [[nodiscard]] bool isCut(const QModelIndex& index) const;
     [[nodiscard]] wire::WideStringView cell(const QModelIndex& index) const;
     [[nodiscard]] QVariant alignmentOf(int column) const;

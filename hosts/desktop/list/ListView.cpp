@@ -1,5 +1,6 @@
 #include "hosts/desktop/list/ListView.h"
 
+#include "hosts/desktop/list/ListHeader.h"
 #include "hosts/desktop/look/TextDelegate.h"
 
 #include <QContextMenuEvent>
@@ -15,6 +16,11 @@
 namespace desktop {
 namespace {
 
+QHeaderView& headerOf(QTreeView& view) {
+    view.setHeader(new ListHeader(&view));
+    return *view.header();
+}
+
 QItemSelectionModel& selectionModelOf(QTreeView& view, ListModel& model) {
     view.setModel(&model);
     return *view.selectionModel();
@@ -29,7 +35,7 @@ ListView::ListView(Operations& operations, shell::Observers& observers, ListMode
       observers_(observers),
       model_(model),
       settings_(settings),
-      columns_(operations, settings, *header()),
+      columns_(operations, settings, headerOf(*this)),
       selectedRows_(model, selectionModelOf(*this, model)) {
     setAccessibleName(QStringLiteral("List"));
     setItemDelegate(new TextDelegate(this));

@@ -28,7 +28,8 @@ bool TextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
 void TextDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     if (index.data(cutRole).toBool()) {
-        option->state &= ~QStyle::State_Enabled;
+        option->state &= ~QStyle::State_Enabled; // fades the icon
+        option->palette.setBrush(QPalette::Disabled, QPalette::Text, option->palette.placeholderText());
         option->font.setItalic(true);
     }
 }

@@ -1,3 +1,4 @@
+#include "hosts/desktop/list/ListHeader.h"
 #include "hosts/desktop/look/Text.h"
 #include "hosts/desktop/look/TextDelegate.h"
 #include "tests/hosts/desktop/WindowFixture.h"
@@ -326,6 +327,17 @@ TEST_F(Rows, numbersAndTheirTitlesAreAlignedToTheRightBesideTheTextsBeforeThem) 
     }
     EXPECT_EQ(list().viewport()->width(), list().header()->length());
     EXPECT_LT(list().header()->sectionSize(5), list().header()->sectionSizeHint(5) + 40);
+}
+
+TEST_F(Rows, aTitleThatDoesNotFitKeepsItsBeginning) {
+    open(QStringLiteral("Printers/Łódź"));
+    auto& header = static_cast<desktop::ListHeader&>(*list().header());
+    EXPECT_EQ(QStringLiteral("Jobs In Queue"), header.shownTitle(5));
+
+    header.resizeSection(5, header.sectionSizeHint(5) / 2);
+
+    EXPECT_TRUE(header.shownTitle(5).startsWith(QStringLiteral("Jo")));
+    EXPECT_TRUE(header.shownTitle(5).endsWith(QChar(0x2026)));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/look/Text.h"
 
+#include <QLineEdit>
 #include <QMenu>
 
 #include <algorithm>
@@ -93,6 +94,21 @@ TEST_F(Selection, aRemovedRowHandsOnToItsNeighbour) {
 
     EXPECT_FALSE(rows().contains(QStringLiteral("Zz 2")));
     EXPECT_EQ(QStringLiteral("Zz 3"), selected());
+}
+
+TEST_F(Selection, aRowThatIsRenamedInItsPlaceStaysSelected) {
+    open(QStringLiteral("Printers"));
+    selectRow(QStringLiteral("Berlin"));
+    panes().list().renameCurrent();
+    auto* const editor = panes().list().findChild<QLineEdit*>();
+    ASSERT_NE(nullptr, editor);
+    editor->setText(QStringLiteral("Zzz"));
+
+    QTest::keyClick(editor, Qt::Key_Return);
+    settle();
+
+    EXPECT_EQ(QStringLiteral("Zzz"), selected());
+    EXPECT_EQ(QStringLiteral("Zzz"), panes().list().currentIndex().siblingAtColumn(0).data().toString());
 }
 
 TEST_F(Selection, aSingleRowIsSelectedByAnArrowKey) {
