@@ -37,10 +37,15 @@ StatusLine::StatusLine(QStatusBar& bar, const Operations& operations, const List
       parts_(new PartButtons(&bar)),
       readAt_(label(bar, QStringLiteral("Time of reading"))),
       connection_(label(bar, QStringLiteral("Connection"))) {
-    bar.addWidget(count_);
+    // The bar itself would hide the parts under a message, and with them the focus.
+    bar.addPermanentWidget(count_);
     bar.addPermanentWidget(parts_, 1);
     bar.addPermanentWidget(readAt_);
     bar.addPermanentWidget(connection_);
+    QObject::connect(&bar, &QStatusBar::messageChanged, count_, [this](const QString& message) {
+        message_ = message;
+        showCount();
+    });
 }
 
 QString StatusLine::countText(std::size_t shown, std::size_t all, const QString& noun) {
@@ -51,15 +56,22 @@ QString StatusLine::countText(std::size_t shown, std::size_t all, const QString&
                         : locale.toString(static_cast<qulonglong>(shown)) + QStringLiteral(" of ") + total + unit;
 }
 
+void StatusLine::showCount() {
+    const auto& console = operations_.shell();
+    const auto& pane = console.pane();
+    const QString count = console.selection().scope == 0
+                              ? QString()
+                              : countText(pane.rowCount(), pane.unfilteredCount(), oneLine(summary_.noun));
+    count_->setLine(message_.isEmpty() ? count : message_);
+}
+
 void StatusLine::update() {
     const auto& pane = operations_.shell().pane();
     if (summarized_ != pane.revision()) {
         summary_ = shell::summarize(pane);
         summarized_ = pane.revision();
     }
-    count_->setLine(operations_.shell().selection().scope == 0
-                        ? QString()
-                        : countText(pane.rowCount(), pane.unfilteredCount(), oneLine(summary_.noun)));
+    showCount();
     parts_->setParts(summary_.parts, pane);
     const auto time = age_.readAt();
     readAt_->setLine(time ? QStringLiteral("As of ") + time->toString(QStringLiteral("hh:mm:ss")) : QString());

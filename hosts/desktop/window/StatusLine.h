@@ -8,8 +8,8 @@ class QStatusBar;
 
 namespace desktop {
 
-// The permanent part of the status bar: how many rows there are, how many of them are in which state, when they were
-// read, and who is logged in where.
+// The status bar: how many rows there are, or a message for as long as there is one; how many of them are in which
+// state, when they were read, and who is logged in where.
 class StatusLine {
 public:
     // All outlive it; the bar owns the labels.
@@ -21,10 +21,13 @@ public:
     PartButtons& parts() { return *parts_; }
 
 private:
+    void showCount();
+
     const Operations& operations_;
     const ListAge& age_;
     shell::ListSummary summary_;
     std::optional<std::uint64_t> summarized_; // the revision of the rows that the summary is of
+    QString message_;
     ElidedLabel* count_;
     PartButtons* parts_;
     ElidedLabel* readAt_;

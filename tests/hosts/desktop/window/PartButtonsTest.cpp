@@ -48,6 +48,26 @@ TEST_F(PartsOfList, areFiltersToClick) {
     EXPECT_FALSE(jobs->isChecked());
 }
 
+TEST_F(PartsOfList, standBesideAMessage) {
+    open(QStringLiteral("Printers/München"));
+    const auto* const jobs = button(QStringLiteral("4 jobs"));
+    const QString message = QStringLiteral("'MUC-001' is cut");
+
+    window().statusBar()->showMessage(message);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+
+    const auto labels = window().statusBar()->findChildren<QLabel*>();
+    const auto said = std::ranges::find(labels, message, &QLabel::text);
+    ASSERT_NE(labels.end(), said);
+    EXPECT_TRUE((*said)->isVisible());
+    EXPECT_LE((*said)->fontMetrics().horizontalAdvance(message), (*said)->width());
+    EXPECT_TRUE(jobs->isVisible());
+    EXPECT_LE((*said)->geometry().right(), window().status().parts().x());
+    EXPECT_FALSE(statusTexts().contains(QStringLiteral("8 rows")));
+    window().statusBar()->clearMessage();
+    EXPECT_TRUE(statusTexts().contains(QStringLiteral("8 rows")));
+}
+
 TEST_F(PartsOfList, leaveTheRestOfTheFilterAlone) {
     open(QStringLiteral("Printers/München"));
     QTest::keyClicks(&panes().filter(), QStringLiteral("muc"));
