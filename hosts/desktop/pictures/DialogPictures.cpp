@@ -49,7 +49,7 @@ QImage boxPicture() {
     return image;
 }
 
-std::vector<std::pair<QString, QImage>> picturesOf(const std::vector<Sample>& samples) {
+std::vector<NamedPicture> picturesOf(const std::vector<Sample>& samples) {
     const QTemporaryDir folder;
     common::IniSettingsStore store(std::filesystem::path(folder.filePath(QStringLiteral("none.ini")).toStdString()));
     PrefilledSettings settings(store, {{"ServerName", u"print.example.com"},
@@ -62,7 +62,7 @@ std::vector<std::pair<QString, QImage>> picturesOf(const std::vector<Sample>& sa
                                 .settings = settings,
                                 .productVersion = std::array<std::uint16_t, 4>{
                                     VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_PATCH, 0}};
-    std::vector<std::pair<QString, QImage>> pictures;
+    std::vector<NamedPicture> pictures;
     for (const Sample& each : samples) {
         const auto form = each.make(platform);
         FormDialog dialog(*form);
@@ -75,13 +75,13 @@ std::vector<std::pair<QString, QImage>> picturesOf(const std::vector<Sample>& sa
 
 } // namespace
 
-std::vector<std::pair<QString, QImage>> dialogPictures() {
+std::vector<NamedPicture> dialogPictures() {
     auto pictures = picturesOf(samples());
     pictures.emplace_back(QStringLiteral("message-box"), boxPicture());
     return pictures;
 }
 
-std::vector<std::pair<QString, QImage>> serverDialogPictures() {
+std::vector<NamedPicture> serverDialogPictures() {
     if (client::theProperties != nullptr) {
         client::theProperties->hooks = {}; // the hooks of the session that logged in no longer exist
     }

@@ -2,7 +2,7 @@
 #include "hosts/desktop/look/ColorScheme.h"
 #include "hosts/desktop/pictures/DialogPictures.h"
 #include "hosts/desktop/pictures/IconSheet.h"
-#include "hosts/desktop/pictures/MenuPicture.h"
+#include "hosts/desktop/pictures/WindowPictures.h"
 #include "hosts/desktop/window/Application.h"
 
 #include <QDir>
@@ -39,9 +39,12 @@ int main(int argc, char** argv) {
         done = save(image, folder, name, arguments[1]) && done;
     }
     common::IniSettingsStore settings(std::filesystem::path(arguments[3].toStdU16String()));
-    const auto menu = desktop::menuPicture(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
-    done = save(menu.value_or(QImage()), folder, QStringLiteral("menu"), arguments[1]) && done;
-    // These need the login that the menu made.
+    const auto ofWindow = desktop::windowPictures(settings, qEnvironmentVariable("VANTREL_PASSWORD"), arguments[4]);
+    done = !ofWindow.empty() && done;
+    for (const auto& [name, image] : ofWindow) {
+        done = save(image, folder, name, arguments[1]) && done;
+    }
+    // These need the login that the window made.
     for (const auto& [name, image] : desktop::serverDialogPictures()) {
         done = save(image, folder, name, arguments[1]) && done;
     }
