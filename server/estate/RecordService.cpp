@@ -1,8 +1,10 @@
 #include "server/estate/RecordService.h"
 
+#include "protocol/alarms/AlarmProgram.h"
 #include "server/commands/Refusal.h"
 #include "server/commands/ReplyBuffer.h"
 #include "server/estate/ModelNames.h"
+#include "server/estate/ProgramIds.h"
 #include "server/estate/RecordTable.h"
 #include "server/estate/RegionTable.h"
 #include "wire/WireUuid.h"
@@ -86,6 +88,28 @@ std::optional<StatusReply> RecordService::refuse(const PrinterRecord& record) {
     return std::nullopt;
 }
 
+std::optional<StatusReply> RecordService::refuseReferences(const PrinterRecord& record, const PrinterRecord& before) {
+    namespace kind = protocol::alarmProgramKind;
+    auto& programs = connection_.table<ProgramIds>();
+    const auto isNew = [&](std::string PrinterRecord::*id) {
+        return !(record.*id).empty() && record.*id != before.*id;
+    };
+    const auto missing = [&](const WideString& object) {
+        return notSaved(u"The " + object + u" of this " + wordFor(record.recordType) +
+                        u" does not exist any more. Please choose another one.");
+    };
+    if (isNew(&PrinterRecord::modelId) && !connection_.table<ModelNames>().find(record.modelId)) {
+        return missing(u"model");
+    }
+    if (isNew(&PrinterRecord::alarmProgramId) && !programs.has(record.alarmProgramId, kind::alarm)) {
+        return missing(u"alarm program");
+    }
+    if (isNew(&PrinterRecord::counterProgramId) && !programs.has(record.counterProgramId, kind::counter)) {
+        return missing(u"counter program");
+    }
+    return std::nullopt;
+}
+
 void RecordService::nameModel(PrinterRecord& record) {
     if (auto name = connection_.table<ModelNames>().find(record.modelId)) {
         record.modelName = std::move(*name);
@@ -113,6 +137,9 @@ protocol::CreateRecordReply RecordService::create(const protocol::CreateRecordRe
     if (const auto refused = refuse(record)) {
         return {.status = *refused, .id = {}};
     }
+    if (const auto refused = refuseReferences(record, {})) {
+        return {.status = *refused, .id = {}};
+    }
     connection_.table<RecordTable>().insert(stored);
     return {.status = done(), .id = record.id};
 }
@@ -129,6 +156,9 @@ StatusReply RecordService::update(const protocol::UpdateRecordRequest& request) 
     }
     nameModel(record);
     if (const auto refused = refuse(record)) {
+        return *refused;
+    }
+    if (const auto refused = refuseReferences(record, before->record)) {
         return *refused;
     }
     const bool moves = record.recordType == type::printer && record.regionId != before->record.regionId;

@@ -23,6 +23,9 @@ private:
     // A model of the driver catalogue gets its name from there; the name of any other model is left as received.
     void nameModel(protocol::PrinterRecord& record);
     [[nodiscard]] std::optional<protocol::StatusReply> refuse(const protocol::PrinterRecord& record);
+    // Checks that the model and the programs exist. What the record referred to before is left as it is.
+    [[nodiscard]] std::optional<protocol::StatusReply> refuseReferences(const protocol::PrinterRecord& record,
+                                                                        const protocol::PrinterRecord& before);
 
     StoreConnection& connection_;
 };

@@ -56,8 +56,27 @@ PrinterRecord fullRecord(std::int32_t regionId) {
             .auxKey = "key"};
 }
 
+// What a full record refers to, put into the database of a connection.
+class References {
+public:
+    explicit References(sqlite3* connection) {
+        Query(connection, "INSERT INTO driverBrand (id, name, nameKey) VALUES ('brand', x'4200', x'62')").execute();
+        Query(connection, "INSERT INTO driverModel (id, brandId, name, nameKey) VALUES "
+                          "('model-id', 'brand', x'4D006F00640065006C00', x'6D')") // "Model"
+            .execute();
+        Query(connection, "INSERT INTO alarmProgram (id, kind, name, comment, createdBy, creationDate, nameKey) VALUES "
+                          "('alarm', 0, x'', x'', x'', x'', x'61'), ('counter', 2, x'', x'', x'', x'', x'63')")
+            .execute();
+    }
+};
+
+void addReferences(TestEstate& place) {
+    static_cast<void>(place.connection().table<References>());
+}
+
 TEST(RecordService, aNewRecordGetsAnIdOfItsOwnAndKeepsAllOtherFields) {
     TestEstate place;
+    addReferences(place);
     auto record = fullRecord(place.addRegion(u"North"));
     const auto reply = place.recordService().create({.physicalPrinterId = {}, .record = record});
     EXPECT_EQ(reply.status, protocol::StatusReply{});
@@ -65,6 +84,45 @@ TEST(RecordService, aNewRecordGetsAnIdOfItsOwnAndKeepsAllOtherFields) {
     EXPECT_EQ(reply.id.find_first_not_of("0123456789abcdef-"), std::string::npos);
     record.id = reply.id;
     EXPECT_EQ(place.record(reply.id), record);
+}
+
+TEST(RecordService, aModelOrProgramThatDoesNotExistIsRefused) {
+    TestEstate place;
+    addReferences(place);
+    const auto north = place.addRegion(u"North");
+    const auto textOf = [&](std::string PrinterRecord::*field, const char* id) {
+        auto record = named(u"One", north);
+        record.*field = id;
+        return place.recordService().create({.physicalPrinterId = {}, .record = record}).status.text;
+    };
+
+    EXPECT_EQ(textOf(&PrinterRecord::modelId, "none"),
+              u"The model of this printer does not exist any more. Please choose another one.");
+    EXPECT_EQ(textOf(&PrinterRecord::alarmProgramId, "counter"), // of the other kind
+              u"The alarm program of this printer does not exist any more. Please choose another one.");
+    EXPECT_EQ(textOf(&PrinterRecord::counterProgramId, "alarm"),
+              u"The counter program of this printer does not exist any more. Please choose another one.");
+    EXPECT_TRUE(place.names(0, north).empty());
+}
+
+TEST(RecordService, anUpdateThatRefersToWhatDoesNotExistIsRefused) {
+    TestEstate place;
+    auto queue = place.record(place.add(3, u"Anywhere", place.addRegion(u"North")));
+    queue.modelId = "none";
+
+    EXPECT_EQ(place.recordService().update({.record = queue}).text,
+              u"The model of this follow-print queue does not exist any more. Please choose another one.");
+}
+
+TEST(RecordService, aRecordOfAnOldDatabaseKeepsWhatItRefersTo) {
+    TestEstate place;
+    auto printer = place.record(place.addPrinter(u"One", place.addRegion(u"North")));
+    printer.modelId = "of long ago";
+    place.records().update(printer);
+    printer.location = u"Quay 3";
+
+    EXPECT_EQ(place.recordService().update({.record = printer}), protocol::StatusReply{});
+    EXPECT_EQ(place.record(printer.id).location, u"Quay 3");
 }
 
 TEST(RecordService, aNameIsTakenOnlyAmongTheSameTypeInTheSameRegion) {
@@ -143,6 +201,7 @@ TEST(RecordService, aRecordTooLongToBeReceivedIsRefusedAndOneThatJustFitsIsTaken
 TEST(RecordService, anUpdateReplacesAllFieldsButTheType) {
     TestEstate place;
     const auto north = place.addRegion(u"North");
+    addReferences(place);
     auto record = fullRecord(north);
     record.id = place.addPrinter(u"P", north);
     record.recordType = 7; // as a console loads a printer
