@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace queues {
+
+// The words for the states of a printer or a queue as dialogs show them. Dialogs compare the bytes with ASCII digits,
+// the tree with small numbers; and they use other words: a 7 is a paper jam here and an open door in the tree. These
+// differences must stay.
+[[nodiscard]] std::u16string_view physicalStatusWord(std::uint8_t status);
+[[nodiscard]] std::u16string_view printingStatusWord(std::uint8_t status);
+
+} // namespace queues
