@@ -35,6 +35,9 @@ public:
 
     void setPhysicalPrinterId(std::string id) { physicalPrinterId_ = std::move(id); }
 
+    // For a record that is still to be created. One on the server is moved instead.
+    void setRegionId(std::int32_t regionId) { record_.regionId = regionId; }
+
     // Each sets the field and marks it as set, even if the value is the same as before.
     void setIp(std::string value) { set(&protocol::PrinterRecord::ip, std::move(value), Dirty::ip); }
     void setPort(std::uint32_t value) { set(&protocol::PrinterRecord::port, value, Dirty::port); }

@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "client/PrinterRecordEdit.h"
+#include "printers/PrinterPropertiesDlg.h"
 #include "printers/SnmpStatus.h"
 #include "queues/PrintingStatus.h"
 #include "queues/QueuesRootNode.h"
@@ -66,8 +67,11 @@ std::span<const console::Column> PrinterNode::columns() const {
 }
 
 std::span<const console::NodeCommand<PrinterNode>> PrinterNode::commands() const {
-    static constexpr std::array table{console::NodeCommand<PrinterNode>{
-        .entry{u"Delete Printer", u"To delete printer", 293}, .run = &PrinterNode::deletePrinter}};
+    using Command = console::NodeCommand<PrinterNode>;
+    static constexpr std::array table{
+        Command{.entry{u"Edit Printer/Printer Properties", u"To edit printer", 249}, .run = &PrinterNode::editPrinter},
+        Command{.entry{.text = nullptr, .statusBarText = nullptr, .id = 358}, .run = &PrinterNode::editPrinter},
+        Command{.entry{u"Delete Printer", u"To delete printer", 293}, .run = &PrinterNode::deletePrinter}};
     return table;
 }
 
@@ -87,6 +91,17 @@ std::span<const console::VerbChoice> PrinterNode::verbs() const {
 
 std::vector<console::NodeBase*> PrinterNode::rows() const {
     return pointersTo(queues_);
+}
+
+console::Result PrinterNode::editPrinter(console::CommandOrigin /*origin*/) {
+    PrinterPropertiesDlg dialog(platform(), id_);
+    if (runModal(dialog) != forms::idOk) {
+        return console::Result::notDone;
+    }
+    if (console() != nullptr) {
+        queues::QueuesRootNode::refreshInstance(*console());
+    }
+    return console::Result::ok;
 }
 
 console::Result PrinterNode::deletePrinter(console::CommandOrigin origin) {

@@ -32,6 +32,7 @@ protected:
     console::Result OnCutOrMove(console::CSnapInItem& source) override;
 
 private:
+    console::Result editPrinter(console::CommandOrigin origin);
     console::Result deletePrinter(console::CommandOrigin origin);
 
     std::string id_;

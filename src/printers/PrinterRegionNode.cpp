@@ -1,5 +1,6 @@
 #include "printers/PrinterRegionNode.h"
 
+#include "printers/PrinterPreferencesDlg.h"
 #include "queues/QueuesRootNode.h"
 #include "regions/PrinterRecords.h"
 
@@ -53,6 +54,8 @@ std::span<const console::NodeCommand<PrinterRegionNode>> PrinterRegionNode::comm
     static constexpr std::array table{
         Command{.entry{u"Create region", u"To create a new region", 247}, .run = &PrinterRegionNode::createRegion},
         Command{.entry = console::separator},
+        Command{.entry{u"Add New Printer", u"To add new printer", 103}, .run = &PrinterRegionNode::addPrinter},
+        Command{.entry = console::separator},
         Command{.entry{u"Delete region", u"To delete region", 302}, .run = &PrinterRegionNode::deleteRegion},
         Command{.entry = console::separator},
         Command{.entry{u"Region Rules", u"For region rules", 261}, .run = &PrinterRegionNode::regionRules}};
@@ -70,6 +73,20 @@ std::span<const console::VerbChoice> PrinterRegionNode::verbs() const {
 
 std::vector<console::NodeBase*> PrinterRegionNode::rows() const {
     return pointersTo(regions(), printers_);
+}
+
+console::Result PrinterRegionNode::addPrinter(console::CommandOrigin /*origin*/) {
+    if (regionId() == 0) {
+        messageBox(u"New Region Id Not Found", u"Warning", platform::boxStyle::iconWarning);
+        return console::Result::notDone;
+    }
+    PrinterPreferencesDlg dialog(
+        platform(),
+        {.mode = PreferencesMode::newPrinter, .regionId = regionId(), .regionName = displayName(), .id = {}});
+    const bool confirmed = runModal(dialog) == forms::idOk;
+    refreshOthers();
+    selectAndPress(row(), {platform::Key::f5});
+    return confirmed ? console::Result::ok : console::Result::notDone;
 }
 
 bool PrinterRegionNode::movePrinterHere(const PrinterNode& printer) const {

@@ -27,6 +27,7 @@ protected:
     console::Result OnQueryPaste(const console::CSnapInItem& source) override;
 
 private:
+    console::Result addPrinter(console::CommandOrigin origin);
     bool movePrinterHere(const PrinterNode& printer) const;
 
     console::NodeArray<PrinterNode> printers_;

@@ -1,7 +1,10 @@
 #include "printers/PrinterNode.h"
 
+#include "printers/PrinterPropertiesDlg.h"
 #include "queues/QueueNode.h"
 #include "tests/printers/PrinterTree.h"
+#include "tests/support/Bytes.h"
+#include "tests/support/DriverEstate.h"
 
 namespace {
 
@@ -105,11 +108,44 @@ TEST_F(Printer, hasNoTextBeyondItsSixColumns) {
     EXPECT_EQ(wire::WideString(nodeOf(console_, u"Copier")->GetResultPaneColInfo(-1)), u"");
 }
 
-TEST_F(Printer, offersToBeDeleted) {
+TEST_F(Printer, offersToBeEditedAndDeleted) {
     openNorth();
 
     EXPECT_EQ(menuOf(console_, *nodeOf(console_, u"Copier")),
-              (Menu{{u"Delete Printer", u"To delete printer", 293, 0}}));
+              (Menu{{u"Edit Printer/Printer Properties", u"To edit printer", 249, 0},
+                    {u"Delete Printer", u"To delete printer", 293, 0}}));
+}
+
+TEST_F(Printer, isEditedByTwoCommandsOfWhichTheMenuOffersOne) {
+    openNorth();
+    for (const std::int32_t command : {249, 358}) {
+        platform_.ui.expect<printers::PrinterPropertiesDlg>([](printers::PrinterPropertiesDlg& dialog) {
+            EXPECT_EQ(dialog.name.text(), u"Copier");
+            dialog.cancelButton().userPressed();
+        });
+
+        EXPECT_EQ(nodeOf(console_, u"Copier")->Command(command, DataObjectType::scope), Result::notDone);
+
+        EXPECT_EQ(platform_.ui.presses().back(), (std::vector{Key::f5, Key::f5}));
+    }
+    EXPECT_TRUE(console_.calls.empty());
+}
+
+TEST_F(Printer, refreshesTheQueuesOnceItIsEdited) {
+    openNorth();
+    watchQueues();
+    support::DriverEstate drivers(estate_);
+    drivers.addSamples();
+    estate_.printers[0].modelId = "a1";
+    estate_.lists[27] = [](const support::Bytes&) { return std::vector<support::Bytes>(); };
+    estate_.lists[61] = estate_.lists[27];
+    estate_.replies[76] = [](const support::Bytes&) { return support::hex("00 00 00 00"); };
+    platform_.ui.expect<printers::PrinterPropertiesDlg>(
+        [](printers::PrinterPropertiesDlg& dialog) { dialog.okButton().userPressed(); });
+
+    EXPECT_EQ(nodeOf(console_, u"Copier")->Command(249, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(console_.calls, Strings{queuesRefreshed()});
 }
 
 TEST_F(Printer, setsItsVerbsInOrderAndDoesNotTouchRefresh) {

@@ -1,7 +1,6 @@
 #include "printers/PrinterRegionNode.h"
 
 #include "regions/CreateRegionDlg.h"
-#include "regions/RegionRulesDlg.h"
 #include "tests/printers/PrinterTree.h"
 
 namespace {
@@ -205,21 +204,11 @@ TEST_F(PrinterRegion, offersItsCommandsInOrder) {
     EXPECT_EQ(menuOf(console_, *nodeOf(console_, u"North")),
               (Menu{{u"Create region", u"To create a new region", 247, 0},
                     {u"", u"", 0, 0x800},
+                    {u"Add New Printer", u"To add new printer", 103, 0},
+                    {u"", u"", 0, 0x800},
                     {u"Delete region", u"To delete region", 302, 0},
                     {u"", u"", 0, 0x800},
                     {u"Region Rules", u"For region rules", 261, 0}}));
-}
-
-TEST_F(PrinterRegion, showsItsRulesByItsNumberAndPressesNothing) {
-    openNorth();
-    estate_.lists[61] = [](const support::Bytes&) { return std::vector<support::Bytes>(); };
-    platform_.ui.expect<regions::RegionRulesDlg>(
-        [](regions::RegionRulesDlg& dialog) { dialog.okButton().userPressed(); });
-
-    EXPECT_EQ(nodeOf(console_, u"Harbour")->Command(261, DataObjectType::scope), Result::ok);
-
-    EXPECT_EQ(estate_.requests(4).back(), "61: 00 00 02 00 00 00");
-    EXPECT_TRUE(platform_.ui.presses().empty());
 }
 
 TEST_F(PrinterRegion, setsItsVerbsInOrder) {

@@ -1,3 +1,6 @@
+#include "localprinters/LocalPrinterPropertiesDlg.h"
+#include "printers/PrinterPreferencesDlg.h"
+#include "printers/PrinterPropertiesDlg.h"
 #include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionRulesDlg.h"
@@ -35,6 +38,14 @@ protected:
         add<regions::AddTabRuleDlg>(place_);
         add<regions::RegionRulesDlg>(1);
         add<regions::RegionTree>();
+        add<printers::PrinterPropertiesDlg>("p1");
+        add<localprinters::LocalPrinterPropertiesDlg>("l1");
+        for (const auto mode : {printers::PreferencesMode::newPrinter, printers::PreferencesMode::existing,
+                                printers::PreferencesMode::followPrint, printers::PreferencesMode::migratedPrinter,
+                                printers::PreferencesMode::migratedQueue}) {
+            add<printers::PrinterPreferencesDlg>(printers::PreferencesSubject{
+                .mode = mode, .regionId = 1, .regionName = u"North", .id = "p1", .migrated = {}});
+        }
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::group, place_);
         add<AddRuleEntryDlg>(AddRuleEntryDlg::Mode::place, place_);
         add<rules::AffectedDlg>();

@@ -1,5 +1,8 @@
 #include "tests/hosts/desktop/forms/ProductForms.h"
 
+#include "localprinters/LocalPrinterPropertiesDlg.h"
+#include "printers/PrinterPreferencesDlg.h"
+#include "printers/PrinterPropertiesDlg.h"
 #include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionRulesDlg.h"
@@ -37,6 +40,18 @@ std::unique_ptr<forms::Form> newRegion(platform::Platform& platform) {
     return std::make_unique<regions::CreateRegionDlg>(platform, 0, regions::CreateRegionDlg::Mode::printerTree);
 }
 
+template <printers::PreferencesMode mode>
+std::unique_ptr<forms::Form> preferences(platform::Platform& platform) {
+    return std::make_unique<printers::PrinterPreferencesDlg>(
+        platform,
+        printers::PreferencesSubject{.mode = mode, .regionId = 1, .regionName = u"North", .id = {}, .migrated = {}});
+}
+
+template <class Dialog>
+std::unique_ptr<forms::Form> propertiesOf(platform::Platform& platform) {
+    return std::make_unique<Dialog>(platform, "p1");
+}
+
 std::unique_ptr<forms::Form> ruleOnPrinter(platform::Platform& platform) {
     return std::make_unique<regions::AddTabRuleDlg>(platform, inAGroup());
 }
@@ -64,6 +79,10 @@ std::vector<ProductForm> productForms() {
             {"ruleGroup", plain<rules::NewRuleGroupDlg>},
             {"ruleEntryInGroup", newEntry<AddRuleEntryDlg::Mode::group>},
             {"ruleEntryOnRegion", newEntry<AddRuleEntryDlg::Mode::place>},
+            {"newPrinter", preferences<printers::PreferencesMode::newPrinter>},
+            {"followPrint", preferences<printers::PreferencesMode::followPrint>},
+            {"printer", propertiesOf<printers::PrinterPropertiesDlg>},
+            {"localPrinter", propertiesOf<localprinters::LocalPrinterPropertiesDlg>},
             {"ruleOnPrinter", ruleOnPrinter},
             {"regionRules", rulesOfRegion},
             {"regionTree", plain<regions::RegionTree>},
