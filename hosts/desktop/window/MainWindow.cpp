@@ -384,7 +384,8 @@ void MainWindow::showStateSoon() {
 void MainWindow::showState() {
     const auto& shell = session_.shell();
     const QString name = oneLine(shell.tree().text(shell.selection().scope));
-    setWindowTitle(name.isEmpty() ? QStringLiteral("Vantrel Manager") : name + QStringLiteral(" – Vantrel Manager"));
+    const QString program = QStringLiteral("Vantrel Manager"); // and the name of the top item
+    setWindowTitle(name.isEmpty() || name == program ? program : name + QStringLiteral(" – ") + program);
     panes_->showPath();
     const auto& selected = panes_->list().selectedRows();
     actions_.update(session_.operations(), selected.count());

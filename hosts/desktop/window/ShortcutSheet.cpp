@@ -69,6 +69,16 @@ void addMenu(QTreeWidget& sheet, const QMenu& menu) {
     }
 }
 
+// So that no text is cut.
+int widthOf(QTreeWidget& sheet) {
+    int width = sheet.style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * sheet.frameWidth();
+    for (int column = 0; column < sheet.columnCount(); ++column) {
+        sheet.resizeColumnToContents(column);
+        width += sheet.columnWidth(column);
+    }
+    return width;
+}
+
 } // namespace
 
 ShortcutSheet::ShortcutSheet(const QMenuBar& menus, QWidget* parent) : QDialog(parent) {
@@ -86,9 +96,8 @@ ShortcutSheet::ShortcutSheet(const QMenuBar& menus, QWidget* parent) : QDialog(p
     addKeys(*sheet, QStringLiteral("Tree and list"), viewKeys);
     addKeys(*sheet, QStringLiteral("Dialogs"), dialogKeys);
     sheet->expandAll();
-    sheet->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    sheet->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    sheet->header()->setStretchLastSection(false);
+    sheet->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    sheet->setMinimumWidth(widthOf(*sheet));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);

@@ -2,6 +2,7 @@
 
 #include "tests/hosts/desktop/WindowFixture.h"
 
+#include <QHeaderView>
 #include <QMenuBar>
 #include <QTreeWidget>
 
@@ -24,6 +25,28 @@ protected:
         return lines;
     }
 };
+
+TEST_F(Shortcuts, areShownWithTheirWholeTexts) {
+    open();
+    int count = 0;
+    whenAsked([&count](QDialog& sheet) {
+        const auto& tree = *sheet.findChild<QTreeWidget*>();
+        EXPECT_GE(tree.viewport()->width(), tree.header()->length());
+        for (QTreeWidgetItemIterator it(sheet.findChild<QTreeWidget*>()); *it != nullptr; ++it, ++count) {
+            for (int column = 0; column < tree.columnCount(); ++column) {
+                const QString text = (*it)->text(column);
+                const int room = tree.visualRect(tree.indexFromItem(*it, column)).width();
+                EXPECT_LE(tree.fontMetrics().horizontalAdvance(text), room) << text.toStdString();
+            }
+        }
+        sheet.reject();
+    });
+
+    window().actions().shortcuts->trigger();
+    settle();
+
+    EXPECT_LT(20, count);
+}
 
 TEST_F(Shortcuts, areAllOnOneSheet) {
     open();
