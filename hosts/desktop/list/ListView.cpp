@@ -1,5 +1,6 @@
 #include "hosts/desktop/list/ListView.h"
 
+#include "hosts/desktop/activity/ViewKeys.h"
 #include "hosts/desktop/list/ListHeader.h"
 #include "hosts/desktop/look/TextDelegate.h"
 
@@ -180,19 +181,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
-    if (event->key() == Qt::Key_Escape && operations_.shell().cutNode() != nullptr) {
-        operations_.perform([](shell::Shell& console) {
-            console.setCutNode(nullptr);
-            return true;
-        });
-        event->accept();
-        return;
-    }
-    if (event->key() == Qt::Key_F10 &&
-        event->modifiers() == Qt::ShiftModifier) { // not all platforms make a menu key of it
-        const QPoint place = visualRect(currentIndex()).bottomLeft();
-        QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place));
-        contextMenuEvent(&menu);
+    if (actsOnKey(*this, operations_, *event)) {
         event->accept();
         return;
     }

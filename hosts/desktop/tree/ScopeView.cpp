@@ -1,5 +1,6 @@
 #include "hosts/desktop/tree/ScopeView.h"
 
+#include "hosts/desktop/activity/ViewKeys.h"
 #include "hosts/desktop/look/TextDelegate.h"
 
 #include <QContextMenuEvent>
@@ -91,19 +92,7 @@ void ScopeView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void ScopeView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F10 &&
-        event->modifiers() == Qt::ShiftModifier) { // not all platforms make a menu key of it
-        const QPoint place = visualRect(currentIndex()).bottomLeft();
-        QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, viewport()->mapToGlobal(place));
-        contextMenuEvent(&menu);
-        event->accept();
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && operations_.shell().cutNode() != nullptr) {
-        operations_.perform([](shell::Shell& console) {
-            console.setCutNode(nullptr);
-            return true;
-        });
+    if (actsOnKey(*this, operations_, *event)) {
         event->accept();
         return;
     }

@@ -16,6 +16,7 @@
 #include "forms/TreeView.h"
 #include "hosts/desktop/forms/FormDialog.h"
 #include "hosts/desktop/look/ColorScheme.h"
+#include "tests/hosts/desktop/AccessibleTree.h"
 #include "tests/hosts/desktop/forms/DialogFixture.h"
 #include "tests/hosts/desktop/forms/ProductForms.h"
 
@@ -31,24 +32,8 @@
 namespace desktop {
 namespace {
 
-// All that a screen reader finds, from the dialog down.
-std::vector<QAccessibleInterface*> everythingOn(QAccessibleInterface& top) {
-    std::vector<QAccessibleInterface*> all{&top};
-    for (int i = 0; i < top.childCount(); ++i) {
-        if (QAccessibleInterface* const child = top.child(i)) {
-            const auto below = everythingOn(*child);
-            all.insert(all.end(), below.begin(), below.end());
-        }
-    }
-    return all;
-}
-
-std::string described(const QAccessibleInterface& each) {
-    const QObject* const object = each.object();
-    return "role " + std::to_string(each.role()) + " of a " +
-           (object != nullptr ? object->metaObject()->className() : "part") + " \"" +
-           each.text(QAccessible::Name).toStdString() + "\"";
-}
+using desktoptest::described;
+using desktoptest::everythingOn;
 
 // What a screen reader says about a control.
 class Spoken final : public forms::ControlVisitor {

@@ -1,4 +1,5 @@
 #include "client/CQVXAdminClassProperties.h"
+#include "tests/hosts/desktop/AccessibleTree.h"
 #include "tests/hosts/desktop/KeptLook.h"
 #include "tests/hosts/desktop/WindowFixture.h"
 
@@ -12,25 +13,6 @@
 
 namespace desktoptest {
 namespace {
-
-// All that a screen reader finds, from the window down.
-std::vector<QAccessibleInterface*> everythingBelow(QAccessibleInterface& top) {
-    std::vector<QAccessibleInterface*> all{&top};
-    for (int i = 0; i < top.childCount(); ++i) {
-        if (QAccessibleInterface* const child = top.child(i)) {
-            const auto below = everythingBelow(*child);
-            all.insert(all.end(), below.begin(), below.end());
-        }
-    }
-    return all;
-}
-
-std::string described(const QAccessibleInterface& each) {
-    const QObject* const object = each.object();
-    return "role " + std::to_string(each.role()) + " of a " +
-           (object != nullptr ? object->metaObject()->className() : "part") + " \"" +
-           each.text(QAccessible::Name).toStdString() + "\"";
-}
 
 class AccessibleWindow : public WindowFixture {
 protected:
@@ -54,7 +36,7 @@ TEST_F(AccessibleWindow, hasANameAndARoleForEverythingThatCanBeUsed) {
     openWhole();
     int usable = 0;
 
-    for (const QAccessibleInterface* each : everythingBelow(spoken(window()))) {
+    for (const QAccessibleInterface* each : everythingOn(spoken(window()))) {
         const auto state = each->state();
         if (state.invisible || !(state.focusable || state.checkable || state.selectable)) {
             continue;
@@ -97,7 +79,7 @@ TEST_F(AccessibleWindow, saysWhichRowAndWhichItemAreSelected) {
     EXPECT_TRUE(list->cellAt(row, 0)->state().selected);
     EXPECT_FALSE(list->cellAt(row == 0 ? 1 : 0, 0)->state().selected);
     bool found = false;
-    for (const QAccessibleInterface* item : everythingBelow(spoken(panes().tree()))) {
+    for (const QAccessibleInterface* item : everythingOn(spoken(panes().tree()))) {
         if (item->role() == QAccessible::TreeItem && item->text(QAccessible::Name) == QStringLiteral("München")) {
             found = true;
             EXPECT_TRUE(item->state().selected);
