@@ -41,6 +41,7 @@ PrinterFields::PrinterFields(forms::Container& container, std::initializer_list<
       ip(network, u"IP", sentAsBytes),
       port(network, u"Port"),
       lprQueueName(network, u"LPR Q Name"),
+      fpBoxIp(network, u"Fp box IP", sentAsBytes),
       invisible(network, u"Invisible"),
       monitoring(container, u"SNMP monitoring"),
       physicalStatus(monitoring, u"Physical Status"),
@@ -72,6 +73,7 @@ void PrinterFields::open(const PrinterRecord& record) {
     ip.setText(wire::fromCodePage(record.ip));
     port.setText(wire::toWide(std::to_string(record.port)));
     lprQueueName.setText(record.lprQueueName);
+    fpBoxIp.setText(wire::fromCodePage(record.fpBoxIp));
     invisible.setChecked(record.invisible != 0);
     physicalStatus.setText(wire::WideString(queues::physicalStatusWord(record.snmpStatus)));
     printingStatus.setText(wire::WideString(queues::printingStatusWord(record.printingStatus)));
@@ -87,11 +89,11 @@ void PrinterFields::open(const PrinterRecord& record) {
 }
 
 void PrinterFields::take(PrinterRecordEdit& edit) const {
-    const auto entered = wire::toCodePage(ip.text());
-    change(edit, &PrinterRecord::ip, &PrinterRecordEdit::setIp, entered);
+    change(edit, &PrinterRecord::ip, &PrinterRecordEdit::setIp, wire::toCodePage(ip.text()));
     change(edit, &PrinterRecord::port, &PrinterRecordEdit::setPort,
            port.text().empty() ? usualPort : numberOf(port.text()));
     change(edit, &PrinterRecord::lprQueueName, &PrinterRecordEdit::setLprQueueName, lprQueueName.text());
+    change(edit, &PrinterRecord::fpBoxIp, &PrinterRecordEdit::setFpBoxIp, wire::toCodePage(fpBoxIp.text()));
     change(edit, &PrinterRecord::invisible, &PrinterRecordEdit::setInvisible, invisible.checked() ? 1 : 0);
     change(edit, &PrinterRecord::comment, &PrinterRecordEdit::setComment, comment.text());
     takeMonitoring(edit);

@@ -32,6 +32,7 @@ public:
     forms::EditBox ip;
     forms::EditBox port;
     forms::EditBox lprQueueName;
+    forms::EditBox fpBoxIp;
     forms::CheckBox invisible;
 
     forms::Group monitoring;

@@ -48,6 +48,11 @@ PrinterPreferencesDlg::PrinterPreferencesDlg(platform::Platform& platform, Prefe
     selectRegion.setBeside(region);
     selectRegion.onPress = [this] { pickRegion(); };
     modelText.setVisible(isMigrated());
+    // A follow-print device is told by the address of its box instead of its region.
+    region.setVisible(!isFollowPrint());
+    selectRegion.setVisible(!isFollowPrint());
+    fields.fpBoxIp.setVisible(isFollowPrint());
+    fields.fpBoxIp.setLabel(u"FP Box IP");
     fields.physicalStatus.setVisible(subject_.mode == PreferencesMode::existing);
     fields.printingStatus.setVisible(subject_.mode == PreferencesMode::existing);
 }
@@ -101,14 +106,7 @@ void PrinterPreferencesDlg::showHead(const PrinterRecord& record) {
 
 // A printer on the server is moved in the tree and not here.
 void PrinterPreferencesDlg::showRegion() {
-    selectRegion.setVisible(!isFollowPrint());
     selectRegion.setEnabled(subject_.mode != PreferencesMode::existing);
-    region.setReadOnly(!isFollowPrint());
-    if (isFollowPrint()) {
-        region.setLabel(u"FP Box IP");
-        region.setText(wire::fromCodePage(edit_->record().fpBoxIp));
-        return;
-    }
     if (subject_.regionId == 0) {
         subject_.regionId = edit_->record().regionId;
     }
@@ -130,9 +128,6 @@ void PrinterPreferencesDlg::take() {
     change(*edit_, &PrinterRecord::name, &PrinterRecordEdit::setName, name.text());
     change(*edit_, &PrinterRecord::location, &PrinterRecordEdit::setLocation, location.text());
     fields.take(*edit_);
-    if (isFollowPrint()) {
-        change(*edit_, &PrinterRecord::fpBoxIp, &PrinterRecordEdit::setFpBoxIp, wire::toCodePage(region.text()));
-    }
     if (subject_.mode != PreferencesMode::existing) {
         edit_->setRegionId(subject_.regionId);
     }

@@ -50,7 +50,7 @@ public:
     drivers::BrandAndModelLists brandAndModel{*this};
     forms::Label modelText{*this, u"Model found"}; // only for an entry of the inventory
     forms::EditBox location{*this, u"Location"};
-    forms::EditBox region{*this, u"Region", {.codePageBytes = 0xFFFF}}; // or the address of the follow-print box
+    forms::EditBox region{*this, u"Region", {.readOnly = true}};
     forms::Button selectRegion{*this, u"Select"};
     // "Internal" comes twice, and the three rows about polling are stored like it; this must stay.
     PrinterFields fields{*this,

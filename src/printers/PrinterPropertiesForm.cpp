@@ -36,7 +36,7 @@ void PrinterPropertiesForm::onOk() {
     change(*edit_, &PrinterRecord::modelId, &Edit::setModelId, brandAndModel.model.selectedData());
     change(*edit_, &PrinterRecord::name, &Edit::setName, name.text());
     change(*edit_, &PrinterRecord::location, &Edit::setLocation, location.text());
-    general.take(*edit_);
+    general.fields.take(*edit_);
     general.sendOctetOrder(id_);
     edit_->save();
     EndDialog(forms::idOk);

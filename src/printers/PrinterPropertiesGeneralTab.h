@@ -16,13 +16,11 @@ public:
 
     // Shows a record. Throws client::ConnectFailed when something that it needs can't be read.
     void open(const protocol::PrinterRecord& record);
-    void take(client::PrinterRecordEdit& edit) const;
     // Sends the order in which the printer reports its status octets, whether or not it was changed.
     void sendOctetOrder(const std::string& id) const;
 
     forms::Page page;
     PrinterFields fields{page, {u"Internal", u"External"}};
-    forms::EditBox fpBoxIp{fields.network, u"Fp box IP", {.codePageBytes = 0xFFFF}};
     forms::ChoiceList<std::uint32_t> octetOrder{
         fields.monitoring, u"Status Octet Order", {{0, u"Default"}, {1, u"Normal"}, {2, u"Swapped"}}};
 };

@@ -5,6 +5,7 @@
 #include "forms/Questions.h"
 #include "regions/RegionsInTree.h"
 
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -12,17 +13,16 @@ namespace regions {
 
 namespace {
 
-// In reverse of the server's order, as the tree of the console shows them.
+// In the order of the server, which is by name.
 std::vector<protocol::RegionRecord> readAllRegions() {
     client::CQVXAdminClass client;
     if (!client.listRegions(protocol::RegionKind::printersAndQueues)) {
         throw client::ConnectFailed();
     }
-    std::vector<protocol::RegionRecord> all;
-    for (protocol::RegionRecord region; client.nextRegion(region.id, region.parentId, region.name); region = {}) {
-        all.push_back(std::move(region));
+    if (std::cmp_less(client.regions().size(), client.announcedRegions())) {
+        throw std::runtime_error("failed to get all regions");
     }
-    return all;
+    return client.regions();
 }
 
 } // namespace

@@ -63,6 +63,7 @@ TEST_F(PrinterPreferences, ofANewPrinterStartWithTheDefaults) {
     EXPECT_FALSE(dialog->fields.physicalStatus.visible());
     EXPECT_FALSE(dialog->fields.printingStatus.visible());
     EXPECT_FALSE(dialog->modelText.visible());
+    EXPECT_FALSE(dialog->fields.fpBoxIp.visible());
 }
 
 TEST_F(PrinterPreferences, offerAccountingWithTheRowsOfTheFormAndTwoBehindThem) {
@@ -207,11 +208,12 @@ TEST_F(PrinterPreferences, keepTheRegionWhenPickingIsCancelled) {
 
 TEST_F(PrinterPreferences, ofAFollowPrintDeviceTakeItsAddressInsteadOfARegion) {
     const auto dialog = openedFollowPrint();
-    EXPECT_EQ(dialog->region.label(), u"FP Box IP");
+    EXPECT_EQ(dialog->fields.fpBoxIp.label(), u"FP Box IP");
+    EXPECT_FALSE(dialog->region.visible());
     EXPECT_FALSE(dialog->selectRegion.visible());
     chooseAModel(*dialog);
     dialog->name.userTyped(u"Anywhere");
-    dialog->region.userTyped(u"10.0.0.9");
+    dialog->fields.fpBoxIp.userTyped(u"10.0.0.9");
 
     const auto record = created(*dialog).record;
 

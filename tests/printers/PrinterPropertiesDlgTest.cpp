@@ -34,7 +34,7 @@ TEST_F(PrinterProperties, showsEveryFieldOfThePrinter) {
     EXPECT_EQ(dialog->brandAndModel.model.selectedText(), u"Oki C2");
     EXPECT_EQ(fields.ip.text(), u"10.0.0.7");
     EXPECT_EQ(fields.port.text(), u"9100");
-    EXPECT_EQ(dialog->general.fpBoxIp.text(), u"10.0.0.8");
+    EXPECT_EQ(dialog->general.fields.fpBoxIp.text(), u"10.0.0.8");
     EXPECT_EQ(fields.lprQueueName.text(), u"lpr");
     EXPECT_EQ(fields.comment.text(), u"Ask Ms Ahrn");
     EXPECT_TRUE(fields.snmpActive.checked());
@@ -108,7 +108,7 @@ TEST_F(PrinterProperties, everyFieldIsStored) {
     choose(dialog->brandAndModel.model, u"Acme Laser 1");
     fields.port.userTyped(u"631");
     fields.lprQueueName.userTyped(u"queue");
-    dialog->general.fpBoxIp.userTyped(u"10.0.0.1");
+    dialog->general.fields.fpBoxIp.userTyped(u"10.0.0.1");
     fields.invisible.userChecked(false);
     fields.snmpActive.userChecked(false);
     fields.snmpCommunity.userTyped(u"public");

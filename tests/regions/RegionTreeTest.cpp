@@ -1,6 +1,7 @@
 #include "regions/RegionTree.h"
 
 #include "regions/RegionsInTree.h"
+#include "tests/support/Bytes.h"
 #include "tests/support/FakeEstate.h"
 #include "tests/support/TestPlatform.h"
 
@@ -42,8 +43,8 @@ TEST_F(RegionTreeDialog, showsEachRegionUnderItsParentFromOneList) {
 
     EXPECT_EQ(dialog->title(), u"Select Region");
     EXPECT_EQ(estate_.requests(1), Strings{"0: 00 00 00 00 00 00 00"});
-    EXPECT_EQ(pathsIn(*dialog), (Names{u"South", u"North", u"North/Harbour", u"North/Harbour/Pier"}));
-    EXPECT_EQ(dialog->tree.items()[3].parameter, 3);
+    EXPECT_EQ(pathsIn(*dialog), (Names{u"North", u"North/Harbour", u"North/Harbour/Pier", u"South"}));
+    EXPECT_EQ(dialog->tree.items()[2].parameter, 3);
 }
 
 TEST_F(RegionTreeDialog, givesTheSelectedRegion) {
@@ -73,25 +74,25 @@ TEST_F(RegionTreeDialog, doesNotEndWithoutASelection) {
 TEST_F(RegionTreeDialog, showsARegionWithoutItsParentAtTheTop) {
     estate_.regions = {region(1, 0, u"North"), region(2, 77, u"Orphan"), region(3, 2, u"Child")};
 
-    EXPECT_EQ(pathsIn(*opened()), (Names{u"Orphan", u"Orphan/Child", u"North"}));
+    EXPECT_EQ(pathsIn(*opened()), (Names{u"North", u"Orphan", u"Orphan/Child"}));
 }
 
 TEST_F(RegionTreeDialog, showsARingOfRegionsOnceFromTheFirstOfThem) {
     estate_.regions = {region(1, 2, u"One"), region(2, 1, u"Two"), region(3, 3, u"Own parent"), region(4, 0, u"North")};
 
-    EXPECT_EQ(pathsIn(*opened()), (Names{u"North", u"Own parent", u"Two", u"Two/One"}));
+    EXPECT_EQ(pathsIn(*opened()), (Names{u"North", u"One", u"One/Two", u"Own parent"}));
 }
 
 TEST_F(RegionTreeDialog, losesNoRegionOfTheSameId) {
     estate_.regions = {region(2, 1, u"Below"), region(1, 0, u"Twin"), region(1, 0, u"Other twin")};
 
-    EXPECT_EQ(pathsIn(*opened()), (Names{u"Other twin", u"Other twin/Below", u"Twin"}));
+    EXPECT_EQ(pathsIn(*opened()), (Names{u"Twin", u"Twin/Below", u"Other twin"}));
 }
 
 TEST_F(RegionTreeDialog, showsARegionWithTheIdOfTheTopOnce) {
     estate_.regions = {region(0, 0, u"Zero"), region(1, 0, u"North")};
 
-    EXPECT_EQ(pathsIn(*opened()), (Names{u"North", u"Zero"}));
+    EXPECT_EQ(pathsIn(*opened()), (Names{u"Zero", u"North"}));
 }
 
 TEST(RegionsInTreeOrder, takeAChainOfAnyLength) {
@@ -106,6 +107,12 @@ TEST(RegionsInTreeOrder, takeAChainOfAnyLength) {
     ASSERT_EQ(ordered.size(), static_cast<std::size_t>(length));
     EXPECT_EQ(ordered.back().record.id, length);
     EXPECT_EQ(ordered.back().parent, std::optional<std::size_t>(length - 2));
+}
+
+TEST_F(RegionTreeDialog, cannotBeConfirmedWhenTheListBreaksOff) {
+    estate_.brokenLists[0] = support::frame({support::dataMessage(support::hex("02 00 01 00 41 00"))});
+
+    EXPECT_FALSE(opened()->okButton().enabled());
 }
 
 TEST_F(RegionTreeDialog, cannotBeConfirmedWhenTheRegionsCouldNotBeRead) {
