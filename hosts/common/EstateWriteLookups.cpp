@@ -51,8 +51,11 @@ Shows moved(const MoveRegionRequest& request) {
     });
 }
 
+// There is no region 0, which stands for the top of a tree: it is missing all the time.
 Shows regionDeleted(const DeleteRegionRequest& request) {
-    return [=] { return findById(regions(request.kind), &RegionRecord::id, request.regionId) == nullptr; };
+    return [=] {
+        return request.regionId != 0 && findById(regions(request.kind), &RegionRecord::id, request.regionId) == nullptr;
+    };
 }
 
 ListPrinterRecordsRequest byId(const std::string& id, std::uint16_t mode) {

@@ -1,6 +1,6 @@
 #include "printers/PrinterFields.h"
 
-#include "printers/ChangedField.h"
+#include "client/ChangedField.h"
 #include "protocol/alarms/AlarmProgram.h"
 #include "queues/DialogStatus.h"
 

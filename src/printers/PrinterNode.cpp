@@ -4,6 +4,7 @@
 #include "client/PrinterRecordEdit.h"
 #include "printers/PrinterPropertiesDlg.h"
 #include "printers/SnmpStatus.h"
+#include "queues/AddQueueDlg.h"
 #include "queues/PrintingStatus.h"
 #include "queues/QueuesRootNode.h"
 #include "regions/PrinterRecords.h"
@@ -15,6 +16,7 @@ namespace printers {
 PrinterNode::PrinterNode(platform::Platform& platform, protocol::PrinterRecord record)
     : CBaseNodeItem(platform),
       id_(std::move(record.id)),
+      regionId_(record.regionId),
       modelName_(std::move(record.modelName)),
       location_(std::move(record.location)),
       jobs_(record.jobs),
@@ -71,6 +73,7 @@ std::span<const console::NodeCommand<PrinterNode>> PrinterNode::commands() const
     static constexpr std::array table{
         Command{.entry{u"Edit Printer/Printer Properties", u"To edit printer", 249}, .run = &PrinterNode::editPrinter},
         Command{.entry{.text = nullptr, .statusBarText = nullptr, .id = 358}, .run = &PrinterNode::editPrinter},
+        Command{.entry{u"Add Queue", u"To Add New queue", 229}, .run = &PrinterNode::addQueue},
         Command{.entry{u"Delete Printer", u"To delete printer", 293}, .run = &PrinterNode::deletePrinter}};
     return table;
 }
@@ -100,6 +103,19 @@ console::Result PrinterNode::editPrinter(console::CommandOrigin /*origin*/) {
     }
     if (console() != nullptr) {
         queues::QueuesRootNode::refreshInstance(*console());
+    }
+    return console::Result::ok;
+}
+
+console::Result PrinterNode::addQueue(console::CommandOrigin origin) {
+    queues::AddQueueDlg dialog(platform(), {.mode = queues::QueueMode::queue, .printerId = id_, .regionId = regionId_});
+    if (runModal(dialog) != forms::idOk) {
+        return console::Result::notDone;
+    }
+    if (origin == console::CommandOrigin::result) {
+        PressTabKey();
+    } else {
+        selectAndPress(row(), {});
     }
     return console::Result::ok;
 }

@@ -33,9 +33,11 @@ protected:
 
 private:
     console::Result editPrinter(console::CommandOrigin origin);
+    console::Result addQueue(console::CommandOrigin origin);
     console::Result deletePrinter(console::CommandOrigin origin);
 
     std::string id_;
+    std::int32_t regionId_;
     wire::WideString modelName_;
     wire::WideString location_;
     std::uint16_t jobs_;

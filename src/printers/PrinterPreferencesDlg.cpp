@@ -1,8 +1,8 @@
 #include "printers/PrinterPreferencesDlg.h"
 
 #include "client/CQVXAdminClass.h"
+#include "client/ChangedField.h"
 #include "client/ConnectFailed.h"
-#include "printers/ChangedField.h"
 #include "printers/RequiredModel.h"
 #include "regions/RegionTree.h"
 

@@ -1,6 +1,6 @@
 #include "printers/PrinterPropertiesForm.h"
 
-#include "printers/ChangedField.h"
+#include "client/ChangedField.h"
 #include "printers/RequiredModel.h"
 
 #include <utility>

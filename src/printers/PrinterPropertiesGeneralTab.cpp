@@ -1,6 +1,7 @@
 #include "printers/PrinterPropertiesGeneralTab.h"
 
 #include "client/CQVXAdminClass.h"
+#include "client/ChangedField.h"
 #include "client/ConnectFailed.h"
 
 namespace printers {

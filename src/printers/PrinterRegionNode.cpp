@@ -39,7 +39,7 @@ std::vector<console::ChildKind> PrinterRegionNode::childKinds() {
 
 // If a region contains both, the columns of printers replace those of regions.
 std::span<const console::Column> PrinterRegionNode::columns() const {
-    static constexpr std::array ofRegions{console::Column{u"Region Name", 2}};
+    static constexpr std::array ofRegions{regions::regionNameColumn};
     static constexpr std::array ofPrinters{console::Column{u"Printer Name", 2},   console::Column{u"Model", 4},
                                            console::Column{u"Location", 3},       console::Column{u"SNMP Status", 1.5},
                                            console::Column{u"Printer Status", 0}, console::Column{u"Jobs In Queue", 0}};
@@ -52,7 +52,7 @@ std::span<const console::Column> PrinterRegionNode::columns() const {
 std::span<const console::NodeCommand<PrinterRegionNode>> PrinterRegionNode::commands() const {
     using Command = console::NodeCommand<PrinterRegionNode>;
     static constexpr std::array table{
-        Command{.entry{u"Create region", u"To create a new region", 247}, .run = &PrinterRegionNode::createRegion},
+        Command{.entry = regions::createRegionEntry, .run = &PrinterRegionNode::createRegion},
         Command{.entry = console::separator},
         Command{.entry{u"Add New Printer", u"To add new printer", 103}, .run = &PrinterRegionNode::addPrinter},
         Command{.entry = console::separator},

@@ -2,6 +2,7 @@
 
 #include "client/CQVXAdminClass.h"
 #include "queues/PrintingStatus.h"
+#include "queues/QueuePropertiesDlg.h"
 
 #include <array>
 
@@ -37,12 +38,19 @@ std::optional<std::int64_t> QueueNode::sortValue(std::int32_t column) const {
 std::span<const console::NodeCommand<QueueNode>> QueueNode::commands() const {
     using Command = console::NodeCommand<QueueNode>;
     static constexpr std::array table{
+        Command{.entry{u"Edit Queue/Queue Properties", u"To edit queue properties", 230},
+                .run = &QueueNode::editQueue,
+                .offered = &QueueNode::isOfPrinters},
         Command{.entry{u"Delete Queue", u"To delete queue", 294},
                 .run = &QueueNode::deleteQueue,
                 .offered = &QueueNode::isOfPrinters},
+        Command{.entry{u"Edit Follow Print Queue Properties", u"To edit follow print queue properties", 230},
+                .run = &QueueNode::editQueue,
+                .offered = &QueueNode::isOfFollowPrint},
         Command{.entry{u"Delete Follow Print Queue", u"To delete follow print queue", 294},
                 .run = &QueueNode::deleteQueue,
-                .offered = &QueueNode::isOfFollowPrint}};
+                .offered = &QueueNode::isOfFollowPrint},
+        Command{.entry{u"Queue Properties NEW", u"To Printer Properties NEW", 358}, .offered = &QueueNode::never}};
     return table;
 }
 
@@ -53,6 +61,19 @@ std::span<const console::VerbChoice> QueueNode::verbs() const {
                                         console::VerbChoice{Verb::copy, false}, console::VerbChoice{Verb::cut, false},
                                         console::VerbChoice{Verb::rename, false}};
     return choices;
+}
+
+console::Result QueueNode::editQueue(console::CommandOrigin origin) {
+    QueuePropertiesDlg dialog(platform(), mode_, id_, displayName());
+    if (runModal(dialog) != forms::idOk) {
+        return console::Result::notDone;
+    }
+    if (origin == console::CommandOrigin::result) {
+        press({platform::Key::tab, platform::Key::f5});
+    } else {
+        selectAndPress(parentRow(), {platform::Key::f5});
+    }
+    return console::Result::ok;
 }
 
 // The Delete key removes the row at once, whether or not the server carried out the command; the two refreshes then

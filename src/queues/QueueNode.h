@@ -2,14 +2,12 @@
 
 #include "console/CBaseNodeItem.h"
 #include "protocol/estate/Printer.h"
+#include "queues/QueueMode.h"
 
 #include <cstdint>
 #include <string>
 
 namespace queues {
-
-// Whose queues a node is about. Other values have no commands.
-enum class QueueMode : std::int32_t { queue = 1, followPrint = 3 };
 
 // A print queue, of a printer or in a region, or a follow-print queue.
 class QueueNode final : public console::CBaseNodeItem<QueueNode> {
@@ -28,8 +26,10 @@ protected:
     std::span<const console::VerbChoice> verbs() const override;
 
 private:
-    bool isOfPrinters() const { return mode_ == QueueMode::queue; }
-    bool isOfFollowPrint() const { return mode_ == QueueMode::followPrint; }
+    [[nodiscard]] bool isOfPrinters() const { return mode_ == QueueMode::queue; }
+    [[nodiscard]] bool isOfFollowPrint() const { return mode_ == QueueMode::followPrint; }
+    [[nodiscard]] bool never() const { return false; } // NOLINT(readability-convert-member-functions-to-static)
+    console::Result editQueue(console::CommandOrigin origin);
     console::Result deleteQueue(console::CommandOrigin origin);
 
     QueueMode mode_;

@@ -1,10 +1,14 @@
 #include "queues/QueuesRootNode.h"
 
+#include "queues/QueueRegionNode.h"
+
+#include <utility>
+
 namespace queues {
 
 QueuesRootNode* QueuesRootNode::instance_ = nullptr;
 
-QueuesRootNode::QueuesRootNode(platform::Platform& platform) : CBaseNodeItem(platform) {
+QueuesRootNode::QueuesRootNode(platform::Platform& platform) : RegionsRoot(platform, regions::printersAndQueues) {
     instance_ = this;
 }
 
@@ -18,10 +22,8 @@ QueuesRootNode* QueuesRootNode::instance() {
     return instance_;
 }
 
-console::Result QueuesRootNode::OnExpand(console::ExpandCode code, console::IConsole& console,
-                                         console::ScopeId scopeId) {
-    beginExpand(code, console, scopeId);
-    return console::Result::ok;
+std::shared_ptr<regions::RegionNode> QueuesRootNode::makeRegion(protocol::RegionRecord record) const {
+    return std::make_shared<QueueRegionNode>(platform(), std::move(record), QueueMode::queue);
 }
 
 void QueuesRootNode::refreshInstance(console::IConsole& console) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "console/CBaseNodeItem.h"
+#include "regions/RegionsRoot.h"
 
 namespace queues {
 
 // The top of the regions with their queues. There is one in a process: printers and queues change together, so whoever
 // changes printers refreshes this node too.
-class QueuesRootNode final : public console::CBaseNodeItem<QueuesRootNode> {
+class QueuesRootNode final : public regions::RegionsRoot<QueuesRootNode> {
 public:
     static constexpr console::NodeIdentity identity{
         .displayName = u"Queues", .nodeType = console::folderNodeType, .image = 8, .children = 2};
@@ -19,8 +19,10 @@ public:
     // Refreshes the instance; does nothing while it has no row in the console's tree.
     static void refreshInstance(console::IConsole& console);
 
-    console::ScopeId scopeId() const { return row(); }
-    console::Result OnExpand(console::ExpandCode code, console::IConsole& console, console::ScopeId scopeId) override;
+    [[nodiscard]] console::ScopeId scopeId() const { return row(); }
+
+protected:
+    [[nodiscard]] std::shared_ptr<regions::RegionNode> makeRegion(protocol::RegionRecord record) const override;
 
 private:
     static QueuesRootNode* instance_;

@@ -19,4 +19,12 @@ RegionContents readRegionContents(client::CQVXAdminClass& client, std::int32_t r
                                                                                : RegionContents::something;
 }
 
+RegionContents readLocalRegionContents(client::CQVXAdminClass& client, std::int32_t regionId) {
+    std::int16_t printers = 0;
+    if (!client.getLocalPrintersInRegion(regionId, printers)) {
+        return RegionContents::unknown;
+    }
+    return printers == 0 ? RegionContents::empty : RegionContents::something;
+}
+
 } // namespace regions

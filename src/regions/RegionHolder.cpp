@@ -31,17 +31,17 @@ console::ChildKind RegionHolder::regionsBelow() {
 
 console::Result RegionHolder::createRegion(console::CommandOrigin origin) {
     CreateRegionDlg dialog(platform(), regionId_, tree_.createMode);
-    if (runModal(dialog) != forms::idOk) {
-        return console::Result::notDone;
+    const bool made = runModal(dialog) == forms::idOk;
+    if (made || tree_.refreshesAfterCancel) {
+        regionCreated(origin, dialog.newRegionId, dialog.name.text());
     }
-    regionCreated(origin, dialog.newRegionId, dialog.name.text());
-    return console::Result::ok;
+    return made ? console::Result::ok : console::Result::notDone;
 }
 
 void RegionHolder::regionCreated(console::CommandOrigin origin, std::int32_t /*newRegionId*/,
                                  const wire::WideString& /*name*/) {
     if (origin == console::CommandOrigin::result) {
-        press({Key::tab, Key::tab});
+        press(tree_.keysAfterCreateFromRow);
     } else {
         selectAndPress(row(), {Key::f5});
     }
@@ -52,6 +52,18 @@ void RegionHolder::addRegion(protocol::RegionRecord record) {
     regions_.push_back(region);
     insertChild(*console(), *region);
     selectAndPress(region->scopeFields().ID, {});
+}
+
+bool RegionHolder::deleteOnServer(const char16_t* notEmptyText) const {
+    if (!confirm(tree_.deleteQuestion)) {
+        return false;
+    }
+    client::CQVXAdminClass client;
+    const auto contents = tree_.readContents(client, regionId_);
+    if (contents == RegionContents::something) {
+        messageBox(notEmptyText, u"Information", platform::boxStyle::iconInformation);
+    }
+    return contents == RegionContents::empty && client.deleteRegion(tree_.kind, regionId_);
 }
 
 bool RegionHolder::moveHere(const RegionNode& region) const {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "console/NodeBase.h"
-#include "protocol/estate/Region.h"
-#include "regions/CreateRegionDlg.h"
+#include "regions/TreeOfRegions.h"
 
 #include <cstdint>
 #include <memory>
@@ -11,26 +10,15 @@ namespace regions {
 
 class RegionNode;
 
-// What is the same for all nodes of one tree of regions.
-struct TreeOfRegions {
-    protocol::RegionKind kind;
-    CreateRegionDlg::Mode createMode;
-    const char16_t* deleteQuestion;
-    const char16_t* notEmptyText; // why a region that is not empty is not deleted
-};
-
-// The blank at the end of the question is intentional.
-inline constexpr TreeOfRegions printersAndQueues{
-    .kind = protocol::RegionKind::printersAndQueues,
-    .createMode = CreateRegionDlg::Mode::printerTree,
-    .deleteQuestion = u"Are you sure you want to delete the selected region? ",
-    .notEmptyText = u"Cannot delete as the region includes Printers or Follow Printer Queue or Sub Regions!"};
+// The command and the column that all trees of regions have in common.
+inline constexpr console::MenuEntry createRegionEntry{u"Create region", u"To create a new region", 247};
+inline constexpr console::Column regionNameColumn{u"Region Name", 2};
 
 // A node that holds regions: a region itself, or the top of a tree of them.
 class RegionHolder : public console::NodeBase {
 public:
     // 0 at the top.
-    std::int32_t regionId() const { return regionId_; }
+    [[nodiscard]] std::int32_t regionId() const { return regionId_; }
 
 protected:
     // The tree outlives the node.
@@ -53,6 +41,9 @@ protected:
     console::Result createRegion(console::CommandOrigin origin);
     // Called once the dialog has made a region; its id is 0 where it is not known.
     virtual void regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name);
+    // Asks, checks that the region is empty, and deletes it on the server. The text tells why it is not deleted
+    // otherwise.
+    bool deleteOnServer(const char16_t* notEmptyText) const;
     // The server decides whether a region may be moved below another, or below itself.
     bool moveHere(const RegionNode& region) const;
     // A move presses F5 twice, and twice again once the others have been refreshed; this must stay.

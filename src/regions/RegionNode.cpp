@@ -1,5 +1,6 @@
 #include "regions/RegionNode.h"
 
+#include "client/CQVXAdminClass.h"
 #include "console/IConsoleNameSpace.h"
 #include "regions/RegionRulesDlg.h"
 #include "regions/RegionsBelow.h"
@@ -26,20 +27,17 @@ void RegionNode::regionCreated(console::CommandOrigin origin, std::int32_t newRe
     }
 }
 
-console::Result RegionNode::deleteRegion(console::CommandOrigin /*origin*/) {
-    if (!confirm(tree().deleteQuestion)) {
+console::Result RegionNode::deleteRegion(console::CommandOrigin origin) {
+    if (!deleteOnServer(tree().notEmptyText)) {
         return console::Result::notDone;
     }
-    client::CQVXAdminClass client;
-    const auto contents = readContents(client);
-    if (contents == RegionContents::something) {
-        messageBox(tree().notEmptyText, u"Information", platform::boxStyle::iconInformation);
+    const bool fromRow = origin == console::CommandOrigin::result;
+    if (tree().deletesBothRows || !fromRow) {
+        removeFromTree();
     }
-    if (contents != RegionContents::empty || !client.deleteRegion(tree().kind, regionId())) {
-        return console::Result::notDone;
+    if (tree().deletesBothRows || fromRow) {
+        removeFromList();
     }
-    removeFromTree();
-    removeFromList();
     selectAndPress(parentRow(), {platform::Key::f5});
     return console::Result::ok;
 }
@@ -47,10 +45,6 @@ console::Result RegionNode::deleteRegion(console::CommandOrigin /*origin*/) {
 console::Result RegionNode::regionRules(console::CommandOrigin /*origin*/) {
     RegionRulesDlg dialog(platform(), regionId());
     return runModal(dialog) == forms::idOk ? console::Result::ok : console::Result::notDone;
-}
-
-RegionContents RegionNode::readContents(client::CQVXAdminClass& client) const {
-    return readRegionContents(client, regionId());
 }
 
 // The new text is shown at once and taken back when the command can't be sent.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "client/CQVXAdminClass.h"
-#include "regions/RegionDeletion.h"
 #include "regions/RegionHolder.h"
 
 #include <string>
@@ -11,13 +9,13 @@ namespace regions {
 // A region in one of the trees of regions. Derived classes define what else it holds.
 class RegionNode : public RegionHolder {
 public:
-    std::string refreshKey() const override;
+    [[nodiscard]] std::string refreshKey() const override;
 
 protected:
     RegionNode(platform::Platform& platform, const console::NodeIdentity& identity, const TreeOfRegions& tree,
                protocol::RegionRecord record);
 
-    console::RowReading rowReading() const override { return console::RowReading::onEveryShow; }
+    [[nodiscard]] console::RowReading rowReading() const override { return console::RowReading::onEveryShow; }
     void regionCreated(console::CommandOrigin origin, std::int32_t newRegionId, const wire::WideString& name) override;
     console::Result OnRename(console::IConsole& console, const wire::WideString& newName) override;
 
@@ -25,7 +23,6 @@ protected:
     console::Result deleteRegion(console::CommandOrigin origin);
     // Opens the rules that apply in the region.
     console::Result regionRules(console::CommandOrigin origin);
-    virtual RegionContents readContents(client::CQVXAdminClass& client) const;
 };
 
 } // namespace regions

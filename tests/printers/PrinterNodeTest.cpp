@@ -1,6 +1,7 @@
 #include "printers/PrinterNode.h"
 
 #include "printers/PrinterPropertiesDlg.h"
+#include "queues/AddQueueDlg.h"
 #include "queues/QueueNode.h"
 #include "tests/printers/PrinterTree.h"
 #include "tests/support/Bytes.h"
@@ -108,11 +109,12 @@ TEST_F(Printer, hasNoTextBeyondItsSixColumns) {
     EXPECT_EQ(wire::WideString(nodeOf(console_, u"Copier")->GetResultPaneColInfo(-1)), u"");
 }
 
-TEST_F(Printer, offersToBeEditedAndDeleted) {
+TEST_F(Printer, offersToBeEditedAQueueAndToBeDeleted) {
     openNorth();
 
     EXPECT_EQ(menuOf(console_, *nodeOf(console_, u"Copier")),
               (Menu{{u"Edit Printer/Printer Properties", u"To edit printer", 249, 0},
+                    {u"Add Queue", u"To Add New queue", 229, 0},
                     {u"Delete Printer", u"To delete printer", 293, 0}}));
 }
 
@@ -145,7 +147,35 @@ TEST_F(Printer, refreshesTheQueuesOnceItIsEdited) {
 
     EXPECT_EQ(nodeOf(console_, u"Copier")->Command(249, DataObjectType::scope), Result::ok);
 
-    EXPECT_EQ(console_.calls, Strings{queuesRefreshed()});
+    EXPECT_EQ(std::ranges::count(console_.calls, queuesRefreshed()), 1);
+}
+
+TEST_F(Printer, makesAQueueUnderItselfAndIsReadAgainTwice) {
+    openNorth();
+    platform_.ui.expect<queues::AddQueueDlg>([](queues::AddQueueDlg& dialog) {
+        EXPECT_EQ(dialog.title(), u"Add Queue");
+        dialog.head.name.userTyped(u"Lobby");
+        dialog.okButton().userPressed();
+    });
+
+    EXPECT_EQ(nodeOf(console_, u"Copier")->Command(229, DataObjectType::scope), Result::ok);
+
+    EXPECT_TRUE(estate_.changes(1).front().starts_with("9: 02 00 70 31 ")); // under the printer "p1"
+    EXPECT_EQ(console_.calls, Strings{"SelectScopeItem " + idOf(u"Copier")});
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::f5, Key::f5}}));
+}
+
+TEST_F(Printer, pressesTabFirstAfterAQueueWasMadeFromItsRow) {
+    openNorth();
+    platform_.ui.expect<queues::AddQueueDlg>([](queues::AddQueueDlg& dialog) {
+        dialog.head.name.userTyped(u"Lobby");
+        dialog.okButton().userPressed();
+    });
+
+    nodeOf(console_, u"Copier")->Command(229, DataObjectType::result);
+
+    EXPECT_TRUE(console_.calls.empty());
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::tab}, {Key::f5, Key::f5}}));
 }
 
 TEST_F(Printer, setsItsVerbsInOrderAndDoesNotTouchRefresh) {
@@ -164,8 +194,10 @@ TEST_F(Printer, isDeletedAfterTheQuestion) {
     EXPECT_EQ(nodeOf(console_, u"Copier")->Command(293, DataObjectType::scope), Result::ok);
 
     EXPECT_EQ(estate_.changes(1), Strings{"36: 01 02 00 70 31"});
-    EXPECT_EQ(console_.calls,
-              (Strings{"DeleteItem " + row + " itself", queuesRefreshed(), "SelectScopeItem " + idOf(u"North")}));
+    EXPECT_EQ(console_.calls.front(), "DeleteItem " + row + " itself");
+    EXPECT_EQ(std::ranges::count(console_.calls, queuesRefreshed()), 1);
+    EXPECT_EQ(console_.childNames(queuesRow_), (Names{u"South", u"North"}));
+    EXPECT_EQ(console_.calls.back(), "SelectScopeItem " + idOf(u"North"));
     EXPECT_EQ(platform_.ui.presses(),
               (Presses{{Key::f5}, {Key::f5, Key::f5}})); // from the handler, and after the command
 }

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,6 +31,7 @@ protected:
         estate_.regions = {support::region(1, 0, u"North"), support::region(2, 1, u"Harbour"),
                            support::region(3, 0, u"South")};
         estate_.printers = {support::printer("p1", 1, u"Copier"), support::printer("p2", 1, u"Plotter")};
+        estate_.lists[4] = [](const support::Bytes&) { return std::vector<support::Bytes>(); }; // the brands: none
     }
 
     // Expands a node of the tree.
@@ -44,8 +46,12 @@ protected:
         console_.calls.clear();
     }
 
-    // Adds a row below that of the queues, which a refresh of the queues removes.
-    void watchQueues() { console_.addScopeRow(queues_, queuesRow_); }
+    // Puts the queues into the tree, with a row below them that a refresh removes.
+    void watchQueues() {
+        queuesRow_ = console_.addScopeRow(queues_);
+        queues_->scopeFields().ID = queuesRow_;
+        console_.addScopeRow(queues_, queuesRow_);
+    }
 
     std::string queuesRefreshed() const { return "DeleteItem " + std::to_string(queuesRow_) + " children"; }
 
@@ -56,13 +62,6 @@ protected:
     support::RecordingConsole console_;
     std::shared_ptr<printers::PrintersRootNode> root_ = std::make_shared<printers::PrintersRootNode>(platform_);
     console::ScopeId rootRow_ = console_.addScopeRow(root_);
-    std::shared_ptr<queues::QueuesRootNode> queues_ = makeQueues();
-    console::ScopeId queuesRow_ = queues_->scopeId();
-
-private:
-    std::shared_ptr<queues::QueuesRootNode> makeQueues() {
-        auto node = std::make_shared<queues::QueuesRootNode>(platform_);
-        support::expand(console_, *node, console_.addScopeRow(node));
-        return node;
-    }
+    std::shared_ptr<queues::QueuesRootNode> queues_ = std::make_shared<queues::QueuesRootNode>(platform_);
+    console::ScopeId queuesRow_ = 0;
 };

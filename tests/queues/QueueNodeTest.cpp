@@ -1,10 +1,7 @@
 #include "queues/QueueNode.h"
 
-#include "tests/support/FakeEstate.h"
-#include "tests/support/NodeDriver.h"
-#include "tests/support/TestPlatform.h"
-
-#include <gtest/gtest.h>
+#include "queues/QueuePropertiesDlg.h"
+#include "tests/queues/QueueTrees.h"
 
 namespace {
 
@@ -14,14 +11,14 @@ using platform::Answer;
 using platform::Key;
 using queues::QueueMode;
 using queues::QueueNode;
-using Menu = std::vector<support::RecordingConsole::MenuItem>;
-using Presses = std::vector<std::vector<Key>>;
-using Strings = std::vector<std::string>;
+using queues::QueuePropertiesDlg;
 
 constexpr const char16_t* question = u"Are you sure you want to delete the selected queue?";
 
 class QueueNodes : public ::testing::Test {
 protected:
+    QueueNodes() { noDialogLists(estate_); }
+
     std::shared_ptr<QueueNode> makeQueue(QueueMode mode = QueueMode::queue) {
         auto record = support::printer("q1", 5, u"Lobby");
         record.jobs = 65535;
@@ -45,13 +42,61 @@ TEST_F(QueueNodes, showNameJobsAndStatus) {
     EXPECT_EQ(queue->refreshKey(), "q1");
 }
 
-TEST_F(QueueNodes, offerDeleteQueue) {
-    EXPECT_EQ(menuOf(console_, *makeQueue()), (Menu{{u"Delete Queue", u"To delete queue", 294, 0}}));
+TEST_F(QueueNodes, offerToBeEditedAndDeleted) {
+    EXPECT_EQ(menuOf(console_, *makeQueue()),
+              (Menu{{u"Edit Queue/Queue Properties", u"To edit queue properties", 230, 0},
+                    {u"Delete Queue", u"To delete queue", 294, 0}}));
 }
 
-TEST_F(QueueNodes, offerDeleteFollowPrintQueueInTheFollowPrintTree) {
+TEST_F(QueueNodes, offerTheSameInOtherWordsInTheFollowPrintTree) {
     EXPECT_EQ(menuOf(console_, *makeQueue(QueueMode::followPrint)),
-              (Menu{{u"Delete Follow Print Queue", u"To delete follow print queue", 294, 0}}));
+              (Menu{{u"Edit Follow Print Queue Properties", u"To edit follow print queue properties", 230, 0},
+                    {u"Delete Follow Print Queue", u"To delete follow print queue", 294, 0}}));
+}
+
+TEST_F(QueueNodes, haveAThirdPropertiesEntryThatNoMenuOffersAndThatDoesNothing) {
+    for (const auto mode : {QueueMode::queue, QueueMode::followPrint}) {
+        for (const auto& entry : menuOf(console_, *makeQueue(mode))) {
+            EXPECT_NE(entry.id, 358);
+        }
+        EXPECT_EQ(makeQueue(mode)->Command(358, DataObjectType::scope), Result::notDone);
+    }
+    EXPECT_TRUE(platform_.commands().empty());
+}
+
+TEST_F(QueueNodes, openTheirPropertiesAndReadTheirParentAgain) {
+    estate_.queues = {support::printer("q1", 5, u"Lobby")};
+    const auto queue = makeQueue();
+    const auto parent = console_.addScopeRow(queue);
+    expand(console_, *queue, console_.addScopeRow(queue, parent));
+    queue->setParentRow(parent);
+    platform_.ui.expect<QueuePropertiesDlg>([](QueuePropertiesDlg& dialog) {
+        EXPECT_EQ(dialog.title(), u"Lobby Properties");
+        dialog.okButton().userPressed();
+    });
+
+    EXPECT_EQ(queue->Command(230, DataObjectType::scope), Result::ok);
+
+    EXPECT_EQ(console_.calls, Strings{"SelectScopeItem " + std::to_string(parent)});
+    EXPECT_EQ(platform_.ui.presses(), Presses{{Key::f5}});
+}
+
+TEST_F(QueueNodes, openedFromARowPressTabAndF5) {
+    estate_.queues = {support::printer("q1", 5, u"Lobby")};
+    platform_.ui.expect<QueuePropertiesDlg>([](QueuePropertiesDlg& dialog) { dialog.okButton().userPressed(); });
+
+    makeQueue()->Command(230, DataObjectType::result);
+
+    EXPECT_EQ(platform_.ui.presses(), (Presses{{Key::tab, Key::f5}}));
+}
+
+TEST_F(QueueNodes, pressNothingWhenTheirPropertiesAreCancelled) {
+    estate_.queues = {support::printer("q1", 5, u"Lobby")};
+    platform_.ui.expect<QueuePropertiesDlg>([](QueuePropertiesDlg& dialog) { dialog.cancelButton().userPressed(); });
+
+    EXPECT_EQ(makeQueue()->Command(230, DataObjectType::scope), Result::notDone);
+
+    EXPECT_TRUE(platform_.ui.presses().empty());
 }
 
 TEST_F(QueueNodes, ofAnyOtherModeHaveAnEmptyMenu) {
@@ -93,7 +138,7 @@ TEST_F(QueueNodes, stayWhenTheQuestionIsAnsweredWithCancel) {
 }
 
 TEST_F(QueueNodes, doNothingForANumberThatIsNotTheirs) {
-    EXPECT_EQ(makeQueue()->Command(230, DataObjectType::scope), Result::notDone);
+    EXPECT_EQ(makeQueue()->Command(293, DataObjectType::scope), Result::notDone);
 
     EXPECT_TRUE(platform_.commands().empty());
     EXPECT_TRUE(platform_.ui.presses().empty());

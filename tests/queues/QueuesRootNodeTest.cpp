@@ -1,14 +1,10 @@
 #include "queues/QueuesRootNode.h"
 
-#include "tests/support/NodeDriver.h"
-#include "tests/support/TestPlatform.h"
-
-#include <gtest/gtest.h>
+#include "tests/queues/QueueTrees.h"
 
 namespace {
 
 using queues::QueuesRootNode;
-using Strings = std::vector<std::string>;
 
 TEST(QueuesRoot, isReachableFromEverywhereWhileItStands) {
     support::TestPlatform platform;
@@ -36,18 +32,14 @@ TEST(QueuesRoot, ofALaterTreeOutlivesThatOfAnEarlierOne) {
     EXPECT_EQ(QueuesRootNode::instance(), later.get());
 }
 
-TEST(QueuesRoot, keepsItsRowForRefreshesFromOutside) {
-    support::TestPlatform platform;
-    support::RecordingConsole console;
-    const auto root = std::make_shared<QueuesRootNode>(platform);
-    const auto row = console.addScopeRow(root);
-    expand(console, *root, row);
-    console.addScopeRow(root, row); // something for the refresh to remove
+TEST_F(QueueTrees, areReadAgainWhenThePrintersChange) {
+    expandIn(console_, u"Queues");
+    estate_.regions.push_back(support::region(4, 0, u"West"));
 
-    QueuesRootNode::refreshInstance(console);
+    QueuesRootNode::refreshInstance(console_);
 
-    EXPECT_EQ(root->scopeId(), row);
-    EXPECT_EQ(console.calls, Strings{"DeleteItem 1 children"});
+    EXPECT_EQ(root_->scopeId(), rootRow_);
+    EXPECT_EQ(console_.childNames(rootRow_), (Names{u"West", u"South", u"North"}));
 }
 
 TEST(QueuesRoot, isNotMissedByARefreshOnceItIsGone) {

@@ -1,6 +1,9 @@
 #include "localprinters/LocalPrinterPropertiesDlg.h"
 #include "printers/PrinterPreferencesDlg.h"
 #include "printers/PrinterPropertiesDlg.h"
+#include "queues/AddQueueDlg.h"
+#include "queues/QueuePreferencesDlg.h"
+#include "queues/QueuePropertiesDlg.h"
 #include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionRulesDlg.h"
@@ -35,6 +38,11 @@ protected:
         using rules::AddRuleEntryDlg;
         add<snapin::AuthenticationDlg>();
         add<regions::CreateRegionDlg>(0, regions::CreateRegionDlg::Mode::printerTree);
+        add<queues::AddQueueDlg>(queues::NewQueue{.mode = queues::QueueMode::queue, .printerId = "p1"});
+        add<queues::AddQueueDlg>(queues::NewQueue{.mode = queues::QueueMode::followPrint, .regionId = 1});
+        add<queues::QueuePreferencesDlg>("q1");
+        add<queues::QueuePropertiesDlg>(queues::QueueMode::queue, "q1", u"Lobby");
+        add<queues::QueuePropertiesDlg>(queues::NewQueue{.mode = queues::QueueMode::queue, .printerId = "p1"});
         add<regions::AddTabRuleDlg>(place_);
         add<regions::RegionRulesDlg>(1);
         add<regions::RegionTree>();

@@ -1,9 +1,10 @@
 #include "snapin/Print.h"
 
 #include "client/rules/NewRecord.h"
+#include "localprinters/LocalPrinterRegionNode.h"
 #include "printers/PrinterNode.h"
 #include "printers/PrinterRegionNode.h"
-#include "queues/QueueNode.h"
+#include "queues/QueueRegionNode.h"
 #include "rules/PageLimitersNode.h"
 #include "rules/PricePlansNode.h"
 #include "rules/RuleSetNode.h"
@@ -48,6 +49,12 @@ protected:
                                                 queues::QueueMode::queue));
         add(std::make_shared<queues::QueueNode>(platform_, support::printer("q2", 1, u"Anywhere"),
                                                 queues::QueueMode::followPrint));
+        add(std::make_shared<queues::QueueRegionNode>(platform_, support::region(1, 0, u"North"),
+                                                      queues::QueueMode::queue));
+        add(std::make_shared<queues::QueueRegionNode>(platform_, support::region(1, 0, u"North"),
+                                                      queues::QueueMode::followPrint));
+        add(std::make_shared<localprinters::LocalPrinterRegionNode>(platform_, support::region(1, 0, u"Home")));
+        add(std::make_shared<localprinters::LocalPrinterQueueNode>(platform_, support::printer("l1", 1, u"Desk")));
         add(std::make_shared<rules::RuleSetNode>(platform_));
         add(std::make_shared<rules::PricePlansNode>(platform_));
         add(std::make_shared<rules::PageLimitersNode>(platform_));

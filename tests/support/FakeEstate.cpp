@@ -15,6 +15,7 @@ constexpr std::size_t mostCommands = 200;
 constexpr std::chrono::seconds limit{20};
 constexpr std::uint16_t listRegions = 0;
 constexpr std::uint16_t listRecords = 6;
+constexpr std::uint16_t createRecord = 9;
 constexpr std::uint16_t updateRecord = 10;
 
 struct Request {
@@ -113,9 +114,12 @@ void FakeEstate::answer(ScriptedServer::Connection& connection) {
     if (const auto broken = brokenLists.find(request.opcode); broken != brokenLists.end()) {
         connection.send(broken->second);
     } else if (request.opcode == listRegions) {
-        connection.send(listInOneMessage(regions));
+        const bool local = fields.front() == static_cast<std::uint8_t>(protocol::RegionKind::localPrinters);
+        connection.send(listInOneMessage(local ? localRegions : regions));
     } else if (request.opcode == listRecords) {
         connection.send(countedList(listPrinterRecords(request.message)));
+    } else if (request.opcode == createRecord && !replies.contains(createRecord)) {
+        connection.send(frame({dataMessage(fieldsOf(createReply))}));
     } else if (request.opcode == updateRecord) {
         connection.send(frame({dataMessage(fieldsOf(updateReply))}));
     } else if (const auto list = lists.find(request.opcode); list != lists.end()) {
@@ -148,6 +152,14 @@ std::vector<Bytes> FakeEstate::listPrinterRecords(const Bytes& message) const {
         addAll(followQueues, inRegion);
     } else if (request.mode == mode::printerById) {
         addAll(printers, [&](const protocol::PrinterRecord& record) { return record.id == request.printerId; });
+    } else if (request.mode == mode::localPrintersInRegion) {
+        addAll(localPrinters, inRegion);
+    } else if (request.mode == mode::queueById) {
+        const auto wanted = [&](const protocol::PrinterRecord& record) { return record.id == request.printerId; };
+        addAll(queues, wanted);
+        addAll(followQueues, wanted);
+    } else if (request.mode == mode::queues && request.printerId.empty()) {
+        addAll(queues, inRegion);
     } else if (request.mode == mode::queues && queuesOfPrinter.contains(request.printerId)) {
         addAll(queuesOfPrinter.at(request.printerId), any);
     }

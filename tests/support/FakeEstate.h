@@ -28,9 +28,13 @@ public:
     // Set these only between commands. Lists are sent in this order.
     std::vector<protocol::RegionRecord> regions;
     std::vector<protocol::PrinterRecord> printers;
+    std::vector<protocol::PrinterRecord> queues; // listed by their regions
     std::vector<protocol::PrinterRecord> followQueues;
+    std::vector<protocol::RegionRecord> localRegions;
+    std::vector<protocol::PrinterRecord> localPrinters;
     std::map<std::string, std::vector<protocol::PrinterRecord>> queuesOfPrinter;
     protocol::StatusReply updateReply;
+    protocol::CreateRecordReply createReply;
     // The bytes of frames sent instead of a list of regions or of printer records, by opcode.
     std::map<std::uint16_t, Bytes> brokenLists;
     // The content of the lists of other commands, by opcode: the bytes of each record, from the fields of the request.

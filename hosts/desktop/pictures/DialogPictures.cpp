@@ -6,6 +6,7 @@
 #include "hosts/desktop/forms/MessageBox.h"
 #include "hosts/desktop/pictures/Framed.h"
 #include "hosts/desktop/pictures/PrinterSamples.h"
+#include "hosts/desktop/pictures/QueueSamples.h"
 #include "hosts/desktop/pictures/RuleGroupSamples.h"
 #include "hosts/desktop/pictures/RuleSamples.h"
 #include "hosts/desktop/window/DesktopUserInterface.h"
@@ -89,6 +90,7 @@ std::vector<NamedPicture> serverDialogPictures() {
     auto all = ruleGroupSamples();
     std::ranges::move(ruleSamples(), std::back_inserter(all));
     std::ranges::move(printerSamples(), std::back_inserter(all));
+    std::ranges::move(queueSamples(), std::back_inserter(all));
     return picturesOf(all);
 }
 

@@ -99,6 +99,7 @@ TEST_F(WriteCheck, tellsWhatWasNotDoneWithRegions) {
     expectRefused("RenameRegion", [&] { return client.renameRegion(kind, berlin, u"München"); });
     expectRefused("MoveRegion", [&] { return client.moveRegion(kind, berlin, region(u"Warehouse")); });
     expectRefused("DeleteRegion", [&] { return client.deleteRegion(kind, berlin); });
+    expectRefused("DeleteRegion", [&] { return client.deleteRegion(kind, 0); });
 }
 
 TEST_F(WriteCheck, seesPrintersMovedAndDeleted) {

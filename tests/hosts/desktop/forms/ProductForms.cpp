@@ -3,6 +3,9 @@
 #include "localprinters/LocalPrinterPropertiesDlg.h"
 #include "printers/PrinterPreferencesDlg.h"
 #include "printers/PrinterPropertiesDlg.h"
+#include "queues/AddQueueDlg.h"
+#include "queues/QueuePreferencesDlg.h"
+#include "queues/QueuePropertiesDlg.h"
 #include "regions/AddTabRuleDlg.h"
 #include "regions/CreateRegionDlg.h"
 #include "regions/RegionRulesDlg.h"
@@ -52,6 +55,19 @@ std::unique_ptr<forms::Form> propertiesOf(platform::Platform& platform) {
     return std::make_unique<Dialog>(platform, "p1");
 }
 
+std::unique_ptr<forms::Form> newQueue(platform::Platform& platform) {
+    return std::make_unique<queues::AddQueueDlg>(
+        platform, queues::NewQueue{.mode = queues::QueueMode::queue, .printerId = "p1", .regionId = 1});
+}
+
+std::unique_ptr<forms::Form> queueOnOnePage(platform::Platform& platform) {
+    return std::make_unique<queues::QueuePreferencesDlg>(platform, "q1");
+}
+
+std::unique_ptr<forms::Form> queueProperties(platform::Platform& platform) {
+    return std::make_unique<queues::QueuePropertiesDlg>(platform, queues::QueueMode::queue, "q1", u"Lobby");
+}
+
 std::unique_ptr<forms::Form> ruleOnPrinter(platform::Platform& platform) {
     return std::make_unique<regions::AddTabRuleDlg>(platform, inAGroup());
 }
@@ -83,6 +99,9 @@ std::vector<ProductForm> productForms() {
             {"followPrint", preferences<printers::PreferencesMode::followPrint>},
             {"printer", propertiesOf<printers::PrinterPropertiesDlg>},
             {"localPrinter", propertiesOf<localprinters::LocalPrinterPropertiesDlg>},
+            {"newQueue", newQueue},
+            {"queuePreferences", queueOnOnePage},
+            {"queueProperties", queueProperties},
             {"ruleOnPrinter", ruleOnPrinter},
             {"regionRules", rulesOfRegion},
             {"regionTree", plain<regions::RegionTree>},

@@ -1,0 +1,33 @@
+#include "queues/AddQueueDlg.h"
+
+#include <utility>
+
+namespace queues {
+
+AddQueueDlg::AddQueueDlg(platform::Platform& platform, NewQueue queue)
+    : Form(platform, u" Add Queue"), queue_(std::move(queue)) {
+    head.onComplete = [this] { okButton().setEnabled(head.complete()); };
+}
+
+void AddQueueDlg::onInitDialog() {
+    setTitle(queue_.mode == QueueMode::followPrint ? u"Add Follow Printer Queue" : u"Add Queue");
+    edit_ = queue_.begin();
+    head.openForNew();
+}
+
+// The dialog ends even if the server refuses the queue, which has said why by then.
+void AddQueueDlg::onOk() {
+    head.takeModelByName(*edit_);
+    head.takeName(*edit_);
+    head.takeTimeToLive(*edit_);
+    if (!comment.text().empty()) {
+        edit_->setLocation(comment.text());
+    }
+    if (!adminComment.text().empty()) {
+        edit_->setComment(adminComment.text());
+    }
+    edit_->save();
+    EndDialog(forms::idOk);
+}
+
+} // namespace queues
