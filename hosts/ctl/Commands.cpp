@@ -55,7 +55,7 @@ void showList(const Options& options, Session& session, std::ostream& out) {
     shell.select(findNode(shell, path));
     session.check();
     const ListWriter writer(shell, choice);
-    note(session, shell::parseFilter(choice.filter, titlesOf(shell)).problems);
+    note(session, shell::RowFilter(choice.filter, titlesOf(shell)).problems());
     if (options.format == Format::json) {
         writer.writeJson(out, path);
     } else {

@@ -78,6 +78,9 @@ void ListWriter::writeJson(std::ostream& out, const NodePath& path) const {
         records.push_back({{"id", row->node->refreshKey()},
                            {"kind", wire::toUtf8(row->node->nodeIdentity().displayName)},
                            {"values", std::move(values)}});
+        if (const auto state = row->node->rowState()) {
+            records.back()["status"] = wire::toUtf8(console::describe(*state));
+        }
     }
     out << "{\n  \"path\": " << dump(formatPath(path)) << ",\n  \"columns\": " << dump(titles) << ",\n  \"rows\": [";
     writeLines(out, texts);

@@ -4,6 +4,7 @@
 #include "console/ItemFields.h"
 #include "console/Notification.h"
 #include "console/Result.h"
+#include "console/RowState.h"
 #include "wire/Text.h"
 
 #include <cstdint>
@@ -75,6 +76,8 @@ public:
     // The number to sort this column by where its text would sort wrongly, as for dates and prices. Empty where the
     // text sorts correctly.
     virtual std::optional<std::int64_t> sortValue(std::int32_t column) const = 0;
+    // The state of what the row stands for; empty where nothing is known of it.
+    virtual std::optional<RowState> rowState() const { return std::nullopt; }
     // Shows the columns and rows again after a refresh, for a console that receives no key presses that would make it
     // do so. Reads from the server only what the refresh has not read.
     virtual Result showAnew(IConsole& console) = 0;

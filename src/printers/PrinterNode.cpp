@@ -5,6 +5,7 @@
 #include "printers/PrinterPropertiesDlg.h"
 #include "printers/SnmpStatus.h"
 #include "queues/AddQueueDlg.h"
+#include "queues/DialogStatus.h"
 #include "queues/PrintingStatus.h"
 #include "queues/QueuesRootNode.h"
 #include "regions/PrinterRecords.h"
@@ -47,6 +48,10 @@ const char16_t* PrinterNode::GetResultPaneColInfo(std::int32_t column) {
 
 std::optional<std::int64_t> PrinterNode::sortValue(std::int32_t column) const {
     return column == 5 ? std::optional<std::int64_t>(jobs_) : std::nullopt;
+}
+
+std::optional<console::RowState> PrinterNode::rowState() const {
+    return queues::stateOf(snmpStatus_, printingStatus_);
 }
 
 std::vector<console::ChildKind> PrinterNode::childKinds() {

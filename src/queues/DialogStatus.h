@@ -1,6 +1,9 @@
 #pragma once
 
+#include "console/RowState.h"
+
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace queues {
@@ -10,5 +13,8 @@ namespace queues {
 // differences must stay.
 [[nodiscard]] std::u16string_view physicalStatusWord(std::uint8_t status);
 [[nodiscard]] std::u16string_view printingStatusWord(std::uint8_t status);
+
+// Both in one, without the words for a byte that means nothing; empty when neither of them means something.
+[[nodiscard]] std::optional<console::RowState> stateOf(std::uint8_t physicalStatus, std::uint8_t printingStatus);
 
 } // namespace queues

@@ -104,7 +104,9 @@ public:
         }
     }
 
-    void appendParts(std::size_t column, std::span<const wire::WideString> titles, std::vector<ListPart>& parts) {
+    // A column of which only a part is counted is filtered by what it contains.
+    void appendParts(std::size_t column, std::span<const wire::WideString> titles, std::vector<ListPart>& parts,
+                     wire::WideStringView test = u"=") {
         std::ranges::sort(counts_, {}, [](const Count& count) { return naturalKey(count.text); });
         std::vector<ListPart> found;
         const auto begin = [&] { return nameOf(column, titles) + u':'; };
@@ -122,7 +124,7 @@ public:
                 found.push_back({.column = static_cast<std::int32_t>(column),
                                  .count = count.rows,
                                  .text = count.text,
-                                 .filter = begin() + u'=' + value});
+                                 .filter = begin().append(test) + value});
             }
         }
         if (found.size() <= mostStates) {
@@ -185,7 +187,7 @@ bool sameMeaning(const FilterTerm& a, const FilterTerm& b) {
 }
 
 FilterTerm termOf(const ListPart& part, std::span<const wire::WideString> titles) {
-    const auto query = parseFilter(part.filter, titles);
+    const auto query = parseFilter(part.filter, filterTitles(titles));
     return query.terms.empty() ? FilterTerm() : query.terms.front();
 }
 
@@ -198,17 +200,22 @@ void removeTerm(wire::WideString& filter, const FilterTerm& term) {
 } // namespace
 
 ListSummary summarize(const ResultPane& pane) {
-    const auto& titles = pane.titles();
+    const auto titles = filterTitles(pane.titles());
+    const std::size_t columns = pane.titles().size();
+    States ofRows;
     std::vector<std::pair<std::size_t, States>> states;
     std::vector<Sum> sums;
-    for (std::size_t column = 0; column < titles.size(); ++column) {
+    for (std::size_t column = 0; column < columns; ++column) {
         if (isStatus(titles[column])) {
             states.emplace_back(column, States());
         } else if (auto things = thingsCounted(titles[column]); !things.empty()) {
             sums.push_back({.column = column, .things = std::move(things)});
         }
     }
-    for (std::size_t row = 0; row < pane.unfilteredCount() && !(states.empty() && sums.empty()); ++row) {
+    for (std::size_t row = 0; row < pane.unfilteredCount(); ++row) {
+        if (const auto state = pane.unfilteredRow(row).node->rowState()) {
+            ofRows.add(state->words[0]);
+        }
         for (auto& [column, counted] : states) {
             counted.add(cellOf(pane.unfilteredRow(row), static_cast<std::int32_t>(column)));
         }
@@ -217,6 +224,7 @@ ListSummary summarize(const ResultPane& pane) {
         }
     }
     ListSummary summary{.noun = nounOf(pane), .parts = {}};
+    ofRows.appendParts(columns, titles, summary.parts, u"");
     for (auto& [column, counted] : states) {
         counted.appendParts(column, titles, summary.parts);
     }
@@ -234,14 +242,14 @@ ListSummary summarize(const ResultPane& pane) {
 
 bool asksFor(wire::WideStringView filter, const ListPart& part, std::span<const wire::WideString> titles) {
     const auto wanted = termOf(part, titles);
-    return std::ranges::any_of(parseFilter(filter, titles).terms,
+    return std::ranges::any_of(parseFilter(filter, filterTitles(titles)).terms,
                                [&](const FilterTerm& term) { return sameMeaning(term, wanted); });
 }
 
 wire::WideString toggled(wire::WideStringView filter, const ListPart& part, std::span<const wire::WideString> titles) {
     const auto wanted = termOf(part, titles);
     const bool asked = asksFor(filter, part, titles);
-    auto terms = parseFilter(filter, titles).terms;
+    auto terms = parseFilter(filter, filterTitles(titles)).terms;
     wire::WideString next(filter);
     std::ranges::reverse(terms); // so that the places of the remaining ones stay right
     for (const FilterTerm& term : terms) {

@@ -18,9 +18,15 @@ public:
     [[nodiscard]] std::optional<std::int64_t> number(std::int32_t column) const override {
         return row_.node->sortValue(column);
     }
+    [[nodiscard]] wire::WideStringView state() const override {
+        const auto state = row_.node->rowState();
+        state_ = state ? console::describe(*state) : wire::WideString();
+        return state_;
+    }
 
 private:
     const Row& row_;
+    mutable wire::WideString state_;
 };
 
 // Whether something passes that is below, within or above what the term names.
@@ -41,8 +47,14 @@ bool passes(FilterTest test, bool below, bool above) {
 
 } // namespace
 
+std::vector<wire::WideString> filterTitles(std::span<const wire::WideString> titles) {
+    std::vector<wire::WideString> all(titles.begin(), titles.end());
+    all.emplace_back(u"State");
+    return all;
+}
+
 RowFilter::RowFilter(wire::WideStringView text, std::span<const wire::WideString> titles)
-    : query_(parseFilter(text, titles)), columns_(static_cast<std::int32_t>(titles.size())) {}
+    : query_(parseFilter(text, filterTitles(titles))), columns_(static_cast<std::int32_t>(titles.size())) {}
 
 bool RowFilter::matches(const FilteredCells& cells) const {
     return std::ranges::all_of(query_.terms,
@@ -60,25 +72,30 @@ bool RowFilter::meets(const FilteredCells& cells, const FilterTerm& term) const 
                 return true;
             }
         }
-        return false;
+        return containsFolded(cells.state(), term.text);
     }
     switch (term.test) {
     case FilterTest::contains:
-        return containsFolded(cells.text(*term.column), term.text);
+        return containsFolded(textOf(cells, *term.column), term.text);
     case FilterTest::empty:
-        return cells.text(*term.column).empty();
+        return textOf(cells, *term.column).empty();
     default:
         return compares(cells, term);
     }
 }
 
+wire::WideStringView RowFilter::textOf(const FilteredCells& cells, std::int32_t column) const {
+    return column == columns_ ? cells.state() : cells.text(column);
+}
+
 // A cell without a value meets no comparison: a printer that was never seen was not seen before last year.
 bool RowFilter::compares(const FilteredCells& cells, const FilterTerm& term) const {
-    if (const auto number = term.numbers ? cells.number(*term.column) : std::nullopt) {
+    const bool hasNumber = term.numbers && *term.column != columns_;
+    if (const auto number = hasNumber ? cells.number(*term.column) : std::nullopt) {
         constexpr auto noDate = std::numeric_limits<std::int64_t>::min(); // see wire::wireDateOrder
         return *number != noDate && passes(term.test, *number<term.numbers->first, *number> term.numbers->last);
     }
-    const auto text = cells.text(*term.column);
+    const auto text = textOf(cells, *term.column);
     if (text.empty()) {
         return false;
     }

@@ -40,4 +40,19 @@ TEST(DialogStatus, isNoneForEverythingElseAndSoForTheNumbersOfTheTree) {
     }
 }
 
+TEST(DialogStatus, makesTheStateOfARow) {
+    const auto state = queues::stateOf('4', '4');
+    ASSERT_TRUE(state);
+    EXPECT_EQ(state->severity, console::Severity::error);
+    EXPECT_EQ(console::describe(*state), u"Error: No Paper, Printing");
+    EXPECT_EQ(queues::stateOf('3', '0')->severity, console::Severity::warning);
+    EXPECT_EQ(queues::stateOf('0', '0')->severity, console::Severity::none);
+}
+
+TEST(DialogStatus, leavesOutOfTheStateWhatMeansNothing) {
+    EXPECT_EQ(console::describe(*queues::stateOf('6', 4)), u"Error: Offline");
+    EXPECT_EQ(console::describe(*queues::stateOf(4, '1')), u"Dispatcher");
+    EXPECT_FALSE(queues::stateOf(4, 4));
+}
+
 } // namespace

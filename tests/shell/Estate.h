@@ -22,6 +22,7 @@ struct Estate {
         wire::WideString number{};
         bool leaf = false;
         std::optional<std::int64_t> time{}; // by which its number column is sorted
+        std::optional<console::RowState> state{};
     };
 
     std::map<std::string, std::vector<Entry>> below; // by the key of the parent
@@ -58,6 +59,7 @@ public:
     std::string refreshKey() const override { return entry.key; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
     std::optional<std::int64_t> sortValue(std::int32_t column) const override;
+    std::optional<console::RowState> rowState() const override { return entry.state; }
     using NodeBase::redrawRow;
     using NodeBase::setResultImage;
 

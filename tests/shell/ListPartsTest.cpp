@@ -20,6 +20,14 @@ protected:
         pane.InsertItem(nodes.back()->resultFields());
         pane.commit();
     }
+    void addInState(std::optional<console::RowState> state) {
+        const auto name = "P" + std::to_string(pane.unfilteredCount());
+        nodes.push_back(std::make_shared<LeafNode>(
+            platform, estate,
+            Estate::Entry{.key = name, .name = wire::toWide(name), .leaf = true, .state = std::move(state)}));
+        pane.InsertItem(nodes.back()->resultFields());
+        pane.commit();
+    }
     std::shared_ptr<FolderNode> addRegion() {
         auto region = std::make_shared<FolderNode>(platform, estate, Estate::Entry{.key = "r", .name = u"Region"});
         pane.InsertItem(region->resultFields());
@@ -66,6 +74,23 @@ TEST_F(ListParts, areStatesErrorsFirstAndThenSums) {
 
     EXPECT_EQ(parts(), (Lines{"2 with errors [snmp:error]", "1 with a warning [snmp:warning]", "2 Idle [snmp:=Idle]",
                               "1 Printing [snmp:=Printing]", "17 jobs [jobs:>0]"}));
+}
+
+TEST_F(ListParts, areTheStatesThatTheRowsHaveBesideTheirColumns) {
+    using console::RowState;
+    using console::Severity;
+    pane.setTitles({u"Printer Name", u"Model"});
+    addInState(RowState{Severity::error, {u"Error: No Paper", u"Idle"}});
+    addInState(RowState{Severity::error, {u"Error: Offline", u""}});
+    addInState(RowState{Severity::warning, {u"Warning: Low Toner", u"Printing"}});
+    addInState(RowState{Severity::none, {u"OK", u"Idle"}});
+    addInState(std::nullopt);
+
+    EXPECT_EQ(parts(), (Lines{"2 with errors [state:error]", "1 with a warning [state:warning]", "1 OK [state:OK]"}));
+    expectFiltersFit();
+    const auto errors = shell::summarize(pane).parts.front();
+    EXPECT_EQ(shell::toggled(u"p", errors, pane.titles()), u"p state:error");
+    EXPECT_EQ(shell::toggled(u"p state:error", errors, pane.titles()), u"p");
 }
 
 TEST_F(ListParts, haveFiltersThatShowWhatTheyCount) {

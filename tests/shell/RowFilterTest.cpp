@@ -19,11 +19,12 @@ const ListTitles printerTitles{u"Name", u"Model", u"Jobs In Queue", u"Last Seen"
 class ListedPrinter final : public shell::FilteredCells {
 public:
     ListedPrinter(wire::WideString name, wire::WideString model, int jobs, const std::string& seen,
-                  wire::WideString location)
+                  wire::WideString location, wire::WideString state)
         : texts_{std::move(name), std::move(model), wire::toWide(std::to_string(jobs)), wire::toWide(seen),
                  std::move(location)},
           jobs_(jobs),
-          seen_(wire::wireDateOrder(seen)) {}
+          seen_(wire::wireDateOrder(seen)),
+          state_(std::move(state)) {}
 
     [[nodiscard]] wire::WideStringView text(std::int32_t column) const override {
         return texts_.at(static_cast<std::size_t>(column));
@@ -33,16 +34,19 @@ public:
                : column == 3 ? std::optional<std::int64_t>(seen_)
                              : std::nullopt;
     }
+    [[nodiscard]] wire::WideStringView state() const override { return state_; }
 
 private:
     std::vector<wire::WideString> texts_;
     std::int64_t jobs_;
     std::int64_t seen_;
+    wire::WideString state_;
 };
 
-const ListedPrinter hallPrinter{u"Hall 1", u"Mirado LASER 12", 0, "2024-03-05 17:04:09", u"Ground floor"};
-const ListedPrinter officePrinter{u"Office-2", u"Inkwell 7", 9, "2024-03-06 08:00:00", u""};
-const ListedPrinter labelPrinter{u"Label \"X\"", u"Quillmark laser", 10, "", u"Store 10"};
+const ListedPrinter hallPrinter{u"Hall 1",       u"Mirado LASER 12",      0, "2024-03-05 17:04:09",
+                                u"Ground floor", u"Error: No Paper, Idle"};
+const ListedPrinter officePrinter{u"Office-2", u"Inkwell 7", 9, "2024-03-06 08:00:00", u"", u"OK, Printing"};
+const ListedPrinter labelPrinter{u"Label \"X\"", u"Quillmark laser", 10, "", u"Store 10", u""};
 
 // The first letters of the rows that pass.
 std::string rowsPassing(wire::WideStringView text) {
@@ -100,6 +104,13 @@ INSTANTIATE_TEST_SUITE_P(Comparisons, RowFilterTable,
                                          FilterCase{u"jobs:>-1", "HOL"}, FilterCase{u"name:>=label", "-OL"},
                                          FilterCase{u"loc:>\"store 9\"", "--L"}, FilterCase{u"loc:<z", "H-L"},
                                          FilterCase{u"loc:>=\"\"", "HOL"}));
+
+// The state of a row is no column, and yet can be asked for.
+INSTANTIATE_TEST_SUITE_P(States, RowFilterTable,
+                         testing::Values(FilterCase{u"state:paper", "H--"}, FilterCase{u"state:\"no paper\"", "H--"},
+                                         FilterCase{u"State:ok", "-O-"}, FilterCase{u"-state:error", "-OL"},
+                                         FilterCase{u"state:\"\"", "--L"}, FilterCase{u"printing", "-O-"},
+                                         FilterCase{u"state:>=ok", "-O-"}, FilterCase{u"state:=5", "---"}));
 
 // A row without a date is neither before nor after one.
 INSTANTIATE_TEST_SUITE_P(Dates, RowFilterTable,

@@ -68,9 +68,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return toQString(cell(index));
     case Qt::ToolTipRole:
-        return isCut(index) ? QVariant(cutText(toQString(cell(index)))) : toQString(cell(index));
+        return withRemarks(index, toQString(cell(index)));
     case Qt::AccessibleDescriptionRole:
-        return isCut(index) ? QVariant(cutText({})) : QVariant();
+        return withRemarks(index, {});
     case TextDelegate::cutRole:
         return isCut(index);
     case Qt::TextAlignmentRole:
@@ -83,7 +83,25 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ListModel::iconOf(const shell::Row& row) const {
-    return icons_.iconOf(row.node->className(), operations_.shell().listImages().strip(), row.image);
+    const auto strip = operations_.shell().listImages().strip();
+    const auto state = row.node->rowState();
+    return icons_.iconOf(row.node->className(), strip, row.image, state ? state->severity : console::Severity::none);
+}
+
+// What the icon only shows is said in words: the state, and that the row is cut.
+QString ListModel::withRemarks(const QModelIndex& index, const QString& text) const {
+    QStringList lines;
+    if (!text.isEmpty()) {
+        lines += text;
+    }
+    const auto state = pane().row(static_cast<std::size_t>(index.row())).node->rowState();
+    if (index.column() == 0 && state) {
+        lines += toQString(console::describe(*state));
+    }
+    if (isCut(index)) {
+        lines += cutText({});
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool ListModel::setData(const QModelIndex& index, const QVariant& value, int role) {

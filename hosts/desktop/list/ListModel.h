@@ -54,6 +54,7 @@ private:
     [[nodiscard]] wire::WideStringView cell(const QModelIndex& index) const;
     [[nodiscard]] QVariant alignmentOf(int column) const;
     [[nodiscard]] QVariant iconOf(const shell::Row& row) const;
+    [[nodiscard]] QString withRemarks(const QModelIndex& index, const QString& text) const;
     void announceChange();
 
     void columnsChanged() override;

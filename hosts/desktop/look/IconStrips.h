@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/IImageList.h"
+#include "console/RowState.h"
 
 #include <QIcon>
 
@@ -17,9 +18,10 @@ public:
     // Empty for a strip or an index that does not exist.
     QIcon icon(const console::ImageStrip& strip, int index) const;
 
-    // The icon of a node of that class (console::CSnapInItem::className). Kinds of rules, which share an index, are
-    // told apart.
-    QIcon iconOf(const std::string& className, const console::ImageStrip& strip, int index) const;
+    // The icon of a node of that class (console::CSnapInItem::className), with a mark for a severe state. Kinds of
+    // rules, which share an index, are told apart.
+    QIcon iconOf(const std::string& className, const console::ImageStrip& strip, int index,
+                 console::Severity severity = console::Severity::none) const;
 
     // How many icons the strip has; 0 for one that does not exist.
     static int count(const console::ImageStrip& strip);
@@ -27,8 +29,11 @@ public:
     static QIcon application();
 
 private:
+    QIcon plainIconOf(const std::string& className, const console::ImageStrip& strip, int index) const;
+
     mutable std::map<std::pair<std::int32_t, int>, QIcon> icons_;
     mutable std::map<std::string, QIcon> kinds_;
+    mutable std::map<std::pair<qint64, console::Severity>, QIcon> marked_; // by the key of the icon without a mark
 };
 
 } // namespace desktop

@@ -33,6 +33,9 @@ QString pageOfRow(const shell::Shell& shell, std::size_t place) {
         lines += line(toQString(columns[column].title),
                       toQString(shell.pane().cell(place, static_cast<std::int32_t>(column))));
     }
+    if (const auto state = shell.pane().row(place).node->rowState()) {
+        lines += line(QStringLiteral("State"), toQString(console::describe(*state)));
+    }
     return page(toQString(shell.pane().cell(place, 0)), lines);
 }
 

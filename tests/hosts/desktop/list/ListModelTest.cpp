@@ -1,7 +1,9 @@
 #include "hosts/desktop/list/ListModel.h"
 
+#include "hosts/desktop/look/Text.h"
 #include "tests/hosts/desktop/ModelFixture.h"
 
+#include <QIcon>
 #include <QMimeData>
 #include <QSignalSpy>
 
@@ -41,6 +43,28 @@ TEST_F(ListModelTest, showsColumnsAndRowsOfTheSelectedItem) {
     EXPECT_EQ(QStringLiteral("Number"), model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString());
     EXPECT_EQ((QStringList{"A2", "A10", "a1", "a2"}), names());
     EXPECT_EQ(QStringLiteral("30"), model.index(2, 1).data().toString());
+}
+
+TEST_F(ListModelTest, marksASevereStateAndSaysItInWords) {
+    using console::Severity;
+    const std::span leaves = std::span(estate.below["a"]).last(2);
+    leaves[0].state = console::RowState{Severity::error, {u"Error: No Paper", u"Idle"}};
+    leaves[1].state = console::RowState{Severity::none, {u"OK", u"Idle"}};
+    start();
+    show(a());
+    const auto rowOf = [&](const wire::WideString& name) {
+        return model.index(static_cast<int>(names().indexOf(desktop::toQString(name))), 0);
+    };
+    const auto pictureOf = [](const QModelIndex& row) {
+        return row.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(16, 16)).toImage();
+    };
+    const QModelIndex failing = rowOf(leaves[0].name);
+    const QModelIndex well = rowOf(leaves[1].name);
+
+    EXPECT_EQ(QStringLiteral("Error: No Paper, Idle"), failing.data(Qt::AccessibleDescriptionRole).toString());
+    EXPECT_TRUE(failing.data(Qt::ToolTipRole).toString().endsWith(QStringLiteral("\nError: No Paper, Idle")));
+    EXPECT_EQ(QStringLiteral("OK, Idle"), well.data(Qt::AccessibleDescriptionRole).toString());
+    EXPECT_NE(pictureOf(failing), pictureOf(well));
 }
 
 TEST_F(ListModelTest, rowsThatStayKeepTheirPlaceInViewsAcrossARefresh) {

@@ -252,8 +252,9 @@ TEST_F(Rows, whatIsCutIsFadedAndSaidToBeCutInListAndTreeUntilEscape) {
     for (const auto& index : {inList, inTree}) {
         EXPECT_TRUE(index.data(desktop::TextDelegate::cutRole).toBool());
         EXPECT_TRUE(index.data(Qt::ToolTipRole).toString().contains(QStringLiteral("Cut: paste it")));
-        EXPECT_EQ(QStringLiteral("Cut: paste it where it belongs, or press Esc"),
-                  index.data(Qt::AccessibleDescriptionRole).toString());
+        EXPECT_TRUE(index.data(Qt::AccessibleDescriptionRole)
+                        .toString()
+                        .endsWith(QStringLiteral("Cut: paste it where it belongs, or press Esc")));
     }
     EXPECT_FALSE(rowNamed(QStringLiteral("MUC-002")).data(desktop::TextDelegate::cutRole).toBool());
     const QImage faded = list().viewport()->grab(list().visualRect(inList)).toImage();
@@ -262,7 +263,7 @@ TEST_F(Rows, whatIsCutIsFadedAndSaidToBeCutInListAndTreeUntilEscape) {
 
     EXPECT_FALSE(inList.data(desktop::TextDelegate::cutRole).toBool());
     EXPECT_FALSE(inTree.data(desktop::TextDelegate::cutRole).toBool());
-    EXPECT_EQ(QStringLiteral("MUC-001"), inList.data(Qt::ToolTipRole).toString());
+    EXPECT_FALSE(inList.data(Qt::ToolTipRole).toString().contains(QStringLiteral("Cut:")));
     EXPECT_NE(faded, list().viewport()->grab(list().visualRect(inList)).toImage());
 }
 
