@@ -2,6 +2,7 @@
 
 #include "localprinters/LocalPrinterPropertiesDlg.h"
 #include "printers/SnmpStatus.h"
+#include "queues/DialogStatus.h"
 #include "queues/PrintingStatus.h"
 
 #include <array>
@@ -42,6 +43,10 @@ const char16_t* LocalPrinterQueueNode::GetResultPaneColInfo(std::int32_t column)
 
 std::optional<std::int64_t> LocalPrinterQueueNode::sortValue(std::int32_t column) const {
     return column == 2 ? std::optional<std::int64_t>(jobs_) : std::nullopt;
+}
+
+std::optional<console::RowState> LocalPrinterQueueNode::rowState() const {
+    return queues::stateOf(snmpStatus_, printingStatus_);
 }
 
 std::span<const console::NodeCommand<LocalPrinterQueueNode>> LocalPrinterQueueNode::commands() const {

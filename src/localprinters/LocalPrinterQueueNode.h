@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::string refreshKey() const override { return id_; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
     [[nodiscard]] std::optional<std::int64_t> sortValue(std::int32_t column) const override;
+    [[nodiscard]] std::optional<console::RowState> rowState() const override;
 
 protected:
     [[nodiscard]] std::span<const console::NodeCommand<LocalPrinterQueueNode>> commands() const override;

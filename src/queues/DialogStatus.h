@@ -14,6 +14,8 @@ namespace queues {
 [[nodiscard]] std::u16string_view physicalStatusWord(std::uint8_t status);
 [[nodiscard]] std::u16string_view printingStatusWord(std::uint8_t status);
 
+constexpr std::uint8_t noPhysicalStatus = 0; // of a queue, which is no device
+
 // Both in one, without the words for a byte that means nothing; empty when neither of them means something.
 [[nodiscard]] std::optional<console::RowState> stateOf(std::uint8_t physicalStatus, std::uint8_t printingStatus);
 

@@ -1,6 +1,7 @@
 #include "queues/QueueNode.h"
 
 #include "client/CQVXAdminClass.h"
+#include "queues/DialogStatus.h"
 #include "queues/PrintingStatus.h"
 #include "queues/QueuePropertiesDlg.h"
 
@@ -33,6 +34,10 @@ const char16_t* QueueNode::GetResultPaneColInfo(std::int32_t column) {
 
 std::optional<std::int64_t> QueueNode::sortValue(std::int32_t column) const {
     return column == 1 ? std::optional<std::int64_t>(jobs_) : std::nullopt;
+}
+
+std::optional<console::RowState> QueueNode::rowState() const {
+    return stateOf(noPhysicalStatus, printingStatus_);
 }
 
 std::span<const console::NodeCommand<QueueNode>> QueueNode::commands() const {

@@ -20,6 +20,7 @@ public:
     std::string refreshKey() const override { return id_; }
     const char16_t* GetResultPaneColInfo(std::int32_t column) override;
     std::optional<std::int64_t> sortValue(std::int32_t column) const override;
+    std::optional<console::RowState> rowState() const override;
 
 protected:
     std::span<const console::NodeCommand<QueueNode>> commands() const override;

@@ -59,6 +59,18 @@ TEST_F(LocalPrinterNodes, showTheWordsOfTheTreeForTheirStatus) {
     EXPECT_EQ(wire::toUtf8(printer->GetResultPaneColInfo(6)), "");
 }
 
+TEST_F(LocalPrinterNodes, sayBesideTheColumnsWhatTheDigitsOfTheirStatusMean) {
+    auto record = support::printer("l1", 5, u"Desk");
+    record.snmpStatus = '7';
+    record.printingStatus = '0';
+
+    const auto state = LocalPrinterQueueNode(platform_, record).rowState();
+
+    ASSERT_TRUE(state);
+    EXPECT_EQ(console::describe(*state), u"Error: Paper Jam, Idle");
+    EXPECT_EQ(state->severity, console::Severity::error);
+}
+
 TEST_F(LocalPrinterNodes, sortTheirJobsByNumber) {
     EXPECT_EQ(makePrinter()->sortValue(2), 65535);
     EXPECT_EQ(makePrinter()->sortValue(3), std::nullopt);

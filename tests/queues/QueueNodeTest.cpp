@@ -42,6 +42,17 @@ TEST_F(QueueNodes, showNameJobsAndStatus) {
     EXPECT_EQ(queue->refreshKey(), "q1");
 }
 
+TEST_F(QueueNodes, sayBesideTheColumnsWhatADigitOfTheirStatusMeans) {
+    EXPECT_FALSE(makeQueue()->rowState()); // a number has its word in the column
+    auto record = support::printer("q1", 5, u"Lobby");
+    record.printingStatus = '3';
+
+    const auto state = QueueNode(platform_, record, QueueMode::queue).rowState();
+
+    ASSERT_TRUE(state);
+    EXPECT_EQ(console::describe(*state), u"Connecting Printer");
+}
+
 TEST_F(QueueNodes, offerToBeEditedAndDeleted) {
     EXPECT_EQ(menuOf(console_, *makeQueue()),
               (Menu{{u"Edit Queue/Queue Properties", u"To edit queue properties", 230, 0},

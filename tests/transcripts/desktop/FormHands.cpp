@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QMenu>
+#include <QStyleOption>
 
 #include <algorithm>
 
@@ -39,7 +40,9 @@ void type(const forms::TextControl& box, QWidget& widget, const wire::WideString
 
 void check(const forms::CheckBox& box, QWidget& widget, bool checked) {
     if (box.checked() != checked) {
-        hands::click(widget);
+        QStyleOption option;
+        option.initFrom(&widget);
+        hands::click(widget, widget.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &widget).center());
     }
 }
 

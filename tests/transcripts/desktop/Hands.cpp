@@ -24,6 +24,10 @@ void click(QWidget& widget) {
     QTest::mouseClick(&widget, Qt::LeftButton);
 }
 
+void click(QWidget& widget, QPoint place) {
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
+}
+
 void click(QAbstractItemView& view, const QModelIndex& index) {
     view.setFocus(Qt::MouseFocusReason);
     view.scrollTo(index);

@@ -12,6 +12,7 @@ class QAction;
 namespace transcripts::hands {
 
 void click(QWidget& widget);
+void click(QWidget& widget, QPoint place);
 void click(QAbstractItemView& view, const QModelIndex& index);
 void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // In place of what the box holds.
