@@ -137,8 +137,8 @@ bool PrinterPreferencesDlg::blank() const {
     return name.text().empty() && location.text().empty() && fields.blank();
 }
 
-// Without any text there is nothing to save. A refusal has been shown when the form ends, and what was entered is lost;
-// this must stay.
+// Without any text there is nothing to save. The form ends although a refusal has been shown; this must stay. A host
+// may show it again.
 void PrinterPreferencesDlg::onOk() {
     if (!modelChosen(brandAndModel)) {
         return;

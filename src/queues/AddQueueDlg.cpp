@@ -1,5 +1,7 @@
 #include "queues/AddQueueDlg.h"
 
+#include "client/ChangedField.h"
+
 #include <utility>
 
 namespace queues {
@@ -20,12 +22,9 @@ void AddQueueDlg::onOk() {
     head.takeModelByName(*edit_);
     head.takeName(*edit_);
     head.takeTimeToLive(*edit_);
-    if (!comment.text().empty()) {
-        edit_->setLocation(comment.text());
-    }
-    if (!adminComment.text().empty()) {
-        edit_->setComment(adminComment.text());
-    }
+    client::change(*edit_, &protocol::PrinterRecord::location, &client::PrinterRecordEdit::setLocation, comment.text());
+    client::change(*edit_, &protocol::PrinterRecord::comment, &client::PrinterRecordEdit::setComment,
+                   adminComment.text());
     edit_->save();
     EndDialog(forms::idOk);
 }

@@ -16,6 +16,7 @@ namespace desktop {
 namespace {
 
 const QString titleOfChange = QStringLiteral("Not Changed");
+const QString openAgain = QStringLiteral("Open again with what you typed");
 
 // Most changes have no reply; those that have one are told from questions by their names.
 bool isChange(const client::CommandReport& report) {
@@ -73,6 +74,11 @@ void ServerWatch::requestMade(const protocol::Command& command, std::span<const 
     writes_.requestMade(command, data);
 }
 
+void ServerWatch::show(const wire::WideString& caption, const wire::WideString& text, std::uint32_t style) {
+    wasRefused_ = aside_ == 0;
+    ui_.messageBox(0, text, caption, style);
+}
+
 bool ServerWatch::admit(const QString& text) {
     const Aside aside(*this);
     switch (common::askForAdmission()) {
@@ -118,8 +124,11 @@ void ServerWatch::logIn(const ServerLogin& wanted) {
     }
 }
 
-void ServerWatch::commandStarted(const client::CommandReport& /*report*/) {
+void ServerWatch::commandStarted(const client::CommandReport& report) {
     ++running_;
+    if (aside_ == 0 && isChange(report)) {
+        wasRefused_ = false;
+    }
 }
 
 void ServerWatch::commandEnded(const client::CommandReport& report) {
@@ -209,6 +218,7 @@ void ServerWatch::beforeForm() {
         }
     }
     ++forms_;
+    wasRefused_ = false;
 }
 
 bool ServerWatch::afterForm(int result) {
@@ -218,6 +228,9 @@ bool ServerWatch::afterForm(int result) {
     }
     const QString refusal = takeRefusal();
     const bool wasConfirmed = result != forms::idCancel;
+    if (std::exchange(wasRefused_, false)) {
+        return wasConfirmed && offerAgain();
+    }
     return !refusal.isEmpty() && tell(refusal, wasConfirmed);
 }
 
@@ -233,12 +246,16 @@ QString ServerWatch::takeRefusal() {
     return refused ? WaitIndicator::spoken(toQString(std::string_view(*refused))) : failed;
 }
 
+bool ServerWatch::offerAgain() const {
+    return warn(ui_.owner(), titleOfChange, QStringLiteral("What you have typed was not saved."), openAgain);
+}
+
 bool ServerWatch::tell(const QString& refusal, bool canGiveBack) {
     return warn(ui_.owner(), titleOfChange,
                 QStringLiteral("The server did not accept this change: %1.\n\nIt gives no reason. Often the name is "
                                "already in use, or somebody else has changed or deleted the same thing.")
                     .arg(refusal),
-                canGiveBack ? QStringLiteral("Open again with what you typed") : QString());
+                canGiveBack ? openAgain : QString());
 }
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/RequestObserver.h"
+#include "client/ServerMessages.h"
 #include "hosts/common/WriteCheck.h"
 #include "hosts/desktop/activity/ListAge.h"
 #include "hosts/desktop/window/LoginKeeper.h"
@@ -16,7 +17,7 @@ namespace desktop {
 //
 // Whether the server accepts commands is asked before a dialog opens and before each change, so that a change is sent
 // once or not at all. What was only to be read is read again after the login.
-class ServerWatch final : public client::RequestObserver, private shell::ShellObserver {
+class ServerWatch final : public client::RequestObserver, public client::ServerMessages, private shell::ShellObserver {
 public:
     // All outlive it.
     ServerWatch(Operations& operations, shell::Observers& observers, ListAge& age, DesktopUserInterface& ui);
@@ -36,6 +37,8 @@ public:
 
     // For a change that can't be sent now, throws std::runtime_error, which leaves its dialog open.
     void requestMade(const protocol::Command& command, std::span<const std::uint8_t> data) override;
+    // The server says why it has refused a change.
+    void show(const wire::WideString& caption, const wire::WideString& text, std::uint32_t style) override;
 
 private:
     class Aside;
@@ -59,6 +62,8 @@ private:
     QString takeRefusal();
     // True when the user wants back what was typed.
     bool tell(const QString& refusal, bool canGiveBack);
+    // The same where the server has said why.
+    [[nodiscard]] bool offerAgain() const;
     void readAgain(std::vector<console::ScopeId> items);
 
     Operations& operations_;
@@ -75,6 +80,7 @@ private:
     int forms_ = 0;           // open ones
     bool isAdmitted_ = false; // asked for the change that comes next
     bool sawSilence_ = false; // a command that arrived was not answered
+    bool wasRefused_ = false; // the last change, and the server has said why
     bool isTurnedAway_ = false;
     bool isDeclined_ = false; // the user did not want to log in for what was to be read
 };

@@ -10,7 +10,7 @@ constexpr std::array<std::uint16_t, 4> version{VANTREL_VERSION_MAJOR, VANTREL_VE
 Session::Session(platform::SettingsStore& settings)
     : platform_{.ui = ui_,
                 .settings = settings,
-                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &refusals_, .requests = &serverWatch_},
+                .hooks = {.commands = &watch_, .wait = &watch_, .messages = &serverWatch_, .requests = &serverWatch_},
                 .productVersion = version,
                 .locale = locale_,
                 .environment = environment_,

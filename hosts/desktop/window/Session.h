@@ -8,7 +8,6 @@
 #include "hosts/desktop/activity/ListAge.h"
 #include "hosts/desktop/window/ServerWatch.h"
 #include "platform/Platform.h"
-#include "platform/RefusalBox.h"
 #include "shell/CommandWatch.h"
 #include "snapin/CPrintComponent.h"
 #include "snapin/Print.h"
@@ -39,7 +38,6 @@ private:
     ActivityLog activity_{observers_};
     shell::CommandWatch watch_{observers_};
     DesktopUserInterface ui_{tasks_};
-    platform::RefusalBox refusals_{ui_};
     common::SystemLocale locale_;
     common::SystemEnvironment environment_;
     common::SystemLauncher launcher_;

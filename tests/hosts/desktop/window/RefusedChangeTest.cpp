@@ -133,6 +133,40 @@ TEST_F(RefusedChange, theRowsOfADialogsListComeBackWithWhatWasTyped) {
     EXPECT_EQ(edited, shownAgain);
 }
 
+TEST_F(RefusedChange, aRecordThatTheServerRefusesWithAReasonComesBackAsItWasLeft) {
+    open(QStringLiteral("Printers/München"));
+    selectRow(QStringLiteral("MUC-002"));
+    QString reason;
+    whenAsked([](QDialog& dialog) {
+        type(dialog, 0, QStringLiteral("MUC-001"));
+        type(dialog, 1, QStringLiteral("Attic"));
+        press(dialog, QStringLiteral("OK"));
+    });
+    const auto readReason = [&](QDialog& box) {
+        reason = textOf(box);
+        press(box, QStringLiteral("OK"));
+    };
+    whenAsked(readReason); // once for each update, and there is one for each field
+    whenAsked(readReason);
+    whenAsked([](QDialog& box) { press(box, QString::fromLatin1(openAgain)); });
+    whenAsked([](QDialog& dialog) {
+        const auto boxes = dialog.findChildren<QLineEdit*>();
+        EXPECT_EQ(QStringLiteral("MUC-001"), boxes[0]->text());
+        EXPECT_EQ(QStringLiteral("Attic"), boxes[1]->text());
+        type(dialog, 0, QStringLiteral("MUC-009"));
+        press(dialog, QStringLiteral("OK"));
+    });
+
+    choose(QStringLiteral("Edit Printer/Printer Properties"));
+
+    EXPECT_TRUE(reason.contains(QStringLiteral("MUC-001"))) << reason.toStdString();
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
+    window().actions().refresh->trigger();
+    settle();
+    ASSERT_TRUE(rows().contains(QStringLiteral("MUC-009")));
+    EXPECT_EQ(QStringLiteral("Attic"), rowNamed(QStringLiteral("MUC-009")).siblingAtColumn(2).data().toString());
+}
+
 TEST_F(RefusedChange, aPricePlanStaysOpenWithWhatWasTypedWhileTheServerIsDown) {
     open(QStringLiteral("Rules/Price Plans"));
     QString said;
