@@ -114,6 +114,10 @@ bool Person::goesOn() {
 }
 
 void Person::answer(QMessageBox& box) {
+    if (QAbstractButton* const close = box.button(QMessageBox::Close)) {
+        hands::click(*close); // an offer of the window itself, after what the server has said
+        return;
+    }
     const bool going = goesOn();
     const auto text = ctl::withObject(desktop::toWideString(box.text()), desktop::toWideString(box.informativeText()));
     const auto reply =
